@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: MIT
+
+# What `cmake --install` gives: the library, its headers, a relocatable CMake package and a
+# pkg-config file.
+
+include(CMakePackageConfigHelpers)
+
+set(RY_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/RyCustomizedDialog")
+set(RY_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+
+install(TARGETS RyCustomizedDialog EXPORT RyCustomizedDialogTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(FILES ${RY_PUBLIC_HEADERS} ${RY_FORWARDING_HEADERS}
+    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/RyCustomizedDialog")
+
+install(EXPORT RyCustomizedDialogTargets
+    NAMESPACE RyCustomizedDialog::
+    DESTINATION "${RY_PACKAGE_DIR}")
+configure_package_config_file(
+    cmake/RyCustomizedDialogConfig.cmake.in
+    "${PROJECT_BINARY_DIR}/RyCustomizedDialogConfig.cmake"
+    INSTALL_DESTINATION "${RY_PACKAGE_DIR}"
+    NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(
+    "${PROJECT_BINARY_DIR}/RyCustomizedDialogConfigVersion.cmake"
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    "${PROJECT_BINARY_DIR}/RyCustomizedDialogConfig.cmake"
+    "${PROJECT_BINARY_DIR}/RyCustomizedDialogConfigVersion.cmake"
+    DESTINATION "${RY_PACKAGE_DIR}")
+
+# The prefix is found from where the file lies, so that the installed tree can be moved.
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
+    set(RY_PKGCONFIG_PREFIX "${CMAKE_INSTALL_PREFIX}")
+    set(RY_PKGCONFIG_LIBDIR "${CMAKE_INSTALL_FULL_LIBDIR}")
+    set(RY_PKGCONFIG_INCLUDEDIR "${CMAKE_INSTALL_FULL_INCLUDEDIR}")
+else()
+    file(RELATIVE_PATH RY_PREFIX_FROM_PKGCONFIG
+        "${CMAKE_INSTALL_PREFIX}/${RY_PKGCONFIG_DIR}" "${CMAKE_INSTALL_PREFIX}")
+    string(REGEX REPLACE "/$" "" RY_PREFIX_FROM_PKGCONFIG "${RY_PREFIX_FROM_PKGCONFIG}")
+    set(RY_PKGCONFIG_PREFIX "\${pcfiledir}/${RY_PREFIX_FROM_PKGCONFIG}")
+    set(RY_PKGCONFIG_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+    set(RY_PKGCONFIG_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+endif()
+configure_file(cmake/RyCustomizedDialog.pc.in "${PROJECT_BINARY_DIR}/RyCustomizedDialog.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/RyCustomizedDialog.pc" DESTINATION "${RY_PKGCONFIG_DIR}")

@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+
+#include "ryabstatcmanager.h"
+
+RyAbstatcManager::RyAbstatcManager() = default;
+
+RyAbstatcManager::~RyAbstatcManager() = default;

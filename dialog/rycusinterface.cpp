@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+
+#include "rycusinterface.h"
+
+RyCusInterface::RyCusInterface() = default;
+
+RyCusInterface::~RyCusInterface() = default;

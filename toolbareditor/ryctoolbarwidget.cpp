@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+
+#include "ryctoolbarwidget.h"
+
+#include "rytoolbarmanager.h"
+#include "toolbaritem.h"
+#include "ui_ctoolbarpage.h"
+
+#include <QHideEvent>
+#include <QIcon>
+#include <QShowEvent>
+
+RyCToolBarWidget::RyCToolBarWidget(QWidget *parent, RyAbstatcManager *manager,
+                                   Qt::WindowFlags flags)
+    : QWidget(parent, flags)
+    , ui(new Ui_CToolBarPage())
+    , m_manager(static_cast<RyToolBarManager *>(manager))
+    , m_currentActionItem(nullptr)
+    , m_currentRecord(nullptr)
+    , m_separatorText(tr("< S E P A R A T O R >"))
+{
+    ui->setupUi(this);
+    ui->actionTree->setColumnCount(1);
+    ui->actionTree->header()->hide();
+    setIcons();
+    makeConnections();
+}
+
+RyCToolBarWidget::~RyCToolBarWidget()
+{
+    // While the hide event still reaches this class, which frees the working copy then.
+    if (isVisible())
+        hide();
+    delete ui;
+}
+
+void RyCToolBarWidget::setIcons()
+{
+    const QString icon = QStringLiteral(":/RyCustomizedDialog/images/%1.png");
+    ui->upButton->setIcon(QIcon(icon.arg(QStringLiteral("up"))));
+    ui->downButton->setIcon(QIcon(icon.arg(QStringLiteral("down"))));
+    ui->leftButton->setIcon(QIcon(icon.arg(QStringLiteral("back"))));
+    ui->rightButton->setIcon(QIcon(icon.arg(QStringLiteral("forward"))));
+    ui->newButton->setIcon(QIcon(icon.arg(QStringLiteral("plus"))));
+    ui->removeButton->setIcon(QIcon(icon.arg(QStringLiteral("minus"))));
+}
+
+void RyCToolBarWidget::makeConnections()
+{
+    connect(ui->newButton, SIGNAL(clicked()), this, SLOT(newClicked()));
+    connect(ui->removeButton, SIGNAL(clicked()), this, SLOT(removeClicked()));
+    connect(ui->renameButton, SIGNAL(clicked()), this, SLOT(renameClicked()));
+    connect(ui->upButton, SIGNAL(clicked()), this, SLOT(upClicked()));
+    connect(ui->downButton, SIGNAL(clicked()), this, SLOT(downClicked()));
+    connect(ui->leftButton, SIGNAL(clicked()), this, SLOT(leftClicked()));
+    connect(ui->rightButton, SIGNAL(clicked()), this, SLOT(rightClicked()));
+    // Signatures stay normalized, which formatting would undo.
+    // clang-format off
+    connect(ui->actionTree, SIGNAL(currentItemChanged(QTreeWidgetItem*,QTreeWidgetItem*)),
+            this, SLOT(currentActionChanged(QTreeWidgetItem*)));
+    connect(ui->toolBarList, SIGNAL(currentItemChanged(QListWidgetItem*,QListWidgetItem*)),
+            this, SLOT(currentToolBarChanged(QListWidgetItem*)));
+    connect(ui->currentToolBarList, SIGNAL(currentItemChanged(QListWidgetItem*,QListWidgetItem*)),
+            this, SLOT(currentToolBarActionChanged(QListWidgetItem*)));
+    connect(ui->actionTree, SIGNAL(itemDoubleClicked(QTreeWidgetItem*,int)),
+            this, SLOT(rightClicked()));
+    connect(ui->currentToolBarList, SIGNAL(itemDoubleClicked(QListWidgetItem*)),
+            this, SLOT(leftClicked()));
+    connect(ui->toolBarList, SIGNAL(itemChanged(QListWidgetItem*)),
+            this, SLOT(toolBarRenamed(QListWidgetItem*)));
+    // clang-format on
+}
+
+void RyCToolBarWidget::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous())
+        fillNew();
+}
+
+void RyCToolBarWidget::hideEvent(QHideEvent *event)
+{
+    if (!event->spontaneous())
+        clearOld();
+}
+
+void RyCToolBarWidget::currentActionChanged(QTreeWidgetItem *current)
+{
+    m_currentActionItem = m_actionOfTreeItem.contains(current) ? current : nullptr;
+    setButtons();
+}
+
+void RyCToolBarWidget::currentToolBarChanged(QListWidgetItem *current)
+{
+    m_currentRecord = m_recordOfListItem.value(current);
+    ui->currentToolBarList->clear();
+    m_entryOfAction.clear();
+    m_actionOfEntry.clear();
+    setButtons();
+    if (!m_currentRecord)
+        return;
+    const auto actions = m_workingActions.value(m_currentRecord);
+    for (QAction *action : actions)
+        ui->currentToolBarList->addItem(createEntry(action));
+    if (!actions.isEmpty())
+        ui->currentToolBarList->setCurrentRow(0);
+}
+
+void RyCToolBarWidget::currentToolBarActionChanged(QListWidgetItem *current)
+{
+    Q_UNUSED(current);
+    setButtons();
+}
+
+bool RyCToolBarWidget::isDefaultToolBar(ToolBarItem *item) const
+{
+    return item && item->toolBar() && m_manager->isDefaultToolBar(item->toolBar());
+}
+
+void RyCToolBarWidget::setButtons()
+{
+    const int row = ui->currentToolBarList->currentRow();
+    // Enabled without a current toolbar too, on purpose.
+    const bool removable = m_manager && !isDefaultToolBar(m_currentRecord);
+    ui->newButton->setEnabled(m_manager);
+    ui->removeButton->setEnabled(removable);
+    ui->renameButton->setEnabled(removable);
+    ui->upButton->setEnabled(m_manager && row > 0);
+    ui->downButton->setEnabled(m_manager && row >= 0 && row < ui->currentToolBarList->count() - 1);
+    ui->leftButton->setEnabled(m_manager && row >= 0);
+    ui->rightButton->setEnabled(m_manager && m_currentActionItem && m_currentRecord);
+}

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef RYCTOOLBARWIDGET_H
+#define RYCTOOLBARWIDGET_H
+
+#include "rycustomizeddialogexport.h"
+
+#include <QList>
+#include <QMap>
+#include <QSet>
+#include <QString>
+#include <QWidget>
+
+class QAction;
+class QListWidgetItem;
+class QToolBar;
+class QTreeWidgetItem;
+class RyAbstatcManager;
+class RyToolBarManager;
+class ToolBarItem;
+class Ui_CToolBarPage;
+
+/*!
+ * \brief The toolbar editor: the widget of the "ToolBar" tab.
+ *
+ * When it is shown it copies the manager's categories, actions and toolbars into a private working
+ * copy, which is all that the user edits. applyClicked() writes the copy to the manager. When it is
+ * hidden, edits that were not applied are thrown away; showing it again reads the manager anew. Show
+ * and hide events of the window system (minimising and restoring) change nothing.
+ *
+ * RyCToolBarPage creates it; use that page rather than this class.
+ *
+ * Quirks a host must know, all deliberate:
+ * - Without a current toolbar the Remove and Rename buttons are enabled; they act on nothing.
+ * - Every new toolbar is named "Custom Toolbar", and any new name is accepted as it is: an empty one
+ *   and one that another toolbar bears included.
+ * - The texts of actions are shown as they are, with the "&" of a mnemonic.
+ * - The separator entry is sorted among the categories by its text.
+ *
+ * What the host may do while the editor is shown: register actions and toolbars (they appear when it
+ * is shown next) and delete custom toolbars with RyToolBarManager::deleteToolBar() (the editor leaves
+ * them alone from then on). Actions must not be deleted meanwhile.
+ *
+ * The order of the fields, virtual functions and slots is part of the binary contract.
+ */
+class RYCUSTOMIZEDDIALOG_EXPORT RyCToolBarWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /*!
+     * \brief Constructs an editor that stays empty until it is shown.
+     *
+     * \param parent the widget's parent, which owns it; with null the caller does.
+     * \param manager a RyToolBarManager, which is used as one without a check, stays the host's and
+     *        must outlive the editor. With null the editor stays empty, and defaultClicked() must
+     *        not be called.
+     * \param flags the window flags of the widget.
+     */
+    RyCToolBarWidget(QWidget *parent, RyAbstatcManager *manager, Qt::WindowFlags flags);
+
+    /*!
+     * \brief Destroys the widget; edits that were not applied are lost.
+     */
+    ~RyCToolBarWidget() override;
+
+public Q_SLOTS:
+    /*!
+     * \brief Writes the working copy to the manager.
+     *
+     * First every existing toolbar is given its content through RyToolBarManager::setToolBar() and
+     * its title, changed or not, in the order of the editor's records; then removed toolbars are
+     * deleted; then new ones are created and filled. The editor stays as it is. Toolbars that the
+     * manager no longer manages are left alone. Applying twice creates and deletes nothing the
+     * second time.
+     *
+     * While the editor is hidden the working copy is empty, and nothing is written.
+     */
+    void applyClicked();
+
+    /*!
+     * \brief Gives every default toolbar its default content in the working copy and removes every
+     *        custom toolbar from it.
+     *
+     * The host's toolbars change with the next applyClicked(). Default toolbars that were
+     * registered after the editor was shown are left alone. While the editor is hidden it has no
+     * effect.
+     */
+    void defaultClicked();
+
+private Q_SLOTS:
+    void newClicked();
+    void removeClicked();
+    void upClicked();
+    void downClicked();
+    void rightClicked();
+    void leftClicked();
+    void renameClicked();
+    void toolBarRenamed(QListWidgetItem *item);
+    void currentActionChanged(QTreeWidgetItem *current);
+    void currentToolBarChanged(QListWidgetItem *current);
+    void currentToolBarActionChanged(QListWidgetItem *current);
+    void removeToolBar(ToolBarItem *item);
+    bool isDefaultToolBar(ToolBarItem *item) const;
+    void setButtons();
+    void clearOld();
+    void fillNew();
+
+protected:
+    /*!
+     * \brief Reads the manager into the working copy, unless the event is spontaneous.
+     */
+    void showEvent(QShowEvent *event) override;
+
+    /*!
+     * \brief Discards the working copy, unless the event is spontaneous.
+     */
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    ToolBarItem *createItem(QToolBar *toolBar);
+    ToolBarItem *createItem(const QString &name);
+    void deleteItem(ToolBarItem *item);
+
+    void setIcons();
+    void makeConnections();
+    void fillActionTree();
+    QTreeWidgetItem *createCategoryItem(const QString &category);
+    QTreeWidgetItem *createActionItem(QAction *action);
+    void fillToolBarList();
+    QListWidgetItem *addToolBarRow(ToolBarItem *record);
+    void markToolBarRow(QListWidgetItem *row, bool isDefault);
+    QListWidgetItem *createEntry(QAction *action);
+    void takeEntry(QListWidgetItem *entry);
+    void placeEntry(QListWidgetItem *entry);
+    void moveCurrentEntry(int distance);
+    void applyExistingToolBars();
+    void applyRemovedToolBars();
+    void applyCreatedToolBars();
+    ToolBarItem *recordOf(QToolBar *toolBar) const;
+
+    // Points to the child widgets without owning them; the form object itself is owned.
+    Ui_CToolBarPage *ui;
+    // The host's manager, not owned; null leaves the editor empty.
+    RyToolBarManager *m_manager;
+    // The working copy: the content of every toolbar that has a row; null is a separator.
+    QMap<ToolBarItem *, QList<QAction *>> m_workingActions;
+    // The record made for each managed toolbar when the editor was filled; not kept up to date.
+    QMap<QToolBar *, ToolBarItem *> m_recordOfToolBar;
+    // Records of toolbars created in the editor and not yet applied; they have no QToolBar.
+    QSet<ToolBarItem *> m_createdRecords;
+    // Records of existing toolbars removed in the editor and not yet applied; no longer keys of
+    // m_workingActions.
+    QSet<ToolBarItem *> m_removedRecords;
+    // Every record that was allocated and not yet freed.
+    QSet<ToolBarItem *> m_ownedRecords;
+    // The tree item of the current action or separator entry; null for a category and for none.
+    QTreeWidgetItem *m_currentActionItem;
+    // Each action, and null for the separator entry, to its tree item.
+    QMap<QAction *, QTreeWidgetItem *> m_treeItemOfAction;
+    // The inverse; category items are absent.
+    QMap<QTreeWidgetItem *, QAction *> m_actionOfTreeItem;
+    // The record of the current row of the toolbar list, or null.
+    ToolBarItem *m_currentRecord;
+    // Each record of m_workingActions to its row in the toolbar list.
+    QMap<ToolBarItem *, QListWidgetItem *> m_listItemOfRecord;
+    // The inverse.
+    QMap<QListWidgetItem *, ToolBarItem *> m_recordOfListItem;
+    // Each real action of the current toolbar to its row.
+    QMap<QAction *, QListWidgetItem *> m_entryOfAction;
+    // Every row of the current toolbar to its action; null for a separator.
+    QMap<QListWidgetItem *, QAction *> m_actionOfEntry;
+    // What a separator is shown as, translated.
+    QString m_separatorText;
+};
+
+#endif // RYCTOOLBARWIDGET_H

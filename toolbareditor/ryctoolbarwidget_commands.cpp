@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+
+#include "ryctoolbarwidget.h"
+
+#include "rytoolbarmanager.h"
+#include "toolbaritem.h"
+#include "ui_ctoolbarpage.h"
+
+namespace {
+
+// The row that slid into the place of a removed one becomes current, or else the new last row.
+void selectAfterRemoval(QListWidget *list, int removedRow)
+{
+    const int row = qMin(removedRow, list->count() - 1);
+    if (row >= 0)
+        list->setCurrentRow(row);
+}
+
+} // namespace
+
+void RyCToolBarWidget::newClicked()
+{
+    const QString name = tr("Custom Toolbar");
+    ToolBarItem *const record = createItem(name);
+    m_workingActions.insert(record, QList<QAction *>());
+    m_createdRecords.insert(record);
+
+    QListWidgetItem *const row = new QListWidgetItem(name, ui->toolBarList);
+    row->setFlags(row->flags() | Qt::ItemIsEditable);
+    // Not yet in the maps, so that this leaves no toolbar current.
+    ui->toolBarList->setCurrentItem(row);
+    m_recordOfListItem.insert(row, record);
+    m_listItemOfRecord.insert(record, row);
+    ui->toolBarList->sortItems(Qt::AscendingOrder);
+    ui->toolBarList->setCurrentItem(row);
+    currentToolBarChanged(row);
+    renameClicked();
+}
+
+void RyCToolBarWidget::removeClicked()
+{
+    if (QListWidgetItem *const row = ui->toolBarList->currentItem())
+        removeToolBar(m_recordOfListItem.value(row));
+}
+
+void RyCToolBarWidget::removeToolBar(ToolBarItem *item)
+{
+    if (!m_listItemOfRecord.contains(item) || isDefaultToolBar(item))
+        return;
+    QListWidgetItem *const rowItem = m_listItemOfRecord.take(item);
+    const int row = ui->toolBarList->row(rowItem);
+    const bool wasCurrent = row == ui->toolBarList->currentRow();
+    m_workingActions.remove(item);
+    m_createdRecords.remove(item);
+    m_recordOfListItem.remove(rowItem);
+    delete rowItem;
+    if (item->toolBar())
+        m_removedRecords.insert(item);
+    else
+        deleteItem(item);
+    if (wasCurrent)
+        selectAfterRemoval(ui->toolBarList, row);
+    setButtons();
+}
+
+void RyCToolBarWidget::renameClicked()
+{
+    QListWidgetItem *const row = m_listItemOfRecord.value(m_currentRecord);
+    if (row && row->flags().testFlag(Qt::ItemIsEditable))
+        ui->toolBarList->editItem(row);
+}
+
+void RyCToolBarWidget::toolBarRenamed(QListWidgetItem *item)
+{
+    if (!m_currentRecord)
+        return;
+    ToolBarItem *const record = m_recordOfListItem.value(item);
+    if (!record)
+        return;
+    record->setToolBarName(item->text());
+    ui->toolBarList->sortItems(Qt::AscendingOrder);
+}
+
+void RyCToolBarWidget::upClicked()
+{
+    if (ui->currentToolBarList->currentRow() > 0)
+        moveCurrentEntry(-1);
+}
+
+void RyCToolBarWidget::downClicked()
+{
+    const int row = ui->currentToolBarList->currentRow();
+    if (row >= 0 && row < ui->currentToolBarList->count() - 1)
+        moveCurrentEntry(1);
+}
+
+void RyCToolBarWidget::moveCurrentEntry(int distance)
+{
+    const int from = ui->currentToolBarList->currentRow();
+    const int to = from + distance;
+    QListWidgetItem *const entry = ui->currentToolBarList->takeItem(from);
+    ui->currentToolBarList->insertItem(to, entry);
+    m_workingActions[m_currentRecord].move(from, to);
+    ui->currentToolBarList->setCurrentItem(entry);
+    setButtons();
+}
+
+void RyCToolBarWidget::leftClicked()
+{
+    QListWidgetItem *const entry = ui->currentToolBarList->currentItem();
+    if (!entry)
+        return;
+    const int row = ui->currentToolBarList->row(entry);
+    m_workingActions[m_currentRecord].removeAt(row);
+    if (QAction *const action = m_actionOfEntry.take(entry))
+        m_entryOfAction.remove(action);
+    delete entry;
+    selectAfterRemoval(ui->currentToolBarList, row);
+    setButtons();
+}
+
+void RyCToolBarWidget::rightClicked()
+{
+    if (!m_currentActionItem || !m_currentRecord)
+        return;
+    QAction *const action = m_actionOfTreeItem.value(m_currentActionItem);
+    QListWidgetItem *entry = m_entryOfAction.value(action);
+    if (entry && entry == ui->currentToolBarList->currentItem())
+        return;
+    if (entry)
+        takeEntry(entry);
+    else
+        entry = createEntry(action);
+    placeEntry(entry);
+}
+
+void RyCToolBarWidget::takeEntry(QListWidgetItem *entry)
+{
+    const int row = ui->currentToolBarList->row(entry);
+    ui->currentToolBarList->takeItem(row);
+    m_workingActions[m_currentRecord].removeAt(row);
+}
+
+// Puts an entry that is not in the list after the current one, or at the end without one.
+void RyCToolBarWidget::placeEntry(QListWidgetItem *entry)
+{
+    const int current = ui->currentToolBarList->currentRow();
+    const int row = current < 0 ? ui->currentToolBarList->count() : current + 1;
+    ui->currentToolBarList->insertItem(row, entry);
+    m_workingActions[m_currentRecord].insert(row, m_actionOfEntry.value(entry));
+    ui->currentToolBarList->setCurrentItem(entry);
+    setButtons();
+}

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+
+#include "ryctoolbarwidget.h"
+
+#include "rytoolbarmanager.h"
+#include "toolbaritem.h"
+#include "ui_ctoolbarpage.h"
+
+namespace {
+
+const int EntryAlignment = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
+
+} // namespace
+
+void RyCToolBarWidget::fillNew()
+{
+    if (!m_manager)
+        return;
+    fillActionTree();
+    fillToolBarList();
+    setButtons();
+}
+
+void RyCToolBarWidget::fillActionTree()
+{
+    QTreeWidgetItem *const separator = new QTreeWidgetItem(QStringList(m_separatorText));
+    ui->actionTree->addTopLevelItem(separator);
+    ui->actionTree->setCurrentItem(separator);
+    m_currentActionItem = separator;
+    m_treeItemOfAction.insert(nullptr, separator);
+    m_actionOfTreeItem.insert(separator, nullptr);
+
+    QList<QTreeWidgetItem *> categoryItems;
+    const auto categories = m_manager->categories();
+    for (const QString &category : categories)
+        categoryItems.append(createCategoryItem(category));
+    ui->actionTree->addTopLevelItems(categoryItems);
+    ui->actionTree->sortItems(0, Qt::AscendingOrder);
+}
+
+QTreeWidgetItem *RyCToolBarWidget::createCategoryItem(const QString &category)
+{
+    QList<QTreeWidgetItem *> actionItems;
+    const auto actions = m_manager->categoryActions(category);
+    for (QAction *action : actions)
+        actionItems.append(createActionItem(action));
+    QTreeWidgetItem *const item = new QTreeWidgetItem(QStringList(category));
+    item->addChildren(actionItems);
+    return item;
+}
+
+QTreeWidgetItem *RyCToolBarWidget::createActionItem(QAction *action)
+{
+    QTreeWidgetItem *const item = new QTreeWidgetItem(QStringList(action->text()));
+    item->setIcon(0, action->icon());
+    item->setTextAlignment(0, EntryAlignment);
+    item->setFlags(item->flags() | Qt::ItemIsDragEnabled);
+    m_treeItemOfAction.insert(action, item);
+    m_actionOfTreeItem.insert(item, action);
+    return item;
+}
+
+void RyCToolBarWidget::fillToolBarList()
+{
+    const auto toolBars = m_manager->toolBarsActions();
+    for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it) {
+        ToolBarItem *const record = createItem(it.key());
+        m_recordOfToolBar.insert(it.key(), record);
+        m_workingActions.insert(record, it.value());
+        QListWidgetItem *const row = addToolBarRow(record);
+        if (it == toolBars.cbegin())
+            ui->toolBarList->setCurrentItem(row);
+        markToolBarRow(row, isDefaultToolBar(record));
+    }
+    ui->toolBarList->sortItems(Qt::AscendingOrder);
+}
+
+QListWidgetItem *RyCToolBarWidget::addToolBarRow(ToolBarItem *record)
+{
+    QListWidgetItem *const row = new QListWidgetItem(record->toolBarName(), ui->toolBarList);
+    m_listItemOfRecord.insert(record, row);
+    m_recordOfListItem.insert(row, record);
+    return row;
+}
+
+// Either change reaches toolBarRenamed(), which is harmless and meant.
+void RyCToolBarWidget::markToolBarRow(QListWidgetItem *row, bool isDefault)
+{
+    if (isDefault)
+        row->setForeground(Qt::darkGreen);
+    else
+        row->setFlags(row->flags() | Qt::ItemIsEditable);
+}
+
+void RyCToolBarWidget::clearOld()
+{
+    ui->actionTree->clear();
+    ui->toolBarList->clear();
+    ui->currentToolBarList->clear();
+
+    // The Rename button is left as it is on purpose.
+    ui->removeButton->setEnabled(false);
+    ui->newButton->setEnabled(false);
+    ui->upButton->setEnabled(false);
+    ui->downButton->setEnabled(false);
+    ui->leftButton->setEnabled(false);
+    ui->rightButton->setEnabled(false);
+
+    m_treeItemOfAction.clear();
+    m_actionOfTreeItem.clear();
+    m_listItemOfRecord.clear();
+    m_recordOfListItem.clear();
+    m_entryOfAction.clear();
+    m_actionOfEntry.clear();
+    m_recordOfToolBar.clear();
+    m_workingActions.clear();
+    m_createdRecords.clear();
+    m_removedRecords.clear();
+    qDeleteAll(m_ownedRecords);
+    m_ownedRecords.clear();
+    m_currentRecord = nullptr;
+    m_currentActionItem = nullptr;
+}
+
+ToolBarItem *RyCToolBarWidget::createItem(QToolBar *toolBar)
+{
+    if (!toolBar)
+        return nullptr;
+    ToolBarItem *const item = new ToolBarItem(toolBar, toolBar->windowTitle());
+    m_ownedRecords.insert(item);
+    return item;
+}
+
+ToolBarItem *RyCToolBarWidget::createItem(const QString &name)
+{
+    ToolBarItem *const item = new ToolBarItem(name);
+    m_ownedRecords.insert(item);
+    return item;
+}
+
+void RyCToolBarWidget::deleteItem(ToolBarItem *item)
+{
+    if (m_ownedRecords.remove(item))
+        delete item;
+}
+
+// A row for the current toolbar's list that is not yet in the list.
+QListWidgetItem *RyCToolBarWidget::createEntry(QAction *action)
+{
+    QListWidgetItem *const entry = new QListWidgetItem(m_separatorText);
+    if (action) {
+        entry->setText(action->text());
+        entry->setIcon(action->icon());
+        entry->setTextAlignment(EntryAlignment);
+        m_entryOfAction.insert(action, entry);
+    }
+    m_actionOfEntry.insert(entry, action);
+    return entry;
+}

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+
+#include "rytoolbarmanager.h"
+
+#include "namelookup.h"
+
+RyToolBarManager::RyToolBarManager(QObject *parent)
+    : m_mainWindow(nullptr)
+{
+    // Ignored on purpose: the manager belongs to whoever creates it.
+    Q_UNUSED(parent);
+}
+
+RyToolBarManager::~RyToolBarManager() = default;
+
+void RyToolBarManager::setMainWindow(QMainWindow *mainWindow)
+{
+    m_mainWindow = mainWindow;
+}
+
+QMainWindow *RyToolBarManager::mainWindow() const
+{
+    return m_mainWindow;
+}
+
+void RyToolBarManager::addAction(QAction *action, const QString &category)
+{
+    if (!action || action->isSeparator() || m_allActions.contains(action))
+        return;
+    m_allActions.insert(action);
+    m_categoryToActions[category].append(action);
+    m_actionToCategory.insert(action, category);
+}
+
+void RyToolBarManager::removeAction(QAction *action)
+{
+    if (!m_allActions.contains(action))
+        return;
+    const auto toolBars = m_actionToToolBars.value(action);
+    for (QToolBar *toolBar : toolBars) {
+        m_toolBars[toolBar].removeAll(action);
+        m_toolBarsWithSeparators[toolBar].removeAll(action);
+        toolBar->removeAction(action);
+    }
+    for (auto it = m_defaultToolBars.begin(); it != m_defaultToolBars.end(); ++it)
+        it.value().removeAll(action);
+    m_allActions.remove(action);
+    m_actionToToolBars.remove(action);
+    forgetCategory(action);
+}
+
+// The category goes with its last action, even one that addCategory() created.
+void RyToolBarManager::forgetCategory(QAction *action)
+{
+    const auto category = m_categoryToActions.find(m_actionToCategory.take(action));
+    if (category == m_categoryToActions.end())
+        return;
+    category.value().removeAll(action);
+    if (category.value().isEmpty())
+        m_categoryToActions.erase(category);
+}
+
+void RyToolBarManager::addCategory(const QString &category)
+{
+    // Emptying a category that exists is meant; its actions stay registered.
+    m_categoryToActions.insert(category, QList<QAction *>());
+}
+
+bool RyToolBarManager::hasCategory(const QString &category) const
+{
+    return m_categoryToActions.contains(category);
+}
+
+QStringList RyToolBarManager::categories() const
+{
+    return m_categoryToActions.keys();
+}
+
+QList<QAction *> RyToolBarManager::categoryActions(const QString &category) const
+{
+    return m_categoryToActions.value(category);
+}
+
+QString RyToolBarManager::actionCategory(QAction *action) const
+{
+    return m_actionToCategory.value(action);
+}
+
+QSet<QAction *> RyToolBarManager::actions() const
+{
+    return m_allActions;
+}
+
+QAction *RyToolBarManager::findAction(const QString &name) const
+{
+    return findNamed<QAction>(m_allActions, name);
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef TOOLBARSTATERESTORER_H
+#define TOOLBARSTATERESTORER_H
+
+#include "customtoolbarnumbers.h"
+#include "namelookup.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+class QDataStream;
+class RyToolBarManager;
+
+/*
+ * Reads the sections of a saved state from a stream and puts their content onto the toolbars of a
+ * manager, for one call of RyToolBarManager::restoreStateData().
+ */
+class ToolBarStateRestorer
+{
+public:
+    ToolBarStateRestorer(RyToolBarManager *manager, QDataStream &stream);
+
+    bool restore();
+
+private:
+    bool readMarker(quint8 expected);
+    void restoreDefaultToolBars();
+    void restoreDefaultToolBar();
+    void restoreCustomToolBars();
+    void restoreCustomToolBar();
+    QList<QAction *> readContent();
+    QString readString();
+    qint32 readCount();
+    void indexToolBars();
+    QToolBar *titledToolBar(const QString &objectName, const QString &title);
+
+    RyToolBarManager *const m_manager;
+    QDataStream &m_stream;
+    NameIndex<QAction> m_actions;
+    NameIndex<QToolBar> m_defaultToolBars;
+    // Every managed toolbar by objectName, the lowest address first; kept up to date.
+    QHash<QString, QToolBar *> m_toolBars;
+    CustomToolBarNumbers m_numbers;
+};
+
+#endif // TOOLBARSTATERESTORER_H
