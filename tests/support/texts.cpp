@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+
+#include "texts.h"
+
+namespace {
+
+QString nameOf(const QAction *action)
+{
+    if (!action->objectName().isEmpty())
+        return action->objectName();
+    return QLatin1Char('"') + action->text() + QLatin1Char('"');
+}
+
+void appendItems(QStringList &texts, const QTreeWidgetItem *parent, int depth)
+{
+    for (int i = 0; i < parent->childCount(); ++i) {
+        texts << QString(2 * depth, QLatin1Char(' ')) + parent->child(i)->text(0);
+        appendItems(texts, parent->child(i), depth + 1);
+    }
+}
+
+} // namespace
+
+QStringList contentOf(const QList<QAction *> &actions)
+{
+    QStringList names;
+    for (const QAction *action : actions)
+        names << (action ? nameOf(action) : QStringLiteral("|"));
+    return names;
+}
+
+QStringList standingOn(const QWidget *widget)
+{
+    QStringList names;
+    const auto actions = widget->actions();
+    for (const QAction *action : actions)
+        names << (action->isSeparator() ? QStringLiteral("|") : nameOf(action));
+    return names;
+}
+
+QStringList rowsOf(const QListWidget *list)
+{
+    QStringList texts;
+    for (int row = 0; row < list->count(); ++row)
+        texts << list->item(row)->text();
+    return texts;
+}
+
+QStringList itemsOf(const QTreeWidget *tree)
+{
+    QStringList texts;
+    appendItems(texts, tree->invisibleRootItem(), 0);
+    return texts;
+}
+
+QString currentOf(const QListWidget *list)
+{
+    return list->currentItem() ? list->currentItem()->text() : QString();
+}
+
+QString currentOf(const QTreeWidget *tree)
+{
+    return tree->currentItem() ? tree->currentItem()->text(0) : QString();
+}
+
+QTreeWidgetItem *itemNamed(const QTreeWidget *tree, const QString &text)
+{
+    return tree->findItems(text, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+}
+
+QListWidgetItem *itemNamed(const QListWidget *list, const QString &text)
+{
+    return list->findItems(text, Qt::MatchExactly).value(0);
+}

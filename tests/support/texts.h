@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef TEXTS_H
+#define TEXTS_H
+
+#include <QAction>
+#include <QList>
+#include <QListWidget>
+#include <QStringList>
+#include <QTreeWidget>
+
+/*
+ * Whole contents as lists of strings, so that one comparison shows everything.
+ */
+
+// The objectName of each action, its text in quotes without one, and "|" for null.
+QStringList contentOf(const QList<QAction *> &actions);
+
+// What stands on a toolbar or any other widget, with "|" for a separator action.
+QStringList standingOn(const QWidget *widget);
+
+// The texts of the rows.
+QStringList rowsOf(const QListWidget *list);
+
+// The texts of the items, two blanks deeper for each level.
+QStringList itemsOf(const QTreeWidget *tree);
+
+// The text of the current row or item; a null string without one.
+QString currentOf(const QListWidget *list);
+QString currentOf(const QTreeWidget *tree);
+
+// The first item of the text, or null.
+QTreeWidgetItem *itemNamed(const QTreeWidget *tree, const QString &text);
+QListWidgetItem *itemNamed(const QListWidget *list, const QString &text);
+
+#endif // TEXTS_H
