@@ -11,24 +11,22 @@ public:
     {
         QTextEdit *const editor = new QTextEdit(this);
         setCentralWidget(editor);
-        QToolBar *const toolBar = addToolBar("Edit");
-        toolBar->setObjectName("edit"); // what the saved states know it by
         QMenu *const menu = menuBar()->addMenu("&Edit");
-        m_manager.setMainWindow(this);
+        QToolBar *const toolBar = addToolBar("Edit");
+        toolBar->setObjectName("edit"); // stored layouts know it by this name
 
-        // First register everything that may stand on a toolbar, and the default toolbars ...
+        // First register everything: the actions that may stand on a toolbar, and the toolbars ...
+        m_manager.setMainWindow(this);
         addCommand(menu, "undo", "Undo", editor, &QTextEdit::undo);
         addCommand(menu, "redo", "Redo", editor, &QTextEdit::redo);
-        addCommand(menu, "cut", "Cut", editor, &QTextEdit::cut);
         addCommand(menu, "copy", "Copy", editor, &QTextEdit::copy);
         addCommand(menu, "paste", "Paste", editor, &QTextEdit::paste);
-        toolBar->addActions(menu->actions().mid(0, 2));
-        toolBar->addSeparator();
-        toolBar->addActions(menu->actions().mid(2));
+        toolBar->addActions(menu->actions());
+        toolBar->insertSeparator(menu->actions().at(2));
         m_manager.addDefaultToolBar(toolBar, "Edit");
         menu->addAction("Customize Toolbars…", this, &Window::customizeToolBars);
 
-        // ... then restore what stands on each toolbar, and last where each toolbar stands.
+        // ... then restore what stands on the toolbars, then where each one stands, then show.
         m_manager.restoreState(m_settings.value("toolBars").toByteArray(), 1);
         restoreState(m_settings.value("window").toByteArray(), 1);
     }
@@ -38,17 +36,17 @@ private:
     void addCommand(QMenu *menu, const char *name, const char *text, QTextEdit *editor, Slot slot)
     {
         QAction *const action = menu->addAction(text, editor, slot);
-        action->setObjectName(name); // unique, and the same for ever
+        action->setObjectName(name); // as with the toolbar: unique, and the same for ever
         m_manager.addAction(action, "Edit");
     }
     void customizeToolBars()
     {
         RyCustomizedDialog({&m_manager, nullptr}, this).exec();
-        m_settings.setValue("toolBars", m_manager.saveState(1)); // "Apply" may precede a "Cancel"
+        m_settings.setValue("toolBars", m_manager.saveState(1)); // also after Apply and Cancel
     }
     void closeEvent(QCloseEvent *) override { m_settings.setValue("window", saveState(1)); }
 
-    QSettings m_settings{"RyCustomizedDialog", "minimal"};
+    QSettings m_settings{"RyCustomizedDialog", "Minimal"};
     RyToolBarManager m_manager;
 };
 

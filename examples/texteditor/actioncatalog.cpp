@@ -3,7 +3,6 @@
 #include "actioncatalog.h"
 
 #include <QActionGroup>
-#include <QCoreApplication>
 #include <QIcon>
 
 ActionCatalog::ActionCatalog(QObject *parent)
@@ -177,9 +176,4 @@ QAction *ActionCatalog::addCheckable(const char *name, const char *icon, const Q
     QAction *const action = add(name, icon, text, tip, shortcut);
     action->setCheckable(true);
     return action;
-}
-
-QString ActionCatalog::tr(const char *text) const
-{
-    return QCoreApplication::translate("ActionCatalog", text);
 }

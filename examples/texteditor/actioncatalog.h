@@ -4,6 +4,7 @@
 #define ACTIONCATALOG_H
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QKeySequence>
 #include <QList>
 #include <QString>
@@ -18,6 +19,8 @@
  */
 class ActionCatalog
 {
+    Q_DECLARE_TR_FUNCTIONS(ActionCatalog)
+
 public:
     struct Category
     {
@@ -47,7 +50,6 @@ private:
                  const QKeySequence &shortcut = QKeySequence());
     QAction *addCheckable(const char *name, const char *icon, const QString &text,
                           const QString &tip, const QKeySequence &shortcut = QKeySequence());
-    QString tr(const char *text) const;
 
     QObject *const m_parent;
     QList<Category> m_categories;

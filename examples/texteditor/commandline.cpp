@@ -2,25 +2,18 @@
 
 #include "commandline.h"
 
-#include <QCoreApplication>
-
 CommandLine::CommandLine()
-    : m_settings(QStringLiteral("settings"),
-                 QCoreApplication::translate("CommandLine", "Keep all settings in <file>."),
+    : m_settings(QStringLiteral("settings"), tr("Keep all settings in <file>."),
                  QStringLiteral("file"))
-    , m_resetLayout(
-          QStringLiteral("reset-layout"),
-          QCoreApplication::translate("CommandLine", "Forget the stored layout of the toolbars."))
+    , m_resetLayout(QStringLiteral("reset-layout"), tr("Forget the stored layout of the toolbars."))
 {
-    m_parser.setApplicationDescription(QCoreApplication::translate(
-        "CommandLine", "A text editor whose toolbars the user can customize."));
+    m_parser.setApplicationDescription(tr("A text editor whose toolbars the user can customize."));
     m_parser.addHelpOption();
     m_parser.addVersionOption();
     m_parser.addOption(m_settings);
     m_parser.addOption(m_resetLayout);
-    m_parser.addPositionalArgument(
-        QStringLiteral("file"), QCoreApplication::translate("CommandLine", "The document to open."),
-        QStringLiteral("[file]"));
+    m_parser.addPositionalArgument(QStringLiteral("file"), tr("The document to open."),
+                                   QStringLiteral("[file]"));
 }
 
 bool CommandLine::parse(const QStringList &arguments)

@@ -5,15 +5,16 @@
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QString>
-
-class QCoreApplication;
 
 /*!
  * \brief What the application was started with.
  */
 class CommandLine
 {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
 public:
     CommandLine();
 

@@ -75,8 +75,7 @@ bool FileCommands::load(const QString &path)
 {
     TextFile file;
     if (!file.read(path)) {
-        m_file = file;
-        reportError();
+        reportError(file.error());
         m_recentFiles->remove(path);
         return false;
     }
@@ -117,7 +116,7 @@ bool FileCommands::writeTo(const QString &path)
     if (!html && !mayLoseFormats(path))
         return false;
     if (!m_file.write(path, html ? m_editor->htmlContent() : m_editor->plainContent())) {
-        reportError();
+        reportError(m_file.error());
         return false;
     }
     m_editor->document()->setModified(false);
@@ -144,7 +143,8 @@ bool FileCommands::mayDiscardChanges()
     if (!m_editor->document()->isModified())
         return true;
     const auto answer = QMessageBox::question(
-        m_window, tr("Unsaved Changes"), tr("The document has changes that are not saved."),
+        m_window, tr("Unsaved Changes"),
+        tr("The document has changes that are not saved. Save them?"),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     if (answer == QMessageBox::Save)
         return save();
@@ -170,7 +170,7 @@ void FileCommands::updateActions()
     m_actions.action("file_reload")->setEnabled(!m_path.isEmpty());
 }
 
-void FileCommands::reportError()
+void FileCommands::reportError(const QString &error)
 {
-    QMessageBox::warning(m_window, tr("Text Editor"), m_file.error());
+    QMessageBox::warning(m_window, tr("Text Editor"), error);
 }

@@ -53,7 +53,7 @@ private:
     bool mayLoseFormats(const QString &path);
     void setPath(const QString &path);
     void updateActions();
-    void reportError();
+    void reportError(const QString &error);
 
     const ActionCatalog &m_actions;
     EditorView *const m_editor;

@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextEdit>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 FindBar::FindBar(QTextEdit *editor, QWidget *parent)
@@ -43,14 +42,6 @@ void FindBar::createFindRow(QWidget *row)
     m_result->setMinimumWidth(fontMetrics().averageCharWidth() * 20);
     QLabel *const label = new QLabel(tr("&Find:"));
     label->setBuddy(m_text);
-    QToolButton *const closeButton = new QToolButton;
-    closeButton->setObjectName(QStringLiteral("find_close"));
-    closeButton->setIcon(QIcon(QStringLiteral(":/icons/close.svg")));
-    closeButton->setAutoRaise(true);
-    closeButton->setText(tr("Close"));
-    closeButton->setToolTip(tr("Close the search bar (Esc)"));
-    connect(closeButton, &QToolButton::clicked, this, &FindBar::closeBar);
-
     QHBoxLayout *const layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(label);
@@ -59,7 +50,7 @@ void FindBar::createFindRow(QWidget *row)
     layout->addWidget(createButton(tr("Previous"), "find_previous", &FindBar::findPrevious));
     layout->addWidget(m_matchCase);
     layout->addWidget(m_result);
-    layout->addWidget(closeButton);
+    layout->addWidget(createButton(tr("Close"), "find_close", &FindBar::closeBar));
 }
 
 void FindBar::createReplaceRow(QWidget *row)

@@ -47,6 +47,7 @@ MainWindow::MainWindow(QSettings *settings, QWidget *parent)
     registerWithManager();
     connectActions();
 
+    setIconSize(QSize(22, 22));
     resize(960, 680);
     showPath(QString());
     m_editor->setFocus();

@@ -4,19 +4,9 @@
 
 #include <RyToolBarManager>
 
-#include <QCoreApplication>
 #include <QMainWindow>
 #include <QSettings>
 #include <QToolBar>
-
-namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ToolBarLayout", text);
-}
-
-} // namespace
 
 ToolBarLayout::ToolBarLayout(QMainWindow *window, RyToolBarManager *manager, QSettings *settings)
     : m_window(window)
@@ -31,7 +21,9 @@ QString ToolBarLayout::restore()
     LayoutStore::Layout stored;
     switch (m_store.read(&stored)) {
     case LayoutStore::Result::Read:
-        return restoreFrom(stored);
+        return restoreFrom(stored) ? settingsProblem()
+                                   : tr("The stored toolbar layout does not fit; the default "
+                                        "toolbars are shown.");
     case LayoutStore::Result::OtherVersion:
         return tr("The stored toolbar layout is of another version; the default toolbars are "
                   "shown.");
@@ -40,21 +32,27 @@ QString ToolBarLayout::restore()
     case LayoutStore::Result::Nothing:
         break;
     }
-    if (m_settings->status() != QSettings::NoError)
-        return tr("The settings file cannot be read; the default toolbars are shown.");
-    return QString();
+    return settingsProblem();
 }
 
-QString ToolBarLayout::restoreFrom(const LayoutStore::Layout &stored)
+bool ToolBarLayout::restoreFrom(const LayoutStore::Layout &stored)
 {
-    // The manager first: it creates the custom toolbars that the window then puts in their places.
-    const bool restored = m_manager->restoreState(stored.toolBars, LayoutStore::Version)
-        && m_window->restoreState(stored.window, LayoutStore::Version);
-    if (!restored) {
-        goBackToDefaults();
-        return tr("The stored toolbar layout is of no use; the default toolbars are shown.");
-    }
-    m_window->restoreGeometry(stored.geometry);
+    // The manager comes before the window's state: it creates the custom toolbars that the window
+    // then puts in their places.
+    if (m_manager->restoreState(stored.toolBars, LayoutStore::Version)
+        && m_window->restoreGeometry(stored.geometry)
+        && m_window->restoreState(stored.window, LayoutStore::Version))
+        return true;
+    goBackToDefaults();
+    return false;
+}
+
+QString ToolBarLayout::settingsProblem() const
+{
+    if (m_settings->status() == QSettings::FormatError)
+        return tr("The settings file %1 is damaged.").arg(m_settings->fileName());
+    if (m_settings->status() == QSettings::AccessError || !m_settings->isWritable())
+        return tr("The toolbar layout cannot be stored in %1.").arg(m_settings->fileName());
     return QString();
 }
 
@@ -73,9 +71,7 @@ QString ToolBarLayout::save()
     m_store.write({m_manager->saveState(LayoutStore::Version),
                    m_window->saveState(LayoutStore::Version), m_window->saveGeometry()});
     m_settings->sync();
-    if (m_settings->status() != QSettings::NoError)
-        return tr("The toolbar layout cannot be stored in %1.").arg(m_settings->fileName());
-    return QString();
+    return settingsProblem();
 }
 
 // Qt shows a toolbar that the dialog has just created only when the event loop runs next. Until then

@@ -5,6 +5,7 @@
 
 #include "layoutstore.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 class QMainWindow;
@@ -22,6 +23,8 @@ class RyToolBarManager;
  */
 class ToolBarLayout
 {
+    Q_DECLARE_TR_FUNCTIONS(ToolBarLayout)
+
 public:
     //! All three stay the caller's and must outlive the object.
     ToolBarLayout(QMainWindow *window, RyToolBarManager *manager, QSettings *settings);
@@ -31,8 +34,8 @@ public:
      *
      * Call it when every action and default toolbar is registered and before the window is shown.
      *
-     * \return what the user should be told if the stored layout was of no use, and the defaults
-     *         stand; an empty string if all is well.
+     * \return what the user should be told: that the stored layout was of no use, and the defaults
+     *         stand, or that none can be stored. An empty string if all is well.
      */
     QString restore();
 
@@ -43,7 +46,8 @@ public:
     void forget();
 
 private:
-    QString restoreFrom(const LayoutStore::Layout &stored);
+    bool restoreFrom(const LayoutStore::Layout &stored);
+    QString settingsProblem() const;
     void goBackToDefaults();
     void showNewToolBars();
 
