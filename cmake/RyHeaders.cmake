@@ -1,8 +1,9 @@
 # SPDX-License-Identifier: MIT
 
 # The public headers, and one forwarding header for each exported class: a file named like the class
-# that includes the header named like it in lower case. The forwarding headers are made in the build
-# tree, so that a host that adds this project as a subdirectory includes what an installed one does.
+# that includes the header named like it in lower case. The build tree holds the folder that is
+# installed, with the public headers as links, so that a host that adds this project as a
+# subdirectory includes what an installed one does.
 
 set(RY_PUBLIC_CLASSES
     dialog/RyAbstatcManager
@@ -16,17 +17,24 @@ set(RY_PUBLIC_CLASSES
     toolbareditor/RyTreeWidget
     toolbarmanager/RyToolBarManager)
 
-set(RY_FORWARDING_DIR "${PROJECT_BINARY_DIR}/include/RyCustomizedDialog")
+set(RY_BUILD_INCLUDEDIR "${PROJECT_BINARY_DIR}/include")
 set(RY_PUBLIC_HEADERS "${PROJECT_SOURCE_DIR}/dialog/rycustomizeddialogexport.h")
+set(RY_FORWARDING_HEADERS "")
 foreach(path IN LISTS RY_PUBLIC_CLASSES)
-    get_filename_component(folder ${path} DIRECTORY)
     get_filename_component(class ${path} NAME)
-    string(TOLOWER ${class} header)
-    list(APPEND RY_PUBLIC_HEADERS "${PROJECT_SOURCE_DIR}/${folder}/${header}.h")
-    file(WRITE "${RY_FORWARDING_DIR}/${class}.in" "#include \"${header}.h\"\n")
-    configure_file("${RY_FORWARDING_DIR}/${class}.in" "${RY_FORWARDING_DIR}/${class}" COPYONLY)
-    file(REMOVE "${RY_FORWARDING_DIR}/${class}.in")
-    list(APPEND RY_FORWARDING_HEADERS "${RY_FORWARDING_DIR}/${class}")
+    string(TOLOWER ${path} header)
+    list(APPEND RY_PUBLIC_HEADERS "${PROJECT_SOURCE_DIR}/${header}.h")
+    get_filename_component(header ${header} NAME)
+    set(forwarding "${RY_BUILD_INCLUDEDIR}/RyCustomizedDialog/${class}")
+    file(GENERATE OUTPUT "${forwarding}"
+        CONTENT "// SPDX-License-Identifier: MIT\n\n#include \"${header}.h\"\n")
+    list(APPEND RY_FORWARDING_HEADERS "${forwarding}")
+endforeach()
+
+file(MAKE_DIRECTORY "${RY_BUILD_INCLUDEDIR}/RyCustomizedDialog")
+foreach(path IN LISTS RY_PUBLIC_HEADERS)
+    get_filename_component(header "${path}" NAME)
+    file(CREATE_LINK "${path}" "${RY_BUILD_INCLUDEDIR}/RyCustomizedDialog/${header}" SYMBOLIC)
 endforeach()
 
 foreach(folder IN ITEMS dialog ribbon toolbareditor toolbarmanager)
@@ -35,6 +43,7 @@ foreach(folder IN ITEMS dialog ribbon toolbareditor toolbarmanager)
 endforeach()
 # The inner folder comes first: beside it stands a folder that is named like one of the headers.
 target_include_directories(RyCustomizedDialog PUBLIC
-    "$<BUILD_INTERFACE:${RY_FORWARDING_DIR}>"
+    "$<BUILD_INTERFACE:${RY_BUILD_INCLUDEDIR}/RyCustomizedDialog>"
+    "$<BUILD_INTERFACE:${RY_BUILD_INCLUDEDIR}>"
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/RyCustomizedDialog>"
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")

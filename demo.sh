@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Shows the dialog at work in the text editor example: in a window where there is a display, and as
+# a tour that looks at its own steps and leaves pictures of them where there is none. What is missing
+# is installed with apt; everything else stays in build/.
+
+cd "$(dirname "${BASH_SOURCE[0]}")" || exit
+. tools/steps.sh
+start_log build/demo.log
+
+step 'Packages' tools/install-packages.sh tools/packages-demo.txt
+# A folder of its own, because the tests need more packages.
+build=build/demo-release
+step 'Configure' cmake --preset release -B "$build" -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF
+step 'Build' cmake --build "$build" --parallel "$(nproc)"
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    step 'Text editor' "$build/examples/texteditor/texteditor" examples/texteditor/sample.html
+    finish 'the text editor was closed'
+else
+    step 'Tour' examples/texteditor/tour/run.sh "$build" build/demo
+    finish 'every step of the tour held; its pictures are in build/demo'
+fi

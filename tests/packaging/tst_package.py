@@ -1,0 +1,269 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Tests of what `cmake --install` gives, as a host meets it.
+
+CMake runs the test classes one by one and sets what they need in the environment: SOURCE_DIR,
+BUILD_DIR, INSTALL_PREFIX, LIBDIR, CMAKE, CXX and CXXFLAGS of the build under test.
+"""
+
+import os
+import re
+import shlex
+import shutil
+import subprocess
+import tempfile
+import unittest
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+SOURCE_DIR = Path(os.environ['SOURCE_DIR'])
+BUILD_DIR = Path(os.environ['BUILD_DIR'])
+LIBDIR = os.environ['LIBDIR']
+CMAKE = os.environ['CMAKE']
+CXX = os.environ['CXX']
+CXXFLAGS = shlex.split(os.environ['CXXFLAGS'])
+# One name for each compiler that is there.
+COMPILERS = {os.path.realpath(path): path
+             for path in map(shutil.which, ('clang++', 'g++', CXX)) if path}.values()
+
+VERSION = (SOURCE_DIR / 'VERSION').read_text().strip()
+MAJOR = int(VERSION.split('.')[0])
+HOST_DIR = SOURCE_DIR / 'tests' / 'packaging' / 'host'
+SUBSYSTEMS = ('dialog', 'toolbarmanager', 'toolbareditor', 'ribbon')
+
+CLASSES = (
+    'RyAbstatcManager',
+    'RyCRibbonPage',
+    'RyCRibbonWidget',
+    'RyCToolBarPage',
+    'RyCToolBarWidget',
+    'RyCusInterface',
+    'RyCustomizedDialog',
+    'RyToolBarManager',
+    'RyTreeItemMimeData',
+    'RyTreeWidget',
+)
+HEADERS = CLASSES + tuple(name.lower() + '.h' for name in CLASSES) + ('rycustomizeddialogexport.h',)
+
+# What a host may define before it includes a header.
+STRICT = (
+    '-DQT_DEPRECATED_WARNINGS',
+    '-DQT_DISABLE_DEPRECATED_BEFORE=0x050600',
+    '-DQT_NO_CAST_FROM_ASCII',
+    '-DQT_NO_CAST_FROM_BYTEARRAY',
+    '-DQT_NO_CAST_TO_ASCII',
+    '-DQT_NO_FOREACH',
+    '-DQT_NO_KEYWORDS',
+    '-DQT_NO_NARROWING_CONVERSIONS_IN_CONNECT',
+    '-DQT_NO_URL_CAST_FROM_STRING',
+    '-DQT_STRICT_ITERATORS',
+)
+CXX11 = ('-std=c++11', '-pedantic', '-Wall', '-Wextra', '-Werror', '-fPIC')
+
+
+def setUpModule():
+    """Installs into an empty prefix, and then moves the tree to where nobody expects it."""
+    global work, prefix, installed_to
+    folder = tempfile.TemporaryDirectory(prefix='rycustomizeddialog-')
+    unittest.addModuleCleanup(folder.cleanup)
+    work = Path(folder.name)
+    installed_to = work / 'installed'
+    run(CMAKE, '--install', BUILD_DIR, '--prefix', installed_to)
+    prefix = work / 'moved' / 'elsewhere'
+    prefix.parent.mkdir()
+    installed_to.rename(prefix)
+
+
+def attempt(*command, **environment):
+    """Runs a command and returns its exit code and everything that it printed."""
+    done = subprocess.run([str(word) for word in command], env={**os.environ, **environment},
+                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, universal_newlines=True)
+    return done.returncode, done.stdout
+
+
+def run(*command, **environment):
+    """The same for a command that must succeed; returns what it printed."""
+    code, output = attempt(*command, **environment)
+    if code != 0:
+        raise AssertionError(f'{" ".join(map(str, command))}\nended with {code}:\n{output}')
+    return output
+
+
+def pkg_config(*arguments):
+    path = prefix / LIBDIR / 'pkgconfig'
+    return run('pkg-config', *arguments, PKG_CONFIG_PATH=str(path)).split()
+
+
+def qt_flags():
+    """Qt's compiler flags, with its headers as system headers: their warnings are not ours."""
+    flags = run('pkg-config', '--cflags', 'Qt5Widgets').split()
+    return ['-isystem' + flag[2:] if flag.startswith('-I') else flag for flag in flags]
+
+
+def failures_of(commands):
+    """Runs named commands side by side and returns the output of those that fail."""
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        results = pool.map(lambda command: attempt(*command), commands.values())
+    return '\n'.join(f'{name}:\n{output}' for name, (code, output) in zip(commands, results) if code)
+
+
+class InstalledTree(unittest.TestCase):
+
+    def test_installs_exactly_these_files(self):
+        library = 'libRyCustomizedDialog.so'
+        package = f'{LIBDIR}/cmake/RyCustomizedDialog/RyCustomizedDialog'
+        expected = [f'include/RyCustomizedDialog/{header}' for header in HEADERS]
+        expected += [f'{LIBDIR}/{library}{end}' for end in ('', f'.{MAJOR}', f'.{VERSION}')]
+        expected += [f'{package}{end}.cmake' for end in ('Config', 'ConfigVersion', 'Targets')]
+        expected += [f'{LIBDIR}/pkgconfig/RyCustomizedDialog.pc']
+        found = [str(path.relative_to(prefix)) for path in prefix.rglob('*') if not path.is_dir()]
+        # One more file is named after the build type.
+        found = [path for path in found if not re.match(re.escape(package) + r'Targets-\w+', path)]
+        self.assertEqual(sorted(found), sorted(expected))
+
+    def test_library_is_found_by_its_links(self):
+        links = {path.name: os.readlink(path)
+                 for path in (prefix / LIBDIR).iterdir() if path.is_symlink()}
+        self.assertEqual(links, {
+            'libRyCustomizedDialog.so': f'libRyCustomizedDialog.so.{MAJOR}',
+            f'libRyCustomizedDialog.so.{MAJOR}': f'libRyCustomizedDialog.so.{VERSION}',
+        })
+
+    def test_no_path_of_the_build_stays_in_it(self):
+        library = prefix / LIBDIR / f'libRyCustomizedDialog.so.{VERSION}'
+        run('strip', '--strip-debug', '-o', work / 'stripped', library)
+        unwanted = [str(path).encode() for path in (SOURCE_DIR, BUILD_DIR, installed_to)]
+        for path in prefix.rglob('*'):
+            if path.is_file():
+                content = (work / 'stripped' if path == library.resolve() else path).read_bytes()
+                found = [text.decode() for text in unwanted if text in content]
+                self.assertEqual(found, [], f'in {path.relative_to(prefix)}')
+
+    def test_pkg_config_knows_the_version_and_what_it_needs(self):
+        self.assertEqual(pkg_config('--modversion', 'RyCustomizedDialog'), [VERSION])
+        self.assertEqual(pkg_config('--print-requires', 'RyCustomizedDialog'),
+                         ['Qt5Widgets', '>=', '5.6'])
+
+
+class Library(unittest.TestCase):
+
+    def setUp(self):
+        self.library = prefix / LIBDIR / 'libRyCustomizedDialog.so'
+
+    def test_exports_the_public_classes_and_the_resource_functions_only(self):
+        # The linker's own marks belong to nobody.
+        own = {'_init', '_fini', '_edata', '_end', '__bss_start'}
+        owners = set()
+        for line in run('nm', '-DC', '--defined-only', '--format=posix', self.library).splitlines():
+            name = re.match(r'(.*) [A-Za-z] [0-9a-f]+ *[0-9a-f]*$', line).group(1)
+            name = re.sub(r'^(vtable|typeinfo|typeinfo name|non-virtual thunk) (for|to) ', '', name)
+            owners.add(name.split('(')[0].split('::')[0])
+        functions = {f'q{what}Resources_RyCustomizedDialog' for what in ('Init', 'Cleanup')}
+        self.assertEqual(sorted(owners - own), sorted(set(CLASSES) | functions))
+
+    def test_needs_qt_and_the_standard_runtime_only(self):
+        allowed = {f'libQt5{module}.so.5' for module in ('Core', 'Gui', 'Widgets')}
+        allowed |= {'libstdc++.so.6', 'libm.so.6', 'libgcc_s.so.1', 'libc.so.6'}
+        self.assertEqual(sorted(set(self.dynamic('NEEDED')) - allowed), [])
+
+    def test_soname_holds_the_major_version(self):
+        self.assertEqual(self.dynamic('SONAME'), [f'libRyCustomizedDialog.so.{MAJOR}'])
+
+    def test_searches_no_folder_of_its_own(self):
+        self.assertEqual(self.dynamic('RPATH') + self.dynamic('RUNPATH'), [])
+
+    def dynamic(self, tag):
+        return re.findall(rf'\({tag}\).*\[(.*)\]', run('readelf', '-dW', self.library))
+
+
+class Hosts(unittest.TestCase):
+
+    def configure(self, name, *options):
+        command = (CMAKE, '-S', HOST_DIR, '-B', work / name, '-G', 'Ninja',
+                   f'-DCMAKE_CXX_COMPILER={CXX}', '-DCMAKE_BUILD_TYPE=',
+                   '-DCMAKE_CXX_FLAGS=' + ' '.join(CXXFLAGS),
+                   '-DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF', *options)
+        return attempt(*command)
+
+    def build_and_run(self, name, *options):
+        code, output = self.configure(name, *options)
+        self.assertEqual(code, 0, output)
+        run(CMAKE, '--build', work / name, '--target', 'host')
+        run(work / name / 'host')
+
+    def test_cmake_package_works_wherever_it_lies(self):
+        self.build_and_run('package', f'-DCMAKE_PREFIX_PATH={prefix}')
+        used = run('ldd', work / 'package' / 'host')
+        self.assertIn(str(prefix / LIBDIR / 'libRyCustomizedDialog.so.'), used)
+
+    def test_cmake_package_answers_requests_for_versions(self):
+        answers = {
+            f'{MAJOR}': True,
+            f'{MAJOR}.0': True,
+            VERSION: True,
+            f'{MAJOR}.999': False,
+            f'{MAJOR - 1}.9': False,
+            f'{MAJOR + 1}.0': False,
+        }
+        for wanted, answer in answers.items():
+            with self.subTest(wanted=wanted):
+                code, output = self.configure('versions', f'-DCMAKE_PREFIX_PATH={prefix}',
+                                              f'-DWANTED_VERSION={wanted}',
+                                              '-URyCustomizedDialog_DIR')
+                self.assertEqual(code == 0, answer, output)
+                if not answer:
+                    self.assertIn(f'version: {VERSION}', output)
+
+    def test_pkg_config_file_works_wherever_it_lies(self):
+        flags = pkg_config('--cflags', '--libs', 'RyCustomizedDialog')
+        run(CXX, *CXXFLAGS, '-std=c++11', '-fPIC', HOST_DIR / 'main.cpp', '-o', work / 'pc-host',
+            *flags)
+        run(work / 'pc-host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
+
+    def test_subdirectory_gives_the_same_target_without_tests_and_examples(self):
+        self.build_and_run('subdirectory', f'-DLIBRARY_SOURCE_DIR={SOURCE_DIR}')
+        cache = (work / 'subdirectory' / 'CMakeCache.txt').read_text()
+        for what in ('TESTS', 'EXAMPLES'):
+            self.assertIn(f'\nRYCUSTOMIZEDDIALOG_BUILD_{what}:BOOL=OFF\n', cache)
+
+
+class Headers(unittest.TestCase):
+    """Each header alone and twice in a file, under all the names that a host may give it."""
+
+    def test_each_compiles_with_everything_forbidden(self):
+        self.compile_each(*STRICT)
+
+    def test_each_compiles_with_nothing_defined(self):
+        self.compile_each()
+
+    def compile_each(self, *defines):
+        include = [flag for flag in pkg_config('--cflags', 'RyCustomizedDialog')
+                   if str(prefix.parent) in flag]
+        common = (*CXX11, *defines, *include, *qt_flags(), '-fsyntax-only')
+        commands = {}
+        for header in HEADERS:
+            source = work / f'{header}.cpp'
+            source.write_text(f'#include <{header}>\n#include <RyCustomizedDialog/{header}>\n')
+            for compiler in COMPILERS:
+                commands[f'<{header}> with {compiler}'] = (compiler, *common, source)
+        self.assertEqual(failures_of(commands), '')
+
+
+class Sources(unittest.TestCase):
+
+    def test_each_compiles_without_what_qt_deprecated_until_5_6(self):
+        folders = [f'-I{SOURCE_DIR / folder}' for folder in SUBSYSTEMS]
+        forms = f'-I{BUILD_DIR / "RyCustomizedDialog_autogen" / "include"}'
+        common = (*CXX11, *STRICT, '-DRYCUSTOMIZEDDIALOG_LIBRARY', *folders, forms, *qt_flags(),
+                  '-fsyntax-only')
+        commands = {f'{source.name} with {compiler}': (compiler, *common, source)
+                    for folder in SUBSYSTEMS
+                    for source in (SOURCE_DIR / folder).glob('*.cpp')
+                    for compiler in COMPILERS}
+        self.assertGreater(len(commands), 0)
+        self.assertEqual(failures_of(commands), '')
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=2)

@@ -1,0 +1,132 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Checks of the files that git keeps, without building anything.
+
+CMake runs the test classes one by one and sets SOURCE_DIR in the environment.
+"""
+
+import os
+import re
+import shutil
+import subprocess
+import unittest
+from pathlib import Path
+
+SOURCE_DIR = Path(os.environ['SOURCE_DIR'])
+SUBSYSTEMS = ('dialog', 'toolbarmanager', 'toolbareditor', 'ribbon')
+
+# Headers of functions that share a class.
+NAMED_AFTER_FUNCTIONS = ('toolbarmanager/namelookup.h',)
+
+# What Qt offers since a later version than the first one that the library has to compile with.
+NEWER_THAN_QT_5_6 = {
+    r'\bqAsConst\b': '5.7',
+    r'\b(qOverload|qConstOverload|qNonConstOverload|QOverload|QConstOverload|QNonConstOverload)\b':
+        '5.7',
+    r'\b(Q_FALLTHROUGH|Q_NAMESPACE|Q_ENUM_NS|QDeadlineTimer)\b': '5.8',
+    r'\b(qEnvironmentVariable|QRandomGenerator|QStringView|QOperatingSystemVersion)\b': '5.10',
+    r'\bchopped\(|\bisPersistentEditorOpen\(': '5.10',
+    r'\bhorizontalAdvance\(': '5.11',
+    r'\b(Q_DISABLE_COPY_MOVE|Q_DISABLE_MOVE)\b|\bswapItemsAt\(': '5.13',
+    r'\bQt::(SkipEmptyParts|KeepEmptyParts|SplitBehavior|endl|flush|hex|dec)\b': '5.14',
+    r'\bQ(List|Vector|Set|StringList|Queue|Stack)\b(<.*>)?( \w+)?[({]\S*\bc?begin\(\)': '5.14',
+    r'\bQ(Multi)?(Map|Hash)\b(<.*>)?( \w+)?\(\{': '5.14',
+    r'\bremoveIf\(': '6.1',
+}
+
+
+def tracked(*patterns):
+    """The files that git keeps and that match one of the patterns."""
+    # Whoever runs the tests need not be the owner of the checkout.
+    command = ['git', '-c', f'safe.directory={SOURCE_DIR}', 'ls-files', '-z', '--', *patterns]
+    names = subprocess.run(command, cwd=SOURCE_DIR, check=True, stdout=subprocess.PIPE).stdout
+    return [SOURCE_DIR / name for name in sorted(names.decode().split('\0')) if name]
+
+
+def in_repository(path):
+    return str(path.relative_to(SOURCE_DIR))
+
+
+def is_code(path):
+    """True for what people write in a language with comments: sources, scripts, build files."""
+    if path.suffix in ('.h', '.cpp', '.py', '.sh', '.cmake', '.yml', '.yaml'):
+        return True
+    if path.name == 'CMakeLists.txt' or path.name.endswith('.cmake.in'):
+        return True
+    return path.read_bytes().startswith(b'#!')
+
+
+class Files(unittest.TestCase):
+
+    def test_sources_have_the_layout_of_clang_format_14(self):
+        names = ('clang-format-14', 'clang-format')
+        program = next((found for found in map(shutil.which, names) if found), None)
+        self.assertIsNotNone(program, 'clang-format 14 is not installed')
+        version = subprocess.run([program, '--version'], check=True, stdout=subprocess.PIPE,
+                                 universal_newlines=True).stdout
+        self.assertIn('version 14.', version, 'other versions lay out other code')
+        sources = tracked('*.h', '*.cpp')
+        self.assertGreater(len(sources), 0)
+        done = subprocess.run([program, '--dry-run', '-Werror', *sources], stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, universal_newlines=True)
+        self.assertEqual(done.returncode, 0, done.stdout)
+
+    def test_each_names_its_licence(self):
+        code = [path for path in tracked() if is_code(path)]
+        self.assertGreater(len(code), 0)
+        without = [in_repository(path) for path in code
+                   if 'SPDX-License-Identifier: MIT' not in path.read_text()[:200]]
+        self.assertEqual(without, [])
+
+    def test_headers_define_one_class_and_are_named_after_it(self):
+        wrong = {}
+        for path in tracked('*.h'):
+            if in_repository(path) in NAMED_AFTER_FUNCTIONS:
+                continue
+            classes = re.findall(r'^(?:template <.*>\s)?class (?:\w+_EXPORT )?(\w+)[^;{]*\{',
+                                 path.read_text(), re.MULTILINE)
+            if [name.lower() for name in classes] not in ([], [path.stem]):
+                wrong[in_repository(path)] = classes
+        self.assertEqual(wrong, {})
+
+    def test_forms_are_named_after_their_class(self):
+        for path in tracked('*.ui'):
+            name = re.search(r'<class>(\w+)</class>', path.read_text()).group(1)
+            self.assertEqual(path.stem, name.lower(), in_repository(path))
+
+    def test_sources_of_the_library_belong_to_a_header(self):
+        # The sources of a class with several concerns add the concern: class_concern.cpp.
+        sources = tracked(*(f'{folder}/*.cpp' for folder in SUBSYSTEMS))
+        self.assertGreater(len(sources), 0)
+        alone = [in_repository(path) for path in sources
+                 if not (path.parent / f'{path.stem.split("_")[0]}.h').exists()]
+        self.assertEqual(alone, [])
+
+    def test_library_uses_nothing_newer_than_qt_5_6(self):
+        found = []
+        for path in tracked(*(f'{folder}/*.{end}' for folder in SUBSYSTEMS for end in ('h', 'cpp'))):
+            for number, line in enumerate(path.read_text().splitlines(), 1):
+                found += [f'{in_repository(path)}:{number}: since Qt {version}: {line.strip()}'
+                          for pattern, version in NEWER_THAN_QT_5_6.items()
+                          if re.search(pattern, line)]
+        self.assertEqual(found, [])
+
+
+class ReadmeExample(unittest.TestCase):
+
+    def test_host_in_the_readme_is_the_minimal_example_word_for_word(self):
+        readme = SOURCE_DIR / 'README.md'
+        example = SOURCE_DIR / 'examples' / 'minimal' / 'main.cpp'
+        for path in (readme, example):
+            self.assertTrue(path.exists(), f'{in_repository(path)} is missing')
+        blocks = re.findall(r'^```cpp\n(.*?)^```$', readme.read_text(), re.MULTILINE | re.DOTALL)
+        hosts = [self.without_licence(block) for block in blocks if 'int main(' in block]
+        self.maxDiff = None
+        self.assertEqual(hosts, [self.without_licence(example.read_text())])
+
+    def without_licence(self, code):
+        return re.sub(r'\A(// SPDX-.*\n)?\n*', '', code)
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=2)

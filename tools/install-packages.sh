@@ -1,0 +1,47 @@
+#!/bin/sh
+# SPDX-License-Identifier: MIT
+#
+# Installs those packages of a list that are missing, with apt, and says which. Calls apt for
+# nothing else.
+#
+# usage: install-packages.sh LIST
+
+set -eu
+
+if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    echo "This system has no apt. What is needed is listed in $1."
+    exit 0
+fi
+
+missing=
+# shellcheck disable=SC2013 # words are meant
+for package in $(sed 's/#.*//' "$1"); do
+    case $(dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null || true) in
+        ?i*) ;;
+        *) missing="$missing $package" ;;
+    esac
+done
+if [ -z "$missing" ]; then
+    echo 'All packages are there.'
+    exit 0
+fi
+echo "Installing:$missing"
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        env DEBIAN_FRONTEND=noninteractive "$@"
+    elif ! command -v sudo >/dev/null; then
+        echo "There is no sudo. As root, run: apt-get install$missing" >&2
+        return 1
+    elif (: </dev/tty) 2>/dev/null; then
+        sudo env DEBIAN_FRONTEND=noninteractive "$@"
+    else
+        sudo -n env DEBIAN_FRONTEND=noninteractive "$@"
+    fi
+}
+
+wait_for_lock=-oDPkg::Lock::Timeout=300
+# A package source of somebody else's that does not answer must not stop us.
+as_root apt-get -q "$wait_for_lock" update || echo 'Going on with the package lists that are there.'
+# shellcheck disable=SC2086 # several words are meant
+as_root apt-get -q "$wait_for_lock" install --yes --no-install-recommends $missing

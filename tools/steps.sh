@@ -1,0 +1,38 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+#
+# For scripts that do one thing after the other: each step prints its title and what it does, all of
+# it goes to a log file too, and the last line says what happened. To be sourced by bash.
+
+# start_log FILE: begins a new log.
+start_log() {
+    log=$1
+    failed=
+    mkdir -p "$(dirname "$log")"
+    : >"$log"
+    SECONDS=0
+}
+
+# try TITLE COMMAND...: runs a step and returns its exit code.
+try() {
+    local title=$1 status=0
+    shift
+    { printf '\n== %s\n' "$title" && "$@" </dev/null; } 2>&1 | tee -a "$log"
+    status=${PIPESTATUS[0]}
+    [ "$status" -eq 0 ] || failed=${failed:+$failed, }$title
+    return "$status"
+}
+
+# step TITLE COMMAND...: runs a step and ends the script if it fails.
+step() {
+    try "$@" || finish ''
+}
+
+# finish TEXT: ends the script with one line and with 0, or with 1 if a step failed.
+finish() {
+    local status=0 result=$1
+    [ -z "$failed" ] || { status=1 result="FAILED: $failed"; }
+    printf '\n%s: %s (after %d min %02d s; the log is %s)\n' \
+        "$0" "$result" $((SECONDS / 60)) $((SECONDS % 60)) "$log" | tee -a "$log"
+    exit "$status"
+}
