@@ -5,13 +5,13 @@
 #include "localecodec.h"
 #include "testcase.h"
 #include "texts.h"
+#include "toolbarorder.h"
 
 #include <QPointer>
 #include <QtTest>
 
 #include <algorithm>
 #include <functional>
-#include <memory>
 
 namespace {
 
@@ -23,26 +23,6 @@ using Contents = QMap<QToolBar *, QList<QAction *>>;
 QString name(const char *text)
 {
     return QString::fromUtf8(text);
-}
-
-QStringList namesOf(const QList<QToolBar *> &toolBars)
-{
-    QStringList names;
-    for (const QToolBar *toolBar : toolBars)
-        names << toolBar->objectName();
-    return names;
-}
-
-// Unmanaged toolbars "t0", "t1" and so on, named and listed by ascending address.
-QList<QToolBar *> toolBarsByAddress(Host &host, int count)
-{
-    QList<QToolBar *> toolBars;
-    for (int i = 0; i < count; ++i)
-        toolBars << host.toolBar(QString());
-    std::sort(toolBars.begin(), toolBars.end(), std::less<QToolBar *>());
-    for (int i = 0; i < count; ++i)
-        toolBars.at(i)->setObjectName(QStringLiteral("t%1").arg(i));
-    return toolBars;
 }
 
 QList<QPointer<QAction>> guarded(const QList<QAction *> &actions)
