@@ -32,18 +32,20 @@ template <> struct StandInName<QToolBar>
 
 template <typename Object> void warnAboutObjectName(const QString &name)
 {
-    QMessageLogger().warning("RyToolBarManager::restoreState(): cannot find a %s named '%s', "
-                             "trying to match using '%s' instead.",
-                             StandInName<Object>::className(), qPrintable(name),
-                             StandInName<Object>::property());
+    QMessageLogger(nullptr, 0, nullptr)
+        .warning("RyToolBarManager::restoreState(): cannot find a %s named '%s', "
+                 "trying to match using '%s' instead.",
+                 StandInName<Object>::className(), qPrintable(name),
+                 StandInName<Object>::property());
 }
 
 template <typename Object> void warnAboutStandInName(const QString &name)
 {
-    QMessageLogger().warning("RyToolBarManager::restoreState(): cannot find a %s with matching "
-                             "'%s' (looking for '%s').",
-                             StandInName<Object>::className(), StandInName<Object>::property(),
-                             qPrintable(name));
+    QMessageLogger(nullptr, 0, nullptr)
+        .warning("RyToolBarManager::restoreState(): cannot find a %s with matching "
+                 "'%s' (looking for '%s').",
+                 StandInName<Object>::className(), StandInName<Object>::property(),
+                 qPrintable(name));
 }
 
 /*

@@ -15,10 +15,10 @@ QString savedName(const QToolBar *toolBar)
 {
     if (!toolBar->objectName().isEmpty())
         return toolBar->objectName();
-    QMessageLogger().warning("RyToolBarManager::saveState(): 'objectName' not set for QToolBar %p "
-                             "'%s', using 'windowTitle' instead",
-                             static_cast<const void *>(toolBar),
-                             qPrintable(toolBar->windowTitle()));
+    QMessageLogger(nullptr, 0, nullptr)
+        .warning("RyToolBarManager::saveState(): 'objectName' not set for QToolBar %p "
+                 "'%s', using 'windowTitle' instead",
+                 static_cast<const void *>(toolBar), qPrintable(toolBar->windowTitle()));
     return toolBar->windowTitle();
 }
 
@@ -26,9 +26,10 @@ QString savedName(const QAction *action)
 {
     if (!action->objectName().isEmpty())
         return action->objectName();
-    QMessageLogger().warning("RyToolBarManager::saveState(): 'objectName' not set for QAction %p "
-                             "'%s', using 'text' instead",
-                             static_cast<const void *>(action), qPrintable(action->text()));
+    QMessageLogger(nullptr, 0, nullptr)
+        .warning("RyToolBarManager::saveState(): 'objectName' not set for QAction %p "
+                 "'%s', using 'text' instead",
+                 static_cast<const void *>(action), qPrintable(action->text()));
     return action->text();
 }
 

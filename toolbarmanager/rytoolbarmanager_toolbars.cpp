@@ -110,7 +110,8 @@ void RyToolBarManager::deleteSeparator(QAction *separator)
 {
     const auto widgets = separator->associatedWidgets();
     for (QWidget *widget : widgets) {
-        if (m_toolBars.contains(qobject_cast<QToolBar *>(widget)))
+        const auto recorded = m_toolBarsWithSeparators.value(qobject_cast<QToolBar *>(widget));
+        if (recorded.contains(separator))
             return;
     }
     delete separator;

@@ -21,6 +21,11 @@ void appendItems(QStringList &texts, const QTreeWidgetItem *parent, int depth)
 
 } // namespace
 
+QStringList words(const char *text)
+{
+    return QString::fromUtf8(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
 QStringList contentOf(const QList<QAction *> &actions)
 {
     QStringList names;

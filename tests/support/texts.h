@@ -13,6 +13,9 @@
  * Whole contents as lists of strings, so that one comparison shows everything.
  */
 
+// The words of a text such as "open | save".
+QStringList words(const char *text);
+
 // The objectName of each action, its text in quotes without one, and "|" for null.
 QStringList contentOf(const QList<QAction *> &actions);
 
