@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+
+#include "connections.h"
+
+#include <QMetaMethod>
+
+namespace {
+
+struct Access : QObject
+{
+    using QObject::isSignalConnected;
+    using QObject::receivers;
+};
+
+} // namespace
+
+int receiversOf(const QObject *sender, const char *signal)
+{
+    return (sender->*&Access::receivers)(signal);
+}
+
+int takeConnections(QObject *sender, const char *signal, QObject *receiver, const char *slot)
+{
+    const int before = receiversOf(sender, signal);
+    QObject::disconnect(sender, signal, receiver, slot);
+    return before - receiversOf(sender, signal);
+}
+
+QStringList connectedSignals(const QObject *sender)
+{
+    QStringList signatures;
+    const QMetaObject *const metaObject = sender->metaObject();
+    for (int i = 0; i < metaObject->methodCount(); ++i) {
+        const QMetaMethod method = metaObject->method(i);
+        if (method.methodType() == QMetaMethod::Signal
+            && (sender->*&Access::isSignalConnected)(method))
+            signatures << QString::fromLatin1(method.methodSignature());
+    }
+    return signatures;
+}
