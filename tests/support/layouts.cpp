@@ -35,9 +35,9 @@ QString nameOf(QLayoutItem *item)
 bool isGeometry(const QByteArray &property)
 {
     static const QList<QByteArray> names{
-        "childrenRect",    "frameGeometry",  "frameSize", "geometry", "height",
-        "minimumSizeHint", "normalGeometry", "pos",       "rect",     "size",
-        "sizeHint",        "width",          "x",         "y",
+        "childrenRect", "childrenRegion",  "frameGeometry",  "frameSize", "geometry",
+        "height",       "minimumSizeHint", "normalGeometry", "pos",       "rect",
+        "size",         "sizeHint",        "width",          "x",         "y",
     };
     return names.contains(property);
 }
