@@ -8,7 +8,6 @@ namespace {
 
 struct Access : QObject
 {
-    using QObject::isSignalConnected;
     using QObject::receivers;
 };
 
@@ -28,13 +27,17 @@ int takeConnections(QObject *sender, const char *signal, QObject *receiver, cons
 
 QStringList connectedSignals(const QObject *sender)
 {
-    QStringList signatures;
+    QStringList texts;
     const QMetaObject *const metaObject = sender->metaObject();
     for (int i = 0; i < metaObject->methodCount(); ++i) {
         const QMetaMethod method = metaObject->method(i);
-        if (method.methodType() == QMetaMethod::Signal
-            && (sender->*&Access::isSignalConnected)(method))
-            signatures << QString::fromLatin1(method.methodSignature());
+        if (method.methodType() != QMetaMethod::Signal)
+            continue;
+        // What SIGNAL() puts before the signature.
+        const QByteArray signature = '2' + method.methodSignature();
+        if (const int count = receiversOf(sender, signature.constData()))
+            texts << QStringLiteral("%1 %2").arg(count).arg(
+                QLatin1String(method.methodSignature()));
     }
-    return signatures;
+    return texts;
 }

@@ -16,8 +16,8 @@ int receiversOf(const QObject *sender, const char *signal);
 // The number of connections from this signal to this slot, given with SLOT(). Disconnects them.
 int takeConnections(QObject *sender, const char *signal, QObject *receiver, const char *slot);
 
-// The signatures of the object's signals that anything is connected to, in the order of the
-// meta-object.
+// "count signature" of each of the object's signals that anything is connected to, in the order of
+// the meta-object.
 QStringList connectedSignals(const QObject *sender);
 
 #endif // CONNECTIONS_H
