@@ -127,6 +127,9 @@ QStringList propertiesBelow(const QWidget *widget)
         const QMetaObject *const metaObject = each->metaObject();
         for (int i = 0; i < metaObject->propertyCount(); ++i) {
             const QMetaProperty property = metaObject->property(i);
+            // Qt has a type here that it cannot read.
+            if (qstrcmp(property.name(), "selectionBehaviorOnRemove") == 0)
+                continue;
             properties << QStringLiteral("%1 %2: %3")
                               .arg(each->objectName(), QLatin1String(property.name()),
                                    valueText(property.read(each)));
