@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+
+#include "recordingpage.h"
+
+#include "ryabstatcmanager.h"
+
+#include <QTabWidget>
+
+namespace {
+
+QStringList log;
+
+} // namespace
+
+QStringList RecordingPage::takeLog()
+{
+    const QStringList taken = log;
+    log.clear();
+    return taken;
+}
+
+RecordingPage::RecordingPage(const QString &title, RyAbstatcManager *manager)
+    : m_title(title)
+{
+    record(QLatin1String("made for ") + (manager ? manager->objectName() : QStringLiteral("null")));
+}
+
+RecordingPage::~RecordingPage()
+{
+    record(m_widget ? QStringLiteral("deleted before its widget") : QStringLiteral("deleted"));
+}
+
+QString RecordingPage::name() const
+{
+    record(QStringLiteral("name"));
+    return m_title;
+}
+
+QWidget *RecordingPage::createPage(QWidget *parent)
+{
+    const int tabs = parent->findChild<QTabWidget *>()->count();
+    record(QStringLiteral("createPage in %1 with %2 tabs").arg(parent->objectName()).arg(tabs));
+    m_widget = new QWidget(parent);
+    m_widget->setObjectName(m_title);
+    const QString title = m_title;
+    QObject::connect(m_widget, &QObject::destroyed,
+                     [title] { log << title + QLatin1String(" widget gone"); });
+    return m_widget;
+}
+
+void RecordingPage::apply()
+{
+    record(QStringLiteral("apply"));
+}
+
+// The dialog is to close only after this.
+void RecordingPage::finish()
+{
+    const bool open = m_widget && m_widget->window()->isVisible();
+    record(open ? QStringLiteral("finish while open") : QStringLiteral("finish"));
+}
+
+void RecordingPage::RestorDefaults()
+{
+    record(QStringLiteral("RestorDefaults"));
+}
+
+void RecordingPage::record(const QString &event) const
+{
+    log << m_title + QLatin1Char(' ') + event;
+}

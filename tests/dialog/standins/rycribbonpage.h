@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef RYCRIBBONPAGE_H
+#define RYCRIBBONPAGE_H
+
+#include "recordingpage.h"
+
+/*
+ * Stands in for the ribbon page.
+ */
+class RyCRibbonPage : public RecordingPage
+{
+public:
+    explicit RyCRibbonPage(RyAbstatcManager *manager)
+        : RecordingPage(QStringLiteral("ribbon"), manager)
+    {
+    }
+};
+
+#endif // RYCRIBBONPAGE_H

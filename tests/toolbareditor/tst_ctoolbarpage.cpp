@@ -1,0 +1,664 @@
+// SPDX-License-Identifier: MIT
+
+#include "connections.h"
+#include "layouts.h"
+#include "recordingtranslator.h"
+#include "ryctoolbarwidget.h"
+#include "rytoolbarmanager.h"
+#include "testcase.h"
+#include "ui_ctoolbarpage.h"
+
+#include <QProxyStyle>
+#include <QtTest>
+
+#include <cstddef>
+
+namespace {
+
+// Metrics that nobody would set.
+class LayoutStyle : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        switch (metric) {
+        case PM_LayoutLeftMargin:
+            return 3;
+        case PM_LayoutTopMargin:
+            return 5;
+        case PM_LayoutRightMargin:
+            return 7;
+        case PM_LayoutBottomMargin:
+            return 11;
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+            return 13;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
+// A page with slots of the names that connectSlotsByName() looks for.
+class ListeningPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    int newClicks = 0;
+    int titleChanges = 0;
+
+public Q_SLOTS:
+    void on_newButton_clicked() { ++newClicks; }
+    void on_listening_windowTitleChanged(const QString &) { ++titleChanges; }
+};
+
+struct Form : Ui_CToolBarPage
+{
+    explicit Form(QWidget *page) { setupUi(page); }
+
+    QList<QToolButton *> buttons() const
+    {
+        return {newButton,  removeButton, renameButton, upButton,
+                leftButton, rightButton,  downButton};
+    }
+    QList<QToolButton *> actionButtons() const
+    {
+        return {upButton, leftButton, rightButton, downButton};
+    }
+    QStringList texts(const QWidget *page) const
+    {
+        QStringList all{page->windowTitle(), label->text(), label_2->text()};
+        for (const QToolButton *button : {newButton, removeButton, renameButton})
+            all << button->toolTip() << button->text();
+        all << actionTree->headerItem()->text(0) << label_6->text();
+        for (const QToolButton *button : actionButtons())
+            all << button->toolTip() << button->text();
+        return all;
+    }
+};
+
+const QStringList sourceTexts{
+    QStringLiteral("Display"),
+    QStringLiteral("Actions"),
+    QStringLiteral("Toolbars"),
+    QStringLiteral("Add new toolbar"),
+    QStringLiteral("New"),
+    QStringLiteral("Remove selected toolbar"),
+    QStringLiteral("Remove"),
+    QStringLiteral("Rename toolbar"),
+    QStringLiteral("Rename"),
+    QStringLiteral("1"),
+    QStringLiteral("Current Toolbar Actions"),
+    QStringLiteral("Move action up"),
+    QStringLiteral("Up"),
+    QStringLiteral("Remove action from toolbar"),
+    QStringLiteral("<-"),
+    QStringLiteral("Add action to toolbar"),
+    QStringLiteral("->"),
+    QStringLiteral("Move action down"),
+    QStringLiteral("Down"),
+};
+
+QStringList prefixed(const QString &prefix, const QStringList &texts)
+{
+    QStringList all;
+    for (const QString &text : texts)
+        all << prefix + text;
+    return all;
+}
+
+QImage pixelsOf(const QIcon &icon)
+{
+    return icon.pixmap(22, 22).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+QImage pixelsOf(const QString &image)
+{
+    const QImage pixels(QStringLiteral(":/RyCustomizedDialog/images/%1.png").arg(image));
+    return pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+// Whether changing the text changes what is seen.
+bool showsItsText(QToolButton *button)
+{
+    const QImage before = button->grab().toImage();
+    const QString text = button->text();
+    button->setText(QStringLiteral("M"));
+    const QImage after = button->grab().toImage();
+    button->setText(text);
+    return before != after;
+}
+
+} // namespace
+
+class tst_CToolBarPage : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFieldsStandInOrder();
+    void isAPlainClass();
+
+    void anUnnamedPageIsNamed();
+    void aNamedPageKeepsItsName();
+    void thePageIsResized();
+    void theMembersAreNamedAfterThemselves();
+    void theWidgetsAreCreatedInOrder();
+    void tabPassesTheWidgetsInOrder();
+    void thePageOwnsEverything();
+
+    void theGridHasTheseCells();
+    void theCaptionRowHoldsTheseItems();
+    void theButtonColumnHoldsTheseItems();
+    void theStylesMarginsAndSpacingsApply();
+    void noRowOrColumnIsStretched();
+    void theActionButtonsHaveAFixedHeight();
+    void theCaptionButtonsKeepTheirPolicies();
+    void theSpacerMemberIsTheLastItem();
+    void theActionButtonsStayAtTheTop();
+    void nothingElseIsSet();
+    void nothingIsFilled();
+
+    void theTextsAreThese();
+    void theTextsAreLookedUpInOrder();
+    void everyTextPassesThroughTranslation();
+    void retranslatingResetsTheTexts();
+    void retranslatingTouchesNothingElse();
+    void slotsAreConnectedByNameInTheEnd();
+
+    void theEditorHasNoSlotToConnectByName();
+    void theEditorHidesTheHeader();
+    void theEditorSetsTheIcons_data();
+    void theEditorSetsTheIcons();
+    void theEditorMakesItsIconsAnew();
+    void renameHasNoIcon();
+    void onlyRenameShowsItsText();
+    void theIconsAreShownAtTheStylesSize();
+    void theEditorChangesNothingElseOfTheForm();
+    void retranslatingLeavesTheIcons();
+};
+
+void tst_CToolBarPage::theFieldsStandInOrder()
+{
+    const QList<size_t> offsets{
+        offsetof(Ui_CToolBarPage, gridLayout),         offsetof(Ui_CToolBarPage, label),
+        offsetof(Ui_CToolBarPage, horizontalLayout),   offsetof(Ui_CToolBarPage, label_2),
+        offsetof(Ui_CToolBarPage, newButton),          offsetof(Ui_CToolBarPage, removeButton),
+        offsetof(Ui_CToolBarPage, renameButton),       offsetof(Ui_CToolBarPage, actionTree),
+        offsetof(Ui_CToolBarPage, toolBarList),        offsetof(Ui_CToolBarPage, label_6),
+        offsetof(Ui_CToolBarPage, verticalLayout),     offsetof(Ui_CToolBarPage, upButton),
+        offsetof(Ui_CToolBarPage, leftButton),         offsetof(Ui_CToolBarPage, rightButton),
+        offsetof(Ui_CToolBarPage, downButton),         offsetof(Ui_CToolBarPage, verticalSpacer),
+        offsetof(Ui_CToolBarPage, currentToolBarList),
+    };
+    for (int i = 0; i < offsets.size(); ++i)
+        QCOMPARE(offsets.at(i), i * sizeof(void *));
+    QCOMPARE(sizeof(Ui_CToolBarPage), offsets.size() * sizeof(void *));
+}
+
+void tst_CToolBarPage::isAPlainClass()
+{
+    QVERIFY(std::is_standard_layout_v<Ui_CToolBarPage>);
+    QVERIFY(!std::is_polymorphic_v<Ui_CToolBarPage>);
+    QVERIFY(std::is_trivially_destructible_v<Ui_CToolBarPage>);
+}
+
+void tst_CToolBarPage::anUnnamedPageIsNamed()
+{
+    QWidget page;
+    const Form form(&page);
+    QCOMPARE(page.objectName(), QStringLiteral("CToolBarPage"));
+}
+
+void tst_CToolBarPage::aNamedPageKeepsItsName()
+{
+    QWidget page;
+    page.setObjectName(QStringLiteral("mine"));
+    const Form form(&page);
+    QCOMPARE(page.objectName(), QStringLiteral("mine"));
+}
+
+void tst_CToolBarPage::thePageIsResized()
+{
+    QWidget page;
+    const Form form(&page);
+    QCOMPARE(page.size(), QSize(707, 385));
+}
+
+void tst_CToolBarPage::theMembersAreNamedAfterThemselves()
+{
+    QWidget page;
+    const Form form(&page);
+    QCOMPARE(form.gridLayout->objectName(), QStringLiteral("gridLayout"));
+    QCOMPARE(form.label->objectName(), QStringLiteral("label"));
+    QCOMPARE(form.horizontalLayout->objectName(), QStringLiteral("horizontalLayout"));
+    QCOMPARE(form.label_2->objectName(), QStringLiteral("label_2"));
+    QCOMPARE(form.newButton->objectName(), QStringLiteral("newButton"));
+    QCOMPARE(form.removeButton->objectName(), QStringLiteral("removeButton"));
+    QCOMPARE(form.renameButton->objectName(), QStringLiteral("renameButton"));
+    QCOMPARE(form.actionTree->objectName(), QStringLiteral("actionTree"));
+    QCOMPARE(form.toolBarList->objectName(), QStringLiteral("toolBarList"));
+    QCOMPARE(form.label_6->objectName(), QStringLiteral("label_6"));
+    QCOMPARE(form.verticalLayout->objectName(), QStringLiteral("verticalLayout"));
+    QCOMPARE(form.upButton->objectName(), QStringLiteral("upButton"));
+    QCOMPARE(form.leftButton->objectName(), QStringLiteral("leftButton"));
+    QCOMPARE(form.rightButton->objectName(), QStringLiteral("rightButton"));
+    QCOMPARE(form.downButton->objectName(), QStringLiteral("downButton"));
+    QCOMPARE(form.currentToolBarList->objectName(), QStringLiteral("currentToolBarList"));
+}
+
+// The class names are exact: the tree is a plain one, without drag and drop.
+void tst_CToolBarPage::theWidgetsAreCreatedInOrder()
+{
+    QWidget page;
+    const Form form(&page);
+    const QStringList expected{
+        QStringLiteral("QGridLayout gridLayout"),
+        QStringLiteral("QLabel label"),
+        QStringLiteral("QLabel label_2"),
+        QStringLiteral("QToolButton newButton"),
+        QStringLiteral("QToolButton removeButton"),
+        QStringLiteral("QToolButton renameButton"),
+        QStringLiteral("QTreeWidget actionTree"),
+        QStringLiteral("QListWidget toolBarList"),
+        QStringLiteral("QLabel label_6"),
+        QStringLiteral("QToolButton upButton"),
+        QStringLiteral("QToolButton leftButton"),
+        QStringLiteral("QToolButton rightButton"),
+        QStringLiteral("QToolButton downButton"),
+        QStringLiteral("QListWidget currentToolBarList"),
+    };
+    QCOMPARE(childrenOf(&page), expected);
+    const QStringList layouts{QStringLiteral("QHBoxLayout horizontalLayout"),
+                              QStringLiteral("QVBoxLayout verticalLayout")};
+    QCOMPARE(childrenOf(form.gridLayout), layouts);
+}
+
+void tst_CToolBarPage::tabPassesTheWidgetsInOrder()
+{
+    QWidget page;
+    const Form form(&page);
+    const QStringList expected{
+        QStringLiteral("label"),
+        QStringLiteral("label_2"),
+        QStringLiteral("newButton"),
+        QStringLiteral("removeButton"),
+        QStringLiteral("renameButton"),
+        QStringLiteral("actionTree"),
+        QStringLiteral("toolBarList"),
+        QStringLiteral("label_6"),
+        QStringLiteral("upButton"),
+        QStringLiteral("leftButton"),
+        QStringLiteral("rightButton"),
+        QStringLiteral("downButton"),
+        QStringLiteral("currentToolBarList"),
+    };
+    QCOMPARE(focusChainOf(&page), expected);
+}
+
+void tst_CToolBarPage::thePageOwnsEverything()
+{
+    QPointer<QLayout> layout;
+    QPointer<QTreeWidget> tree;
+    {
+        QWidget page;
+        {
+            const Form form(&page);
+            layout = form.verticalLayout;
+            tree = form.actionTree;
+        }
+        QVERIFY(layout);
+        QVERIFY(tree);
+    }
+    QVERIFY(!layout);
+    QVERIFY(!tree);
+}
+
+void tst_CToolBarPage::theGridHasTheseCells()
+{
+    QWidget page;
+    const Form form(&page);
+    QCOMPARE(page.layout(), form.gridLayout);
+    const QStringList expected{
+        QStringLiteral("label 0,0 1x1"),
+        QStringLiteral("horizontalLayout 0,1 1x2"),
+        QStringLiteral("actionTree 1,0 3x1"),
+        QStringLiteral("toolBarList 1,1 1x2"),
+        QStringLiteral("label_6 2,1 1x2"),
+        QStringLiteral("verticalLayout 3,1 1x1"),
+        QStringLiteral("currentToolBarList 3,2 1x1"),
+    };
+    QCOMPARE(cellsOf(form.gridLayout), expected);
+}
+
+void tst_CToolBarPage::theCaptionRowHoldsTheseItems()
+{
+    QWidget page;
+    const Form form(&page);
+    const QStringList expected{QStringLiteral("label_2"), QStringLiteral("newButton"),
+                               QStringLiteral("removeButton"), QStringLiteral("renameButton")};
+    QCOMPARE(itemsOf(form.horizontalLayout), expected);
+    QCOMPARE(form.horizontalLayout->direction(), QBoxLayout::LeftToRight);
+}
+
+void tst_CToolBarPage::theButtonColumnHoldsTheseItems()
+{
+    QWidget page;
+    const Form form(&page);
+    const QStringList expected{QStringLiteral("upButton"), QStringLiteral("leftButton"),
+                               QStringLiteral("rightButton"), QStringLiteral("downButton"),
+                               QStringLiteral("spacer 20x28 Minimum Expanding")};
+    QCOMPARE(itemsOf(form.verticalLayout), expected);
+    QCOMPARE(form.verticalLayout->direction(), QBoxLayout::TopToBottom);
+}
+
+void tst_CToolBarPage::theStylesMarginsAndSpacingsApply()
+{
+    LayoutStyle style;
+    QWidget page;
+    page.setStyle(&style);
+    const Form form(&page);
+    QCOMPARE(form.gridLayout->contentsMargins(), QMargins(3, 5, 7, 11));
+    QCOMPARE(form.gridLayout->horizontalSpacing(), 13);
+    QCOMPARE(form.gridLayout->verticalSpacing(), 13);
+    for (const QBoxLayout *layout : {static_cast<QBoxLayout *>(form.horizontalLayout),
+                                     static_cast<QBoxLayout *>(form.verticalLayout)}) {
+        QCOMPARE(layout->contentsMargins(), QMargins());
+        QCOMPARE(layout->spacing(), 13);
+    }
+}
+
+void tst_CToolBarPage::noRowOrColumnIsStretched()
+{
+    QWidget page;
+    const Form form(&page);
+    QCOMPARE(form.gridLayout->rowCount(), 4);
+    QCOMPARE(form.gridLayout->columnCount(), 3);
+    for (int row = 0; row < 4; ++row) {
+        QCOMPARE(form.gridLayout->rowStretch(row), 0);
+        QCOMPARE(form.gridLayout->rowMinimumHeight(row), 0);
+    }
+    for (int column = 0; column < 3; ++column) {
+        QCOMPARE(form.gridLayout->columnStretch(column), 0);
+        QCOMPARE(form.gridLayout->columnMinimumWidth(column), 0);
+    }
+}
+
+void tst_CToolBarPage::theActionButtonsHaveAFixedHeight()
+{
+    QWidget page;
+    const Form form(&page);
+    const bool heightForWidth = QToolButton().sizePolicy().hasHeightForWidth();
+    for (const QToolButton *button : form.actionButtons()) {
+        QCOMPARE(textOf(button->sizePolicy()), QStringLiteral("Minimum Fixed"));
+        QCOMPARE(button->sizePolicy().hasHeightForWidth(), heightForWidth);
+    }
+}
+
+void tst_CToolBarPage::theCaptionButtonsKeepTheirPolicies()
+{
+    QWidget page;
+    const Form form(&page);
+    const QSizePolicy policy = QToolButton().sizePolicy();
+    QCOMPARE(form.newButton->sizePolicy(), policy);
+    QCOMPARE(form.removeButton->sizePolicy(), policy);
+    QCOMPARE(form.renameButton->sizePolicy(), policy);
+}
+
+void tst_CToolBarPage::theSpacerMemberIsTheLastItem()
+{
+    QWidget page;
+    const Form form(&page);
+    QCOMPARE(form.verticalLayout->itemAt(4), form.verticalSpacer);
+}
+
+void tst_CToolBarPage::theActionButtonsStayAtTheTop()
+{
+    QWidget page;
+    const Form form(&page);
+    page.show();
+    const QRect low = form.downButton->geometry();
+    const int height = form.upButton->height();
+    const int column = form.verticalLayout->geometry().height();
+    page.resize(707, 1500);
+    QVERIFY(form.verticalLayout->geometry().height() > column);
+    QCOMPARE(form.upButton->y(), form.verticalLayout->geometry().top());
+    QCOMPARE(form.upButton->height(), height);
+    QCOMPARE(form.downButton->height(), low.height());
+    QCOMPARE(form.downButton->y() - form.upButton->y(),
+             3 * (height + form.verticalLayout->spacing()));
+    QCOMPARE(form.verticalSpacer->geometry().bottom(), form.verticalLayout->geometry().bottom());
+}
+
+// Neither sizes nor styles, selections, drags, headers, sorting, status tips or help.
+void tst_CToolBarPage::nothingElseIsSet()
+{
+    QWidget page;
+    const Form form(&page);
+    QWidget fresh;
+    const QStringList labelled{QStringLiteral("objectName"), QStringLiteral("text")};
+    const QStringList named{QStringLiteral("objectName")};
+    for (const QLabel *label : {form.label, form.label_2, form.label_6})
+        QCOMPARE(differingProperties(label, new QLabel(&fresh)), labelled);
+    for (const QToolButton *button : form.buttons()) {
+        QStringList expected{QStringLiteral("objectName"), QStringLiteral("toolTip"),
+                             QStringLiteral("text")};
+        if (form.actionButtons().contains(const_cast<QToolButton *>(button)))
+            expected.insert(1, QStringLiteral("sizePolicy"));
+        QCOMPARE(differingProperties(button, new QToolButton(&fresh)), expected);
+    }
+    const QTreeWidget *const tree = new QTreeWidget(&fresh);
+    QCOMPARE(differingProperties(form.actionTree, tree), named);
+    QCOMPARE(differingProperties(form.actionTree->header(), tree->header()), QStringList());
+    for (const QListWidget *list : {form.toolBarList, form.currentToolBarList})
+        QCOMPARE(differingProperties(list, new QListWidget(&fresh)), named);
+    const QStringList ofPage{QStringLiteral("objectName"), QStringLiteral("windowTitle")};
+    QCOMPARE(differingProperties(&page, &fresh), ofPage);
+}
+
+void tst_CToolBarPage::nothingIsFilled()
+{
+    QWidget page;
+    const Form form(&page);
+    QCOMPARE(form.actionTree->topLevelItemCount(), 0);
+    QCOMPARE(form.toolBarList->count(), 0);
+    QCOMPARE(form.currentToolBarList->count(), 0);
+    for (const QToolButton *button : form.buttons())
+        QVERIFY(button->icon().isNull());
+}
+
+void tst_CToolBarPage::theTextsAreThese()
+{
+    QWidget page;
+    const Form form(&page);
+    QCOMPARE(form.texts(&page), sourceTexts);
+}
+
+void tst_CToolBarPage::theTextsAreLookedUpInOrder()
+{
+    RecordingTranslator translator;
+    QWidget page;
+    Form form(&page);
+    const QStringList expected = prefixed(QStringLiteral("CToolBarPage: "), sourceTexts);
+    QCOMPARE(translator.takeLookUps(), expected);
+    form.retranslateUi(&page);
+    QCOMPARE(translator.takeLookUps(), expected);
+}
+
+void tst_CToolBarPage::everyTextPassesThroughTranslation()
+{
+    RecordingTranslator translator;
+    QWidget page;
+    const Form form(&page);
+    QCOMPARE(form.texts(&page), prefixed(QStringLiteral("translated "), sourceTexts));
+}
+
+void tst_CToolBarPage::retranslatingResetsTheTexts()
+{
+    QWidget page;
+    Form form(&page);
+    const QString other = QStringLiteral("other");
+    page.setWindowTitle(other);
+    form.actionTree->headerItem()->setText(0, other);
+    for (QLabel *label : {form.label, form.label_2, form.label_6})
+        label->setText(other);
+    for (QToolButton *button : form.buttons()) {
+        button->setText(other);
+        button->setToolTip(other);
+    }
+    form.retranslateUi(&page);
+    QCOMPARE(form.texts(&page), sourceTexts);
+}
+
+void tst_CToolBarPage::retranslatingTouchesNothingElse()
+{
+    QWidget page;
+    Form form(&page);
+    form.toolBarList->addItem(QStringLiteral("row"));
+    new QTreeWidgetItem(form.actionTree, QStringList{QStringLiteral("item")});
+    form.upButton->setIcon(QIcon(QStringLiteral(":/RyCustomizedDialog/images/up.png")));
+    form.upButton->setStatusTip(QStringLiteral("tip"));
+    form.upButton->setWhatsThis(QStringLiteral("help"));
+    form.upButton->setFixedHeight(40);
+    form.newButton->setEnabled(false);
+    page.resize(800, 600);
+    const qint64 icon = form.upButton->icon().cacheKey();
+    const QStringList before = propertiesBelow(&page);
+    form.retranslateUi(&page);
+    QCOMPARE(propertiesBelow(&page), before);
+    QCOMPARE(form.upButton->icon().cacheKey(), icon);
+    QCOMPARE(form.toolBarList->count(), 1);
+    QCOMPARE(form.actionTree->topLevelItemCount(), 1);
+}
+
+void tst_CToolBarPage::slotsAreConnectedByNameInTheEnd()
+{
+    ListeningPage page;
+    page.setObjectName(QStringLiteral("listening"));
+    const Form form(&page);
+    QCOMPARE(page.titleChanges, 0);
+    form.newButton->click();
+    QCOMPARE(page.newClicks, 1);
+    page.setWindowTitle(QStringLiteral("other"));
+    QCOMPARE(page.titleChanges, 1);
+}
+
+void tst_CToolBarPage::theEditorHasNoSlotToConnectByName()
+{
+    const QMetaObject &metaObject = RyCToolBarWidget::staticMetaObject;
+    for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)
+        QVERIFY2(!metaObject.method(i).name().startsWith("on_"), metaObject.method(i).name());
+}
+
+void tst_CToolBarPage::theEditorHidesTheHeader()
+{
+    RyToolBarManager manager;
+    RyCToolBarWidget editor(nullptr, &manager, Qt::WindowFlags());
+    editor.show();
+    const QTreeWidget *const tree = editor.findChild<QTreeWidget *>();
+    QCOMPARE(tree->columnCount(), 1);
+    QVERIFY(tree->header()->isHidden());
+    QVERIFY(!tree->header()->isVisible());
+}
+
+void tst_CToolBarPage::theEditorSetsTheIcons_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("image");
+    QTest::newRow("up") << QStringLiteral("upButton") << QStringLiteral("up");
+    QTest::newRow("down") << QStringLiteral("downButton") << QStringLiteral("down");
+    QTest::newRow("left") << QStringLiteral("leftButton") << QStringLiteral("back");
+    QTest::newRow("right") << QStringLiteral("rightButton") << QStringLiteral("forward");
+    QTest::newRow("new") << QStringLiteral("newButton") << QStringLiteral("plus");
+    QTest::newRow("remove") << QStringLiteral("removeButton") << QStringLiteral("minus");
+}
+
+void tst_CToolBarPage::theEditorSetsTheIcons()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, image);
+    const RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
+    const QIcon icon = editor.findChild<QToolButton *>(button)->icon();
+    QCOMPARE(pixelsOf(icon).size(), QSize(22, 22));
+    QCOMPARE(pixelsOf(icon), pixelsOf(image));
+    QCOMPARE(icon.availableSizes(), QList<QSize>{QSize(22, 22)});
+}
+
+void tst_CToolBarPage::theEditorMakesItsIconsAnew()
+{
+    const RyCToolBarWidget first(nullptr, nullptr, Qt::WindowFlags());
+    const RyCToolBarWidget second(nullptr, nullptr, Qt::WindowFlags());
+    const QString name = QStringLiteral("upButton");
+    QVERIFY(first.findChild<QToolButton *>(name)->icon().cacheKey()
+            != second.findChild<QToolButton *>(name)->icon().cacheKey());
+}
+
+void tst_CToolBarPage::renameHasNoIcon()
+{
+    const RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
+    const auto button = editor.findChild<QToolButton *>(QStringLiteral("renameButton"));
+    QVERIFY(button->icon().isNull());
+}
+
+void tst_CToolBarPage::onlyRenameShowsItsText()
+{
+    RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
+    editor.show();
+    QStringList showing;
+    for (QToolButton *button : editor.findChildren<QToolButton *>()) {
+        if (button->parentWidget() == &editor && showsItsText(button))
+            showing << button->objectName();
+    }
+    QCOMPARE(showing, QStringList{QStringLiteral("renameButton")});
+}
+
+void tst_CToolBarPage::theIconsAreShownAtTheStylesSize()
+{
+    const RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
+    const auto buttons =
+        editor.findChildren<QToolButton *>(QRegularExpression(QStringLiteral("Button$")));
+    QCOMPARE(buttons.size(), 7);
+    for (const QToolButton *button : buttons) {
+        QCOMPARE(button->toolButtonStyle(), Qt::ToolButtonIconOnly);
+        QCOMPARE(button->iconSize(), QToolButton().iconSize());
+    }
+}
+
+void tst_CToolBarPage::theEditorChangesNothingElseOfTheForm()
+{
+    QWidget page;
+    const Form form(&page);
+    const RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
+    for (const QToolButton *button : form.buttons()) {
+        const auto completed = editor.findChild<QToolButton *>(button->objectName());
+        // The property of the icon never compares equal.
+        const QStringList differing = differingProperties(completed, button);
+        QVERIFY2(differing.isEmpty() || differing == QStringList{QStringLiteral("icon")},
+                 qPrintable(differing.join(QLatin1Char(' '))));
+    }
+    const QStringList lists{QStringLiteral("toolBarList"), QStringLiteral("currentToolBarList")};
+    for (const QString &name : lists)
+        QCOMPARE(differingProperties(editor.findChild<QListWidget *>(name),
+                                     page.findChild<QListWidget *>(name)),
+                 QStringList());
+    QCOMPARE(differingProperties(editor.findChild<QTreeWidget *>(), form.actionTree),
+             QStringList{QStringLiteral("headerHidden")});
+}
+
+void tst_CToolBarPage::retranslatingLeavesTheIcons()
+{
+    QWidget page;
+    Form form(&page);
+    for (QToolButton *button : form.actionButtons())
+        button->setIcon(QIcon(QStringLiteral(":/RyCustomizedDialog/images/plus.png")));
+    form.retranslateUi(&page);
+    for (const QToolButton *button : form.actionButtons())
+        QCOMPARE(pixelsOf(button->icon()), pixelsOf(QStringLiteral("plus")));
+    QVERIFY(form.renameButton->icon().isNull());
+}
+
+QTEST_MAIN(tst_CToolBarPage)
+
+#include "tst_ctoolbarpage.moc"

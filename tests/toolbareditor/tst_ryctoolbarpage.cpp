@@ -1,0 +1,277 @@
+// SPDX-License-Identifier: MIT
+
+#include "editorviews.h"
+#include "host.h"
+#include "recordingtranslator.h"
+#include "ryctoolbarpage.h"
+#include "ryctoolbarwidget.h"
+#include "testcase.h"
+#include "texts.h"
+
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+// A host with one default toolbar, which holds other actions than it did when it was registered.
+struct ChangedHost : Host
+{
+    ChangedHost()
+    {
+        file = defaultToolBar(QStringLiteral("file"),
+                              {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
+                              QStringLiteral("File"));
+        manager.setToolBar(file, list({QStringLiteral("save")}));
+    }
+
+    QToolBar *file;
+};
+
+const QStringList defaultContent{QStringLiteral("open"), QStringLiteral("|"),
+                                 QStringLiteral("save")};
+const QStringList changedContent{QStringLiteral("save")};
+const QStringList defaultRows{QStringLiteral("Open"), QStringLiteral("< S E P A R A T O R >"),
+                              QStringLiteral("Save")};
+const QStringList changedRows{QStringLiteral("Save")};
+
+} // namespace
+
+class tst_RyCToolBarPage : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isAPage();
+    void isNamedToolBar();
+    void itsNameIsLookedUpAtEachCall();
+    void createPageReturnsAnEditor();
+    void theEditorShowsWhatTheManagerHolds();
+    void createPageFillsNothing();
+    void applyWritesTheWorkingCopy();
+    void finishDoesNothing();
+    void restoreDefaultsResetsTheWorkingCopyOnly();
+    void restoreDefaultsThenApplyResetsTheHost();
+    void applyTwiceWritesTwice();
+    void aSecondCreatePageMakesTheEditorThatTheButtonsReach();
+    void theFirstEditorOutlivesTheSecond();
+    void withANullManagerTheEditorStaysEmpty();
+    void withANullManagerApplyDoesNothing();
+    void theEditorWorksWithoutItsPage();
+    void onceTheEditorIsGoneTheHostIsLeftAlone();
+};
+
+void tst_RyCToolBarPage::isAPage()
+{
+    QVERIFY((std::is_base_of_v<RyCusInterface, RyCToolBarPage>));
+    QVERIFY((std::is_constructible_v<RyCToolBarPage, RyAbstatcManager *>));
+}
+
+void tst_RyCToolBarPage::isNamedToolBar()
+{
+    const RyCToolBarPage page(nullptr);
+    QCOMPARE(page.name(), QStringLiteral("ToolBar"));
+}
+
+void tst_RyCToolBarPage::itsNameIsLookedUpAtEachCall()
+{
+    const RyCToolBarPage page(nullptr);
+    RecordingTranslator translator;
+    QCOMPARE(page.name(), QStringLiteral("translated ToolBar"));
+    QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("RyCToolBarPage: ToolBar")});
+    page.name();
+    QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("RyCToolBarPage: ToolBar")});
+}
+
+void tst_RyCToolBarPage::createPageReturnsAnEditor()
+{
+    QWidget parent;
+    RyCToolBarPage page(nullptr);
+    const QWidget *const widget = page.createPage(&parent);
+    QCOMPARE(widget->metaObject(), &RyCToolBarWidget::staticMetaObject);
+    QCOMPARE(widget->parentWidget(), &parent);
+    QCOMPARE(parent.findChildren<RyCToolBarWidget *>().size(), 1);
+}
+
+void tst_RyCToolBarPage::theEditorShowsWhatTheManagerHolds()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    widget->show();
+    const EditorViews editor(widget.get());
+    QCOMPARE(rowsOf(editor.toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(editor.currentToolBarList), changedRows);
+}
+
+void tst_RyCToolBarPage::createPageFillsNothing()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    const EditorViews editor(widget.get());
+    QCOMPARE(rowsOf(editor.toolBarList), QStringList());
+    QCOMPARE(itemsOf(editor.actionTree), QStringList());
+}
+
+void tst_RyCToolBarPage::applyWritesTheWorkingCopy()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    widget->show();
+    const EditorViews editor(widget.get());
+    editor.doubleClick(editor.actionTree, QStringLiteral("Open"));
+    QCOMPARE(standingOn(host.file), changedContent);
+    page.apply();
+    const QStringList written{QStringLiteral("save"), QStringLiteral("open")};
+    QCOMPARE(standingOn(host.file), written);
+    QCOMPARE(contentOf(host.manager.toolBarsActions().value(host.file)), written);
+}
+
+void tst_RyCToolBarPage::finishDoesNothing()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    page.finish();
+    widget->show();
+    const EditorViews editor(widget.get());
+    editor.doubleClick(editor.actionTree, QStringLiteral("Open"));
+    const QStringList rows = rowsOf(editor.currentToolBarList);
+    const QStringList buttons = editor.enabledButtons();
+    page.finish();
+    QCOMPARE(standingOn(host.file), changedContent);
+    QCOMPARE(rowsOf(editor.currentToolBarList), rows);
+    QCOMPARE(editor.enabledButtons(), buttons);
+    QVERIFY(widget->isVisible());
+}
+
+void tst_RyCToolBarPage::restoreDefaultsResetsTheWorkingCopyOnly()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    widget->show();
+    const EditorViews editor(widget.get());
+    page.RestorDefaults();
+    QCOMPARE(rowsOf(editor.currentToolBarList), defaultRows);
+    QCOMPARE(standingOn(host.file), changedContent);
+}
+
+void tst_RyCToolBarPage::restoreDefaultsThenApplyResetsTheHost()
+{
+    ChangedHost host;
+    QToolBar *const custom = host.manager.createToolBar(QStringLiteral("Mine"));
+    const QPointer<QToolBar> guard = custom;
+    RyCToolBarPage page(&host.manager);
+    const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    widget->show();
+    page.RestorDefaults();
+    QVERIFY(guard);
+    page.apply();
+    QCOMPARE(standingOn(host.file), defaultContent);
+    QVERIFY(!host.manager.toolBarsActions().contains(custom));
+}
+
+void tst_RyCToolBarPage::applyTwiceWritesTwice()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    widget->show();
+    for (int i = 0; i < 2; ++i) {
+        host.file->setWindowTitle(QStringLiteral("Renamed by the host"));
+        host.manager.setToolBar(host.file, {});
+        page.apply();
+        QCOMPARE(host.file->windowTitle(), QStringLiteral("File"));
+        QCOMPARE(standingOn(host.file), changedContent);
+    }
+}
+
+void tst_RyCToolBarPage::aSecondCreatePageMakesTheEditorThatTheButtonsReach()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    QWidget parent;
+    QWidget *const first = page.createPage(&parent);
+    QWidget *const second = page.createPage(&parent);
+    parent.show();
+    page.RestorDefaults();
+    QCOMPARE(rowsOf(EditorViews(first).currentToolBarList), changedRows);
+    QCOMPARE(rowsOf(EditorViews(second).currentToolBarList), defaultRows);
+    page.apply();
+    QCOMPARE(standingOn(host.file), defaultContent);
+}
+
+void tst_RyCToolBarPage::theFirstEditorOutlivesTheSecond()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    QWidget parent;
+    const QPointer<QWidget> first = page.createPage(&parent);
+    QWidget *const second = page.createPage(&parent);
+    parent.show();
+    delete second;
+    QVERIFY(first);
+    page.RestorDefaults();
+    page.apply();
+    QCOMPARE(rowsOf(EditorViews(first).currentToolBarList), changedRows);
+    QCOMPARE(standingOn(host.file), changedContent);
+}
+
+void tst_RyCToolBarPage::withANullManagerTheEditorStaysEmpty()
+{
+    RyCToolBarPage page(nullptr);
+    const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    widget->show();
+    const EditorViews editor(widget.get());
+    QCOMPARE(itemsOf(editor.actionTree), QStringList());
+    QCOMPARE(rowsOf(editor.toolBarList), QStringList());
+    QCOMPARE(rowsOf(editor.currentToolBarList), QStringList());
+}
+
+void tst_RyCToolBarPage::withANullManagerApplyDoesNothing()
+{
+    RyCToolBarPage page(nullptr);
+    const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    page.apply();
+    widget->show();
+    page.apply();
+    page.finish();
+    QCOMPARE(rowsOf(EditorViews(widget.get()).toolBarList), QStringList());
+}
+
+void tst_RyCToolBarPage::theEditorWorksWithoutItsPage()
+{
+    ChangedHost host;
+    std::unique_ptr<QWidget> widget;
+    {
+        RyCToolBarPage page(&host.manager);
+        widget.reset(page.createPage(nullptr));
+        widget->show();
+    }
+    const EditorViews editor(widget.get());
+    editor.doubleClick(editor.actionTree, QStringLiteral("Open"));
+    QVERIFY(QMetaObject::invokeMethod(widget.get(), "applyClicked"));
+    const QStringList written{QStringLiteral("save"), QStringLiteral("open")};
+    QCOMPARE(standingOn(host.file), written);
+}
+
+void tst_RyCToolBarPage::onceTheEditorIsGoneTheHostIsLeftAlone()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    std::unique_ptr<QWidget> widget(page.createPage(nullptr));
+    widget->show();
+    page.RestorDefaults();
+    widget.reset();
+    page.apply();
+    page.RestorDefaults();
+    page.finish();
+    QCOMPARE(standingOn(host.file), changedContent);
+}
+
+QTEST_MAIN(tst_RyCToolBarPage)
+
+#include "tst_ryctoolbarpage.moc"
