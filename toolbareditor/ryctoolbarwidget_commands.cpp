@@ -66,7 +66,10 @@ void RyCToolBarWidget::removeToolBar(ToolBarItem *item)
 void RyCToolBarWidget::renameClicked()
 {
     QListWidgetItem *const row = m_listItemOfRecord.value(m_currentRecord);
-    if (row && row->flags().testFlag(Qt::ItemIsEditable))
+    if (!row || !row->flags().testFlag(Qt::ItemIsEditable))
+        return;
+    // Qt warns of a second editor; the open one is the row's widget meanwhile.
+    if (!ui->toolBarList->itemWidget(row))
         ui->toolBarList->editItem(row);
 }
 

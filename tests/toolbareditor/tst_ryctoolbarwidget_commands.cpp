@@ -1,0 +1,1193 @@
+// SPDX-License-Identifier: MIT
+
+#include "host.h"
+#include "showneditor.h"
+#include "testcase.h"
+#include "texts.h"
+#include "toolbaritem.h"
+#include "translations.h"
+
+#include <QLineEdit>
+#include <QRandomGenerator>
+#include <QtTest>
+
+namespace {
+
+const QString Separator = QStringLiteral("< S E P A R A T O R >");
+const QString NewName = QStringLiteral("Custom Toolbar");
+
+// A default toolbar, two custom ones and two actions that stand on none.
+void fillHost(Host &host)
+{
+    host.defaultToolBar(QStringLiteral("file"),
+                        {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
+                        QStringLiteral("Files"));
+    for (const char *name : {"copy", "cut", "paste", "undo", "zoom"})
+        host.registered(QLatin1String(name), QStringLiteral("Edits"));
+    customToolBar(host, QStringLiteral("Mine"),
+                  {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
+    customToolBar(host, QStringLiteral("Tools"), {QStringLiteral("|"), QStringLiteral("cut")});
+}
+
+// The rest of the host's toolbars with the one of the title in the given state.
+QStringList withMine(const QString &mine)
+{
+    return {QStringLiteral("File: open | save"), mine, QStringLiteral("Tools: | cut")};
+}
+
+QListWidgetItem *addForeignRow(QListWidget *list)
+{
+    return new QListWidgetItem(QStringLiteral("Foreign"), list);
+}
+
+} // namespace
+
+class tst_RyCToolBarWidget_Commands : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newMakesAnEmptyCurrentToolBar();
+    void newNamesInTheUsersLanguage();
+    void newKeepsTheListSorted();
+    void newOpensTheEditorOfTheName();
+    void newLeavesNoToolBarCurrentForAMoment();
+    void newTwiceMakesTwoToolBarsOfOneName();
+    void newAgainKeepsTheNameThatWasBeingTyped();
+    void newDoesNotTouchTheHost();
+
+    void removeMakesTheNextToolBarCurrent_data();
+    void removeMakesTheNextToolBarCurrent();
+    void removingTheOnlyToolBarLeavesNoneCurrent();
+    void removingANewToolBarLeavesNothing();
+    void removingAnExistingToolBarKeepsItForTheApply();
+    void removingWhileTheNameIsEdited();
+    void removeWithoutACurrentRowDoesNothing();
+    void removeOfAForeignRowDoesNothing();
+    void aDefaultToolBarCannotBeRemoved();
+    void anUnknownRecordCannotBeRemoved_data();
+    void anUnknownRecordCannotBeRemoved();
+    void removingAToolBarThatIsNotCurrentKeepsTheCurrentOne();
+    void isDefaultToolBarTellsByTheToolBar();
+
+    void renameOpensTheEditorOfTheName();
+    void renameWithoutACurrentToolBarDoesNothing();
+    void aDefaultToolBarCannotBeRenamed();
+    void renameWhileTheEditorIsOpenKeepsItOpen();
+    void everyNameIsAccepted_data();
+    void everyNameIsAccepted();
+    void aRenamedToolBarIsSortedAndStaysCurrent();
+    void escapeKeepsTheOldName();
+    void losingTheFocusKeepsTheNewName();
+    void anotherRowCanBeRenamed();
+    void aRenameWithoutACurrentToolBarIsIgnored();
+    void aRenameOfAForeignRowIsIgnored();
+    void changesOfARowThatAreNoRenameAreHarmless();
+    void renamingDoesNotTouchTheHost();
+    void hidingWhileTheNameIsEditedDiscardsIt();
+
+    void upMovesTheEntry_data();
+    void upMovesTheEntry();
+    void downMovesTheEntry_data();
+    void downMovesTheEntry();
+    void movingWithoutACurrentEntryDoesNothing();
+    void upAndDownStopAtTheEnds();
+    void movingTakesSeparatorsAlong();
+
+    void leftRemovesTheEntry_data();
+    void leftRemovesTheEntry();
+    void aDoubleClickOnAnEntryRemovesIt();
+    void leftWithoutACurrentEntryDoesNothing();
+    void leftEmptiesTheToolBarAtTheEnd();
+
+    void rightAddsAnAction_data();
+    void rightAddsAnAction();
+    void aDoubleClickOnAnActionAddsIt();
+    void aDoubleClickOnTheSeparatorEntryAddsOne();
+    void aDoubleClickOnACategoryAddsNothing();
+    void rightWithoutAnActionDoesNothing_data();
+    void rightWithoutAnActionDoesNothing();
+    void rightWithoutACurrentToolBarDoesNothing();
+    void anAddedActionLooksLikeTheAction();
+    void anAddedSeparatorIsPlain();
+    void oneActionStandsOnSeveralToolBars();
+    void separatorsAreAddedAnyNumberOfTimes();
+    void aRemovedActionCanBeAddedAgain();
+
+    void aCommandSetsTheButtons();
+    void noCommandTouchesTheHost();
+    void anyCommandsKeepTheEditorConsistent_data();
+    void anyCommandsKeepTheEditorConsistent();
+
+private:
+    void compare(const ShownEditor &editor, const QStringList &toolBars);
+    void applyAndCompare(Host &host, ShownEditor &editor, const QStringList &toolBars);
+};
+
+// What the working copy and the views hold.
+void tst_RyCToolBarWidget_Commands::compare(const ShownEditor &editor, const QStringList &toolBars)
+{
+    QCOMPARE(editor.workingCopy(), toolBars);
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+// And what then stands on the toolbars of the host.
+void tst_RyCToolBarWidget_Commands::applyAndCompare(Host &host, ShownEditor &editor,
+                                                    const QStringList &toolBars)
+{
+    compare(editor, toolBars);
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), toolBars);
+    compare(editor, toolBars);
+}
+
+void tst_RyCToolBarWidget_Commands::newMakesAnEmptyCurrentToolBar()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.click(editor.views.newButton);
+    QCOMPARE(currentOf(editor.views.toolBarList), NewName);
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
+    const EditorFields fields = EditorFields::of(editor.widget);
+    QCOMPARE(fields.createdRecords, QSet<ToolBarItem *>{fields.currentRecord});
+    QVERIFY(!fields.currentRecord->toolBar());
+    const QListWidgetItem *const row = editor.views.toolBarList->currentItem();
+    QCOMPARE(row->flags(), QListWidgetItem().flags() | Qt::ItemIsEditable);
+    QVERIFY(!row->data(Qt::ForegroundRole).isValid());
+    applyAndCompare(host, editor,
+                    {NewName + QLatin1Char(':'), QStringLiteral("File: open | save"),
+                     QStringLiteral("Mine: cut copy paste"), QStringLiteral("Tools: | cut")});
+}
+
+void tst_RyCToolBarWidget_Commands::newNamesInTheUsersLanguage()
+{
+    const Translations german("RyCToolBarWidget", {{NewName, QStringLiteral("Eigene Leiste")}});
+    Host host;
+    ShownEditor editor(&host.manager);
+    editor.views.click(editor.views.newButton);
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("Eigene Leiste")});
+    applyAndCompare(host, editor, {QStringLiteral("Eigene Leiste:")});
+}
+
+void tst_RyCToolBarWidget_Commands::newKeepsTheListSorted()
+{
+    Host host;
+    fillHost(host);
+    host.defaultToolBar(QStringLiteral("about"), {}, QStringLiteral("Help"));
+    ShownEditor editor(&host.manager);
+    editor.views.click(editor.views.newButton);
+    QCOMPARE(rowsOf(editor.views.toolBarList),
+             QStringList({QStringLiteral("About"), NewName, QStringLiteral("File"),
+                          QStringLiteral("Mine"), QStringLiteral("Tools")}));
+    QCOMPARE(editor.views.toolBarList->currentRow(), 1);
+}
+
+void tst_RyCToolBarWidget_Commands::newOpensTheEditorOfTheName()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.views.click(editor.views.newButton);
+    const QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
+    QVERIFY(name);
+    QCOMPARE(name->text(), NewName);
+    editor.views.typeName(QStringLiteral("Zebra"));
+    QCOMPARE(rowsOf(editor.views.toolBarList),
+             QStringList({QStringLiteral("File"), QStringLiteral("Mine"), QStringLiteral("Tools"),
+                          QStringLiteral("Zebra")}));
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Zebra"));
+    applyAndCompare(host, editor,
+                    {QStringLiteral("File: open | save"), QStringLiteral("Mine: cut copy paste"),
+                     QStringLiteral("Tools: | cut"), QStringLiteral("Zebra:")});
+}
+
+// The row becomes current before it is known.
+void tst_RyCToolBarWidget_Commands::newLeavesNoToolBarCurrentForAMoment()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QVERIFY(editor.views.rightButton->isEnabled());
+    QStringList seen;
+    const QObject watching;
+    connect(editor.views.toolBarList, &QListWidget::currentItemChanged, &watching,
+            [&seen, &editor](const QListWidgetItem *current) {
+                const EditorFields fields = EditorFields::of(editor.widget);
+                seen << current->text()
+                     << rowsOf(editor.views.currentToolBarList).join(QLatin1Char(' '))
+                     << editor.views.enabledButtons().join(QLatin1Char(' '))
+                     << (fields.currentRecord ? QStringLiteral("current") : QString());
+            });
+    editor.views.click(editor.views.newButton);
+    QCOMPARE(seen.mid(0, 4),
+             QStringList({NewName, QString(), QStringLiteral("newButton removeButton renameButton"),
+                          QString()}));
+    QVERIFY(editor.views.rightButton->isEnabled());
+    QVERIFY(EditorFields::of(editor.widget).currentRecord);
+}
+
+void tst_RyCToolBarWidget_Commands::newTwiceMakesTwoToolBarsOfOneName()
+{
+    Host host;
+    ShownEditor editor(&host.manager);
+    editor.views.click(editor.views.newButton);
+    QVERIFY(editor.views.renameEditor());
+    QListWidgetItem *const first = editor.views.toolBarList->currentItem();
+    editor.views.click(editor.views.newButton);
+    QListWidgetItem *const second = editor.views.toolBarList->currentItem();
+    QVERIFY(first != second);
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({NewName, NewName}));
+    // The first editor is gone, the open one is of the second row.
+    QTRY_COMPARE(editor.views.toolBarList->viewport()->findChildren<QLineEdit *>().size(), 1);
+    QCOMPARE(editor.views.toolBarList->itemWidget(second), editor.views.renameEditor());
+    QVERIFY(!editor.views.toolBarList->itemWidget(first));
+    editor.views.typeName(QStringLiteral("Other"));
+    QCOMPARE(first->text(), NewName);
+    QCOMPARE(second->text(), QStringLiteral("Other"));
+    applyAndCompare(host, editor, {NewName + QLatin1Char(':'), QStringLiteral("Other:")});
+}
+
+void tst_RyCToolBarWidget_Commands::newAgainKeepsTheNameThatWasBeingTyped()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.views.click(editor.views.newButton);
+    QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
+    QVERIFY(name);
+    name->selectAll();
+    QTest::keyClicks(name, QStringLiteral("Zebra"));
+    editor.views.click(editor.views.newButton);
+    QCOMPARE(rowsOf(editor.views.toolBarList),
+             QStringList({NewName, QStringLiteral("File"), QStringLiteral("Mine"),
+                          QStringLiteral("Tools"), QStringLiteral("Zebra")}));
+    QCOMPARE(currentOf(editor.views.toolBarList), NewName);
+    applyAndCompare(host, editor,
+                    {NewName + QLatin1Char(':'), QStringLiteral("File: open | save"),
+                     QStringLiteral("Mine: cut copy paste"), QStringLiteral("Tools: | cut"),
+                     QStringLiteral("Zebra:")});
+}
+
+void tst_RyCToolBarWidget_Commands::newDoesNotTouchTheHost()
+{
+    Host host;
+    fillHost(host);
+    const int before = host.window.findChildren<QToolBar *>().size();
+    ShownEditor editor(&host.manager);
+    editor.views.click(editor.views.newButton);
+    QCOMPARE(host.window.findChildren<QToolBar *>().size(), before);
+    QCOMPARE(host.manager.toolBars().size(), before);
+}
+
+void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent_data()
+{
+    QTest::addColumn<QString>("removed");
+    QTest::addColumn<QString>("current");
+    QTest::addColumn<QStringList>("content");
+    const QStringList open = {QStringLiteral("Open"), Separator, QStringLiteral("Save")};
+    QTest::newRow("first") << "Above"
+                           << "File" << open;
+    QTest::newRow("middle") << "Mine"
+                            << "Tools" << QStringList({Separator, QStringLiteral("Cut")});
+    QTest::newRow("last") << "Tools"
+                          << "Mine"
+                          << QStringList({QStringLiteral("Cut"), QStringLiteral("Copy"),
+                                          QStringLiteral("Paste")});
+}
+
+void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent()
+{
+    QFETCH(QString, removed);
+    QFETCH(QString, current);
+    QFETCH(QStringList, content);
+    Host host;
+    fillHost(host);
+    customToolBar(host, QStringLiteral("Above"), {QStringLiteral("zoom")});
+    ShownEditor editor(&host.manager);
+    QStringList rows = rowsOf(editor.views.toolBarList);
+    QStringList expected = editor.workingCopy();
+    editor.selectToolBar(removed);
+    editor.views.click(editor.views.removeButton);
+    rows.removeOne(removed);
+    QCOMPARE(rowsOf(editor.views.toolBarList), rows);
+    QCOMPARE(currentOf(editor.views.toolBarList), current);
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), content);
+    expected = expected.filter(QRegularExpression(QStringLiteral("^(?!%1)").arg(removed)));
+    QCOMPARE(expected.size(), 3);
+    applyAndCompare(host, editor, expected);
+}
+
+void tst_RyCToolBarWidget_Commands::removingTheOnlyToolBarLeavesNoneCurrent()
+{
+    Host host;
+    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
+    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("cut")});
+    ShownEditor editor(&host.manager);
+    editor.views.click(editor.views.removeButton);
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList());
+    QVERIFY(!editor.views.toolBarList->currentItem());
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
+    QVERIFY(!EditorFields::of(editor.widget).currentRecord);
+    QCOMPARE(editor.views.enabledButtons(),
+             QStringList({QStringLiteral("newButton"), QStringLiteral("removeButton"),
+                          QStringLiteral("renameButton")}));
+    // There is nothing left to remove.
+    editor.views.click(editor.views.removeButton);
+    applyAndCompare(host, editor, {});
+}
+
+void tst_RyCToolBarWidget_Commands::removingANewToolBarLeavesNothing()
+{
+    Host host;
+    fillHost(host);
+    const QStringList before = toolBarsOf(host.manager);
+    const auto toolBars = host.window.findChildren<QToolBar *>();
+    ShownEditor editor(&host.manager);
+    editor.views.click(editor.views.newButton);
+    editor.views.typeName(QStringLiteral("Yours"));
+    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    editor.views.click(editor.views.removeButton);
+    const EditorFields fields = EditorFields::of(editor.widget);
+    QVERIFY(fields.createdRecords.isEmpty());
+    QVERIFY(fields.removedRecords.isEmpty());
+    QCOMPARE(fields.ownedRecords.size(), 3);
+    applyAndCompare(host, editor, before);
+    QCOMPARE(host.window.findChildren<QToolBar *>(), toolBars);
+}
+
+void tst_RyCToolBarWidget_Commands::removingAnExistingToolBarKeepsItForTheApply()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
+    QToolBar *const toolBar = record->toolBar();
+    editor.views.click(editor.views.removeButton);
+    const EditorFields fields = EditorFields::of(editor.widget);
+    QCOMPARE(fields.removedRecords, QSet<ToolBarItem *>{record});
+    QCOMPARE(record->toolBar(), toolBar);
+    QVERIFY(fields.ownedRecords.contains(record));
+    QVERIFY(!fields.workingActions.contains(record));
+    QCOMPARE(fields.recordOfToolBar.value(toolBar), record);
+    QVERIFY(host.manager.toolBars().contains(toolBar));
+}
+
+void tst_RyCToolBarWidget_Commands::removingWhileTheNameIsEdited()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.click(editor.views.renameButton);
+    QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
+    QVERIFY(name);
+    QTest::keyClicks(name, QStringLiteral("Zebra"));
+    editor.views.click(editor.views.removeButton);
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Tools"));
+    applyAndCompare(host, editor,
+                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")});
+}
+
+void tst_RyCToolBarWidget_Commands::removeWithoutACurrentRowDoesNothing()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.views.toolBarList->setCurrentItem(nullptr);
+    QVERIFY(editor.views.removeButton->isEnabled());
+    editor.views.click(editor.views.removeButton);
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::removeOfAForeignRowDoesNothing()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    QListWidgetItem *const foreign = addForeignRow(editor.views.toolBarList);
+    editor.views.toolBarList->setCurrentItem(foreign);
+    editor.views.click(editor.views.removeButton);
+    QCOMPARE(editor.views.toolBarList->count(), 4);
+    delete foreign;
+    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::aDefaultToolBarCannotBeRemoved()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    QVERIFY(!editor.views.removeButton->isEnabled());
+    editor.views.click(editor.views.removeButton);
+    editor.call("removeClicked");
+    ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
+    QVERIFY(QMetaObject::invokeMethod(&editor.widget, "removeToolBar", Qt::DirectConnection,
+                                      Q_ARG(ToolBarItem *, record)));
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("File"));
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::anUnknownRecordCannotBeRemoved_data()
+{
+    QTest::addColumn<QString>("toolBar");
+    QTest::newRow("null") << "null";
+    QTest::newRow("without a toolbar") << "none";
+    QTest::newRow("of a custom toolbar") << "Mine";
+    QTest::newRow("of a default toolbar") << "File";
+}
+
+void tst_RyCToolBarWidget_Commands::anUnknownRecordCannotBeRemoved()
+{
+    QFETCH(QString, toolBar);
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QToolBar *found = nullptr;
+    const auto toolBars = host.manager.toolBars();
+    for (QToolBar *candidate : toolBars) {
+        if (candidate->windowTitle() == toolBar)
+            found = candidate;
+    }
+    ToolBarItem foreign(found, toolBar);
+    ToolBarItem *const record = toolBar == QLatin1String("null") ? nullptr : &foreign;
+    QVERIFY(QMetaObject::invokeMethod(&editor.widget, "removeToolBar", Qt::DirectConnection,
+                                      Q_ARG(ToolBarItem *, record)));
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Mine"));
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::removingAToolBarThatIsNotCurrentKeepsTheCurrentOne()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
+    editor.selectToolBar(QStringLiteral("Tools"));
+    editor.selectEntry(1);
+    QVERIFY(QMetaObject::invokeMethod(&editor.widget, "removeToolBar", Qt::DirectConnection,
+                                      Q_ARG(ToolBarItem *, record)));
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Tools"));
+    QCOMPARE(editor.views.currentToolBarList->currentRow(), 1);
+    applyAndCompare(host, editor,
+                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")});
+}
+
+void tst_RyCToolBarWidget_Commands::isDefaultToolBarTellsByTheToolBar()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    const auto isDefault = [&editor](ToolBarItem *record) {
+        bool result = true;
+        const bool called =
+            QMetaObject::invokeMethod(&editor.widget, "isDefaultToolBar", Qt::DirectConnection,
+                                      Q_RETURN_ARG(bool, result), Q_ARG(ToolBarItem *, record));
+        return called ? QVariant(result) : QVariant();
+    };
+    const auto toolBars = host.manager.toolBars();
+    for (QToolBar *toolBar : toolBars) {
+        ToolBarItem record(toolBar, QString());
+        QCOMPARE(isDefault(&record), QVariant(toolBar->windowTitle() == QLatin1String("File")));
+    }
+    ToolBarItem without(QStringLiteral("File"));
+    QCOMPARE(isDefault(&without), QVariant(false));
+    QCOMPARE(isDefault(nullptr), QVariant(false));
+}
+
+void tst_RyCToolBarWidget_Commands::renameOpensTheEditorOfTheName()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.click(editor.views.renameButton);
+    const QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
+    QVERIFY(name);
+    QCOMPARE(name->text(), QStringLiteral("Mine"));
+    editor.views.typeName(QStringLiteral("Yours"));
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Yours"));
+    applyAndCompare(host, editor,
+                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut"),
+                     QStringLiteral("Yours: cut copy paste")});
+}
+
+void tst_RyCToolBarWidget_Commands::renameWithoutACurrentToolBarDoesNothing()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.views.toolBarList->setCurrentItem(nullptr);
+    QVERIFY(editor.views.renameButton->isEnabled());
+    editor.views.click(editor.views.renameButton);
+    QVERIFY(!editor.views.renameEditor());
+}
+
+void tst_RyCToolBarWidget_Commands::aDefaultToolBarCannotBeRenamed()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    QVERIFY(!editor.views.renameButton->isEnabled());
+    editor.call("renameClicked");
+    QVERIFY(!editor.views.renameEditor());
+    QTest::keyClick(editor.views.toolBarList, Qt::Key_F2);
+    QVERIFY(!editor.views.renameEditor());
+}
+
+void tst_RyCToolBarWidget_Commands::renameWhileTheEditorIsOpenKeepsItOpen()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.click(editor.views.renameButton);
+    QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
+    QVERIFY(name);
+    name->selectAll();
+    QTest::keyClicks(name, QStringLiteral("Yo"));
+    editor.views.click(editor.views.renameButton);
+    QCOMPARE(editor.views.renameEditor(), name);
+    QCOMPARE(name->text(), QStringLiteral("Yo"));
+}
+
+void tst_RyCToolBarWidget_Commands::everyNameIsAccepted_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("empty") << "";
+    QTest::newRow("blanks") << "   ";
+    QTest::newRow("of another custom toolbar") << "Tools";
+    QTest::newRow("of a default toolbar") << "File";
+    QTest::newRow("its own") << "Mine";
+    QTest::newRow("blanks around") << " Mine ";
+    QTest::newRow("ampersand") << "&Mine";
+}
+
+void tst_RyCToolBarWidget_Commands::everyNameIsAccepted()
+{
+    QFETCH(QString, name);
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    const ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
+    editor.views.click(editor.views.renameButton);
+    editor.views.typeName(name);
+    QCOMPARE(record->toolBarName(), name);
+    QCOMPARE(editor.views.toolBarList->currentItem()->text(), name);
+    QStringList expected = withMine(name + QStringLiteral(": cut copy paste"));
+    expected.sort();
+    applyAndCompare(host, editor, expected);
+    QCOMPARE(record->toolBar()->windowTitle(), name);
+}
+
+void tst_RyCToolBarWidget_Commands::aRenamedToolBarIsSortedAndStaysCurrent()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectEntry(1);
+    editor.views.click(editor.views.renameButton);
+    editor.views.typeName(QStringLiteral("Zebra"));
+    QCOMPARE(
+        rowsOf(editor.views.toolBarList),
+        QStringList({QStringLiteral("File"), QStringLiteral("Tools"), QStringLiteral("Zebra")}));
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Zebra"));
+    QCOMPARE(editor.views.currentToolBarList->currentRow(), 1);
+    editor.views.click(editor.views.renameButton);
+    editor.views.typeName(QStringLiteral("Aardvark"));
+    QCOMPARE(
+        rowsOf(editor.views.toolBarList),
+        QStringList({QStringLiteral("Aardvark"), QStringLiteral("File"), QStringLiteral("Tools")}));
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Aardvark"));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Commands::escapeKeepsTheOldName()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.click(editor.views.renameButton);
+    QTest::keyClicks(editor.views.renameEditor(), QStringLiteral("Yours"));
+    QTest::keyClick(editor.views.renameEditor(), Qt::Key_Escape);
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QVERIFY(editor.widget.isVisible());
+    // And it opens again.
+    editor.views.click(editor.views.renameButton);
+    QVERIFY(editor.views.renameEditor());
+    QTest::keyClick(editor.views.renameEditor(), Qt::Key_Escape);
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Mine"));
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::losingTheFocusKeepsTheNewName()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.widget.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&editor.widget));
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.click(editor.views.renameButton);
+    QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
+    QTRY_VERIFY(name && name->hasFocus());
+    name->selectAll();
+    QTest::keyClicks(name, QStringLiteral("Yours"));
+    editor.views.actionTree->setFocus();
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Yours"));
+    applyAndCompare(host, editor,
+                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut"),
+                     QStringLiteral("Yours: cut copy paste")});
+}
+
+void tst_RyCToolBarWidget_Commands::anotherRowCanBeRenamed()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    itemNamed(editor.views.toolBarList, QStringLiteral("Mine"))->setText(QStringLiteral("Above"));
+    QCOMPARE(
+        rowsOf(editor.views.toolBarList),
+        QStringList({QStringLiteral("Above"), QStringLiteral("File"), QStringLiteral("Tools")}));
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("File"));
+    applyAndCompare(host, editor,
+                    {QStringLiteral("Above: cut copy paste"), QStringLiteral("File: open | save"),
+                     QStringLiteral("Tools: | cut")});
+}
+
+void tst_RyCToolBarWidget_Commands::aRenameWithoutACurrentToolBarIsIgnored()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.views.toolBarList->setCurrentItem(nullptr);
+    itemNamed(editor.views.toolBarList, QStringLiteral("Mine"))->setText(QStringLiteral("Zebra"));
+    QCOMPARE(
+        rowsOf(editor.views.toolBarList),
+        QStringList({QStringLiteral("File"), QStringLiteral("Zebra"), QStringLiteral("Tools")}));
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::aRenameOfAForeignRowIsIgnored()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    QListWidgetItem *const foreign = addForeignRow(editor.views.toolBarList);
+    foreign->setText(QStringLiteral("Above"));
+    QCOMPARE(editor.views.toolBarList->row(foreign), 3);
+    delete foreign;
+    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::changesOfARowThatAreNoRenameAreHarmless()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    QListWidgetItem *const row = itemNamed(editor.views.toolBarList, QStringLiteral("Mine"));
+    row->setForeground(Qt::red);
+    row->setToolTip(QStringLiteral("Toolbar"));
+    row->setFlags(Qt::ItemIsEnabled);
+    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::renamingDoesNotTouchTheHost()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QToolBar *const toolBar = EditorFields::of(editor.widget).currentRecord->toolBar();
+    editor.views.click(editor.views.renameButton);
+    editor.views.typeName(QStringLiteral("Yours"));
+    QCOMPARE(toolBar->windowTitle(), QStringLiteral("Mine"));
+    editor.widget.applyClicked();
+    QCOMPARE(toolBar->windowTitle(), QStringLiteral("Yours"));
+}
+
+void tst_RyCToolBarWidget_Commands::hidingWhileTheNameIsEditedDiscardsIt()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.views.click(editor.views.newButton);
+    QTest::keyClicks(editor.views.renameEditor(), QStringLiteral("Yours"));
+    editor.widget.hide();
+    QTRY_VERIFY(!editor.views.renameEditor());
+    editor.widget.show();
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::upMovesTheEntry_data()
+{
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<int>("current");
+    QTest::addColumn<QString>("content");
+    QTest::newRow("first") << 0 << 0 << "Mine: cut copy paste";
+    QTest::newRow("middle") << 1 << 0 << "Mine: copy cut paste";
+    QTest::newRow("last") << 2 << 1 << "Mine: cut paste copy";
+}
+
+void tst_RyCToolBarWidget_Commands::upMovesTheEntry()
+{
+    QFETCH(int, entry);
+    QFETCH(int, current);
+    QFETCH(QString, content);
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectEntry(entry);
+    const QListWidgetItem *const moved = editor.views.currentToolBarList->currentItem();
+    editor.views.click(editor.views.upButton);
+    QCOMPARE(editor.views.currentToolBarList->currentItem(), moved);
+    QCOMPARE(editor.views.currentToolBarList->currentRow(), current);
+    QCOMPARE(editor.views.upButton->isEnabled(), current > 0);
+    QVERIFY(editor.views.downButton->isEnabled());
+    applyAndCompare(host, editor, withMine(content));
+}
+
+void tst_RyCToolBarWidget_Commands::downMovesTheEntry_data()
+{
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<int>("current");
+    QTest::addColumn<QString>("content");
+    QTest::newRow("first") << 0 << 1 << "Mine: copy cut paste";
+    QTest::newRow("middle") << 1 << 2 << "Mine: cut paste copy";
+    QTest::newRow("last") << 2 << 2 << "Mine: cut copy paste";
+}
+
+void tst_RyCToolBarWidget_Commands::downMovesTheEntry()
+{
+    QFETCH(int, entry);
+    QFETCH(int, current);
+    QFETCH(QString, content);
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectEntry(entry);
+    const QListWidgetItem *const moved = editor.views.currentToolBarList->currentItem();
+    editor.views.click(editor.views.downButton);
+    QCOMPARE(editor.views.currentToolBarList->currentItem(), moved);
+    QCOMPARE(editor.views.currentToolBarList->currentRow(), current);
+    QVERIFY(editor.views.upButton->isEnabled());
+    QCOMPARE(editor.views.downButton->isEnabled(), current < 2);
+    applyAndCompare(host, editor, withMine(content));
+}
+
+void tst_RyCToolBarWidget_Commands::movingWithoutACurrentEntryDoesNothing()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectEntry(-1);
+    editor.call("upClicked");
+    editor.call("downClicked");
+    QCOMPARE(editor.views.currentToolBarList->currentRow(), -1);
+    editor.views.toolBarList->setCurrentItem(nullptr);
+    editor.call("upClicked");
+    editor.call("downClicked");
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+// The slots themselves, as the buttons are disabled there.
+void tst_RyCToolBarWidget_Commands::upAndDownStopAtTheEnds()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectEntry(0);
+    editor.call("upClicked");
+    QCOMPARE(editor.views.currentToolBarList->currentRow(), 0);
+    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    editor.selectEntry(2);
+    editor.call("downClicked");
+    QCOMPARE(editor.views.currentToolBarList->currentRow(), 2);
+    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::movingTakesSeparatorsAlong()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectEntry(1);
+    editor.views.click(editor.views.upButton);
+    QCOMPARE(rowsOf(editor.views.currentToolBarList),
+             QStringList({Separator, QStringLiteral("Open"), QStringLiteral("Save")}));
+    editor.views.click(editor.views.downButton);
+    editor.views.click(editor.views.downButton);
+    applyAndCompare(host, editor,
+                    {QStringLiteral("File: open save |"), QStringLiteral("Mine: cut copy paste"),
+                     QStringLiteral("Tools: | cut")});
+}
+
+void tst_RyCToolBarWidget_Commands::leftRemovesTheEntry_data()
+{
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<QString>("current");
+    QTest::addColumn<QString>("content");
+    QTest::newRow("first") << 0 << "Copy"
+                           << "Mine: copy paste";
+    QTest::newRow("middle") << 1 << "Paste"
+                            << "Mine: cut paste";
+    QTest::newRow("last") << 2 << "Copy"
+                          << "Mine: cut copy";
+}
+
+void tst_RyCToolBarWidget_Commands::leftRemovesTheEntry()
+{
+    QFETCH(int, entry);
+    QFETCH(QString, current);
+    QFETCH(QString, content);
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectEntry(entry);
+    editor.views.click(editor.views.leftButton);
+    QCOMPARE(currentOf(editor.views.currentToolBarList), current);
+    applyAndCompare(host, editor, withMine(content));
+}
+
+void tst_RyCToolBarWidget_Commands::aDoubleClickOnAnEntryRemovesIt()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    editor.views.doubleClick(editor.views.currentToolBarList, 1);
+    QCOMPARE(rowsOf(editor.views.currentToolBarList),
+             QStringList({QStringLiteral("Open"), QStringLiteral("Save")}));
+    QCOMPARE(currentOf(editor.views.currentToolBarList), QStringLiteral("Save"));
+    applyAndCompare(host, editor,
+                    {QStringLiteral("File: open save"), QStringLiteral("Mine: cut copy paste"),
+                     QStringLiteral("Tools: | cut")});
+}
+
+void tst_RyCToolBarWidget_Commands::leftWithoutACurrentEntryDoesNothing()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectEntry(-1);
+    editor.call("leftClicked");
+    editor.views.toolBarList->setCurrentItem(nullptr);
+    editor.call("leftClicked");
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::leftEmptiesTheToolBarAtTheEnd()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    for (int i = 0; i < 3; ++i)
+        editor.views.click(editor.views.leftButton);
+    QCOMPARE(editor.views.currentToolBarList->currentRow(), -1);
+    QCOMPARE(editor.views.enabledButtons(),
+             QStringList({QStringLiteral("newButton"), QStringLiteral("removeButton"),
+                          QStringLiteral("renameButton"), QStringLiteral("rightButton")}));
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine:")));
+}
+
+void tst_RyCToolBarWidget_Commands::rightAddsAnAction_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<int>("current");
+    QTest::addColumn<QString>("content");
+    const QString zoom = QStringLiteral("Zoom");
+    const QString cut = QStringLiteral("Cut");
+    const QString copy = QStringLiteral("Copy");
+    const QString paste = QStringLiteral("Paste");
+    const QString unchanged = QStringLiteral("Mine: cut copy paste");
+    QTest::newRow("new after the first") << zoom << 0 << 1 << "Mine: cut zoom copy paste";
+    QTest::newRow("new after the middle") << zoom << 1 << 2 << "Mine: cut copy zoom paste";
+    QTest::newRow("new after the last") << zoom << 2 << 3 << "Mine: cut copy paste zoom";
+    QTest::newRow("new without a current entry") << zoom << -1 << 3 << "Mine: cut copy paste zoom";
+    QTest::newRow("separator after the first") << Separator << 0 << 1 << "Mine: cut | copy paste";
+    QTest::newRow("separator after the last") << Separator << 2 << 3 << "Mine: cut copy paste |";
+    QTest::newRow("separator without a current entry")
+        << Separator << -1 << 3 << "Mine: cut copy paste |";
+    QTest::newRow("its own entry is current, first") << cut << 0 << 0 << unchanged;
+    QTest::newRow("its own entry is current, middle") << copy << 1 << 1 << unchanged;
+    QTest::newRow("its own entry is current, last") << paste << 2 << 2 << unchanged;
+    QTest::newRow("moved down") << cut << 1 << 1 << "Mine: copy cut paste";
+    QTest::newRow("moved to the end") << cut << 2 << 2 << "Mine: copy paste cut";
+    QTest::newRow("moved up") << paste << 0 << 1 << "Mine: cut paste copy";
+    QTest::newRow("moved to where it was") << copy << 0 << 1 << unchanged;
+    QTest::newRow("moved without a current entry") << cut << -1 << 2 << "Mine: copy paste cut";
+}
+
+void tst_RyCToolBarWidget_Commands::rightAddsAnAction()
+{
+    QFETCH(QString, action);
+    QFETCH(int, entry);
+    QFETCH(int, current);
+    QFETCH(QString, content);
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectEntry(entry);
+    editor.selectAction(action);
+    editor.views.click(editor.views.rightButton);
+    QCOMPARE(currentOf(editor.views.currentToolBarList), action);
+    QCOMPARE(editor.views.currentToolBarList->currentRow(), current);
+    // Neither the action nor the toolbar is another one now.
+    QCOMPARE(currentOf(editor.views.actionTree), action);
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Mine"));
+    applyAndCompare(host, editor, withMine(content));
+}
+
+void tst_RyCToolBarWidget_Commands::aDoubleClickOnAnActionAddsIt()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Undo"));
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut zoom undo copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::aDoubleClickOnTheSeparatorEntryAddsOne()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.doubleClick(editor.views.actionTree, Separator);
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut | copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::aDoubleClickOnACategoryAddsNothing()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Edits"));
+    QCOMPARE(currentOf(editor.views.actionTree), QStringLiteral("Edits"));
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::rightWithoutAnActionDoesNothing_data()
+{
+    QTest::addColumn<QString>("treeItem");
+    QTest::newRow("category") << "Edits";
+    QTest::newRow("nothing") << "";
+}
+
+void tst_RyCToolBarWidget_Commands::rightWithoutAnActionDoesNothing()
+{
+    QFETCH(QString, treeItem);
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.actionTree->setCurrentItem(itemNamed(editor.views.actionTree, treeItem));
+    QVERIFY(!editor.views.rightButton->isEnabled());
+    editor.call("rightClicked");
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::rightWithoutACurrentToolBarDoesNothing()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.views.toolBarList->setCurrentItem(nullptr);
+    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    editor.views.doubleClick(editor.views.actionTree, Separator);
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::anAddedActionLooksLikeTheAction()
+{
+    Host host;
+    fillHost(host);
+    QAction *const action = host.action(QStringLiteral("zoom"));
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    action->setIcon(QIcon(pixmap));
+    action->setText(QStringLiteral("&Zoom..."));
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("&Zoom..."));
+    const QListWidgetItem *const entry = editor.views.currentToolBarList->currentItem();
+    QCOMPARE(entry->text(), QStringLiteral("&Zoom..."));
+    QCOMPARE(entry->icon().cacheKey(), action->icon().cacheKey());
+    QCOMPARE(entry->textAlignment(), 0x881);
+}
+
+void tst_RyCToolBarWidget_Commands::anAddedSeparatorIsPlain()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.doubleClick(editor.views.actionTree, Separator);
+    QListWidgetItem *const entry = editor.views.currentToolBarList->currentItem();
+    QCOMPARE(entry->text(), Separator);
+    QVERIFY(entry->icon().isNull());
+    QVERIFY(!entry->data(Qt::TextAlignmentRole).isValid());
+    QCOMPARE(EditorFields::of(editor.widget).actionOfEntry.value(entry, host.action(QString())),
+             nullptr);
+}
+
+void tst_RyCToolBarWidget_Commands::oneActionStandsOnSeveralToolBars()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    for (const char *title : {"File", "Mine", "Tools"}) {
+        editor.selectToolBar(QLatin1String(title));
+        editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    }
+    applyAndCompare(host, editor,
+                    {QStringLiteral("File: open zoom | save"),
+                     QStringLiteral("Mine: cut zoom copy paste"),
+                     QStringLiteral("Tools: | zoom cut")});
+}
+
+void tst_RyCToolBarWidget_Commands::separatorsAreAddedAnyNumberOfTimes()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectAction(Separator);
+    for (int i = 0; i < 3; ++i)
+        editor.views.click(editor.views.rightButton);
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut | | | copy paste")));
+}
+
+void tst_RyCToolBarWidget_Commands::aRemovedActionCanBeAddedAgain()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.doubleClick(editor.views.currentToolBarList, 0);
+    editor.selectEntry(1);
+    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Cut"));
+    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: copy paste cut")));
+}
+
+// Where no other selection changes than the command's own.
+void tst_RyCToolBarWidget_Commands::aCommandSetsTheButtons()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectAction(QStringLiteral("Zoom"));
+    const auto enabled = [&editor](const char *slot) {
+        editor.call(slot);
+        return editor.views.enabledButtons().join(QLatin1Char(' '));
+    };
+    const QString toolBars = QStringLiteral("newButton removeButton renameButton ");
+    QCOMPARE(enabled("downClicked"),
+             toolBars
+                 + QStringLiteral("upButton leftButton rightButton "
+                                  "downButton"));
+    QCOMPARE(enabled("downClicked"), toolBars + QStringLiteral("upButton leftButton rightButton"));
+    QCOMPARE(enabled("upClicked"),
+             toolBars
+                 + QStringLiteral("upButton leftButton rightButton "
+                                  "downButton"));
+    QCOMPARE(enabled("upClicked"), toolBars + QStringLiteral("leftButton rightButton downButton"));
+    QCOMPARE(enabled("leftClicked"),
+             toolBars + QStringLiteral("leftButton rightButton downButton"));
+    QCOMPARE(enabled("rightClicked"),
+             toolBars
+                 + QStringLiteral("upButton leftButton rightButton "
+                                  "downButton"));
+    QCOMPARE(enabled("newClicked"), toolBars + QStringLiteral("rightButton"));
+}
+
+void tst_RyCToolBarWidget_Commands::noCommandTouchesTheHost()
+{
+    Host host;
+    fillHost(host);
+    const QStringList before = toolBarsOf(host.manager);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectAction(QStringLiteral("Zoom"));
+    for (const char *slot : {"rightClicked", "upClicked", "downClicked", "leftClicked",
+                             "newClicked", "rightClicked", "removeClicked", "newClicked"}) {
+        editor.call(slot);
+        QCOMPARE(toolBarsOf(host.manager), before);
+    }
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("removeClicked");
+    editor.selectToolBar(QStringLiteral("Tools"));
+    editor.views.toolBarList->currentItem()->setText(QStringLiteral("Mine"));
+    QCOMPARE(toolBarsOf(host.manager), before);
+}
+
+void tst_RyCToolBarWidget_Commands::anyCommandsKeepTheEditorConsistent_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 8; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void tst_RyCToolBarWidget_Commands::anyCommandsKeepTheEditorConsistent()
+{
+    QFETCH(quint32, seed);
+    const QList<const char *> commands = {
+        "newClicked",   "removeClicked", "renameClicked", "upClicked",     "downClicked",
+        "leftClicked",  "leftClicked",   "rightClicked",  "rightClicked",  "rightClicked",
+        "rightClicked", "applyClicked",  "newClicked",    "defaultClicked"};
+    QRandomGenerator random(seed);
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    const QList<QTreeWidgetItem *> items =
+        editor.views.actionTree->findItems(QString(), Qt::MatchContains | Qt::MatchRecursive);
+    for (int step = 0; step < 300; ++step) {
+        QListWidget *const list = editor.views.toolBarList;
+        QListWidget *const entries = editor.views.currentToolBarList;
+        list->setCurrentRow(random.bounded(-1, list->count()));
+        entries->setCurrentRow(random.bounded(-1, entries->count()));
+        editor.views.actionTree->setCurrentItem(items.at(random.bounded(items.size())));
+        if (list->currentItem() && list->currentItem()->flags().testFlag(Qt::ItemIsEditable))
+            list->currentItem()->setText(QString::number(random.bounded(5)));
+        const char *const command = commands.at(random.bounded(commands.size()));
+        editor.call(command);
+        const QByteArray place = "step " + QByteArray::number(step) + ' ' + command;
+        QVERIFY2(editor.inconsistency().isEmpty(),
+                 (place + ": " + editor.inconsistency().toLocal8Bit()).constData());
+        if (qstrcmp(command, "applyClicked") == 0)
+            QCOMPARE(toolBarsOf(host.manager), editor.workingCopy());
+    }
+}
+
+QTEST_MAIN(tst_RyCToolBarWidget_Commands)
+
+#include "tst_ryctoolbarwidget_commands.moc"

@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: MIT
+
+#include "host.h"
+#include "showneditor.h"
+#include "testcase.h"
+#include "texts.h"
+#include "toolbaritem.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QWindow>
+#include <QtTest>
+
+namespace {
+
+// The show and hide events of a widget, in order.
+class VisibilityRecorder : public QObject
+{
+public:
+    explicit VisibilityRecorder(QWidget *widget) { widget->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        Q_UNUSED(watched);
+        const QString kind =
+            event->spontaneous() ? QStringLiteral("spontaneous ") : QStringLiteral("own ");
+        if (event->type() == QEvent::Show)
+            events << kind + QLatin1String("show");
+        else if (event->type() == QEvent::Hide)
+            events << kind + QLatin1String("hide");
+        return false;
+    }
+
+    QStringList events;
+};
+
+void fillHost(Host &host)
+{
+    host.defaultToolBar(QStringLiteral("file"),
+                        {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
+                        QStringLiteral("Files"));
+    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
+    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("cut")});
+}
+
+// Through the window, so that the focus goes where a click takes it.
+void clickInWindow(QWidget *widget, const QPoint &position)
+{
+    QWidget *const window = widget->window();
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      widget->mapTo(window, position));
+}
+
+void clickInWindow(QWidget *widget)
+{
+    clickInWindow(widget, widget->rect().center());
+}
+
+void typeInWindow(const QWidget *widget, const QString &text)
+{
+    for (const QChar &letter : text)
+        QTest::keyClick(widget->window()->windowHandle(), letter.toLatin1());
+}
+
+QLineEdit *nameEditor(const ShownEditor &editor)
+{
+    return qobject_cast<QLineEdit *>(editor.views.renameEditor());
+}
+
+} // namespace
+
+class tst_RyCToolBarWidget_Window : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theNameOfANewToolBarIsTypedAtOnce();
+    void escapeEndsTheRenaming();
+    void aClickElsewhereEndsTheRenaming_data();
+    void aClickElsewhereEndsTheRenaming();
+    void theButtonsTakeNoFocusFromTheName();
+    void newTwiceTypesTheSecondName();
+    void f2RenamesCustomToolBarsOnly();
+    void minimizingKeepsTheEdits();
+    void minimizingAWindowAroundKeepsTheEdits();
+    void closingTheWindowDiscardsTheEdits();
+
+private:
+    void activate(ShownEditor &editor);
+};
+
+void tst_RyCToolBarWidget_Window::activate(ShownEditor &editor)
+{
+    QVERIFY(QTest::qWaitForWindowExposed(&editor.widget));
+    editor.widget.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&editor.widget));
+}
+
+void tst_RyCToolBarWidget_Window::theNameOfANewToolBarIsTypedAtOnce()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    activate(editor);
+    clickInWindow(editor.views.newButton);
+    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
+    QCOMPARE(nameEditor(editor)->selectedText(), QStringLiteral("Custom Toolbar"));
+    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Return);
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("yours"));
+    QVERIFY(editor.views.toolBarList->hasFocus());
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager),
+             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Mine: cut"),
+                          QStringLiteral("yours:")}));
+}
+
+void tst_RyCToolBarWidget_Window::escapeEndsTheRenaming()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    activate(editor);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    clickInWindow(editor.views.renameButton);
+    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
+    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Escape);
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QVERIFY(editor.widget.isVisible());
+    QCOMPARE(editor.workingCopy(),
+             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Mine: cut")}));
+}
+
+void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming_data()
+{
+    QTest::addColumn<QString>("view");
+    QTest::newRow("action tree") << "actionTree";
+    QTest::newRow("toolbar list") << "toolBarList";
+    QTest::newRow("current toolbar's list") << "currentToolBarList";
+}
+
+void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming()
+{
+    QFETCH(QString, view);
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    activate(editor);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    clickInWindow(editor.views.renameButton);
+    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
+    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    QAbstractItemView *const target = editor.widget.findChild<QAbstractItemView *>(view);
+    // Below the last row.
+    clickInWindow(target->viewport(), target->viewport()->rect().bottomLeft() + QPoint(5, -5));
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QVERIFY(target->hasFocus());
+    QCOMPARE(editor.workingCopy(),
+             QStringList({QStringLiteral("File: open | save"), QStringLiteral("yours: cut")}));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+// So that what they do comes while the name is still open.
+void tst_RyCToolBarWidget_Window::theButtonsTakeNoFocusFromTheName()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    activate(editor);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    clickInWindow(editor.views.renameButton);
+    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
+    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    clickInWindow(editor.views.renameButton);
+    clickInWindow(editor.views.rightButton);
+    QTRY_COMPARE(editor.views.currentToolBarList->count(), 2);
+    QVERIFY(nameEditor(editor)->hasFocus());
+    QCOMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    clickInWindow(editor.views.removeButton);
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Window::newTwiceTypesTheSecondName()
+{
+    Host host;
+    ShownEditor editor(&host.manager);
+    activate(editor);
+    clickInWindow(editor.views.newButton);
+    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
+    typeInWindow(&editor.widget, QStringLiteral("one"));
+    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("one"));
+    clickInWindow(editor.views.newButton);
+    QTRY_COMPARE(editor.views.toolBarList->viewport()->findChildren<QLineEdit *>().size(), 1);
+    QTRY_VERIFY(nameEditor(editor)->hasFocus());
+    typeInWindow(&editor.widget, QStringLiteral("two"));
+    QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Return);
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QCOMPARE(rowsOf(editor.views.toolBarList),
+             QStringList({QStringLiteral("one"), QStringLiteral("two")}));
+    QCOMPARE(editor.workingCopy(), QStringList({QStringLiteral("one:"), QStringLiteral("two:")}));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Window::f2RenamesCustomToolBarsOnly()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    activate(editor);
+    editor.views.toolBarList->setFocus();
+    editor.selectToolBar(QStringLiteral("File"));
+    QTest::keyClick(editor.widget.windowHandle(), Qt::Key_F2);
+    QVERIFY(!editor.views.renameEditor());
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QTest::keyClick(editor.widget.windowHandle(), Qt::Key_F2);
+    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
+    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Return);
+    QTRY_VERIFY(!editor.views.renameEditor());
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("yours"));
+}
+
+void tst_RyCToolBarWidget_Window::minimizingKeepsTheEdits()
+{
+    Host host;
+    fillHost(host);
+    const QStringList before = toolBarsOf(host.manager);
+    ShownEditor editor(&host.manager);
+    activate(editor);
+    editor.selectToolBar(QStringLiteral("File"));
+    editor.call("leftClicked");
+    editor.call("newClicked");
+    editor.views.typeName(QStringLiteral("Yours"));
+    const QStringList edited = editor.workingCopy();
+    QVERIFY(edited != before);
+
+    VisibilityRecorder recorder(&editor.widget);
+    editor.widget.showMinimized();
+    QTRY_COMPARE(recorder.events, QStringList{QStringLiteral("spontaneous hide")});
+    QCOMPARE(editor.workingCopy(), edited);
+    editor.widget.showNormal();
+    QTRY_COMPARE(
+        recorder.events,
+        QStringList({QStringLiteral("spontaneous hide"), QStringLiteral("spontaneous show")}));
+    QVERIFY(QTest::qWaitForWindowExposed(&editor.widget));
+    QCOMPARE(editor.workingCopy(), edited);
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Yours"));
+    QCOMPARE(editor.inconsistency(), QString());
+    QCOMPARE(toolBarsOf(host.manager), before);
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), edited);
+}
+
+// As the dialog around the page.
+void tst_RyCToolBarWidget_Window::minimizingAWindowAroundKeepsTheEdits()
+{
+    Host host;
+    fillHost(host);
+    QWidget window;
+    RyCToolBarWidget *const widget =
+        new RyCToolBarWidget(&window, &host.manager, Qt::WindowFlags());
+    const EditorViews views(widget);
+    window.resize(widget->size());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    views.click(views.toolBarList, QStringLiteral("File"));
+    views.click(views.leftButton);
+    const QStringList content = rowsOf(views.currentToolBarList);
+    QCOMPARE(content.size(), 2);
+
+    VisibilityRecorder recorder(widget);
+    window.showMinimized();
+    QTRY_COMPARE(recorder.events, QStringList{QStringLiteral("spontaneous hide")});
+    window.showNormal();
+    QTRY_COMPARE(
+        recorder.events,
+        QStringList({QStringLiteral("spontaneous hide"), QStringLiteral("spontaneous show")}));
+    QCOMPARE(rowsOf(views.currentToolBarList), content);
+    widget->applyClicked();
+    QCOMPARE(toolBarsOf(host.manager),
+             QStringList({QStringLiteral("File: | save"), QStringLiteral("Mine: cut")}));
+}
+
+void tst_RyCToolBarWidget_Window::closingTheWindowDiscardsTheEdits()
+{
+    Host host;
+    fillHost(host);
+    const QStringList before = toolBarsOf(host.manager);
+    ShownEditor editor(&host.manager);
+    activate(editor);
+    clickInWindow(editor.views.newButton);
+    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
+    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    editor.widget.close();
+    QVERIFY(EditorFields::of(editor.widget).ownedRecords.isEmpty());
+    editor.widget.show();
+    QCOMPARE(editor.workingCopy(), before);
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), before);
+}
+
+QTEST_MAIN(tst_RyCToolBarWidget_Window)
+
+#include "tst_ryctoolbarwidget_window.moc"

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+
+#include "testcase.h"
+#include "toolbaritem.h"
+
+#include <QToolBar>
+#include <QtTest>
+
+#include <type_traits>
+
+class tst_ToolBarItem : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aRecordOfAToolBarHasTheToolBarAndTheName();
+    void theNameIsNotTakenFromTheToolBar();
+    void aRecordOfANameHasNoToolBar();
+    void theToolBarCanBeReplaced();
+    void theNameIsKeptExactly_data();
+    void theNameIsKeptExactly();
+    void theNameIsReturnedAsACopy();
+    void destroyingARecordLeavesTheToolBar();
+    void theClassIsPlain();
+};
+
+void tst_ToolBarItem::aRecordOfAToolBarHasTheToolBarAndTheName()
+{
+    QToolBar toolBar;
+    const ToolBarItem item(&toolBar, QStringLiteral("File"));
+    QCOMPARE(item.toolBar(), &toolBar);
+    QCOMPARE(item.toolBarName(), QStringLiteral("File"));
+
+    const ToolBarItem withoutToolBar(nullptr, QStringLiteral("File"));
+    QCOMPARE(withoutToolBar.toolBar(), nullptr);
+    QCOMPARE(withoutToolBar.toolBarName(), QStringLiteral("File"));
+}
+
+void tst_ToolBarItem::theNameIsNotTakenFromTheToolBar()
+{
+    QToolBar toolBar(QStringLiteral("Title"));
+    ToolBarItem item(&toolBar, QStringLiteral("Name"));
+    QCOMPARE(item.toolBarName(), QStringLiteral("Name"));
+    item.setToolBarName(QStringLiteral("Other"));
+    QCOMPARE(toolBar.windowTitle(), QStringLiteral("Title"));
+}
+
+void tst_ToolBarItem::aRecordOfANameHasNoToolBar()
+{
+    const ToolBarItem item(QStringLiteral("Mine"));
+    QCOMPARE(item.toolBar(), nullptr);
+    QCOMPARE(item.toolBarName(), QStringLiteral("Mine"));
+}
+
+void tst_ToolBarItem::theToolBarCanBeReplaced()
+{
+    QToolBar toolBar;
+    QToolBar other;
+    ToolBarItem item(QStringLiteral("Mine"));
+    item.setToolBar(&toolBar);
+    QCOMPARE(item.toolBar(), &toolBar);
+    item.setToolBar(&other);
+    QCOMPARE(item.toolBar(), &other);
+    item.setToolBar(nullptr);
+    QCOMPARE(item.toolBar(), nullptr);
+    QCOMPARE(item.toolBarName(), QStringLiteral("Mine"));
+}
+
+void tst_ToolBarItem::theNameIsKeptExactly_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("null") << QString();
+    QTest::newRow("empty") << QStringLiteral("");
+    QTest::newRow("blanks") << QStringLiteral("  ");
+    QTest::newRow("blanks around") << QStringLiteral(" My tools ");
+    QTest::newRow("ampersand") << QStringLiteral("&Tools");
+    QTest::newRow("not ASCII") << QString::fromUtf8(
+        "Gr\xC3\xB6\xC3\x9F\x65 \xE2\x80\x94 \xF0\x9F\x98\x80");
+}
+
+void tst_ToolBarItem::theNameIsKeptExactly()
+{
+    QFETCH(QString, name);
+    QToolBar toolBar;
+    QCOMPARE(ToolBarItem(name).toolBarName(), name);
+    QCOMPARE(ToolBarItem(&toolBar, name).toolBarName(), name);
+    ToolBarItem item(&toolBar, QStringLiteral("Mine"));
+    item.setToolBarName(name);
+    QCOMPARE(item.toolBarName(), name);
+    QCOMPARE(item.toolBarName().isNull(), name.isNull());
+    QCOMPARE(item.toolBar(), &toolBar);
+}
+
+void tst_ToolBarItem::theNameIsReturnedAsACopy()
+{
+    static_assert(
+        std::is_same<decltype(std::declval<const ToolBarItem &>().toolBarName()), QString>::value,
+        "by value");
+    ToolBarItem item(QStringLiteral("Mine"));
+    const QString before = item.toolBarName();
+    item.setToolBarName(QStringLiteral("Yours"));
+    QCOMPARE(before, QStringLiteral("Mine"));
+}
+
+void tst_ToolBarItem::destroyingARecordLeavesTheToolBar()
+{
+    QToolBar toolBar;
+    const QPointer<QToolBar> guard(&toolBar);
+    delete new ToolBarItem(&toolBar, QStringLiteral("File"));
+    QVERIFY(guard);
+}
+
+void tst_ToolBarItem::theClassIsPlain()
+{
+    QVERIFY(!std::is_polymorphic<ToolBarItem>::value);
+    QVERIFY(!std::is_default_constructible<ToolBarItem>::value);
+    QCOMPARE(sizeof(ToolBarItem), sizeof(QToolBar *) + sizeof(QString));
+}
+
+QTEST_MAIN(tst_ToolBarItem)
+
+#include "tst_toolbaritem.moc"
