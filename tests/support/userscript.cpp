@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+
+#include "userscript.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QThread>
+#include <QtTest>
+
+namespace {
+
+// Far beyond what a busy machine needs, and short enough to tell which step it was.
+constexpr int patience = 20000;
+
+const QPoint outside(-1, -1);
+
+} // namespace
+
+UserScript::UserScript()
+    : m_index(-1)
+    , m_loopLevel(0)
+{
+    qApp->installEventFilter(this);
+    m_timer.setInterval(1);
+    connect(&m_timer, &QTimer::timeout, this, &UserScript::advance);
+}
+
+UserScript::~UserScript() = default;
+
+void UserScript::step(const QString &name, const std::function<void()> &action,
+                      const std::function<bool()> &done)
+{
+    m_steps.append({name, action, done});
+}
+
+void UserScript::waitFor(const QString &name, const std::function<bool()> &done)
+{
+    step(
+        name, [] {}, done);
+}
+
+void UserScript::act(const std::function<void()> &action)
+{
+    step(QStringLiteral("act"), action, [] { return true; });
+}
+
+void UserScript::moveTo(const std::function<QWidget *()> &widget,
+                        const std::function<QPoint()> &place)
+{
+    const auto target = [=] { return widget()->mapToGlobal(place()); };
+    step(
+        QStringLiteral("move"), [=] { input.moveTo(target()); },
+        [=] { return m_pointer == target(); });
+}
+
+void UserScript::moveTo(QWidget *widget, const QPoint &place)
+{
+    moveTo([widget] { return widget; }, [place] { return place; });
+}
+
+void UserScript::moveOut()
+{
+    step(
+        QStringLiteral("move out"), [this] { input.moveTo(QPoint(0, 0)); },
+        [this] { return m_pointer == outside; });
+}
+
+void UserScript::press(Qt::MouseButton button)
+{
+    step(
+        QStringLiteral("press"), [this, button] { input.press(button); },
+        [button] { return QGuiApplication::mouseButtons().testFlag(button); });
+}
+
+void UserScript::release(Qt::MouseButton button)
+{
+    step(
+        QStringLiteral("release"), [this, button] { input.release(button); },
+        [button] { return !QGuiApplication::mouseButtons().testFlag(button); });
+}
+
+void UserScript::pressKey(Qt::Key key)
+{
+    step(
+        QStringLiteral("press key"), [this, key] { input.pressKey(key); },
+        [this, key] { return m_heldKeys.contains(key); });
+}
+
+void UserScript::releaseKey(Qt::Key key)
+{
+    step(
+        QStringLiteral("release key"), [this, key] { input.releaseKey(key); },
+        [this, key] { return !m_heldKeys.contains(key); });
+}
+
+void UserScript::drop()
+{
+    step(
+        QStringLiteral("drop"), [this] { input.release(); },
+        [this] { return !inNestedLoop() && !QGuiApplication::mouseButtons(); });
+}
+
+void UserScript::cancelDrag()
+{
+    step(
+        QStringLiteral("cancel"), [this] { input.clickKey(Qt::Key_Escape); },
+        [this] { return !inNestedLoop(); });
+}
+
+void UserScript::start()
+{
+    // From a place of no window of ours, so that the first move is one.
+    input.moveTo(QPoint(0, 0));
+    m_index = -1;
+    m_failure.clear();
+    m_pointer = outside;
+    m_timer.start();
+}
+
+QString UserScript::finish()
+{
+    if (m_timer.isActive())
+        m_loop.exec();
+    return m_failure;
+}
+
+QString UserScript::run()
+{
+    start();
+    return finish();
+}
+
+bool UserScript::eventFilter(QObject *object, QEvent *event)
+{
+    if (!object->isWindowType())
+        return false;
+    QWindow *const window = static_cast<QWindow *>(object);
+    switch (event->type()) {
+    // Qt makes no move out of an entry at the place where it saw the pointer last.
+    case QEvent::Enter:
+        m_pointer = static_cast<QEnterEvent *>(event)->globalPos();
+        break;
+    case QEvent::MouseMove:
+        m_pointer = static_cast<QMouseEvent *>(event)->globalPos();
+        break;
+    case QEvent::DragMove:
+        m_pointer = window->mapToGlobal(static_cast<QDropEvent *>(event)->pos());
+        break;
+    case QEvent::DragLeave:
+    case QEvent::Leave:
+        m_pointer = outside;
+        break;
+    case QEvent::KeyPress:
+        m_heldKeys.insert(static_cast<QKeyEvent *>(event)->key());
+        break;
+    case QEvent::KeyRelease:
+        m_heldKeys.remove(static_cast<QKeyEvent *>(event)->key());
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void UserScript::advance()
+{
+    if (m_index >= 0 && !m_steps.at(m_index).done()) {
+        if (m_since.elapsed() > patience)
+            giveUp();
+        return;
+    }
+    if (m_index < 0)
+        m_loopLevel = QThread::currentThread()->loopLevel();
+    ++m_index;
+    m_since.start();
+    if (m_index < m_steps.size())
+        m_steps.at(m_index).action();
+    else
+        end();
+}
+
+bool UserScript::inNestedLoop() const
+{
+    return QThread::currentThread()->loopLevel() > m_loopLevel;
+}
+
+// Ends what the test is in, so that it can fail.
+void UserScript::giveUp()
+{
+    m_failure = QStringLiteral("step %1, %2, was not done; last seen at %3, %4")
+                    .arg(QString::number(m_index + 1), m_steps.at(m_index).name,
+                         QString::number(m_pointer.x()), QString::number(m_pointer.y()));
+    end();
+    input.releaseAll();
+    input.clickKey(Qt::Key_Escape);
+    if (QWidget *const dialog = QApplication::activeModalWidget())
+        dialog->close();
+}
+
+void UserScript::end()
+{
+    m_timer.stop();
+    m_steps.clear();
+    m_loop.quit();
+}
+
+bool waitUntilSettled(QWidget *window)
+{
+    const RealInput input;
+    return QTest::qWaitForWindowActive(window) && QTest::qWaitFor([&] {
+               return window->windowHandle()->mapToGlobal(QPoint())
+                   == input.positionOf(window->windowHandle());
+           });
+}

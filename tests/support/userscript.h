@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef USERSCRIPT_H
+#define USERSCRIPT_H
+
+#include "realinput.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QList>
+#include <QObject>
+#include <QPoint>
+#include <QSet>
+#include <QTimer>
+
+#include <functional>
+
+class QWidget;
+
+/*
+ * What a user does, step by step, with the real pointer and keyboard. Each step waits for what Qt
+ * makes of it before the next begins. The steps are taken from a timer, so that they go on inside a
+ * drag or a modal dialog, whose event loop runs below the one that started it.
+ */
+class UserScript : public QObject
+{
+    Q_OBJECT
+
+public:
+    UserScript();
+    ~UserScript() override;
+
+    // Steps of the test's own: one with all, one that only waits and one that only acts.
+    void step(const QString &name, const std::function<void()> &action,
+              const std::function<bool()> &done);
+    void waitFor(const QString &name, const std::function<bool()> &done);
+    void act(const std::function<void()> &action);
+
+    // Moves the pointer to a place in a widget, and waits until a window of ours has the pointer, or
+    // what it drags, exactly there. The place is worked out when the step's turn has come.
+    void moveTo(const std::function<QWidget *()> &widget, const std::function<QPoint()> &place);
+    void moveTo(QWidget *widget, const QPoint &place);
+
+    // Moves it off our windows, which must have it or what it drags.
+    void moveOut();
+
+    // Buttons and keys, each waiting until Qt has it so.
+    void press(Qt::MouseButton button = Qt::LeftButton);
+    void release(Qt::MouseButton button = Qt::LeftButton);
+    void pressKey(Qt::Key key);
+    void releaseKey(Qt::Key key);
+
+    // The same inside a drag, which takes all input for itself: waits until every drag has ended.
+    void drop();
+    void cancelDrag();
+
+    // Takes the steps, each once: run(), or start(), what blocks, and finish(). The texts tell which
+    // step was never done, and are empty if all were.
+    void start();
+    QString finish();
+    QString run();
+
+    RealInput input;
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private Q_SLOTS:
+    void advance();
+
+private:
+    struct Step
+    {
+        QString name;
+        std::function<void()> action;
+        std::function<bool()> done;
+    };
+
+    bool inNestedLoop() const;
+    void giveUp();
+    void end();
+
+    QList<Step> m_steps;
+    // The index of the step in progress, -1 before the first.
+    int m_index;
+    QTimer m_timer;
+    QEventLoop m_loop;
+    QElapsedTimer m_since;
+    QString m_failure;
+    // How deep the event loop of the test itself is; below it runs a drag or a modal dialog.
+    int m_loopLevel;
+    // Where a window of ours had the pointer last.
+    QPoint m_pointer;
+    // The keys that our windows know to be held.
+    QSet<int> m_heldKeys;
+};
+
+// Waits until a shown window is active and stands where Qt believes it to stand.
+bool waitUntilSettled(QWidget *window);
+
+#endif // USERSCRIPT_H

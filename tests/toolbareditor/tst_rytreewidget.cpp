@@ -1,0 +1,1058 @@
+// SPDX-License-Identifier: MIT
+
+#include "rytreeitemmimedata.h"
+#include "rytreewidget.h"
+#include "testcase.h"
+#include "texts.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDrag>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QtTest>
+
+#include <memory>
+
+Q_DECLARE_METATYPE(QTreeWidgetItem *)
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
+/*
+ * Without a display a drag ends at once, as one that nobody takes. Its QDrag stays a child of the
+ * tree until the next deferred deletion, so that a test can look at it.
+ */
+
+namespace {
+
+// Takes the keys that reach a tree's parent.
+class KeyTaker : public QWidget
+{
+public:
+    QStringList keys;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        keys << QStringLiteral("press %1").arg(event->key());
+    }
+
+    void keyReleaseEvent(QKeyEvent *event) override
+    {
+        keys << QStringLiteral("release %1").arg(event->key());
+    }
+};
+
+// Opens what Qt asks of a tree that a drag is over, and what it tells it.
+class OpenTree : public RyTreeWidget
+{
+public:
+    using RyTreeWidget::dragEnterEvent;
+    using RyTreeWidget::dragMoveEvent;
+    using RyTreeWidget::dropEvent;
+    using RyTreeWidget::mimeTypes;
+    using RyTreeWidget::supportedDropActions;
+};
+
+class OpenPlainTree : public QTreeWidget
+{
+public:
+    using QTreeWidget::mimeTypes;
+    using QTreeWidget::supportedDropActions;
+};
+
+void fill(QTreeWidget &tree)
+{
+    tree.setHeaderHidden(true);
+    QTreeWidgetItem *const a = new QTreeWidgetItem(&tree, {QStringLiteral("a")});
+    new QTreeWidgetItem(a, {QStringLiteral("a1")});
+    new QTreeWidgetItem(a, {QStringLiteral("a2")});
+    QTreeWidgetItem *const b = new QTreeWidgetItem(&tree, {QStringLiteral("b")});
+    new QTreeWidgetItem(b, {QStringLiteral("b1")});
+    new QTreeWidgetItem(&tree, {QStringLiteral("c")});
+    new QTreeWidgetItem(&tree, {QStringLiteral("d")});
+    a->setExpanded(true);
+    tree.resize(200, 300);
+}
+
+QStringList filledContent()
+{
+    return {QStringLiteral("a"), QStringLiteral("  a1"), QStringLiteral("  a2"),
+            QStringLiteral("b"), QStringLiteral("  b1"), QStringLiteral("c"),
+            QStringLiteral("d")};
+}
+
+QStringList filledContentWithout(const QString &item)
+{
+    QStringList content = filledContent();
+    content.removeAll(item);
+    return content;
+}
+
+QPoint centerOf(QTreeWidget &tree, const QString &text)
+{
+    return tree.visualItemRect(itemNamed(&tree, text)).center();
+}
+
+void makeCurrent(QTreeWidget &tree, const QString &text)
+{
+    tree.setCurrentItem(itemNamed(&tree, text));
+}
+
+QStringList selectedIn(const QTreeWidget &tree)
+{
+    QStringList texts;
+    const auto items = tree.selectedItems();
+    for (const QTreeWidgetItem *item : items)
+        texts << item->text(0);
+    texts.sort();
+    return texts;
+}
+
+void sendMouse(QTreeWidget &tree, QEvent::Type type, const QPoint &position, Qt::MouseButton button,
+               Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QWidget *const viewport = tree.viewport();
+    QMouseEvent event(type, position, viewport->mapToGlobal(position), button, buttons, modifiers);
+    QCoreApplication::sendEvent(viewport, &event);
+}
+
+void press(QTreeWidget &tree, const QPoint &position, Qt::MouseButton button = Qt::LeftButton)
+{
+    sendMouse(tree, QEvent::MouseButtonPress, position, button, button);
+}
+
+void release(QTreeWidget &tree, const QPoint &position, Qt::MouseButton button = Qt::LeftButton)
+{
+    sendMouse(tree, QEvent::MouseButtonRelease, position, button, Qt::NoButton);
+}
+
+void move(QTreeWidget &tree, const QPoint &position, Qt::MouseButtons buttons = Qt::LeftButton,
+          Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    sendMouse(tree, QEvent::MouseMove, position, Qt::NoButton, buttons, modifiers);
+}
+
+bool sendKey(QWidget &widget, QEvent::Type type, int key,
+             Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = QString())
+{
+    QKeyEvent event(type, key, modifiers, text);
+    QCoreApplication::sendEvent(&widget, &event);
+    return event.isAccepted();
+}
+
+void pressControl(QWidget &widget)
+{
+    sendKey(widget, QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier);
+}
+
+void releaseControl(QWidget &widget)
+{
+    sendKey(widget, QEvent::KeyRelease, Qt::Key_Control);
+}
+
+QString describe(const QDrag *drag)
+{
+    const QString action = drag->supportedActions() == Qt::CopyAction ? QStringLiteral("copy")
+        : drag->supportedActions() == Qt::MoveAction                  ? QStringLiteral("move")
+                                                                      : QStringLiteral("several");
+    return action + QLatin1Char(' ') + drag->mimeData()->formats().join(QLatin1Char(' '));
+}
+
+// The drags that a tree has started, each with the offered action and the formats.
+QStringList dragsOf(const QTreeWidget &tree)
+{
+    QStringList drags;
+    const auto all = tree.findChildren<QDrag *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QDrag *drag : all)
+        drags << describe(drag);
+    return drags;
+}
+
+QStringList oneMove()
+{
+    return {QStringLiteral("move ItemMimeData")};
+}
+
+QStringList oneCopy()
+{
+    return {QStringLiteral("copy ItemMimeData")};
+}
+
+QPoint farFrom(const QPoint &position)
+{
+    return position + QPoint(QApplication::startDragDistance() + 1, 0);
+}
+
+// All that a key could change in a tree.
+QStringList stateOf(const QTreeWidget &tree)
+{
+    QStringList expanded;
+    const auto items = tree.findItems(QString(), Qt::MatchContains | Qt::MatchRecursive);
+    for (const QTreeWidgetItem *item : items) {
+        if (item->isExpanded())
+            expanded << item->text(0);
+    }
+    const bool editing = tree.viewport()->findChild<QLineEdit *>();
+    return itemsOf(&tree) << QStringLiteral("current ") + currentOf(&tree)
+                          << QStringLiteral("selected ") + selectedIn(tree).join(QLatin1Char(' '))
+                          << QStringLiteral("expanded ") + expanded.join(QLatin1Char(' '))
+                          << QStringLiteral("check state %1").arg(tree.currentItem()->checkState(0))
+                          << (editing ? QStringLiteral("editing") : QStringLiteral("not editing"));
+}
+
+} // namespace
+
+class tst_RyTreeWidget : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void isConstructedEmptyAndReadyForDrags();
+    void belongsToItsParent();
+    void parentMayBeLeftOut();
+    void selectedItemsArePaintedOnDarkRed();
+    void isKnownToTheMetaObjectSystem();
+    void declaresNothingInItsMetaObject();
+    void offersToQtWhatAPlainTreeOffers();
+
+    void keysDoNothing_data();
+    void keysDoNothing();
+    void keysAreNotPassedToTheParent_data();
+    void keysAreNotPassedToTheParent();
+    void theControlKeyDoesNothingElse();
+
+    void controlKeyChoosesTheOfferedAction_data();
+    void controlKeyChoosesTheOfferedAction();
+    void controlReleasedInAnotherWidgetIsMissed();
+    void controlPressedInAnotherWidgetIsNotSeen();
+    void losingTheFocusKeepsControl();
+    void theControlModifierOfTheMouseEventIsNotLookedAt();
+    void eachTreeHasItsOwnControlFlag();
+
+    void pressGoesToTheBaseClass_data();
+    void pressGoesToTheBaseClass();
+    void releaseGoesToTheBaseClass();
+    void moveGoesToTheBaseClass();
+    void moveGoesToTheBaseClassAfterADrag_data();
+    void moveGoesToTheBaseClassAfterADrag();
+    void theBaseClassDragsTheItemOnceMoreAfterACopy();
+    void clickingABranchOpensIt();
+
+    void dragStartsBeyondTheStartDistance_data();
+    void dragStartsBeyondTheStartDistance();
+    void dragStartsBeyondAnotherStartDistance_data();
+    void dragStartsBeyondAnotherStartDistance();
+    void onlyTheLeftButtonDrags_data();
+    void onlyTheLeftButtonDrags();
+    void theDistanceIsMeasuredFromTheOriginBeforeAnyPress_data();
+    void theDistanceIsMeasuredFromTheOriginBeforeAnyPress();
+    void aNewLeftPressMovesTheStart();
+    void otherButtonsDoNotMoveTheStart_data();
+    void otherButtonsDoNotMoveTheStart();
+    void theStartOutlivesTheRelease();
+    void theStartOutlivesTheDrag();
+
+    void noCurrentItemNoDrag();
+    void performDragWithoutACurrentItemDoesNothing();
+    void performDragDragsTheCurrentItem_data();
+    void performDragDragsTheCurrentItem();
+    void theDragObjectIsBareAndTheTrees();
+    void theDragObjectIsNotDeletedByTheTree();
+    void refusedMoveDeletesTheItemWithItsChildren_data();
+    void refusedMoveDeletesTheItemWithItsChildren();
+    void refusedCopyKeepsTheItem_data();
+    void refusedCopyKeepsTheItem();
+    void onlyTheCurrentItemIsDragged_data();
+    void onlyTheCurrentItemIsDragged();
+    void theCurrentItemNeedNotBeSelected();
+    void aSecondDragTakesTheNextCurrentItem();
+
+    void dragsWithoutASourceTreeAreLeftAlone_data();
+    void dragsWithoutASourceTreeAreLeftAlone();
+
+protected:
+    void finish() override;
+
+private:
+    const int m_startDistance = QApplication::startDragDistance();
+};
+
+// For the spies of the tree's signals.
+void tst_RyTreeWidget::initTestCase()
+{
+    qRegisterMetaType<QTreeWidgetItem *>();
+}
+
+void tst_RyTreeWidget::finish()
+{
+    QApplication::setStartDragDistance(m_startDistance);
+}
+
+void tst_RyTreeWidget::isConstructedEmptyAndReadyForDrags()
+{
+    const RyTreeWidget tree(nullptr);
+    QCOMPARE(tree.topLevelItemCount(), 0);
+    QCOMPARE(tree.selectionMode(), QAbstractItemView::ExtendedSelection);
+    QVERIFY(tree.acceptDrops());
+    QVERIFY(tree.dragEnabled());
+    QCOMPARE(tree.styleSheet(),
+             QStringLiteral("QTreeWidget::item:selected{ background-color: rgb(150, 0, 0)}"));
+}
+
+void tst_RyTreeWidget::belongsToItsParent()
+{
+    std::unique_ptr<QWidget> parent(new QWidget);
+    const QPointer<RyTreeWidget> tree = new RyTreeWidget(parent.get());
+    QCOMPARE(tree->parentWidget(), parent.get());
+    parent.reset();
+    QVERIFY(!tree);
+}
+
+void tst_RyTreeWidget::parentMayBeLeftOut()
+{
+    const RyTreeWidget tree;
+    QCOMPARE(tree.parentWidget(), nullptr);
+}
+
+void tst_RyTreeWidget::selectedItemsArePaintedOnDarkRed()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    tree.show();
+    makeCurrent(tree, QStringLiteral("c"));
+    const QRect selected = tree.visualItemRect(itemNamed(&tree, QStringLiteral("c")));
+    const QRect other = tree.visualItemRect(itemNamed(&tree, QStringLiteral("d")));
+    const QImage picture = tree.viewport()->grab().toImage();
+    const QPoint inset(-10, -3);
+    QCOMPARE(QColor(picture.pixel(selected.bottomRight() + inset)), QColor(150, 0, 0));
+    QCOMPARE(QColor(picture.pixel(other.bottomRight() + inset)),
+             tree.palette().color(QPalette::Base));
+}
+
+void tst_RyTreeWidget::isKnownToTheMetaObjectSystem()
+{
+    RyTreeWidget tree;
+    QObject *const seen = &tree;
+    QCOMPARE(qobject_cast<RyTreeWidget *>(seen), &tree);
+    QCOMPARE(tree.metaObject()->className(), "RyTreeWidget");
+    QCOMPARE(tree.metaObject()->superClass(), &QTreeWidget::staticMetaObject);
+    QTreeWidget plain;
+    QCOMPARE(qobject_cast<RyTreeWidget *>(&plain), nullptr);
+}
+
+void tst_RyTreeWidget::declaresNothingInItsMetaObject()
+{
+    const QMetaObject &meta = RyTreeWidget::staticMetaObject;
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 0);
+    QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 0);
+}
+
+void tst_RyTreeWidget::offersToQtWhatAPlainTreeOffers()
+{
+    const OpenTree tree;
+    const OpenPlainTree plain;
+    QCOMPARE(tree.mimeTypes(), plain.mimeTypes());
+    QCOMPARE(tree.supportedDropActions(), plain.supportedDropActions());
+    QCOMPARE(tree.dragDropMode(), QAbstractItemView::DragDrop);
+}
+
+namespace {
+
+void addKeyRows()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("text");
+    const auto add = [](const char *name, int key, int modifiers, const char *text) {
+        QTest::newRow(name) << key << modifiers << QString::fromLatin1(text);
+    };
+    const int none = Qt::NoModifier;
+    add("up", Qt::Key_Up, none, "");
+    add("down", Qt::Key_Down, none, "");
+    add("left", Qt::Key_Left, none, "");
+    add("right", Qt::Key_Right, none, "");
+    add("home", Qt::Key_Home, none, "");
+    add("end", Qt::Key_End, none, "");
+    add("page up", Qt::Key_PageUp, none, "");
+    add("page down", Qt::Key_PageDown, none, "");
+    add("letter that an item starts with", Qt::Key_D, none, "d");
+    add("letter that none starts with", Qt::Key_Z, none, "z");
+    add("digit", Qt::Key_1, none, "1");
+    add("space", Qt::Key_Space, none, " ");
+    add("return", Qt::Key_Return, none, "\r");
+    add("enter", Qt::Key_Enter, none, "\r");
+    add("escape", Qt::Key_Escape, none, "");
+    add("delete", Qt::Key_Delete, none, "");
+    add("backspace", Qt::Key_Backspace, none, "");
+    add("edit key", Qt::Key_F2, none, "");
+    add("plus", Qt::Key_Plus, none, "+");
+    add("minus", Qt::Key_Minus, none, "-");
+    add("asterisk", Qt::Key_Asterisk, none, "*");
+    add("shift", Qt::Key_Shift, Qt::ShiftModifier, "");
+    add("alt", Qt::Key_Alt, Qt::AltModifier, "");
+    add("down extending", Qt::Key_Down, Qt::ShiftModifier, "");
+    add("down without selecting", Qt::Key_Down, Qt::ControlModifier, "");
+    add("select all", Qt::Key_A, Qt::ControlModifier, "\001");
+    add("copy", Qt::Key_C, Qt::ControlModifier, "\003");
+}
+
+} // namespace
+
+void tst_RyTreeWidget::keysDoNothing_data()
+{
+    addKeyRows();
+}
+
+void tst_RyTreeWidget::keysDoNothing()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(QString, text);
+    RyTreeWidget tree;
+    fill(tree);
+    QTreeWidgetItem *const current = itemNamed(&tree, QStringLiteral("b"));
+    current->setFlags(current->flags() | Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
+    current->setCheckState(0, Qt::Unchecked);
+    tree.setEditTriggers(QAbstractItemView::AllEditTriggers);
+    tree.show();
+    tree.setCurrentItem(current);
+    const QStringList before = stateOf(tree);
+    QSignalSpy activated(&tree, &QTreeWidget::itemActivated);
+    QApplication::clipboard()->setText(QStringLiteral("untouched"));
+
+    QVERIFY(sendKey(tree, QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text));
+    QCOMPARE(stateOf(tree), before);
+    QVERIFY(sendKey(tree, QEvent::KeyRelease, key, Qt::KeyboardModifiers(modifiers), text));
+    QCOMPARE(stateOf(tree), before);
+    QCOMPARE(activated.count(), 0);
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("untouched"));
+}
+
+void tst_RyTreeWidget::keysAreNotPassedToTheParent_data()
+{
+    addKeyRows();
+    QTest::newRow("control") << int(Qt::Key_Control) << int(Qt::ControlModifier) << QString();
+}
+
+void tst_RyTreeWidget::keysAreNotPassedToTheParent()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(QString, text);
+    KeyTaker parent;
+    RyTreeWidget *const tree = new RyTreeWidget(&parent);
+    fill(*tree);
+    QVERIFY(sendKey(*tree, QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text));
+    QVERIFY(sendKey(*tree, QEvent::KeyRelease, key, Qt::KeyboardModifiers(modifiers), text));
+    QCOMPARE(parent.keys, QStringList());
+}
+
+void tst_RyTreeWidget::theControlKeyDoesNothingElse()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("b"));
+    const QStringList before = stateOf(tree);
+    pressControl(tree);
+    releaseControl(tree);
+    QCOMPARE(stateOf(tree), before);
+    QCOMPARE(dragsOf(tree), QStringList());
+}
+
+void tst_RyTreeWidget::controlKeyChoosesTheOfferedAction_data()
+{
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<QStringList>("drags");
+    const auto keys = [](const char *text) {
+        return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    };
+    QTest::newRow("no key") << keys("") << oneMove();
+    QTest::newRow("pressed") << keys("+Control") << oneCopy();
+    QTest::newRow("pressed and released") << keys("+Control -Control") << oneMove();
+    QTest::newRow("released only") << keys("-Control") << oneMove();
+    QTest::newRow("pressed again") << keys("+Control -Control +Control") << oneCopy();
+    QTest::newRow("repeated") << keys("+Control +Control") << oneCopy();
+    QTest::newRow("repeated and released") << keys("+Control +Control -Control") << oneMove();
+    QTest::newRow("another key pressed") << keys("+Shift") << oneMove();
+    QTest::newRow("another key released") << keys("+Control -Shift") << oneCopy();
+    QTest::newRow("another key clicked") << keys("+Control +A -A") << oneCopy();
+    QTest::newRow("other modifiers") << keys("+Shift +Alt +Meta") << oneMove();
+}
+
+void tst_RyTreeWidget::controlKeyChoosesTheOfferedAction()
+{
+    QFETCH(QStringList, keys);
+    QFETCH(QStringList, drags);
+    const QHash<QString, int> codes = {{QStringLiteral("Control"), Qt::Key_Control},
+                                       {QStringLiteral("Shift"), Qt::Key_Shift},
+                                       {QStringLiteral("Alt"), Qt::Key_Alt},
+                                       {QStringLiteral("Meta"), Qt::Key_Meta},
+                                       {QStringLiteral("A"), Qt::Key_A}};
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    for (const QString &key : qAsConst(keys)) {
+        const bool down = key.startsWith(QLatin1Char('+'));
+        QVERIFY(codes.contains(key.mid(1)));
+        sendKey(tree, down ? QEvent::KeyPress : QEvent::KeyRelease, codes.value(key.mid(1)),
+                Qt::ControlModifier);
+    }
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), drags);
+    QCOMPARE(itemsOf(&tree),
+             drags == oneCopy() ? filledContent() : filledContentWithout(QStringLiteral("c")));
+}
+
+void tst_RyTreeWidget::controlReleasedInAnotherWidgetIsMissed()
+{
+    RyTreeWidget tree;
+    QLineEdit other;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    pressControl(tree);
+    releaseControl(other);
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), oneCopy());
+    releaseControl(tree);
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), oneCopy() + oneMove());
+}
+
+void tst_RyTreeWidget::controlPressedInAnotherWidgetIsNotSeen()
+{
+    RyTreeWidget tree;
+    QLineEdit other;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    pressControl(other);
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), oneMove());
+}
+
+void tst_RyTreeWidget::losingTheFocusKeepsControl()
+{
+    QWidget window;
+    RyTreeWidget *const tree = new RyTreeWidget(&window);
+    QLineEdit *const other = new QLineEdit(&window);
+    fill(*tree);
+    makeCurrent(*tree, QStringLiteral("c"));
+    window.show();
+    QApplication::setActiveWindow(&window);
+    tree->setFocus();
+    QCOMPARE(QApplication::focusWidget(), tree);
+    pressControl(*tree);
+    other->setFocus();
+    QCOMPARE(QApplication::focusWidget(), other);
+    tree->performDrag();
+    QCOMPARE(dragsOf(*tree), oneCopy());
+}
+
+void tst_RyTreeWidget::theControlModifierOfTheMouseEventIsNotLookedAt()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    press(tree, start);
+    move(tree, farFrom(start), Qt::LeftButton, Qt::ControlModifier);
+    QCOMPARE(dragsOf(tree), oneMove());
+    QCOMPARE(itemsOf(&tree), filledContentWithout(QStringLiteral("c")));
+}
+
+void tst_RyTreeWidget::eachTreeHasItsOwnControlFlag()
+{
+    RyTreeWidget tree;
+    RyTreeWidget other;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    pressControl(other);
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), oneMove());
+}
+
+void tst_RyTreeWidget::pressGoesToTheBaseClass_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("left") << Qt::LeftButton;
+    QTest::newRow("right") << Qt::RightButton;
+}
+
+void tst_RyTreeWidget::pressGoesToTheBaseClass()
+{
+    QFETCH(Qt::MouseButton, button);
+    RyTreeWidget tree;
+    fill(tree);
+    QSignalSpy pressed(&tree, &QTreeWidget::itemPressed);
+    press(tree, centerOf(tree, QStringLiteral("c")), button);
+    QCOMPARE(currentOf(&tree), QStringLiteral("c"));
+    QCOMPARE(selectedIn(tree), QStringList{QStringLiteral("c")});
+    QCOMPARE(pressed.count(), 1);
+}
+
+void tst_RyTreeWidget::releaseGoesToTheBaseClass()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    QSignalSpy clicked(&tree, &QTreeWidget::itemClicked);
+    const QPoint position = centerOf(tree, QStringLiteral("c"));
+    press(tree, position);
+    QCOMPARE(clicked.count(), 0);
+    release(tree, position);
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_RyTreeWidget::moveGoesToTheBaseClass()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    QStringList entered;
+    connect(&tree, &QTreeWidget::itemEntered,
+            [&](QTreeWidgetItem *item) { entered << item->text(0); });
+    tree.setMouseTracking(true);
+    move(tree, centerOf(tree, QStringLiteral("c")), Qt::NoButton);
+    QCOMPARE(entered, QStringList{QStringLiteral("c")});
+}
+
+void tst_RyTreeWidget::moveGoesToTheBaseClassAfterADrag_data()
+{
+    QTest::addColumn<bool>("copying");
+    QTest::newRow("move") << false;
+    QTest::newRow("copy") << true;
+}
+
+void tst_RyTreeWidget::moveGoesToTheBaseClassAfterADrag()
+{
+    QFETCH(bool, copying);
+    RyTreeWidget tree;
+    fill(tree);
+    if (copying)
+        pressControl(tree);
+    int dragsBefore = -1;
+    connect(&tree, &QTreeWidget::itemEntered, [&] { dragsBefore = dragsOf(tree).count(); });
+    tree.setMouseTracking(true);
+    press(tree, centerOf(tree, QStringLiteral("d")));
+    move(tree, centerOf(tree, QStringLiteral("a1")));
+    QCOMPARE(dragsBefore, 1);
+}
+
+void tst_RyTreeWidget::theBaseClassDragsTheItemOnceMoreAfterACopy()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    pressControl(tree);
+    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    press(tree, start);
+    move(tree, start + QPoint(1, 0));
+    QCOMPARE(dragsOf(tree), QStringList());
+    move(tree, farFrom(start));
+    QCOMPARE(dragsOf(tree),
+             oneCopy() << QStringLiteral("several application/x-qabstractitemmodeldatalist"));
+    QCOMPARE(itemsOf(&tree), filledContent());
+}
+
+void tst_RyTreeWidget::clickingABranchOpensIt()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    QTreeWidgetItem *const branch = itemNamed(&tree, QStringLiteral("b"));
+    const QRect text = tree.visualItemRect(branch);
+    const QPoint handle(text.left() - tree.indentation() / 2, text.center().y());
+    QVERIFY(!branch->isExpanded());
+    press(tree, handle);
+    release(tree, handle);
+    QVERIFY(branch->isExpanded());
+}
+
+namespace {
+
+void addDistanceRows(int distance)
+{
+    QTest::addColumn<QPoint>("way");
+    QTest::addColumn<bool>("drags");
+    const int half = distance / 2;
+    QTest::newRow("no way") << QPoint(0, 0) << false;
+    QTest::newRow("right, exactly") << QPoint(distance, 0) << false;
+    QTest::newRow("right, one more") << QPoint(distance + 1, 0) << true;
+    QTest::newRow("left, exactly") << QPoint(-distance, 0) << false;
+    QTest::newRow("left, one more") << QPoint(-distance - 1, 0) << true;
+    QTest::newRow("down, exactly") << QPoint(0, distance) << false;
+    QTest::newRow("down, one more") << QPoint(0, distance + 1) << true;
+    QTest::newRow("up, exactly") << QPoint(0, -distance) << false;
+    QTest::newRow("up, one more") << QPoint(0, -distance - 1) << true;
+    QTest::newRow("across, exactly") << QPoint(half, distance - half) << false;
+    QTest::newRow("across, one more") << QPoint(half + 1, distance - half) << true;
+    QTest::newRow("across back, exactly") << QPoint(-half, half - distance) << false;
+    QTest::newRow("across back, one more") << QPoint(-half, half - distance - 1) << true;
+}
+
+} // namespace
+
+void tst_RyTreeWidget::dragStartsBeyondTheStartDistance_data()
+{
+    addDistanceRows(QApplication::startDragDistance());
+}
+
+void tst_RyTreeWidget::dragStartsBeyondTheStartDistance()
+{
+    QFETCH(QPoint, way);
+    QFETCH(bool, drags);
+    RyTreeWidget tree;
+    fill(tree);
+    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    press(tree, start);
+    QCOMPARE(dragsOf(tree), QStringList());
+    move(tree, start + way);
+    QCOMPARE(dragsOf(tree), drags ? oneMove() : QStringList());
+    QCOMPARE(itemsOf(&tree), drags ? filledContentWithout(QStringLiteral("c")) : filledContent());
+}
+
+void tst_RyTreeWidget::dragStartsBeyondAnotherStartDistance_data()
+{
+    addDistanceRows(25);
+}
+
+void tst_RyTreeWidget::dragStartsBeyondAnotherStartDistance()
+{
+    QApplication::setStartDragDistance(25);
+    dragStartsBeyondTheStartDistance();
+}
+
+void tst_RyTreeWidget::onlyTheLeftButtonDrags_data()
+{
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<QStringList>("drags");
+    QTest::newRow("none") << int(Qt::NoButton) << QStringList();
+    QTest::newRow("right") << int(Qt::RightButton) << QStringList();
+    QTest::newRow("middle") << int(Qt::MiddleButton) << QStringList();
+    QTest::newRow("right and middle") << int(Qt::RightButton | Qt::MiddleButton) << QStringList();
+    QTest::newRow("back") << int(Qt::BackButton) << QStringList();
+    QTest::newRow("left") << int(Qt::LeftButton) << oneMove();
+    QTest::newRow("left and right") << int(Qt::LeftButton | Qt::RightButton) << oneMove();
+    QTest::newRow("left and middle") << int(Qt::LeftButton | Qt::MiddleButton) << oneMove();
+}
+
+void tst_RyTreeWidget::onlyTheLeftButtonDrags()
+{
+    QFETCH(int, buttons);
+    QFETCH(QStringList, drags);
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    move(tree, QPoint(100, 100), Qt::MouseButtons(buttons));
+    QCOMPARE(dragsOf(tree), drags);
+}
+
+void tst_RyTreeWidget::theDistanceIsMeasuredFromTheOriginBeforeAnyPress_data()
+{
+    const int distance = QApplication::startDragDistance();
+    QTest::addColumn<QPoint>("position");
+    QTest::addColumn<QStringList>("drags");
+    QTest::newRow("exactly") << QPoint(distance - 4, 4) << QStringList();
+    QTest::newRow("one more") << QPoint(distance - 4, 5) << oneMove();
+}
+
+void tst_RyTreeWidget::theDistanceIsMeasuredFromTheOriginBeforeAnyPress()
+{
+    QFETCH(QPoint, position);
+    QFETCH(QStringList, drags);
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    move(tree, position);
+    QCOMPARE(dragsOf(tree), drags);
+}
+
+void tst_RyTreeWidget::aNewLeftPressMovesTheStart()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    const QPoint first = centerOf(tree, QStringLiteral("a"));
+    const QPoint second = centerOf(tree, QStringLiteral("d"));
+    press(tree, first);
+    release(tree, first);
+    press(tree, second);
+    move(tree, second + QPoint(QApplication::startDragDistance(), 0));
+    QCOMPARE(dragsOf(tree), QStringList());
+}
+
+void tst_RyTreeWidget::otherButtonsDoNotMoveTheStart_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("right") << Qt::RightButton;
+    QTest::newRow("middle") << Qt::MiddleButton;
+}
+
+void tst_RyTreeWidget::otherButtonsDoNotMoveTheStart()
+{
+    QFETCH(Qt::MouseButton, button);
+    RyTreeWidget tree;
+    fill(tree);
+    const QPoint start = centerOf(tree, QStringLiteral("a"));
+    const QPoint other = centerOf(tree, QStringLiteral("d"));
+    press(tree, start);
+    sendMouse(tree, QEvent::MouseButtonPress, other, button, Qt::LeftButton | button);
+    move(tree, start + QPoint(QApplication::startDragDistance(), 0), Qt::LeftButton | button);
+    QCOMPARE(dragsOf(tree), QStringList());
+    move(tree, other, Qt::LeftButton | button);
+    QCOMPARE(dragsOf(tree).first(), oneMove().first());
+}
+
+void tst_RyTreeWidget::theStartOutlivesTheRelease()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    press(tree, start);
+    release(tree, start + QPoint(3, 0));
+    move(tree, start + QPoint(QApplication::startDragDistance(), 0));
+    QCOMPARE(dragsOf(tree), QStringList());
+    move(tree, farFrom(start));
+    QCOMPARE(dragsOf(tree).first(), oneMove().first());
+}
+
+void tst_RyTreeWidget::theStartOutlivesTheDrag()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    const QPoint start = centerOf(tree, QStringLiteral("a1"));
+    press(tree, start);
+    move(tree, farFrom(start));
+    release(tree, farFrom(start));
+    QCOMPARE(dragsOf(tree), oneMove());
+    move(tree, start + QPoint(QApplication::startDragDistance(), 0));
+    QCOMPARE(dragsOf(tree), oneMove());
+    move(tree, farFrom(start));
+    QCOMPARE(dragsOf(tree).mid(0, 2), oneMove() + oneMove());
+}
+
+void tst_RyTreeWidget::noCurrentItemNoDrag()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    const QPoint empty(100, tree.viewport()->height() - 10);
+    QVERIFY(!tree.itemAt(empty));
+    press(tree, empty);
+    QVERIFY(!tree.currentItem());
+    move(tree, farFrom(empty));
+    QCOMPARE(dragsOf(tree), QStringList());
+    QCOMPARE(itemsOf(&tree), filledContent());
+}
+
+void tst_RyTreeWidget::performDragWithoutACurrentItemDoesNothing()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    itemNamed(&tree, QStringLiteral("c"))->setSelected(true);
+    tree.setCurrentItem(nullptr);
+    tree.performDrag();
+    pressControl(tree);
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), QStringList());
+    QCOMPARE(itemsOf(&tree), filledContent());
+}
+
+void tst_RyTreeWidget::performDragDragsTheCurrentItem_data()
+{
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<bool>("copying");
+    for (const char *const item : {"a", "a2", "b1", "d"}) {
+        QTest::addRow("%s, move", item) << QString::fromLatin1(item) << false;
+        QTest::addRow("%s, copy", item) << QString::fromLatin1(item) << true;
+    }
+}
+
+void tst_RyTreeWidget::performDragDragsTheCurrentItem()
+{
+    QFETCH(QString, item);
+    QFETCH(bool, copying);
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, item);
+    const QTreeWidgetItem *const dragged = tree.currentItem();
+    if (copying)
+        pressControl(tree);
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), copying ? oneCopy() : oneMove());
+    const auto payload =
+        qobject_cast<const RyTreeItemMimeData *>(tree.findChild<QDrag *>()->mimeData());
+    QVERIFY(payload);
+    QCOMPARE(payload->DragItemData(), dragged);
+}
+
+void tst_RyTreeWidget::theDragObjectIsBareAndTheTrees()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    tree.performDrag();
+    const QDrag *const drag = tree.findChild<QDrag *>();
+    QVERIFY(drag);
+    QCOMPARE(drag->parent(), &tree);
+    QCOMPARE(drag->source(), &tree);
+    QCOMPARE(drag->mimeData()->parent(), nullptr);
+    QVERIFY(drag->pixmap().isNull());
+    QCOMPARE(drag->hotSpot(), QDrag(&tree).hotSpot());
+}
+
+void tst_RyTreeWidget::theDragObjectIsNotDeletedByTheTree()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    tree.performDrag();
+    const QPointer<QDrag> drag = tree.findChild<QDrag *>();
+    QVERIFY(drag);
+    const QPointer<const QMimeData> payload = drag->mimeData();
+    // Qt deletes it, and the payload with it.
+    QCoreApplication::sendPostedEvents(drag, QEvent::DeferredDelete);
+    QVERIFY(!drag);
+    QVERIFY(!payload);
+}
+
+void tst_RyTreeWidget::refusedMoveDeletesTheItemWithItsChildren_data()
+{
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<QStringList>("left");
+    const auto words = [](const char *text) {
+        return QString::fromLatin1(text).split(QLatin1Char(','));
+    };
+    QTest::newRow("with children") << QStringLiteral("a") << words("b,  b1,c,d");
+    QTest::newRow("with folded children") << QStringLiteral("b") << words("a,  a1,  a2,c,d");
+    QTest::newRow("a child") << QStringLiteral("a1") << words("a,  a2,b,  b1,c,d");
+    QTest::newRow("an only child") << QStringLiteral("b1") << words("a,  a1,  a2,b,c,d");
+    QTest::newRow("the last one") << QStringLiteral("d") << words("a,  a1,  a2,b,  b1,c");
+}
+
+void tst_RyTreeWidget::refusedMoveDeletesTheItemWithItsChildren()
+{
+    QFETCH(QString, item);
+    QFETCH(QStringList, left);
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, item);
+    tree.performDrag();
+    QCOMPARE(itemsOf(&tree), left);
+}
+
+void tst_RyTreeWidget::refusedCopyKeepsTheItem_data()
+{
+    QTest::addColumn<QString>("item");
+    for (const char *const item : {"a", "b", "a1", "b1", "d"})
+        QTest::newRow(item) << QString::fromLatin1(item);
+}
+
+void tst_RyTreeWidget::refusedCopyKeepsTheItem()
+{
+    QFETCH(QString, item);
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, item);
+    pressControl(tree);
+    tree.performDrag();
+    QCOMPARE(itemsOf(&tree), filledContent());
+    QCOMPARE(currentOf(&tree), item);
+}
+
+void tst_RyTreeWidget::onlyTheCurrentItemIsDragged_data()
+{
+    QTest::addColumn<QString>("current");
+    QTest::newRow("first of the selection") << QStringLiteral("b");
+    QTest::newRow("middle of the selection") << QStringLiteral("c");
+    QTest::newRow("last of the selection") << QStringLiteral("d");
+}
+
+void tst_RyTreeWidget::onlyTheCurrentItemIsDragged()
+{
+    QFETCH(QString, current);
+    RyTreeWidget tree;
+    fill(tree);
+    delete itemNamed(&tree, QStringLiteral("b1"));
+    makeCurrent(tree, current);
+    for (const char *const selected : {"b", "c", "d"})
+        itemNamed(&tree, QLatin1String(selected))->setSelected(true);
+    QStringList left = {QStringLiteral("a"), QStringLiteral("  a1"), QStringLiteral("  a2"),
+                        QStringLiteral("b"), QStringLiteral("c"),    QStringLiteral("d")};
+    QCOMPARE(itemsOf(&tree), left);
+    QCOMPARE(selectedIn(tree).count(), 3);
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), oneMove());
+    left.removeAll(current);
+    QCOMPARE(itemsOf(&tree), left);
+}
+
+void tst_RyTreeWidget::theCurrentItemNeedNotBeSelected()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    tree.clearSelection();
+    itemNamed(&tree, QStringLiteral("d"))->setSelected(true);
+    tree.performDrag();
+    QCOMPARE(itemsOf(&tree), filledContentWithout(QStringLiteral("c")));
+}
+
+void tst_RyTreeWidget::aSecondDragTakesTheNextCurrentItem()
+{
+    RyTreeWidget tree;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("c"));
+    tree.performDrag();
+    makeCurrent(tree, QStringLiteral("a2"));
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), oneMove() + oneMove());
+    QCOMPARE(itemsOf(&tree),
+             (QStringList{QStringLiteral("a"), QStringLiteral("  a1"), QStringLiteral("b"),
+                          QStringLiteral("  b1"), QStringLiteral("d")}));
+}
+
+void tst_RyTreeWidget::dragsWithoutASourceTreeAreLeftAlone_data()
+{
+    QTest::addColumn<bool>("treePayload");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("text") << false << false;
+    QTest::newRow("text, accepted before") << false << true;
+    QTest::newRow("item") << true << false;
+    QTest::newRow("item, accepted before") << true << true;
+}
+
+void tst_RyTreeWidget::dragsWithoutASourceTreeAreLeftAlone()
+{
+    QFETCH(bool, treePayload);
+    QFETCH(bool, accepted);
+    OpenTree tree;
+    fill(tree);
+    makeCurrent(tree, QStringLiteral("d"));
+    RyTreeItemMimeData item;
+    item.SetDragData(QStringLiteral("ItemMimeData"), itemNamed(&tree, QStringLiteral("c")));
+    QMimeData text;
+    text.setText(QStringLiteral("words"));
+    const QMimeData *const payload = treePayload ? &item : &text;
+    const QPoint position = centerOf(tree, QStringLiteral("a"));
+    const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+
+    QDragEnterEvent enter(position, actions, payload, Qt::LeftButton, Qt::NoModifier);
+    QDragMoveEvent over(position, actions, payload, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(position, actions, payload, Qt::LeftButton, Qt::NoModifier);
+    const QList<QDropEvent *> events = {&enter, &over, &drop};
+    for (QDropEvent *event : events) {
+        event->setDropAction(Qt::LinkAction);
+        event->setAccepted(accepted);
+    }
+    tree.dragEnterEvent(&enter);
+    tree.dragMoveEvent(&over);
+    tree.dropEvent(&drop);
+
+    for (const QDropEvent *event : events) {
+        QCOMPARE(event->isAccepted(), accepted);
+        QCOMPARE(event->dropAction(), Qt::LinkAction);
+    }
+    QCOMPARE(currentOf(&tree), QStringLiteral("d"));
+    QCOMPARE(itemsOf(&tree), filledContent());
+}
+
+QTEST_MAIN(tst_RyTreeWidget)
+
+#include "tst_rytreewidget.moc"
