@@ -202,7 +202,7 @@ void MainWindow::notify(const QString &text)
 {
     m_statusLine->setNotice(text);
     if (!text.isEmpty())
-        statusBar()->show();
+        m_actions.action("view_status_bar")->setChecked(true);
 }
 
 QMenu *MainWindow::createPopupMenu()
@@ -236,10 +236,11 @@ void MainWindow::showWordCount()
     const QString text = m_editor->plainContent();
     const QString line = text.simplified();
     const int words = line.isEmpty() ? 0 : line.count(QLatin1Char(' ')) + 1;
-    notify(tr("%1 lines, %2 words, %3 characters")
-               .arg(m_editor->document()->blockCount())
-               .arg(words)
-               .arg(text.size()));
+    QMessageBox::information(this, tr("Word Count"),
+                             tr("Lines: %1\nWords: %2\nCharacters: %3")
+                                 .arg(m_editor->document()->blockCount())
+                                 .arg(words)
+                                 .arg(text.size()));
 }
 
 void MainWindow::showAbout()

@@ -21,7 +21,7 @@ QString ToolBarLayout::restore()
     LayoutStore::Layout stored;
     switch (m_store.read(&stored)) {
     case LayoutStore::Result::Read:
-        return restoreFrom(stored) ? settingsProblem()
+        return restoreFrom(stored) ? fileProblem()
                                    : tr("The stored toolbar layout does not fit; the default "
                                         "toolbars are shown.");
     case LayoutStore::Result::OtherVersion:
@@ -32,7 +32,7 @@ QString ToolBarLayout::restore()
     case LayoutStore::Result::Nothing:
         break;
     }
-    return settingsProblem();
+    return fileProblem();
 }
 
 bool ToolBarLayout::restoreFrom(const LayoutStore::Layout &stored)
@@ -47,10 +47,15 @@ bool ToolBarLayout::restoreFrom(const LayoutStore::Layout &stored)
     return false;
 }
 
-QString ToolBarLayout::settingsProblem() const
+QString ToolBarLayout::fileProblem() const
 {
     if (m_settings->status() == QSettings::FormatError)
         return tr("The settings file %1 is damaged.").arg(m_settings->fileName());
+    return storingProblem();
+}
+
+QString ToolBarLayout::storingProblem() const
+{
     if (m_settings->status() == QSettings::AccessError || !m_settings->isWritable())
         return tr("The toolbar layout cannot be stored in %1.").arg(m_settings->fileName());
     return QString();
@@ -71,7 +76,7 @@ QString ToolBarLayout::save()
     m_store.write({m_manager->saveState(LayoutStore::Version),
                    m_window->saveState(LayoutStore::Version), m_window->saveGeometry()});
     m_settings->sync();
-    return settingsProblem();
+    return storingProblem();
 }
 
 // Qt shows a toolbar that the dialog has just created only when the event loop runs next. Until then

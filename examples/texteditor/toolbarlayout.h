@@ -47,7 +47,8 @@ public:
 
 private:
     bool restoreFrom(const LayoutStore::Layout &stored);
-    QString settingsProblem() const;
+    QString fileProblem() const;
+    QString storingProblem() const;
     void goBackToDefaults();
     void showNewToolBars();
 

@@ -55,7 +55,8 @@ void ViewCommands::connectStoredAction(const char *name, const char *key,
 
 void ViewCommands::setFullScreen(bool fullScreen)
 {
-    m_window->setWindowState(m_window->windowState().setFlag(Qt::WindowFullScreen, fullScreen));
+    const Qt::WindowStates others = m_window->windowState() & ~Qt::WindowFullScreen;
+    m_window->setWindowState(fullScreen ? others | Qt::WindowFullScreen : others);
 }
 
 bool ViewCommands::eventFilter(QObject *watched, QEvent *event)

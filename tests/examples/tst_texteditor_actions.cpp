@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+
+#include "actioncatalog.h"
+#include "editorsession.h"
+#include "editorviews.h"
+#include "testcase.h"
+#include "texts.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSet>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <QtTest>
+
+class tst_TextEditorActions : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyActionHasAnIconATextAndATip();
+    void everyActionHasANameOfItsOwn();
+    void noTextHasAnAmpersand();
+    void noTwoActionsShareAShortcut();
+    void thereAreSixCategories();
+    void everyActionStandsInAMenu();
+    void everyMenuTitleHasAMnemonicOfItsOwn();
+    void theDefaultToolBarsHaveTheirContent();
+    void theDialogOffersEveryAction();
+    void theContextMenuKeepsTheTogglesOfTheToolBars();
+    void theToolBarsMenuShowsAndHidesToolBars();
+    void theContextMenuWorksWithoutToolBars();
+
+private:
+    QTemporaryDir m_folder;
+    QString settingsFile() { return m_folder.filePath(QStringLiteral("settings.ini")); }
+};
+
+namespace {
+
+QList<QAction *> allActions(const ActionCatalog &catalog)
+{
+    QList<QAction *> all;
+    for (const ActionCatalog::Category &category : catalog.categories())
+        all << category.actions;
+    return all;
+}
+
+// Every action of the menu and of the menus in it.
+QSet<QAction *> actionsIn(const QWidget *menu)
+{
+    QSet<QAction *> found;
+    const auto actions = menu->actions();
+    for (QAction *action : actions) {
+        found.insert(action);
+        if (action->menu())
+            found.unite(actionsIn(action->menu()));
+    }
+    return found;
+}
+
+QStringList textsOf(const QWidget *menu)
+{
+    QStringList texts;
+    const auto actions = menu->actions();
+    for (const QAction *action : actions)
+        texts << (action->isSeparator() ? QStringLiteral("|") : action->text());
+    return texts;
+}
+
+} // namespace
+
+void tst_TextEditorActions::everyActionHasAnIconATextAndATip()
+{
+    QObject owner;
+    const ActionCatalog catalog(&owner);
+    const auto actions = allActions(catalog);
+    QVERIFY(actions.size() >= 40);
+    for (const QAction *action : actions) {
+        // A file that is missing makes an icon that is not null, but that has no pixels.
+        const QImage image = action->icon().pixmap(22, 22).toImage();
+        QVERIFY2(!image.isNull(), qPrintable(action->objectName()));
+        QVERIFY2(!action->text().isEmpty(), qPrintable(action->objectName()));
+        QVERIFY2(!action->statusTip().isEmpty(), qPrintable(action->objectName()));
+        QVERIFY2(action->toolTip().startsWith(action->statusTip()),
+                 qPrintable(action->objectName()));
+    }
+}
+
+void tst_TextEditorActions::everyActionHasANameOfItsOwn()
+{
+    QObject owner;
+    const ActionCatalog catalog(&owner);
+    QStringList names;
+    const auto actions = allActions(catalog);
+    for (const QAction *action : actions) {
+        QVERIFY2(!action->objectName().isEmpty(), qPrintable(action->text()));
+        QCOMPARE(catalog.action(qPrintable(action->objectName())), action);
+        names << action->objectName();
+    }
+    QCOMPARE(names.removeDuplicates(), 0);
+}
+
+void tst_TextEditorActions::noTextHasAnAmpersand()
+{
+    QObject owner;
+    const auto actions = allActions(ActionCatalog(&owner));
+    for (const QAction *action : actions)
+        QVERIFY2(!action->text().contains(QLatin1Char('&')), qPrintable(action->text()));
+}
+
+void tst_TextEditorActions::noTwoActionsShareAShortcut()
+{
+    QObject owner;
+    QStringList shortcuts;
+    const auto actions = allActions(ActionCatalog(&owner));
+    for (const QAction *action : actions) {
+        if (!action->shortcut().isEmpty())
+            shortcuts << action->shortcut().toString();
+    }
+    QVERIFY(!shortcuts.isEmpty());
+    QCOMPARE(shortcuts.removeDuplicates(), 0);
+}
+
+void tst_TextEditorActions::thereAreSixCategories()
+{
+    QObject owner;
+    const ActionCatalog catalog(&owner);
+    QStringList titles;
+    for (const ActionCatalog::Category &category : catalog.categories()) {
+        titles << category.title;
+        for (const QAction *action : category.actions)
+            QVERIFY2(action->objectName().startsWith(category.title.toLower() + QLatin1Char('_')),
+                     qPrintable(action->objectName()));
+    }
+    QCOMPARE(
+        titles,
+        QStringList({QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("View"),
+                     QStringLiteral("Format"), QStringLiteral("Tools"), QStringLiteral("Help")}));
+}
+
+void tst_TextEditorActions::everyActionStandsInAMenu()
+{
+    EditorSession session(settingsFile());
+    const QSet<QAction *> inMenus = actionsIn(session.window.menuBar());
+    QObject owner;
+    const auto actions = allActions(ActionCatalog(&owner));
+    for (const QAction *action : actions) {
+        const QString name = action->objectName();
+        QVERIFY2(inMenus.contains(session.action(qPrintable(name))), qPrintable(name));
+    }
+}
+
+void tst_TextEditorActions::everyMenuTitleHasAMnemonicOfItsOwn()
+{
+    EditorSession session(settingsFile());
+    QStringList mnemonics;
+    const auto menus = session.window.menuBar()->actions();
+    for (const QAction *menu : menus) {
+        const int ampersand = menu->text().indexOf(QLatin1Char('&'));
+        QVERIFY2(ampersand >= 0, qPrintable(menu->text()));
+        mnemonics << menu->text().mid(ampersand + 1, 1).toLower();
+    }
+    QCOMPARE(mnemonics.size(), 7);
+    QCOMPARE(mnemonics.removeDuplicates(), 0);
+}
+
+void tst_TextEditorActions::theDefaultToolBarsHaveTheirContent()
+{
+    EditorSession session(settingsFile());
+    const auto contentOfToolBar = [&session](const char *name) {
+        return standingOn(session.child<QToolBar>(name)).join(QLatin1Char(' '));
+    };
+    QCOMPARE(
+        session.toolBarTitles(),
+        QStringList({QStringLiteral("Edit"), QStringLiteral("File"), QStringLiteral("Format")}));
+    QCOMPARE(contentOfToolBar("toolbar_file"),
+             QStringLiteral("file_new file_open file_save | file_reload"));
+    QCOMPARE(contentOfToolBar("toolbar_edit"),
+             QStringLiteral("edit_undo edit_redo | edit_cut edit_copy edit_paste | "
+                            "edit_find edit_replace"));
+    QCOMPARE(contentOfToolBar("toolbar_format"),
+             QStringLiteral("format_bold format_italic format_underline | format_align_left "
+                            "format_align_center format_align_right format_align_justify | "
+                            "format_font format_text_color"));
+}
+
+void tst_TextEditorActions::theDialogOffersEveryAction()
+{
+    QObject owner;
+    const ActionCatalog catalog(&owner);
+    QStringList expected{QStringLiteral("< S E P A R A T O R >")};
+    QMap<QString, QStringList> sorted;
+    for (const ActionCatalog::Category &category : catalog.categories()) {
+        QStringList texts;
+        for (const QAction *action : category.actions)
+            texts << QStringLiteral("  ") + action->text();
+        texts.sort();
+        sorted.insert(category.title, texts);
+    }
+    for (auto it = sorted.cbegin(); it != sorted.cend(); ++it)
+        expected << it.key() << it.value();
+
+    EditorSession session(settingsFile());
+    session.start();
+    QStringList offered;
+    session.customize([&offered](const EditorViews &views, RyCustomizedDialog *) {
+        offered = itemsOf(views.actionTree);
+    });
+    QCOMPARE(offered, expected);
+}
+
+void tst_TextEditorActions::theContextMenuKeepsTheTogglesOfTheToolBars()
+{
+    EditorSession session(settingsFile());
+    const QScopedPointer<QMenu> menu(session.window.createPopupMenu());
+    QCOMPARE(textsOf(menu.data()),
+             QStringList({QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("Format"),
+                          QStringLiteral("|"), QStringLiteral("Customize Toolbars…"),
+                          QStringLiteral("Reset Toolbars")}));
+    QVERIFY(menu->actions().contains(session.action("tools_customize_toolbars")));
+    QVERIFY(menu->actions().contains(session.action("tools_reset_toolbars")));
+}
+
+void tst_TextEditorActions::theToolBarsMenuShowsAndHidesToolBars()
+{
+    EditorSession session(settingsFile());
+    session.start();
+    QMenu *menu = nullptr;
+    const auto all = actionsIn(session.window.menuBar());
+    for (const QAction *action : all) {
+        if (action->text() == QLatin1String("Toolbars"))
+            menu = action->menu();
+    }
+    QVERIFY(menu);
+    for (int i = 0; i < 2; ++i) {
+        Q_EMIT menu->aboutToShow();
+        QCOMPARE(textsOf(menu),
+                 QStringList(
+                     {QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("Format")}));
+    }
+    menu->actions().at(1)->trigger();
+    QVERIFY(!session.toolBar(QStringLiteral("Edit"))->isVisible());
+    menu->actions().at(1)->trigger();
+    QVERIFY(session.toolBar(QStringLiteral("Edit"))->isVisible());
+}
+
+void tst_TextEditorActions::theContextMenuWorksWithoutToolBars()
+{
+    EditorSession session(settingsFile());
+    const auto toolBars = session.window.findChildren<QToolBar *>();
+    for (QToolBar *toolBar : toolBars)
+        session.window.removeToolBar(toolBar);
+    qDeleteAll(toolBars);
+    const QScopedPointer<QMenu> menu(session.window.createPopupMenu());
+    QVERIFY(textsOf(menu.data()).contains(QStringLiteral("Customize Toolbars…")));
+}
+
+QTEST_MAIN(tst_TextEditorActions)
+
+#include "tst_texteditor_actions.moc"
