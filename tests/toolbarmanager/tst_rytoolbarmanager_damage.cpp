@@ -143,6 +143,7 @@ class tst_RyToolBarManager_damage : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void aDefaultListEndsAThousandEntriesPastTheEnd_data();
     void aDefaultListEndsAThousandEntriesPastTheEnd();
     void aCustomListEndsAThousandEntriesPastTheEnd_data();
@@ -165,18 +166,16 @@ private Q_SLOTS:
     void everyChangeOfOneByteIsReadLiterally_data();
     void everyChangeOfOneByteIsReadLiterally();
 
-protected:
-    void prepare() override;
-
 private:
     void check(Kind kind, const QByteArray &damaged);
     void checkUse(const QByteArray &damaged, qint64 milliseconds);
     void checkThatTheHostIsSound(Host *host, Kind kind, const QByteArray &damaged);
 
+    // At the beginning of the program, when no state has left free memory behind.
     qint64 m_residentBefore = 0;
 };
 
-void tst_RyToolBarManager_damage::prepare()
+void tst_RyToolBarManager_damage::initTestCase()
 {
     forgetPeak();
     m_residentBefore = residentBytes();
@@ -441,7 +440,7 @@ void tst_RyToolBarManager_damage::check(Kind kind, const QByteArray &damaged)
     checkThatTheHostIsSound(host.get(), kind, damaged);
 }
 
-// No state may have taken more than the whole test function did.
+// No state can have taken more than all of them together.
 void tst_RyToolBarManager_damage::checkUse(const QByteArray &damaged, qint64 milliseconds)
 {
     QVERIFY2(milliseconds < 1000, damaged.toHex(' ').constData());
