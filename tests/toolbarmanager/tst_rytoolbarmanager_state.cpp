@@ -2,6 +2,7 @@
 
 #include "actionlog.h"
 #include "host.h"
+#include "layout.h"
 #include "localecodec.h"
 #include "statebytes.h"
 #include "testcase.h"
@@ -88,24 +89,6 @@ QAction *nameless(Host &host, const QString &text)
     QAction *const action = new QAction(text, &host.window);
     host.manager.addAction(action, A);
     return action;
-}
-
-// The toolbars that the manager knows, sorted: "objectName 'title': content", with "default " before
-// a default one.
-QStringList layoutOf(const Host &host)
-{
-    QStringList layout;
-    const auto toolBars = host.manager.toolBars();
-    for (QToolBar *toolBar : toolBars) {
-        const QStringList content = contentOf(host.manager.actions(toolBar));
-        const bool standing = standingOn(toolBar) == content;
-        layout << QLatin1String(host.manager.isDefaultToolBar(toolBar) ? "default " : "")
-                + toolBar->objectName() + QStringLiteral(" '%1': ").arg(toolBar->windowTitle())
-                + content.join(QLatin1Char(' '))
-                + QLatin1String(standing ? "" : " (but not on the widget)");
-    }
-    layout.sort();
-    return layout;
 }
 
 QList<QAction *> standingOnAll(const Host &host)
@@ -376,7 +359,7 @@ void tst_RyToolBarManager_state::theBytesOfDefaultAndCustomToolBarsRestoreForEve
                                           "00000000"
                                           "00000008 006f 0070 0065 006e"),
                                       3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("default file 'File': open | save"), name("m1 'M€': | open")}));
 }
 
@@ -509,7 +492,7 @@ void tst_RyToolBarManager_state::savingChangesNothing()
     QCOMPARE(host.manager.saveState(3), state);
     QCOMPARE(log.take(), QStringList());
     QCOMPARE(standingOnAll(host), standing);
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::saveStateDataWritesTheSectionsOnly()
@@ -537,7 +520,7 @@ void tst_RyToolBarManager_state::saveStateDataUsesTheStreamAsItIs()
     QDataStream reader(bytes);
     reader.setByteOrder(QDataStream::LittleEndian);
     QVERIFY(host.manager.restoreStateData(reader));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::everyWarningIsOneOfTheDefaultCategoryWithoutALocation()
@@ -580,7 +563,7 @@ void tst_RyToolBarManager_state::restoringAnUnchangedStateTouchesNothing()
     QCOMPARE(state, copy);
     QCOMPARE(log.take(), QStringList());
     QCOMPARE(standingOnAll(host), standing);
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoringRefusesAnotherVersion_data()
@@ -606,7 +589,7 @@ void tst_RyToolBarManager_state::restoringRefusesAnotherVersion()
                                  .customToolBar(name("new"), name("New"), {})
                                  .bytes();
     QVERIFY(!host.manager.restoreState(state, expected));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoringRefusesOtherBytes_data()
@@ -638,7 +621,7 @@ void tst_RyToolBarManager_state::restoringRefusesOtherBytes()
     const QList<QAction *> standing = standingOnAll(host);
     QVERIFY(!host.manager.restoreState(state, 3));
     QCOMPARE(standingOnAll(host), standing);
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoringRefusesAnotherDefaultMarker_data()
@@ -662,7 +645,7 @@ void tst_RyToolBarManager_state::restoringRefusesAnotherDefaultMarker()
     QVERIFY(!host.manager.restoreState(hex("000000ff 00000003") + sections, 3));
     QDataStream stream(sections);
     QVERIFY(!host.manager.restoreStateData(stream));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::anotherCustomMarkerLeavesTheDefaultToolBarsChanged_data()
@@ -683,7 +666,7 @@ void tst_RyToolBarManager_state::anotherCustomMarkerLeavesTheDefaultToolBarsChan
         version3().defaults(1).defaultToolBar(name("file"), words("find |")).bytes();
     QVERIFY(!host.manager.restoreState(
         defaults + (marker.isEmpty() ? QByteArray() : marker + customs), 3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': | open"),
                           name("default file 'File': find |")}));
 }
@@ -694,7 +677,7 @@ void tst_RyToolBarManager_state::restoringIgnoresTrailingBytes()
     const QByteArray state = host.manager.saveState(3);
     host.manager.setToolBars({{host.file, {}}, {host.mine, {}}});
     QVERIFY(host.manager.restoreState(state + hex("fe 00000001 ff 00"), 3));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoringDoesNotConsultTheStatusOfTheStream()
@@ -705,7 +688,7 @@ void tst_RyToolBarManager_state::restoringDoesNotConsultTheStatusOfTheStream()
     QDataStream stream(sections);
     stream.setStatus(QDataStream::ReadCorruptData);
     QVERIFY(host.manager.restoreStateData(stream));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoreStateDataReadsTheSectionsOnly()
@@ -724,7 +707,7 @@ void tst_RyToolBarManager_state::restoreStateDataReadsTheSectionsOnly()
     QCOMPARE(before, qint16(7));
     QCOMPARE(after, qint16(9));
     QVERIFY(stream.atEnd());
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::countsOfZeroAndLessReadNothing_data()
@@ -740,7 +723,7 @@ void tst_RyToolBarManager_state::countsOfZeroAndLessReadNothing()
     QFETCH(qint32, count);
     UsualHost host;
     QVERIFY(host.manager.restoreState(version3().defaults(count).customs(count).bytes(), 3));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
     // The counts of actions: each toolbar is emptied, and the next field is read.
     QVERIFY(host.manager.restoreState(version3()
                                           .defaults(1)
@@ -752,7 +735,7 @@ void tst_RyToolBarManager_state::countsOfZeroAndLessReadNothing()
                                           .number(count)
                                           .bytes(),
                                       3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'New': "), name("default file 'File': ")}));
 }
 
@@ -764,7 +747,7 @@ void tst_RyToolBarManager_state::restoringPutsTheContentBack()
     host.manager.setToolBar(host.mine, host.list(words("save save find")));
     host.mine->setWindowTitle(name("Renamed"));
     QVERIFY(host.manager.restoreState(state, 3));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
     QCOMPARE(contentOf(host.manager.defaultToolBars().value(host.file)), words("open | save"));
 }
 
@@ -779,14 +762,14 @@ void tst_RyToolBarManager_state::restoringIntoAFreshHostGivesTheSameLayout()
         host.manager.setToolBar(last, host.list(words("find | | save")));
         host.manager.setToolBar(host.file, host.list(words("| save |")));
         state = host.manager.saveState(3);
-        layout = layoutOf(host);
+        layout = layoutOf(host.manager);
     }
     Host fresh;
     fresh.defaultToolBar(name("file"), words("find save open"), A);
     QVERIFY(fresh.manager.restoreState(state, 3));
-    QCOMPARE(layoutOf(fresh), layout);
+    QCOMPARE(layoutOf(fresh.manager), layout);
     QVERIFY(fresh.manager.restoreState(state, 3));
-    QCOMPARE(layoutOf(fresh), layout);
+    QCOMPARE(layoutOf(fresh.manager), layout);
 }
 
 void tst_RyToolBarManager_state::restoringTakesRecordsInAnyOrder()
@@ -852,7 +835,7 @@ void tst_RyToolBarManager_state::unknownActionsAreDropped()
     QCOMPARE(takeWarnings(),
              noAction("first") + noAction("OPEN") + first(noAction("Open")) + noAction("last")
                  + noAction("only"));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': "),
                           name("default file 'File': | save open find")}));
 }
@@ -866,7 +849,7 @@ void tst_RyToolBarManager_state::unregisteredActionsAreUnknown()
     QVERIFY(host.manager.restoreState(state, 3));
     QCOMPARE(takeWarnings(), noAction("open") + noAction("open"));
     QCOMPARE(
-        layoutOf(host),
+        layoutOf(host.manager),
         (QStringList{name("_Custom_Toolbar_1 'Mine': |"), name("default file 'File': | save")}));
 }
 
@@ -881,7 +864,7 @@ void tst_RyToolBarManager_state::repeatedActionsKeepTheFirst()
             .customToolBar(name("_Custom_Toolbar_1"), name("Mine"), words("save save"))
             .bytes(),
         3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': save"),
                           name("default file 'File': open | save |")}));
 }
@@ -901,7 +884,7 @@ void tst_RyToolBarManager_state::unknownDefaultToolBarsAreSkipped()
                                       3));
     QCOMPARE(takeWarnings(), noToolBar("FILE") + noToolBar("other") + noToolBar(""));
     QCOMPARE(
-        layoutOf(host),
+        layoutOf(host.manager),
         (QStringList{name("_Custom_Toolbar_1 'Mine': | open"), name("default file 'File': save")}));
 }
 
@@ -916,7 +899,7 @@ void tst_RyToolBarManager_state::aDefaultRecordDoesNotFindACustomToolBar()
                                           .bytes(),
                                       3));
     QCOMPARE(takeWarnings(), noToolBar("_Custom_Toolbar_1") + noToolBar("Mine"));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::aNamelessDefaultToolBarIsFoundByItsTitle()
@@ -1019,7 +1002,7 @@ void tst_RyToolBarManager_state::aCustomRecordChangesTheToolBarOfItsObjectName()
             .customToolBar(name("_Custom_Toolbar_1"), name("Renamed €"), words("find |"))
             .bytes(),
         3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Renamed €': find |"),
                           name("default file 'File': open | save")}));
     QVERIFY(host.manager.toolBars().contains(host.mine));
@@ -1031,7 +1014,7 @@ void tst_RyToolBarManager_state::aCustomRecordDoesNotLookAtTitles()
     QVERIFY(host.manager.restoreState(
         version3().defaults(0).customs(1).customToolBar(name("Mine"), name("Mine"), {}).bytes(),
         3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("Mine 'Mine': "), name("_Custom_Toolbar_1 'Mine': | open"),
                           name("default file 'File': open | save")}));
 }
@@ -1047,7 +1030,7 @@ void tst_RyToolBarManager_state::aCustomRecordMayNameADefaultToolBar()
                                       .customToolBar(name("file"), name("Title"), words("| find"))
                                       .bytes(),
                                   3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': | open"),
                           name("default file 'Title': | find")}));
     QCOMPARE(contentOf(host.manager.defaultToolBars().value(host.file)), words("open | save"));
@@ -1068,12 +1051,12 @@ void tst_RyToolBarManager_state::aCustomRecordCreatesAMissingToolBar()
     QCOMPARE(takeWarnings(), noAction("unknown"));
     QToolBar *const made = host.manager.toolBarByName(name("theirs"));
     QVERIFY(made);
-    QCOMPARE(layoutOf(host), usualLayout() + QStringList(name("theirs 'Theirs': open |")));
+    QCOMPARE(layoutOf(host.manager), usualLayout() + QStringList(name("theirs 'Theirs': open |")));
     QCOMPARE(made->parent(), static_cast<QObject *>(&host.window));
     QCOMPARE(host.window.toolBarArea(made), Qt::TopToolBarArea);
     QVERIFY(!host.manager.isDefaultToolBar(made));
     host.manager.deleteToolBar(made);
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::customRecordsWithoutAMainWindowAreSkipped()
@@ -1088,7 +1071,7 @@ void tst_RyToolBarManager_state::customRecordsWithoutAMainWindowAreSkipped()
                                           .bytes(),
                                       3));
     QCOMPARE(takeWarnings(), noAction("unknown"));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
     QCOMPARE(namesOf(host.window.findChildren<QToolBar *>()), words("file _Custom_Toolbar_1"));
 }
 
@@ -1105,7 +1088,7 @@ void tst_RyToolBarManager_state::customRecordsWithoutAMainWindowChangeExistingTo
             .customToolBar(name("_Custom_Toolbar_1"), name("Renamed"), words("save"))
             .bytes(),
         3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Renamed': save"),
                           name("default file 'File': find")}));
 }
@@ -1129,7 +1112,7 @@ void tst_RyToolBarManager_state::anEmptyStoredObjectNameIsSet()
                                           .bytes(),
                                       3));
     // The second record finds the toolbar of the first one.
-    QCOMPARE(layoutOf(host), QStringList(name(" 'Y': save |")) + usualLayout());
+    QCOMPARE(layoutOf(host.manager), QStringList(name(" 'Y': save |")) + usualLayout());
 }
 
 void tst_RyToolBarManager_state::anEmptyStoredObjectNameFindsANamelessToolBar()
@@ -1139,7 +1122,7 @@ void tst_RyToolBarManager_state::anEmptyStoredObjectNameFindsANamelessToolBar()
     QVERIFY(host.manager.restoreState(
         version3().defaults(0).customs(1).customToolBar(QString(), name("X"), words("|")).bytes(),
         3));
-    QCOMPARE(layoutOf(host), QStringList(name("default  'X': |")));
+    QCOMPARE(layoutOf(host.manager), QStringList(name("default  'X': |")));
 }
 
 void tst_RyToolBarManager_state::customRecordsOfOneObjectNameMakeOneToolBar()
@@ -1153,7 +1136,7 @@ void tst_RyToolBarManager_state::customRecordsOfOneObjectNameMakeOneToolBar()
                                           .customToolBar(name("x"), name("3"), words("find"))
                                           .bytes(),
                                       3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (usualLayout() + QStringList{name("x '3': find"), name("y '2': save")}));
 }
 
@@ -1237,7 +1220,7 @@ void tst_RyToolBarManager_state::numbersContinueAfterManyRestoredToolBars()
     }
     expected.sort();
     QVERIFY(host.manager.restoreState(writer.bytes(), 3));
-    QCOMPARE(layoutOf(host), expected);
+    QCOMPARE(layoutOf(host.manager), expected);
     QCOMPARE(host.manager.toolBarByName(numbered.arg(1)), first);
     QCOMPARE(host.manager.createToolBar(QString())->objectName(), numbered.arg(77));
     QCOMPARE(host.manager.createToolBar(QString())->objectName(), numbered.arg(count + 1));
@@ -1253,7 +1236,7 @@ void tst_RyToolBarManager_state::titlesAreRestoredEvenIfEmpty()
                                           .customToolBar(name("file"), QStringLiteral(""), {})
                                           .bytes(),
                                       3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("_Custom_Toolbar_1 '': "), name("default file '': ")}));
 }
 
@@ -1268,7 +1251,7 @@ void tst_RyToolBarManager_state::otherCustomToolBarsKeepTheirContent()
                                           .customToolBar(name("x"), name("X"), {})
                                           .bytes(),
                                       3));
-    QCOMPARE(layoutOf(host),
+    QCOMPARE(layoutOf(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': | open"), name("default file 'File': "),
                           name("x 'X': ")}));
     QCOMPARE(host.mine->actions(), standing);
@@ -1322,7 +1305,7 @@ void tst_RyToolBarManager_state::savingAndRestoringEmitsNoSignal()
     host.manager.deleteToolBar(host.mine);
     QVERIFY(host.manager.restoreState(state, 3));
     QVERIFY(!host.manager.restoreState(state, 4));
-    QCOMPARE(layoutOf(host), usualLayout());
+    QCOMPARE(layoutOf(host.manager), usualLayout());
     // The check itself is in the destructor of Host.
 }
 
