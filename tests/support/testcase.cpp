@@ -16,10 +16,12 @@ struct Warning
 QList<Warning> warnings;
 QtMessageHandler previousHandler = nullptr;
 
-// What the platform without a display says of itself.
+// What the platforms say of themselves: the one without a display that it cannot do something, and
+// the X server's that a window was asked about which the window manager had just taken away.
 bool isOfPlatform(const QString &text)
 {
-    return text.startsWith(QLatin1String("This plugin does not support"));
+    return text.startsWith(QLatin1String("This plugin does not support"))
+        || text.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)"));
 }
 
 void recordMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
