@@ -115,6 +115,7 @@ private Q_SLOTS:
     void aRemovedActionCanBeAddedAgain();
 
     void aCommandSetsTheButtons();
+    void removingAToolBarSetsTheButtons();
     void noCommandTouchesTheHost();
     void anyCommandsKeepTheEditorConsistent_data();
     void anyCommandsKeepTheEditorConsistent();
@@ -1098,7 +1099,7 @@ void tst_RyCToolBarWidget_Commands::aRemovedActionCanBeAddedAgain()
     applyAndCompare(host, editor, withMine(QStringLiteral("Mine: copy paste cut")));
 }
 
-// Where no other selection changes than the command's own.
+// Itself, not only because another row becomes current.
 void tst_RyCToolBarWidget_Commands::aCommandSetsTheButtons()
 {
     Host host;
@@ -1106,28 +1107,46 @@ void tst_RyCToolBarWidget_Commands::aCommandSetsTheButtons()
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectAction(QStringLiteral("Zoom"));
+    const QSignalBlocker unheard(editor.views.currentToolBarList);
     const auto enabled = [&editor](const char *slot) {
         editor.call(slot);
         return editor.views.enabledButtons().join(QLatin1Char(' '));
     };
-    const QString toolBars = QStringLiteral("newButton removeButton renameButton ");
-    QCOMPARE(enabled("downClicked"),
-             toolBars
-                 + QStringLiteral("upButton leftButton rightButton "
-                                  "downButton"));
-    QCOMPARE(enabled("downClicked"), toolBars + QStringLiteral("upButton leftButton rightButton"));
-    QCOMPARE(enabled("upClicked"),
-             toolBars
-                 + QStringLiteral("upButton leftButton rightButton "
-                                  "downButton"));
-    QCOMPARE(enabled("upClicked"), toolBars + QStringLiteral("leftButton rightButton downButton"));
-    QCOMPARE(enabled("leftClicked"),
-             toolBars + QStringLiteral("leftButton rightButton downButton"));
-    QCOMPARE(enabled("rightClicked"),
-             toolBars
-                 + QStringLiteral("upButton leftButton rightButton "
-                                  "downButton"));
-    QCOMPARE(enabled("newClicked"), toolBars + QStringLiteral("rightButton"));
+    const QString first =
+        QStringLiteral("newButton removeButton renameButton leftButton rightButton downButton");
+    const QString middle = QStringLiteral(
+        "newButton removeButton renameButton upButton leftButton rightButton downButton");
+    const QString last =
+        QStringLiteral("newButton removeButton renameButton upButton leftButton rightButton");
+    QCOMPARE(enabled("downClicked"), middle);
+    QCOMPARE(enabled("downClicked"), last);
+    QCOMPARE(enabled("upClicked"), middle);
+    QCOMPARE(enabled("upClicked"), first);
+    QCOMPARE(enabled("rightClicked"), middle);
+    QCOMPARE(enabled("downClicked"), middle);
+    QCOMPARE(enabled("downClicked"), last);
+    QCOMPARE(enabled("upClicked"), middle);
+    QCOMPARE(enabled("leftClicked"), last);
+}
+
+void tst_RyCToolBarWidget_Commands::removingAToolBarSetsTheButtons()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
+    editor.selectToolBar(QStringLiteral("File"));
+    for (QToolButton *button : {editor.views.newButton, editor.views.rightButton})
+        button->setEnabled(false);
+    for (QToolButton *button : {editor.views.removeButton, editor.views.renameButton})
+        button->setEnabled(true);
+    // No other row becomes current.
+    QVERIFY(QMetaObject::invokeMethod(&editor.widget, "removeToolBar", Qt::DirectConnection,
+                                      Q_ARG(ToolBarItem *, record)));
+    QCOMPARE(editor.views.enabledButtons(),
+             QStringList({QStringLiteral("newButton"), QStringLiteral("leftButton"),
+                          QStringLiteral("rightButton"), QStringLiteral("downButton")}));
 }
 
 void tst_RyCToolBarWidget_Commands::noCommandTouchesTheHost()

@@ -135,6 +135,7 @@ private Q_SLOTS:
     void everyActionItemIsKnown();
 
     void theFillShowsEveryToolBarSortedByTitle();
+    void theFillSortsTheToolBarsEvenUnheard();
     void theWorkingCopyEqualsTheManager();
     void theSameTitleTwiceGivesTwoRows();
     void theFirstToolBarInPointerOrderIsCurrent();
@@ -161,6 +162,7 @@ private Q_SLOTS:
     void theRuleSetsEveryButton();
 
     void hidingEmptiesTheEditor();
+    void hidingEmptiesTheEditorEvenUnheard();
     void clearingDisablesSixButtonsAndLeavesRename_data();
     void clearingDisablesSixButtonsAndLeavesRename();
     void hidingLeavesRenameAsItIsWithoutACurrentToolBar();
@@ -459,6 +461,21 @@ void tst_RyCToolBarWidget_WorkingCopy::theFillShowsEveryToolBarSortedByTitle()
         rowsOf(editor.views.toolBarList),
         QStringList({QStringLiteral("About"), QStringLiteral("Empty"), QStringLiteral("File"),
                      QStringLiteral("Mine"), QStringLiteral("Single"), QStringLiteral("Zoom")}));
+}
+
+// Not only because its own changes look like renames, which sort as well.
+void tst_RyCToolBarWidget_WorkingCopy::theFillSortsTheToolBarsEvenUnheard()
+{
+    Host host;
+    for (const char *title : {"Delta", "Alpha", "Charlie", "Bravo"})
+        host.manager.createToolBar(QLatin1String(title));
+    RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
+    const EditorViews views(&widget);
+    const QSignalBlocker unheard(views.toolBarList);
+    widget.show();
+    QCOMPARE(rowsOf(views.toolBarList),
+             QStringList({QStringLiteral("Alpha"), QStringLiteral("Bravo"),
+                          QStringLiteral("Charlie"), QStringLiteral("Delta")}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theWorkingCopyEqualsTheManager()
@@ -821,6 +838,20 @@ void tst_RyCToolBarWidget_WorkingCopy::hidingEmptiesTheEditor()
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.call("removeClicked");
     editor.call("newClicked");
+    editor.widget.hide();
+    QVERIFY(isEmpty(editor.views));
+    QVERIFY(isEmpty(EditorFields::of(editor.widget)));
+}
+
+// Not only because the emptied views tell that nothing is current.
+void tst_RyCToolBarWidget_WorkingCopy::hidingEmptiesTheEditorEvenUnheard()
+{
+    Host host;
+    fillHost(host);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    const QSignalBlocker unheardToolBars(editor.views.toolBarList);
+    const QSignalBlocker unheardActions(editor.views.actionTree);
     editor.widget.hide();
     QVERIFY(isEmpty(editor.views));
     QVERIFY(isEmpty(EditorFields::of(editor.widget)));
