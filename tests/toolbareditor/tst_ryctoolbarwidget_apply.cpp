@@ -87,17 +87,21 @@ private:
 };
 
 // A default toolbar, two custom ones and an action that stands on none.
-void fillHost(Host &host)
+class FilledHost : public Host
 {
-    host.defaultToolBar(QStringLiteral("file"),
-                        {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                        QStringLiteral("Files"));
-    for (const char *name : {"copy", "cut", "paste", "zoom"})
-        host.registered(QLatin1String(name), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Mine"),
-                  {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
-    customToolBar(host, QStringLiteral("Tools"), {QStringLiteral("|"), QStringLiteral("cut")});
-}
+public:
+    FilledHost()
+    {
+        defaultToolBar(QStringLiteral("file"),
+                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
+                       QStringLiteral("Files"));
+        for (const char *name : {"copy", "cut", "paste", "zoom"})
+            registered(QLatin1String(name), QStringLiteral("Edits"));
+        customToolBar(*this, QStringLiteral("Mine"),
+                      {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
+        customToolBar(*this, QStringLiteral("Tools"), {QStringLiteral("|"), QStringLiteral("cut")});
+    }
+};
 
 QToolBar *toolBarTitled(const RyToolBarManager &manager, const QString &title)
 {
@@ -176,8 +180,7 @@ private Q_SLOTS:
 
 void tst_RyCToolBarWidget_Apply::applyWithoutEditsTouchesNoContent()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     QToolBar *const file = toolBarTitled(host.manager, QStringLiteral("File"));
     const auto standing = file->actions();
     ShownEditor editor(&host.manager);
@@ -191,8 +194,7 @@ void tst_RyCToolBarWidget_Apply::applyWithoutEditsTouchesNoContent()
 // Each is written whole, so that what the host did to one meanwhile is undone.
 void tst_RyCToolBarWidget_Apply::applyWritesToolBarsThatWereNotEdited()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     const QStringList before = toolBarsOf(host.manager);
     for (const char *title : {"File", "Mine", "Tools"})
@@ -205,8 +207,7 @@ void tst_RyCToolBarWidget_Apply::applyWritesToolBarsThatWereNotEdited()
 
 void tst_RyCToolBarWidget_Apply::applyWritesTheEditedContent()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
     editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
@@ -221,8 +222,7 @@ void tst_RyCToolBarWidget_Apply::applyWritesTheEditedContent()
 
 void tst_RyCToolBarWidget_Apply::applyAlwaysSetsTheTitle()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     QToolBar *const file = toolBarTitled(host.manager, QStringLiteral("File"));
     QToolBar *const mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
@@ -235,8 +235,7 @@ void tst_RyCToolBarWidget_Apply::applyAlwaysSetsTheTitle()
 
 void tst_RyCToolBarWidget_Apply::applyWorksInPhases()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     removeToolBar(editor, QStringLiteral("Tools"));
     makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom"), Separator});
@@ -270,8 +269,7 @@ void tst_RyCToolBarWidget_Apply::applyWorksInPhases()
 
 void tst_RyCToolBarWidget_Apply::applyWritesTheToolBarsInTheOrderOfTheRecords()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     for (int i = 0; i < 8; ++i)
         customToolBar(host, QStringLiteral("Toolbar %1").arg(i), {});
     ShownEditor editor(&host.manager);
@@ -323,8 +321,7 @@ void tst_RyCToolBarWidget_Apply::aCreatedToolBarGetsItsNameAndThenItsContent()
 
 void tst_RyCToolBarWidget_Apply::aCreatedToolBarIsAnExistingOneFromThenOn()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
@@ -358,8 +355,7 @@ void tst_RyCToolBarWidget_Apply::aCreatedToolBarIsAnExistingOneFromThenOn()
 
 void tst_RyCToolBarWidget_Apply::aCreatedToolBarGetsTheNextFreeObjectName()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     removeToolBar(editor, QStringLiteral("Mine"));
     makeToolBar(editor, QStringLiteral("Yours"), {});
@@ -371,8 +367,7 @@ void tst_RyCToolBarWidget_Apply::aCreatedToolBarGetsTheNextFreeObjectName()
 
 void tst_RyCToolBarWidget_Apply::severalToolBarsAreCreatedAndDeleted()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     removeToolBar(editor, QStringLiteral("Mine"));
     removeToolBar(editor, QStringLiteral("Tools"));
@@ -390,8 +385,7 @@ void tst_RyCToolBarWidget_Apply::severalToolBarsAreCreatedAndDeleted()
 
 void tst_RyCToolBarWidget_Apply::aRemovedToolBarIsDeleted()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QPointer<QToolBar> mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
     ShownEditor editor(&host.manager);
     removeToolBar(editor, QStringLiteral("Mine"));
@@ -408,8 +402,7 @@ void tst_RyCToolBarWidget_Apply::aRemovedToolBarIsDeleted()
 
 void tst_RyCToolBarWidget_Apply::applyingTwiceCreatesAndDeletesNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     removeToolBar(editor, QStringLiteral("Mine"));
     makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom"), Separator});
@@ -433,8 +426,7 @@ void tst_RyCToolBarWidget_Apply::applyingTwiceCreatesAndDeletesNothing()
 
 void tst_RyCToolBarWidget_Apply::applyLeavesTheViewsAsTheyAre()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     removeToolBar(editor, QStringLiteral("Tools"));
     makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
@@ -479,8 +471,7 @@ void tst_RyCToolBarWidget_Apply::applyWhileTheNameIsEditedTakesTheOldName()
 
 void tst_RyCToolBarWidget_Apply::applyIsDoneWhenItReturns()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     removeToolBar(editor, QStringLiteral("Mine"));
     makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
@@ -496,8 +487,7 @@ void tst_RyCToolBarWidget_Apply::applyIsDoneWhenItReturns()
 
 void tst_RyCToolBarWidget_Apply::withoutAMainWindowNothingIsCreated()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.manager.setMainWindow(nullptr);
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
@@ -526,8 +516,7 @@ void tst_RyCToolBarWidget_Apply::withoutAMainWindowNothingIsCreated()
 
 void tst_RyCToolBarWidget_Apply::anActionThatTheHostTookAwayIsLeftOut()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     host.manager.removeAction(host.action(QStringLiteral("cut")));
     editor.selectToolBar(QStringLiteral("Mine"));
@@ -540,8 +529,7 @@ void tst_RyCToolBarWidget_Apply::anActionThatTheHostTookAwayIsLeftOut()
 
 void tst_RyCToolBarWidget_Apply::aToolBarThatTheHostDeletedIsLeftAlone()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.call("leftClicked");
@@ -561,8 +549,7 @@ void tst_RyCToolBarWidget_Apply::aToolBarThatTheHostDeletedIsLeftAlone()
 
 void tst_RyCToolBarWidget_Apply::aRemovedToolBarThatTheHostDeletedIsLeftAlone()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     removeToolBar(editor, QStringLiteral("Mine"));
     host.manager.deleteToolBar(toolBarTitled(host.manager, QStringLiteral("Mine")));
@@ -574,8 +561,7 @@ void tst_RyCToolBarWidget_Apply::aRemovedToolBarThatTheHostDeletedIsLeftAlone()
 
 void tst_RyCToolBarWidget_Apply::applyKeepsTheRecordsOfTheFill()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     const auto before = EditorFields::of(editor.widget).recordOfToolBar;
     QCOMPARE(before.size(), 3);
@@ -587,8 +573,7 @@ void tst_RyCToolBarWidget_Apply::applyKeepsTheRecordsOfTheFill()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsChangesTheWorkingCopyOnly()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
     editor.call("leftClicked");
@@ -604,8 +589,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsChangesTheWorkingCopyOnly()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsResetsTheContentOfDefaultToolBars()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom")}, QStringLiteral("View"));
     host.defaultToolBar(QStringLiteral("help"), {}, QStringLiteral("Help"));
     // Edited before, edited now, not at all.
@@ -626,8 +610,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsResetsTheContentOfDefaultToolBar
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsTheDefaultContent()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
     editor.views.doubleClick(editor.views.currentToolBarList, 2);
@@ -642,8 +625,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsTheDefaultContent()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsNothingWithoutACurrentToolBar()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.toolBarList->setCurrentItem(nullptr);
     editor.widget.defaultClicked();
@@ -655,8 +637,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsNothingWithoutACurrentToolB
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsRemovesCustomToolBars()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QPointer<QToolBar> mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
     const QPointer<QToolBar> tools = toolBarTitled(host.manager, QStringLiteral("Tools"));
     ShownEditor editor(&host.manager);
@@ -692,8 +673,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsFreesNewToolBars()
 // The editor kept no record of it from the fill.
 void tst_RyCToolBarWidget_Apply::restoreDefaultsRemovesToolBarsThatWereCreatedAndApplied()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
     editor.widget.applyClicked();
@@ -708,8 +688,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsRemovesToolBarsThatWereCreatedAn
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsLeavesRemovedToolBarsRemoved()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QPointer<QToolBar> mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
     ShownEditor editor(&host.manager);
     removeToolBar(editor, QStringLiteral("Mine"));
@@ -770,8 +749,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsWithCustomToolBarsOnlyLeavesNone
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsKeepsTheNames()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     QToolBar *const file = toolBarTitled(host.manager, QStringLiteral("File"));
     file->setWindowTitle(QStringLiteral("Changed by the host"));
@@ -784,8 +762,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsKeepsTheNames()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsDoesNotBringUnregisteredActionsBack()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.manager.removeAction(host.action(QStringLiteral("open")));
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
@@ -796,8 +773,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsDoesNotBringUnregisteredActionsB
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsThenHidingChangesNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.manager.setToolBar(toolBarTitled(host.manager, QStringLiteral("File")), {});
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
@@ -812,8 +788,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsThenHidingChangesNothing()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsThenApplyEqualsTheDefaults()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom"), QStringLiteral("|")},
                         QStringLiteral("View"));
     const auto toolBars = host.manager.toolBars();
@@ -830,8 +805,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsThenApplyEqualsTheDefaults()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsTwiceIsAsOnce()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.widget.defaultClicked();
@@ -842,8 +816,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsTwiceIsAsOnce()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileTheNameIsEdited()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
     QTest::keyClicks(editor.views.renameEditor(), QStringLiteral("Yours"));
@@ -855,8 +828,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileTheNameIsEdited()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileHiddenHasNoEffect()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.manager.setToolBar(toolBarTitled(host.manager, QStringLiteral("File")), {});
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
@@ -879,8 +851,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileHiddenHasNoEffect()
 // The records of the fill are gone, and what comes next may lie where they were.
 void tst_RyCToolBarWidget_Apply::restoreDefaultsAfterToolBarsWereDeleted()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     for (int i = 0; i < 8; ++i)
         customToolBar(host, QStringLiteral("Toolbar %1").arg(i), {});
     ShownEditor editor(&host.manager);
@@ -905,8 +876,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsAfterToolBarsWereDeleted()
 
 void tst_RyCToolBarWidget_Apply::aDefaultToolBarRegisteredMeanwhileIsLeftAlone()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     QToolBar *const late =
         host.defaultToolBar(QStringLiteral("late"), {QStringLiteral("zoom")}, QString());

@@ -17,17 +17,21 @@ const QString Separator = QStringLiteral("< S E P A R A T O R >");
 const QString NewName = QStringLiteral("Custom Toolbar");
 
 // A default toolbar, two custom ones and two actions that stand on none.
-void fillHost(Host &host)
+class FilledHost : public Host
 {
-    host.defaultToolBar(QStringLiteral("file"),
-                        {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                        QStringLiteral("Files"));
-    for (const char *name : {"copy", "cut", "paste", "undo", "zoom"})
-        host.registered(QLatin1String(name), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Mine"),
-                  {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
-    customToolBar(host, QStringLiteral("Tools"), {QStringLiteral("|"), QStringLiteral("cut")});
-}
+public:
+    FilledHost()
+    {
+        defaultToolBar(QStringLiteral("file"),
+                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
+                       QStringLiteral("Files"));
+        for (const char *name : {"copy", "cut", "paste", "undo", "zoom"})
+            registered(QLatin1String(name), QStringLiteral("Edits"));
+        customToolBar(*this, QStringLiteral("Mine"),
+                      {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
+        customToolBar(*this, QStringLiteral("Tools"), {QStringLiteral("|"), QStringLiteral("cut")});
+    }
+};
 
 // The rest of the host's toolbars with the one of the title in the given state.
 QStringList withMine(const QString &mine)
@@ -64,6 +68,7 @@ private Q_SLOTS:
     void removingWhileTheNameIsEdited();
     void removeWithoutACurrentRowDoesNothing();
     void removeOfAForeignRowDoesNothing();
+    void removeTakesTheToolBarOfTheCurrentRow();
     void aDefaultToolBarCannotBeRemoved();
     void anUnknownRecordCannotBeRemoved_data();
     void anUnknownRecordCannotBeRemoved();
@@ -86,10 +91,8 @@ private Q_SLOTS:
     void renamingDoesNotTouchTheHost();
     void hidingWhileTheNameIsEditedDiscardsIt();
 
-    void upMovesTheEntry_data();
-    void upMovesTheEntry();
-    void downMovesTheEntry_data();
-    void downMovesTheEntry();
+    void upAndDownMoveTheEntry_data();
+    void upAndDownMoveTheEntry();
     void movingWithoutACurrentEntryDoesNothing();
     void upAndDownStopAtTheEnds();
     void movingTakesSeparatorsAlong();
@@ -115,6 +118,7 @@ private Q_SLOTS:
     void aRemovedActionCanBeAddedAgain();
 
     void aCommandSetsTheButtons();
+    void removingAToolBarSetsTheButtons();
     void noCommandTouchesTheHost();
     void anyCommandsKeepTheEditorConsistent_data();
     void anyCommandsKeepTheEditorConsistent();
@@ -143,8 +147,7 @@ void tst_RyCToolBarWidget_Commands::applyAndCompare(Host &host, ShownEditor &edi
 
 void tst_RyCToolBarWidget_Commands::newMakesAnEmptyCurrentToolBar()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.click(editor.views.newButton);
@@ -173,8 +176,7 @@ void tst_RyCToolBarWidget_Commands::newNamesInTheUsersLanguage()
 
 void tst_RyCToolBarWidget_Commands::newKeepsTheListSorted()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.defaultToolBar(QStringLiteral("about"), {}, QStringLiteral("Help"));
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
@@ -186,8 +188,7 @@ void tst_RyCToolBarWidget_Commands::newKeepsTheListSorted()
 
 void tst_RyCToolBarWidget_Commands::newOpensTheEditorOfTheName()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
     const QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
@@ -206,8 +207,7 @@ void tst_RyCToolBarWidget_Commands::newOpensTheEditorOfTheName()
 // The row becomes current before it is known.
 void tst_RyCToolBarWidget_Commands::newLeavesNoToolBarCurrentForAMoment()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     QVERIFY(editor.views.rightButton->isEnabled());
@@ -252,8 +252,7 @@ void tst_RyCToolBarWidget_Commands::newTwiceMakesTwoToolBarsOfOneName()
 
 void tst_RyCToolBarWidget_Commands::newAgainKeepsTheNameThatWasBeingTyped()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
     QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
@@ -273,8 +272,7 @@ void tst_RyCToolBarWidget_Commands::newAgainKeepsTheNameThatWasBeingTyped()
 
 void tst_RyCToolBarWidget_Commands::newDoesNotTouchTheHost()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const int before = host.window.findChildren<QToolBar *>().size();
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
@@ -303,8 +301,7 @@ void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent()
     QFETCH(QString, removed);
     QFETCH(QString, current);
     QFETCH(QStringList, content);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     customToolBar(host, QStringLiteral("Above"), {QStringLiteral("zoom")});
     ShownEditor editor(&host.manager);
     QStringList rows = rowsOf(editor.views.toolBarList);
@@ -341,8 +338,7 @@ void tst_RyCToolBarWidget_Commands::removingTheOnlyToolBarLeavesNoneCurrent()
 
 void tst_RyCToolBarWidget_Commands::removingANewToolBarLeavesNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QStringList before = toolBarsOf(host.manager);
     const auto toolBars = host.window.findChildren<QToolBar *>();
     ShownEditor editor(&host.manager);
@@ -360,8 +356,7 @@ void tst_RyCToolBarWidget_Commands::removingANewToolBarLeavesNothing()
 
 void tst_RyCToolBarWidget_Commands::removingAnExistingToolBarKeepsItForTheApply()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
@@ -378,8 +373,7 @@ void tst_RyCToolBarWidget_Commands::removingAnExistingToolBarKeepsItForTheApply(
 
 void tst_RyCToolBarWidget_Commands::removingWhileTheNameIsEdited()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.click(editor.views.renameButton);
@@ -395,8 +389,7 @@ void tst_RyCToolBarWidget_Commands::removingWhileTheNameIsEdited()
 
 void tst_RyCToolBarWidget_Commands::removeWithoutACurrentRowDoesNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.toolBarList->setCurrentItem(nullptr);
     QVERIFY(editor.views.removeButton->isEnabled());
@@ -406,8 +399,7 @@ void tst_RyCToolBarWidget_Commands::removeWithoutACurrentRowDoesNothing()
 
 void tst_RyCToolBarWidget_Commands::removeOfAForeignRowDoesNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     QListWidgetItem *const foreign = addForeignRow(editor.views.toolBarList);
     editor.views.toolBarList->setCurrentItem(foreign);
@@ -417,10 +409,24 @@ void tst_RyCToolBarWidget_Commands::removeOfAForeignRowDoesNothing()
     compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
 }
 
+// Even while the editor shows no toolbar's content.
+void tst_RyCToolBarWidget_Commands::removeTakesTheToolBarOfTheCurrentRow()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QListWidgetItem *const none = nullptr;
+    QVERIFY(QMetaObject::invokeMethod(&editor.widget, "currentToolBarChanged", Qt::DirectConnection,
+                                      Q_ARG(QListWidgetItem *, none)));
+    editor.views.click(editor.views.removeButton);
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Tools"));
+    applyAndCompare(host, editor,
+                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")});
+}
+
 void tst_RyCToolBarWidget_Commands::aDefaultToolBarCannotBeRemoved()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
     QVERIFY(!editor.views.removeButton->isEnabled());
@@ -445,8 +451,7 @@ void tst_RyCToolBarWidget_Commands::anUnknownRecordCannotBeRemoved_data()
 void tst_RyCToolBarWidget_Commands::anUnknownRecordCannotBeRemoved()
 {
     QFETCH(QString, toolBar);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     QToolBar *found = nullptr;
@@ -465,8 +470,7 @@ void tst_RyCToolBarWidget_Commands::anUnknownRecordCannotBeRemoved()
 
 void tst_RyCToolBarWidget_Commands::removingAToolBarThatIsNotCurrentKeepsTheCurrentOne()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
@@ -482,8 +486,7 @@ void tst_RyCToolBarWidget_Commands::removingAToolBarThatIsNotCurrentKeepsTheCurr
 
 void tst_RyCToolBarWidget_Commands::isDefaultToolBarTellsByTheToolBar()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     const auto isDefault = [&editor](ToolBarItem *record) {
         bool result = true;
@@ -504,8 +507,7 @@ void tst_RyCToolBarWidget_Commands::isDefaultToolBarTellsByTheToolBar()
 
 void tst_RyCToolBarWidget_Commands::renameOpensTheEditorOfTheName()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.click(editor.views.renameButton);
@@ -521,8 +523,7 @@ void tst_RyCToolBarWidget_Commands::renameOpensTheEditorOfTheName()
 
 void tst_RyCToolBarWidget_Commands::renameWithoutACurrentToolBarDoesNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.toolBarList->setCurrentItem(nullptr);
     QVERIFY(editor.views.renameButton->isEnabled());
@@ -532,8 +533,7 @@ void tst_RyCToolBarWidget_Commands::renameWithoutACurrentToolBarDoesNothing()
 
 void tst_RyCToolBarWidget_Commands::aDefaultToolBarCannotBeRenamed()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
     QVERIFY(!editor.views.renameButton->isEnabled());
@@ -545,8 +545,7 @@ void tst_RyCToolBarWidget_Commands::aDefaultToolBarCannotBeRenamed()
 
 void tst_RyCToolBarWidget_Commands::renameWhileTheEditorIsOpenKeepsItOpen()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.click(editor.views.renameButton);
@@ -574,8 +573,7 @@ void tst_RyCToolBarWidget_Commands::everyNameIsAccepted_data()
 void tst_RyCToolBarWidget_Commands::everyNameIsAccepted()
 {
     QFETCH(QString, name);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     const ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
@@ -591,8 +589,7 @@ void tst_RyCToolBarWidget_Commands::everyNameIsAccepted()
 
 void tst_RyCToolBarWidget_Commands::aRenamedToolBarIsSortedAndStaysCurrent()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectEntry(1);
@@ -614,8 +611,7 @@ void tst_RyCToolBarWidget_Commands::aRenamedToolBarIsSortedAndStaysCurrent()
 
 void tst_RyCToolBarWidget_Commands::escapeKeepsTheOldName()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.click(editor.views.renameButton);
@@ -634,8 +630,7 @@ void tst_RyCToolBarWidget_Commands::escapeKeepsTheOldName()
 
 void tst_RyCToolBarWidget_Commands::losingTheFocusKeepsTheNewName()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.widget.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&editor.widget));
@@ -655,8 +650,7 @@ void tst_RyCToolBarWidget_Commands::losingTheFocusKeepsTheNewName()
 
 void tst_RyCToolBarWidget_Commands::anotherRowCanBeRenamed()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
     itemNamed(editor.views.toolBarList, QStringLiteral("Mine"))->setText(QStringLiteral("Above"));
@@ -671,8 +665,7 @@ void tst_RyCToolBarWidget_Commands::anotherRowCanBeRenamed()
 
 void tst_RyCToolBarWidget_Commands::aRenameWithoutACurrentToolBarIsIgnored()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.toolBarList->setCurrentItem(nullptr);
     itemNamed(editor.views.toolBarList, QStringLiteral("Mine"))->setText(QStringLiteral("Zebra"));
@@ -684,8 +677,7 @@ void tst_RyCToolBarWidget_Commands::aRenameWithoutACurrentToolBarIsIgnored()
 
 void tst_RyCToolBarWidget_Commands::aRenameOfAForeignRowIsIgnored()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     QListWidgetItem *const foreign = addForeignRow(editor.views.toolBarList);
     foreign->setText(QStringLiteral("Above"));
@@ -696,8 +688,7 @@ void tst_RyCToolBarWidget_Commands::aRenameOfAForeignRowIsIgnored()
 
 void tst_RyCToolBarWidget_Commands::changesOfARowThatAreNoRenameAreHarmless()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     QListWidgetItem *const row = itemNamed(editor.views.toolBarList, QStringLiteral("Mine"));
     row->setForeground(Qt::red);
@@ -708,8 +699,7 @@ void tst_RyCToolBarWidget_Commands::changesOfARowThatAreNoRenameAreHarmless()
 
 void tst_RyCToolBarWidget_Commands::renamingDoesNotTouchTheHost()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     QToolBar *const toolBar = EditorFields::of(editor.widget).currentRecord->toolBar();
@@ -722,8 +712,7 @@ void tst_RyCToolBarWidget_Commands::renamingDoesNotTouchTheHost()
 
 void tst_RyCToolBarWidget_Commands::hidingWhileTheNameIsEditedDiscardsIt()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
     QTest::keyClicks(editor.views.renameEditor(), QStringLiteral("Yours"));
@@ -733,68 +722,42 @@ void tst_RyCToolBarWidget_Commands::hidingWhileTheNameIsEditedDiscardsIt()
     applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
 }
 
-void tst_RyCToolBarWidget_Commands::upMovesTheEntry_data()
+void tst_RyCToolBarWidget_Commands::upAndDownMoveTheEntry_data()
 {
+    QTest::addColumn<bool>("up");
     QTest::addColumn<int>("entry");
     QTest::addColumn<int>("current");
     QTest::addColumn<QString>("content");
-    QTest::newRow("first") << 0 << 0 << "Mine: cut copy paste";
-    QTest::newRow("middle") << 1 << 0 << "Mine: copy cut paste";
-    QTest::newRow("last") << 2 << 1 << "Mine: cut paste copy";
+    QTest::newRow("first up") << true << 0 << 0 << "Mine: cut copy paste";
+    QTest::newRow("middle up") << true << 1 << 0 << "Mine: copy cut paste";
+    QTest::newRow("last up") << true << 2 << 1 << "Mine: cut paste copy";
+    QTest::newRow("first down") << false << 0 << 1 << "Mine: copy cut paste";
+    QTest::newRow("middle down") << false << 1 << 2 << "Mine: cut paste copy";
+    QTest::newRow("last down") << false << 2 << 2 << "Mine: cut copy paste";
 }
 
-void tst_RyCToolBarWidget_Commands::upMovesTheEntry()
+void tst_RyCToolBarWidget_Commands::upAndDownMoveTheEntry()
 {
+    QFETCH(bool, up);
     QFETCH(int, entry);
     QFETCH(int, current);
     QFETCH(QString, content);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectEntry(entry);
     const QListWidgetItem *const moved = editor.views.currentToolBarList->currentItem();
-    editor.views.click(editor.views.upButton);
+    editor.views.click(up ? editor.views.upButton : editor.views.downButton);
     QCOMPARE(editor.views.currentToolBarList->currentItem(), moved);
     QCOMPARE(editor.views.currentToolBarList->currentRow(), current);
     QCOMPARE(editor.views.upButton->isEnabled(), current > 0);
-    QVERIFY(editor.views.downButton->isEnabled());
-    applyAndCompare(host, editor, withMine(content));
-}
-
-void tst_RyCToolBarWidget_Commands::downMovesTheEntry_data()
-{
-    QTest::addColumn<int>("entry");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<QString>("content");
-    QTest::newRow("first") << 0 << 1 << "Mine: copy cut paste";
-    QTest::newRow("middle") << 1 << 2 << "Mine: cut paste copy";
-    QTest::newRow("last") << 2 << 2 << "Mine: cut copy paste";
-}
-
-void tst_RyCToolBarWidget_Commands::downMovesTheEntry()
-{
-    QFETCH(int, entry);
-    QFETCH(int, current);
-    QFETCH(QString, content);
-    Host host;
-    fillHost(host);
-    ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.selectEntry(entry);
-    const QListWidgetItem *const moved = editor.views.currentToolBarList->currentItem();
-    editor.views.click(editor.views.downButton);
-    QCOMPARE(editor.views.currentToolBarList->currentItem(), moved);
-    QCOMPARE(editor.views.currentToolBarList->currentRow(), current);
-    QVERIFY(editor.views.upButton->isEnabled());
     QCOMPARE(editor.views.downButton->isEnabled(), current < 2);
     applyAndCompare(host, editor, withMine(content));
 }
 
 void tst_RyCToolBarWidget_Commands::movingWithoutACurrentEntryDoesNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectEntry(-1);
@@ -810,8 +773,7 @@ void tst_RyCToolBarWidget_Commands::movingWithoutACurrentEntryDoesNothing()
 // The slots themselves, as the buttons are disabled there.
 void tst_RyCToolBarWidget_Commands::upAndDownStopAtTheEnds()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectEntry(0);
@@ -826,8 +788,7 @@ void tst_RyCToolBarWidget_Commands::upAndDownStopAtTheEnds()
 
 void tst_RyCToolBarWidget_Commands::movingTakesSeparatorsAlong()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
     editor.selectEntry(1);
@@ -859,8 +820,7 @@ void tst_RyCToolBarWidget_Commands::leftRemovesTheEntry()
     QFETCH(int, entry);
     QFETCH(QString, current);
     QFETCH(QString, content);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectEntry(entry);
@@ -871,8 +831,7 @@ void tst_RyCToolBarWidget_Commands::leftRemovesTheEntry()
 
 void tst_RyCToolBarWidget_Commands::aDoubleClickOnAnEntryRemovesIt()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
     editor.views.doubleClick(editor.views.currentToolBarList, 1);
@@ -886,8 +845,7 @@ void tst_RyCToolBarWidget_Commands::aDoubleClickOnAnEntryRemovesIt()
 
 void tst_RyCToolBarWidget_Commands::leftWithoutACurrentEntryDoesNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectEntry(-1);
@@ -899,8 +857,7 @@ void tst_RyCToolBarWidget_Commands::leftWithoutACurrentEntryDoesNothing()
 
 void tst_RyCToolBarWidget_Commands::leftEmptiesTheToolBarAtTheEnd()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     for (int i = 0; i < 3; ++i)
@@ -947,8 +904,7 @@ void tst_RyCToolBarWidget_Commands::rightAddsAnAction()
     QFETCH(int, entry);
     QFETCH(int, current);
     QFETCH(QString, content);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectEntry(entry);
@@ -964,8 +920,7 @@ void tst_RyCToolBarWidget_Commands::rightAddsAnAction()
 
 void tst_RyCToolBarWidget_Commands::aDoubleClickOnAnActionAddsIt()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
@@ -975,8 +930,7 @@ void tst_RyCToolBarWidget_Commands::aDoubleClickOnAnActionAddsIt()
 
 void tst_RyCToolBarWidget_Commands::aDoubleClickOnTheSeparatorEntryAddsOne()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.doubleClick(editor.views.actionTree, Separator);
@@ -985,8 +939,7 @@ void tst_RyCToolBarWidget_Commands::aDoubleClickOnTheSeparatorEntryAddsOne()
 
 void tst_RyCToolBarWidget_Commands::aDoubleClickOnACategoryAddsNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Edits"));
@@ -1004,8 +957,7 @@ void tst_RyCToolBarWidget_Commands::rightWithoutAnActionDoesNothing_data()
 void tst_RyCToolBarWidget_Commands::rightWithoutAnActionDoesNothing()
 {
     QFETCH(QString, treeItem);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.actionTree->setCurrentItem(itemNamed(editor.views.actionTree, treeItem));
@@ -1016,8 +968,7 @@ void tst_RyCToolBarWidget_Commands::rightWithoutAnActionDoesNothing()
 
 void tst_RyCToolBarWidget_Commands::rightWithoutACurrentToolBarDoesNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.toolBarList->setCurrentItem(nullptr);
     editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
@@ -1028,8 +979,7 @@ void tst_RyCToolBarWidget_Commands::rightWithoutACurrentToolBarDoesNothing()
 
 void tst_RyCToolBarWidget_Commands::anAddedActionLooksLikeTheAction()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     QAction *const action = host.action(QStringLiteral("zoom"));
     QPixmap pixmap(16, 16);
     pixmap.fill(Qt::red);
@@ -1046,8 +996,7 @@ void tst_RyCToolBarWidget_Commands::anAddedActionLooksLikeTheAction()
 
 void tst_RyCToolBarWidget_Commands::anAddedSeparatorIsPlain()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.doubleClick(editor.views.actionTree, Separator);
@@ -1061,8 +1010,7 @@ void tst_RyCToolBarWidget_Commands::anAddedSeparatorIsPlain()
 
 void tst_RyCToolBarWidget_Commands::oneActionStandsOnSeveralToolBars()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     for (const char *title : {"File", "Mine", "Tools"}) {
         editor.selectToolBar(QLatin1String(title));
@@ -1076,8 +1024,7 @@ void tst_RyCToolBarWidget_Commands::oneActionStandsOnSeveralToolBars()
 
 void tst_RyCToolBarWidget_Commands::separatorsAreAddedAnyNumberOfTimes()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectAction(Separator);
@@ -1088,8 +1035,7 @@ void tst_RyCToolBarWidget_Commands::separatorsAreAddedAnyNumberOfTimes()
 
 void tst_RyCToolBarWidget_Commands::aRemovedActionCanBeAddedAgain()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.doubleClick(editor.views.currentToolBarList, 0);
@@ -1098,42 +1044,57 @@ void tst_RyCToolBarWidget_Commands::aRemovedActionCanBeAddedAgain()
     applyAndCompare(host, editor, withMine(QStringLiteral("Mine: copy paste cut")));
 }
 
-// Where no other selection changes than the command's own.
+// Itself, not only because another row becomes current.
 void tst_RyCToolBarWidget_Commands::aCommandSetsTheButtons()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectAction(QStringLiteral("Zoom"));
+    const QSignalBlocker unheard(editor.views.currentToolBarList);
     const auto enabled = [&editor](const char *slot) {
         editor.call(slot);
         return editor.views.enabledButtons().join(QLatin1Char(' '));
     };
-    const QString toolBars = QStringLiteral("newButton removeButton renameButton ");
-    QCOMPARE(enabled("downClicked"),
-             toolBars
-                 + QStringLiteral("upButton leftButton rightButton "
-                                  "downButton"));
-    QCOMPARE(enabled("downClicked"), toolBars + QStringLiteral("upButton leftButton rightButton"));
-    QCOMPARE(enabled("upClicked"),
-             toolBars
-                 + QStringLiteral("upButton leftButton rightButton "
-                                  "downButton"));
-    QCOMPARE(enabled("upClicked"), toolBars + QStringLiteral("leftButton rightButton downButton"));
-    QCOMPARE(enabled("leftClicked"),
-             toolBars + QStringLiteral("leftButton rightButton downButton"));
-    QCOMPARE(enabled("rightClicked"),
-             toolBars
-                 + QStringLiteral("upButton leftButton rightButton "
-                                  "downButton"));
-    QCOMPARE(enabled("newClicked"), toolBars + QStringLiteral("rightButton"));
+    const QString first =
+        QStringLiteral("newButton removeButton renameButton leftButton rightButton downButton");
+    const QString middle = QStringLiteral(
+        "newButton removeButton renameButton upButton leftButton rightButton downButton");
+    const QString last =
+        QStringLiteral("newButton removeButton renameButton upButton leftButton rightButton");
+    QCOMPARE(enabled("downClicked"), middle);
+    QCOMPARE(enabled("downClicked"), last);
+    QCOMPARE(enabled("upClicked"), middle);
+    QCOMPARE(enabled("upClicked"), first);
+    QCOMPARE(enabled("rightClicked"), middle);
+    QCOMPARE(enabled("downClicked"), middle);
+    QCOMPARE(enabled("downClicked"), last);
+    QCOMPARE(enabled("upClicked"), middle);
+    QCOMPARE(enabled("leftClicked"), last);
+}
+
+void tst_RyCToolBarWidget_Commands::removingAToolBarSetsTheButtons()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
+    editor.selectToolBar(QStringLiteral("File"));
+    for (QToolButton *button : {editor.views.newButton, editor.views.rightButton})
+        button->setEnabled(false);
+    for (QToolButton *button : {editor.views.removeButton, editor.views.renameButton})
+        button->setEnabled(true);
+    // No other row becomes current.
+    QVERIFY(QMetaObject::invokeMethod(&editor.widget, "removeToolBar", Qt::DirectConnection,
+                                      Q_ARG(ToolBarItem *, record)));
+    QCOMPARE(editor.views.enabledButtons(),
+             QStringList({QStringLiteral("newButton"), QStringLiteral("leftButton"),
+                          QStringLiteral("rightButton"), QStringLiteral("downButton")}));
 }
 
 void tst_RyCToolBarWidget_Commands::noCommandTouchesTheHost()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
@@ -1165,8 +1126,7 @@ void tst_RyCToolBarWidget_Commands::anyCommandsKeepTheEditorConsistent()
         "leftClicked",  "leftClicked",   "rightClicked",  "rightClicked",  "rightClicked",
         "rightClicked", "applyClicked",  "newClicked",    "defaultClicked"};
     QRandomGenerator random(seed);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     const QList<QTreeWidgetItem *> items =
         editor.views.actionTree->findItems(QString(), Qt::MatchContains | Qt::MatchRecursive);

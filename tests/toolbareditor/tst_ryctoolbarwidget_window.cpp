@@ -34,14 +34,18 @@ public:
     QStringList events;
 };
 
-void fillHost(Host &host)
+class FilledHost : public Host
 {
-    host.defaultToolBar(QStringLiteral("file"),
-                        {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                        QStringLiteral("Files"));
-    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("cut")});
-}
+public:
+    FilledHost()
+    {
+        defaultToolBar(QStringLiteral("file"),
+                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
+                       QStringLiteral("Files"));
+        registered(QStringLiteral("cut"), QStringLiteral("Edits"));
+        customToolBar(*this, QStringLiteral("Mine"), {QStringLiteral("cut")});
+    }
+};
 
 // Through the window, so that the focus goes where a click takes it.
 void clickInWindow(QWidget *widget, const QPoint &position)
@@ -87,6 +91,7 @@ private Q_SLOTS:
 
 private:
     void activate(ShownEditor &editor);
+    void typeNewName(ShownEditor &editor);
 };
 
 void tst_RyCToolBarWidget_Window::activate(ShownEditor &editor)
@@ -96,10 +101,19 @@ void tst_RyCToolBarWidget_Window::activate(ShownEditor &editor)
     QVERIFY(QTest::qWaitForWindowActive(&editor.widget));
 }
 
+// Into the open editor of a toolbar that has another name.
+void tst_RyCToolBarWidget_Window::typeNewName(ShownEditor &editor)
+{
+    editor.selectToolBar(QStringLiteral("Mine"));
+    clickInWindow(editor.views.renameButton);
+    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
+    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+}
+
 void tst_RyCToolBarWidget_Window::theNameOfANewToolBarIsTypedAtOnce()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     activate(editor);
     clickInWindow(editor.views.newButton);
@@ -119,14 +133,10 @@ void tst_RyCToolBarWidget_Window::theNameOfANewToolBarIsTypedAtOnce()
 
 void tst_RyCToolBarWidget_Window::escapeEndsTheRenaming()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     activate(editor);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    clickInWindow(editor.views.renameButton);
-    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    typeNewName(editor);
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Escape);
     QTRY_VERIFY(!editor.views.renameEditor());
     QVERIFY(editor.widget.isVisible());
@@ -145,15 +155,10 @@ void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming_data()
 void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming()
 {
     QFETCH(QString, view);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     activate(editor);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    clickInWindow(editor.views.renameButton);
-    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
-    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    typeNewName(editor);
     QAbstractItemView *const target = editor.widget.findChild<QAbstractItemView *>(view);
     // Below the last row.
     clickInWindow(target->viewport(), target->viewport()->rect().bottomLeft() + QPoint(5, -5));
@@ -167,14 +172,10 @@ void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming()
 // So that what they do comes while the name is still open.
 void tst_RyCToolBarWidget_Window::theButtonsTakeNoFocusFromTheName()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     activate(editor);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    clickInWindow(editor.views.renameButton);
-    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    typeNewName(editor);
     clickInWindow(editor.views.renameButton);
     clickInWindow(editor.views.rightButton);
     QTRY_COMPARE(editor.views.currentToolBarList->count(), 2);
@@ -209,8 +210,7 @@ void tst_RyCToolBarWidget_Window::newTwiceTypesTheSecondName()
 
 void tst_RyCToolBarWidget_Window::f2RenamesCustomToolBarsOnly()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     activate(editor);
     editor.views.toolBarList->setFocus();
@@ -228,8 +228,7 @@ void tst_RyCToolBarWidget_Window::f2RenamesCustomToolBarsOnly()
 
 void tst_RyCToolBarWidget_Window::minimizingKeepsTheEdits()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
     activate(editor);
@@ -260,8 +259,7 @@ void tst_RyCToolBarWidget_Window::minimizingKeepsTheEdits()
 // As the dialog around the page.
 void tst_RyCToolBarWidget_Window::minimizingAWindowAroundKeepsTheEdits()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     QWidget window;
     RyCToolBarWidget *const widget =
         new RyCToolBarWidget(&window, &host.manager, Qt::WindowFlags());
@@ -289,8 +287,7 @@ void tst_RyCToolBarWidget_Window::minimizingAWindowAroundKeepsTheEdits()
 
 void tst_RyCToolBarWidget_Window::closingTheWindowDiscardsTheEdits()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
     activate(editor);

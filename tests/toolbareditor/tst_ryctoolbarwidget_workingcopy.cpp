@@ -91,18 +91,22 @@ bool isEmpty(const EditorViews &views)
 }
 
 // A default toolbar and three custom ones.
-void fillHost(Host &host)
+class FilledHost : public Host
 {
-    host.defaultToolBar(QStringLiteral("file"),
-                        {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                        QStringLiteral("Files"));
-    for (const char *name : {"copy", "cut", "paste"})
-        host.registered(QLatin1String(name), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Empty"), {});
-    customToolBar(host, QStringLiteral("Mine"),
-                  {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
-    customToolBar(host, QStringLiteral("Single"), {QStringLiteral("|")});
-}
+public:
+    FilledHost()
+    {
+        defaultToolBar(QStringLiteral("file"),
+                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
+                       QStringLiteral("Files"));
+        for (const char *name : {"copy", "cut", "paste"})
+            registered(QLatin1String(name), QStringLiteral("Edits"));
+        customToolBar(*this, QStringLiteral("Empty"), {});
+        customToolBar(*this, QStringLiteral("Mine"),
+                      {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
+        customToolBar(*this, QStringLiteral("Single"), {QStringLiteral("|")});
+    }
+};
 
 } // namespace
 
@@ -135,6 +139,7 @@ private Q_SLOTS:
     void everyActionItemIsKnown();
 
     void theFillShowsEveryToolBarSortedByTitle();
+    void theFillSortsTheToolBarsEvenUnheard();
     void theWorkingCopyEqualsTheManager();
     void theSameTitleTwiceGivesTwoRows();
     void theFirstToolBarInPointerOrderIsCurrent();
@@ -161,6 +166,7 @@ private Q_SLOTS:
     void theRuleSetsEveryButton();
 
     void hidingEmptiesTheEditor();
+    void hidingEmptiesTheEditorEvenUnheard();
     void clearingDisablesSixButtonsAndLeavesRename_data();
     void clearingDisablesSixButtonsAndLeavesRename();
     void hidingLeavesRenameAsItIsWithoutACurrentToolBar();
@@ -237,8 +243,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theConstructorTakesParentAndFlags()
 
 void tst_RyCToolBarWidget_WorkingCopy::theConstructorFillsNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
     const EditorViews views(&widget);
     QVERIFY(isEmpty(views));
@@ -249,8 +254,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theConstructorFillsNothing()
 
 void tst_RyCToolBarWidget_WorkingCopy::theActionTreeHasOneColumnAndNoHeader()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const ShownEditor editor(&host.manager);
     QCOMPARE(editor.views.actionTree->columnCount(), 1);
     QVERIFY(editor.views.actionTree->header()->isHidden());
@@ -290,8 +294,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theRenameButtonHasATextAndNoIcon()
 
 void tst_RyCToolBarWidget_WorkingCopy::theFillShowsEveryCategoryAndAction()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     // Registered, but on no toolbar.
     host.registered(QStringLiteral("zoom"), QStringLiteral("View"));
     // On a window's toolbar, but not registered.
@@ -336,8 +339,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theSeparatorEntryIsSortedAmongTheCategori
 void tst_RyCToolBarWidget_WorkingCopy::theTranslatedSeparatorEntryIsSortedByItsTranslation()
 {
     const Translations german("RyCToolBarWidget", {{Separator, QStringLiteral("Trenner")}});
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.registered(QStringLiteral("zoom"), QStringLiteral("View"));
     ShownEditor editor(&host.manager);
     QCOMPARE(
@@ -355,8 +357,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theTranslatedSeparatorEntryIsSortedByItsT
 
 void tst_RyCToolBarWidget_WorkingCopy::theSeparatorEntryIsCurrent()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const ShownEditor editor(&host.manager);
     QCOMPARE(currentOf(editor.views.actionTree), Separator);
     const EditorFields fields = EditorFields::of(editor.widget);
@@ -379,8 +380,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theSeparatorEntryIsPlain()
 
 void tst_RyCToolBarWidget_WorkingCopy::categoriesArePlain()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const ShownEditor editor(&host.manager);
     QTreeWidgetItem *const item = itemNamed(editor.views.actionTree, QStringLiteral("Edits"));
     QVERIFY(item);
@@ -432,8 +432,7 @@ void tst_RyCToolBarWidget_WorkingCopy::aCategoryWithoutActionsIsChildless()
 
 void tst_RyCToolBarWidget_WorkingCopy::everyActionItemIsKnown()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const ShownEditor editor(&host.manager);
     const EditorFields fields = EditorFields::of(editor.widget);
     QSet<QAction *> known = host.manager.actions();
@@ -449,8 +448,7 @@ void tst_RyCToolBarWidget_WorkingCopy::everyActionItemIsKnown()
 
 void tst_RyCToolBarWidget_WorkingCopy::theFillShowsEveryToolBarSortedByTitle()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.defaultToolBar(QStringLiteral("zoom"), {}, QStringLiteral("View"));
     host.defaultToolBar(QStringLiteral("about"), {}, QStringLiteral("Help"));
     host.toolBar(QStringLiteral("foreign"));
@@ -461,10 +459,24 @@ void tst_RyCToolBarWidget_WorkingCopy::theFillShowsEveryToolBarSortedByTitle()
                      QStringLiteral("Mine"), QStringLiteral("Single"), QStringLiteral("Zoom")}));
 }
 
-void tst_RyCToolBarWidget_WorkingCopy::theWorkingCopyEqualsTheManager()
+// Not only because its own changes look like renames, which sort as well.
+void tst_RyCToolBarWidget_WorkingCopy::theFillSortsTheToolBarsEvenUnheard()
 {
     Host host;
-    fillHost(host);
+    for (const char *title : {"Delta", "Alpha", "Charlie", "Bravo"})
+        host.manager.createToolBar(QLatin1String(title));
+    RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
+    const EditorViews views(&widget);
+    const QSignalBlocker unheard(views.toolBarList);
+    widget.show();
+    QCOMPARE(rowsOf(views.toolBarList),
+             QStringList({QStringLiteral("Alpha"), QStringLiteral("Bravo"),
+                          QStringLiteral("Charlie"), QStringLiteral("Delta")}));
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::theWorkingCopyEqualsTheManager()
+{
+    FilledHost host;
     const ShownEditor editor(&host.manager);
     QCOMPARE(editor.workingCopy(),
              QStringList({QStringLiteral("Empty:"), QStringLiteral("File: open | save"),
@@ -481,8 +493,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theWorkingCopyEqualsTheManager()
 
 void tst_RyCToolBarWidget_WorkingCopy::theSameTitleTwiceGivesTwoRows()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     host.manager.createToolBar(QStringLiteral("File"));
     const ShownEditor editor(&host.manager);
     QCOMPARE(rowsOf(editor.views.toolBarList),
@@ -493,8 +504,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theSameTitleTwiceGivesTwoRows()
 
 void tst_RyCToolBarWidget_WorkingCopy::theFirstToolBarInPointerOrderIsCurrent()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     QToolBar *const first = host.manager.toolBars().first();
     // Neither the first nor the last of the sorted list.
     first->setWindowTitle(QStringLiteral("First"));
@@ -517,8 +527,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theFirstEntryOfTheCurrentToolBarIsCurrent
 
 void tst_RyCToolBarWidget_WorkingCopy::aDefaultToolBarIsDarkGreenAndNotEditable()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const ShownEditor editor(&host.manager);
     const QListWidgetItem *const row = itemNamed(editor.views.toolBarList, QStringLiteral("File"));
     QVERIFY(row);
@@ -531,8 +540,7 @@ void tst_RyCToolBarWidget_WorkingCopy::aDefaultToolBarIsDarkGreenAndNotEditable(
 
 void tst_RyCToolBarWidget_WorkingCopy::aCustomToolBarIsEditableAndNotColored()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const ShownEditor editor(&host.manager);
     const QListWidgetItem *const row = itemNamed(editor.views.toolBarList, QStringLiteral("Mine"));
     QVERIFY(row);
@@ -545,8 +553,7 @@ void tst_RyCToolBarWidget_WorkingCopy::aCustomToolBarIsEditableAndNotColored()
 // Each change reaches the renaming, which must find the names as they are.
 void tst_RyCToolBarWidget_WorkingCopy::theFillChangesEveryRowOnce()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
     const EditorViews views(&widget);
     QStringList changed;
@@ -604,8 +611,7 @@ void tst_RyCToolBarWidget_WorkingCopy::withoutAManagerTheEditorStaysEmpty()
 
 void tst_RyCToolBarWidget_WorkingCopy::selectingAToolBarShowsItsContent()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const ShownEditor editor(&host.manager);
     editor.views.click(editor.views.toolBarList, QStringLiteral("Mine"));
     QCOMPARE(rowsOf(editor.views.currentToolBarList),
@@ -652,8 +658,7 @@ void tst_RyCToolBarWidget_WorkingCopy::aSeparatorRowIsPlain()
 
 void tst_RyCToolBarWidget_WorkingCopy::selectingAnEmptyToolBarShowsNothing()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectToolBar(QStringLiteral("Empty"));
@@ -664,8 +669,7 @@ void tst_RyCToolBarWidget_WorkingCopy::selectingAnEmptyToolBarShowsNothing()
 
 void tst_RyCToolBarWidget_WorkingCopy::withoutACurrentToolBarNothingIsShown()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.views.toolBarList->setCurrentItem(nullptr);
@@ -676,8 +680,7 @@ void tst_RyCToolBarWidget_WorkingCopy::withoutACurrentToolBarNothingIsShown()
 
 void tst_RyCToolBarWidget_WorkingCopy::aForeignToolBarRowIsNoToolBar()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     QListWidgetItem foreign;
@@ -692,8 +695,7 @@ void tst_RyCToolBarWidget_WorkingCopy::aForeignToolBarRowIsNoToolBar()
 
 void tst_RyCToolBarWidget_WorkingCopy::aForeignTreeItemIsNoAction()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     QVERIFY(editor.views.rightButton->isEnabled());
     QTreeWidgetItem foreign;
@@ -705,8 +707,7 @@ void tst_RyCToolBarWidget_WorkingCopy::aForeignTreeItemIsNoAction()
 
 void tst_RyCToolBarWidget_WorkingCopy::selectingACategoryDisablesAdding()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const ShownEditor editor(&host.manager);
     QVERIFY(editor.views.rightButton->isEnabled());
     editor.views.click(editor.views.actionTree, QStringLiteral("Edits"));
@@ -767,8 +768,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theButtonsFollowTheSelection()
     QFETCH(int, entry);
     QFETCH(QString, treeItem);
     QFETCH(QString, enabled);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     if (toolBar.isEmpty())
         editor.views.toolBarList->setCurrentItem(nullptr);
@@ -796,8 +796,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theRuleSetsEveryButton_data()
 void tst_RyCToolBarWidget_WorkingCopy::theRuleSetsEveryButton()
 {
     QFETCH(bool, enabledBefore);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.selectEntry(1);
@@ -815,12 +814,24 @@ void tst_RyCToolBarWidget_WorkingCopy::theRuleSetsEveryButton()
 
 void tst_RyCToolBarWidget_WorkingCopy::hidingEmptiesTheEditor()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Mine"));
     editor.call("removeClicked");
     editor.call("newClicked");
+    editor.widget.hide();
+    QVERIFY(isEmpty(editor.views));
+    QVERIFY(isEmpty(EditorFields::of(editor.widget)));
+}
+
+// Not only because the emptied views tell that nothing is current.
+void tst_RyCToolBarWidget_WorkingCopy::hidingEmptiesTheEditorEvenUnheard()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    const QSignalBlocker unheardToolBars(editor.views.toolBarList);
+    const QSignalBlocker unheardActions(editor.views.actionTree);
     editor.widget.hide();
     QVERIFY(isEmpty(editor.views));
     QVERIFY(isEmpty(EditorFields::of(editor.widget)));
@@ -836,8 +847,7 @@ void tst_RyCToolBarWidget_WorkingCopy::clearingDisablesSixButtonsAndLeavesRename
 void tst_RyCToolBarWidget_WorkingCopy::clearingDisablesSixButtonsAndLeavesRename()
 {
     QFETCH(bool, renameEnabled);
-    Host host;
-    fillHost(host);
+    FilledHost host;
     RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
     const EditorViews views(&widget);
     setAllEnabled(views, true);
@@ -851,8 +861,7 @@ void tst_RyCToolBarWidget_WorkingCopy::clearingDisablesSixButtonsAndLeavesRename
 // The toolbar list is emptied first; without a current toolbar the rule enables Rename.
 void tst_RyCToolBarWidget_WorkingCopy::hidingLeavesRenameAsItIsWithoutACurrentToolBar()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     for (const char *title : {"File", "Mine"}) {
         editor.selectToolBar(QLatin1String(title));
@@ -864,8 +873,7 @@ void tst_RyCToolBarWidget_WorkingCopy::hidingLeavesRenameAsItIsWithoutACurrentTo
 
 void tst_RyCToolBarWidget_WorkingCopy::showingAgainReadsTheManagerAnew()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     host.registered(QStringLiteral("zoom"), QStringLiteral("View"));
     host.manager.addDefaultToolBar(host.toolBar(QStringLiteral("view"), {QStringLiteral("zoom")}),
@@ -897,8 +905,7 @@ void tst_RyCToolBarWidget_WorkingCopy::showingAgainReadsTheManagerAnew()
 
 void tst_RyCToolBarWidget_WorkingCopy::hidingDiscardsTheEdits()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("Single"));
@@ -921,8 +928,7 @@ void tst_RyCToolBarWidget_WorkingCopy::hidingDiscardsTheEdits()
 
 void tst_RyCToolBarWidget_WorkingCopy::nothingIsAppliedWhileHidden()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
     editor.call("leftClicked");
@@ -934,8 +940,7 @@ void tst_RyCToolBarWidget_WorkingCopy::nothingIsAppliedWhileHidden()
 
 void tst_RyCToolBarWidget_WorkingCopy::spontaneousEventsKeepTheEdits()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
     editor.call("leftClicked");
@@ -956,8 +961,7 @@ void tst_RyCToolBarWidget_WorkingCopy::spontaneousEventsKeepTheEdits()
 
 void tst_RyCToolBarWidget_WorkingCopy::otherEventsDoAsTheyAreNot()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
     const EditorViews views(&widget);
     QShowEvent show;
@@ -1022,8 +1026,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theRecordsAreFreed()
 
 void tst_RyCToolBarWidget_WorkingCopy::anEditorThatWasNeverShownCanBeDestroyed()
 {
-    Host host;
-    fillHost(host);
+    FilledHost host;
     const QStringList before = toolBarsOf(host.manager);
     delete new RyCToolBarWidget(nullptr, &host.manager, Qt::WindowFlags());
     QCOMPARE(toolBarsOf(host.manager), before);
