@@ -16,10 +16,13 @@ struct Warning
 QList<Warning> warnings;
 QtMessageHandler previousHandler = nullptr;
 
-// What the platform without a display says of itself.
+// What the platform without a display says of itself, and what Qt says on an X server where a frame
+// of the window manager went while Qt looked for the window below the pointer.
 bool isOfPlatform(const QString &text)
 {
-    return text.startsWith(QLatin1String("This plugin does not support"));
+    return text.startsWith(QLatin1String("This plugin does not support"))
+        || (text.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)"))
+            && text.contains(QLatin1String("(TranslateCoords)")));
 }
 
 void recordMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
