@@ -2,43 +2,156 @@
 
 #include "editorviews.h"
 #include "host.h"
-#include "nextmodal.h"
 #include "rycustomizeddialog.h"
 #include "testcase.h"
 #include "texts.h"
+#include "userscript.h"
 
-#include <QProcess>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QtTest>
+
+/*
+ * The dialog in a real window, which the user works with the pointer and the keyboard of an X
+ * server.
+ */
 
 namespace {
 
-// Runs a program of the X server's and returns what it prints.
-QString run(const QString &program, const QStringList &arguments)
+// A host with one default and one custom toolbar, its dialog, and the user before it.
+struct Stage
 {
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished() || process.exitCode() != 0)
-        QTest::qFail(qPrintable(program + QLatin1String(" failed")), __FILE__, __LINE__);
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
+    Stage()
+        : dialog({&host.manager, nullptr}, &host.window)
+        , editor(&dialog)
+        , tabs(dialog.findChild<QTabWidget *>())
+        , cancelButton(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel))
+    {
+        host.defaultToolBar(QStringLiteral("file"), words("open | save"), QStringLiteral("File"));
+        host.registered(QStringLiteral("cut"), QStringLiteral("Edit"));
+        host.registered(QStringLiteral("paste"), QStringLiteral("Edit"));
+        mine = host.manager.createToolBar(QStringLiteral("Mine"));
+        host.manager.setToolBar(mine, host.list(words("cut")));
+        host.window.resize(1000, 800);
+    }
 
-// What the window asks of the window manager, such as a button for context help.
-QString protocolsOf(const QWidget *window)
-{
-    return run(
-        QStringLiteral("xprop"),
-        {QStringLiteral("-id"), QString::number(window->winId()), QStringLiteral("WM_PROTOCOLS")});
-}
+    // Shows the host and runs the dialog through the user's steps; "accepted" or "rejected" is what
+    // the dialog returned, anything else tells what went wrong before.
+    QString exec()
+    {
+        host.window.show();
+        if (!waitUntilSettled(&host.window))
+            return QStringLiteral("the host has no window");
+        user.start();
+        const int result = dialog.exec();
+        const QString failure = user.finish();
+        if (!failure.isEmpty())
+            return failure;
+        return result == QDialog::Accepted ? QStringLiteral("accepted")
+                                           : QStringLiteral("rejected");
+    }
 
-// Presses a key of the X server's keyboard, as the user does.
-void pressUntilClosed(QWidget *dialog, const QString &key)
-{
-    QVERIFY(QTest::qWaitForWindowActive(dialog));
-    const EditorViews editor(dialog);
-    editor.doubleClick(editor.actionTree, QStringLiteral("Open"));
-    run(QStringLiteral("xdotool"), {QStringLiteral("key"), key});
-    QTRY_VERIFY(!dialog->isVisible());
-}
+    void waitForDialog() { user.waitForWindow(&dialog); }
+
+    void click(QListWidget *list, const QString &text)
+    {
+        moveTo(list, text);
+        user.press();
+        user.release();
+        user.waitFor(QStringLiteral("row"), [list, text] { return currentOf(list) == text; });
+    }
+
+    void clickTab(int index)
+    {
+        QTabBar *const bar = tabs->tabBar();
+        user.moveTo([bar] { return bar; }, [bar, index] { return bar->tabRect(index).center(); });
+        user.press();
+        user.release();
+        user.waitFor(QStringLiteral("tab"),
+                     [this, index] { return tabs->currentIndex() == index; });
+    }
+
+    template <typename View> void moveTo(View *view, const QString &text)
+    {
+        user.waitFor(QStringLiteral("item ") + text,
+                     [view, text] { return itemNamed(view, text); });
+        user.moveTo([view] { return view->viewport(); },
+                    [view, text] { return view->visualItemRect(itemNamed(view, text)).center(); });
+    }
+
+    // Opens the category; a double click on it adds nothing.
+    void openCategory(const QString &category)
+    {
+        QTreeWidget *const tree = editor.actionTree;
+        moveTo(tree, category);
+        user.doubleClick([=] { return itemNamed(tree, category)->isExpanded(); });
+    }
+
+    void addByDoubleClick(const QString &action, const char *rows)
+    {
+        moveTo(editor.actionTree, action);
+        user.doubleClick([this, rows] { return currentRows() == words(rows); });
+    }
+
+    void pressButton(QToolButton *button, const char *rows)
+    {
+        user.click(button);
+        user.waitFor(QLatin1String(rows), [this, rows] { return currentRows() == words(rows); });
+    }
+
+    QStringList currentRows() const
+    {
+        QStringList rows = rowsOf(editor.currentToolBarList);
+        rows.replaceInStrings(QStringLiteral("< S E P A R A T O R >"), QStringLiteral("|"));
+        return rows;
+    }
+
+    QLineEdit *nameEditor() const { return qobject_cast<QLineEdit *>(editor.renameEditor()); }
+
+    // Types into the in-place editor, which has opened with its text selected.
+    void typeName(const QString &name)
+    {
+        waitForNameEditor();
+        user.type(name, [this, name] { return nameEditor() && nameEditor()->text() == name; });
+    }
+
+    void waitForNameEditor()
+    {
+        user.waitFor(QStringLiteral("editor"), [this] {
+            return nameEditor() && nameEditor()->hasFocus() && nameEditor()->hasSelectedText();
+        });
+    }
+
+    void newToolBar(const QString &name)
+    {
+        user.click(editor.newButton);
+        typeName(name);
+        user.clickKey(Qt::Key_Return, [this] { return !nameEditor(); });
+    }
+
+    QStringList titlesInHost() const
+    {
+        QStringList titles;
+        const auto toolBars = host.window.findChildren<QToolBar *>();
+        for (const QToolBar *toolBar : toolBars)
+            titles << toolBar->windowTitle();
+        titles.sort();
+        return titles;
+    }
+
+    Host host;
+    RyCustomizedDialog dialog;
+    EditorViews editor;
+    QTabWidget *const tabs;
+    QPushButton *const cancelButton;
+    QToolBar *mine;
+    UserScript user;
+};
 
 } // namespace
 
@@ -47,54 +160,312 @@ class tst_RyCustomizedDialog_Window : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void theTitleBarOffersNoContextHelp();
-    void theUsersKeysEndTheDialog_data();
-    void theUsersKeysEndTheDialog();
+    void okAccepts();
+    void cancelRejects();
+    void escapeRejects();
+    void closingTheWindowRejects();
+    void returnPressesOk();
+    void theWindowHasNoHelpButtonAndIsModal();
+    void theHostTakesNoClicksMeanwhile();
+    void theUserMakesAToolBar();
+    void cancelDropsWhatTheUserMade();
+    void closingTheWindowDropsWhatTheUserMade();
+    void applyShowsItAndKeepsTheDialog();
+    void escapeInTheNameEditorKeepsTheDialogAndTheName();
+    void theUserRenamesAToolBar();
+    void theUserRemovesAToolBar();
+    void theUserReordersAndRemovesActions();
+    void switchingTabsDiscardsTheEdits();
+    void restoreDefaultsRemovesCustomToolBars();
+    void helpShowsItsMessage();
+    void theDialogCanBeRunAgain();
 };
 
-void tst_RyCustomizedDialog_Window::theTitleBarOffersNoContextHelp()
+void tst_RyCustomizedDialog_Window::okAccepts()
 {
-    Host host;
-    RyCustomizedDialog dialog({&host.manager, nullptr}, nullptr);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const QString offer = QStringLiteral("_NET_WM_CONTEXT_HELP");
-    QVERIFY(!protocolsOf(&dialog).contains(offer));
-    QVERIFY(protocolsOf(&dialog).contains(QLatin1String("WM_DELETE_WINDOW")));
-    dialog.hide();
-    QDialog plain;
-    plain.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plain));
-    QVERIFY(protocolsOf(&plain).contains(offer));
+    Stage stage;
+    stage.waitForDialog();
+    stage.user.click(stage.dialog.okButton());
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QVERIFY(!stage.dialog.isVisible());
+    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+    QCOMPARE(standingOn(stage.mine), words("cut"));
 }
 
-void tst_RyCustomizedDialog_Window::theUsersKeysEndTheDialog_data()
+void tst_RyCustomizedDialog_Window::cancelRejects()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("the window manager closes it") << QStringLiteral("alt+F4") << false;
-    QTest::newRow("Escape") << QStringLiteral("Escape") << false;
-    QTest::newRow("Return") << QStringLiteral("Return") << true;
+    Stage stage;
+    stage.waitForDialog();
+    stage.user.click(stage.cancelButton);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
 }
 
-void tst_RyCustomizedDialog_Window::theUsersKeysEndTheDialog()
+void tst_RyCustomizedDialog_Window::escapeRejects()
 {
-    QFETCH(QString, key);
-    QFETCH(bool, accepted);
-    Host host;
-    QToolBar *const file = host.defaultToolBar(QStringLiteral("file"),
-                                               {QStringLiteral("save"), QStringLiteral("open")},
-                                               QStringLiteral("File"));
-    host.manager.setToolBar(file, host.list({QStringLiteral("save")}));
-    host.window.show();
-    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    const NextModal modal([&key](QWidget *widget) { pressUntilClosed(widget, key); });
-    QCOMPARE(dialog.exec(), int(accepted ? QDialog::Accepted : QDialog::Rejected));
-    QVERIFY(modal.wasShown());
-    QStringList content{QStringLiteral("save")};
-    if (accepted)
-        content << QStringLiteral("open");
-    QCOMPARE(standingOn(file), content);
+    Stage stage;
+    stage.waitForDialog();
+    stage.user.clickKey(Qt::Key_Escape, [&] { return !stage.dialog.isVisible(); });
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+}
+
+void tst_RyCustomizedDialog_Window::closingTheWindowRejects()
+{
+    Stage stage;
+    stage.waitForDialog();
+    stage.user.step(
+        QStringLiteral("close"),
+        [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
+        [&] { return !stage.dialog.isVisible(); });
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+}
+
+void tst_RyCustomizedDialog_Window::returnPressesOk()
+{
+    Stage stage;
+    stage.waitForDialog();
+    stage.click(stage.editor.toolBarList, QStringLiteral("Mine"));
+    stage.user.click(stage.editor.leftButton);
+    stage.user.clickKey(Qt::Key_Return, [&] { return !stage.dialog.isVisible(); });
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(standingOn(stage.mine), QStringList());
+}
+
+void tst_RyCustomizedDialog_Window::theWindowHasNoHelpButtonAndIsModal()
+{
+    Stage stage;
+    bool modal = false;
+    stage.waitForDialog();
+    stage.user.act([&] { modal = QApplication::activeModalWidget() == &stage.dialog; });
+    stage.user.click(stage.cancelButton);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QVERIFY(modal);
+    const QDialog plain(&stage.host.window);
+    QCOMPARE(stage.dialog.windowFlags(),
+             plain.windowFlags() & ~Qt::WindowFlags(Qt::WindowContextHelpButtonHint));
+}
+
+void tst_RyCustomizedDialog_Window::theHostTakesNoClicksMeanwhile()
+{
+    Stage stage;
+    QSignalSpy triggered(stage.host.action(QStringLiteral("cut")), &QAction::triggered);
+    QWidget *const button = stage.mine->widgetForAction(stage.host.action(QStringLiteral("cut")));
+    stage.waitForDialog();
+    stage.user.act([&] {
+        stage.user.input.moveTo(button->mapToGlobal(button->rect().center()));
+        stage.user.input.click();
+    });
+    // What the server tells of it comes before what it tells of this.
+    stage.clickTab(1);
+    stage.user.click(stage.cancelButton);
+    stage.user.waitForWindow(&stage.host.window);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(triggered.count(), 0);
+
+    UserScript later;
+    later.click(button);
+    QCOMPARE(later.run(), QString());
+    QCOMPARE(triggered.count(), 1);
+}
+
+void tst_RyCustomizedDialog_Window::theUserMakesAToolBar()
+{
+    Stage stage;
+    stage.waitForDialog();
+    stage.newToolBar(QStringLiteral("My Tools"));
+    stage.openCategory(QStringLiteral("Edit"));
+    stage.addByDoubleClick(QStringLiteral("Cut"), "Cut");
+    stage.addByDoubleClick(QStringLiteral("< S E P A R A T O R >"), "Cut |");
+    stage.addByDoubleClick(QStringLiteral("Paste"), "Cut | Paste");
+    stage.pressButton(stage.editor.upButton, "Cut Paste |");
+    stage.pressButton(stage.editor.upButton, "Paste Cut |");
+    stage.pressButton(stage.editor.downButton, "Cut Paste |");
+    stage.user.click(stage.dialog.okButton());
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QToolBar *const made = stage.host.manager.toolBarByName(QStringLiteral("_Custom_Toolbar_2"));
+    QVERIFY(made);
+    QCOMPARE(made->windowTitle(), QStringLiteral("My Tools"));
+    QCOMPARE(standingOn(made), words("cut paste |"));
+    QVERIFY(made->isVisible());
+    QCOMPARE(made->window(), &stage.host.window);
+
+    // It is no picture: its buttons work.
+    QVERIFY(waitUntilSettled(&stage.host.window));
+    QAction *const paste = stage.host.action(QStringLiteral("paste"));
+    QSignalSpy triggered(paste, &QAction::triggered);
+    UserScript later;
+    later.click(made->widgetForAction(paste));
+    QCOMPARE(later.run(), QString());
+    QCOMPARE(triggered.count(), 1);
+}
+
+void tst_RyCustomizedDialog_Window::cancelDropsWhatTheUserMade()
+{
+    Stage stage;
+    stage.waitForDialog();
+    stage.newToolBar(QStringLiteral("My Tools"));
+    stage.user.click(stage.cancelButton);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+}
+
+void tst_RyCustomizedDialog_Window::closingTheWindowDropsWhatTheUserMade()
+{
+    Stage stage;
+    stage.waitForDialog();
+    stage.newToolBar(QStringLiteral("My Tools"));
+    stage.user.step(
+        QStringLiteral("close"),
+        [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
+        [&] { return !stage.dialog.isVisible(); });
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+}
+
+void tst_RyCustomizedDialog_Window::applyShowsItAndKeepsTheDialog()
+{
+    Stage stage;
+    bool openAfterApply = false;
+    stage.waitForDialog();
+    stage.newToolBar(QStringLiteral("Tools"));
+    stage.user.click(stage.dialog.applyButton());
+    stage.user.waitFor(QStringLiteral("toolbar"),
+                       [&] { return stage.titlesInHost() == words("File Mine Tools"); });
+    stage.user.act([&] { openAfterApply = stage.dialog.isVisible(); });
+    stage.newToolBar(QStringLiteral("Dropped"));
+    stage.user.click(stage.cancelButton);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QVERIFY(openAfterApply);
+    QCOMPARE(stage.titlesInHost(), words("File Mine Tools"));
+}
+
+void tst_RyCustomizedDialog_Window::escapeInTheNameEditorKeepsTheDialogAndTheName()
+{
+    Stage stage;
+    bool openAfterEscape = false;
+    stage.waitForDialog();
+    stage.user.click(stage.editor.newButton);
+    stage.typeName(QStringLiteral("Other"));
+    stage.user.clickKey(Qt::Key_Escape, [&] { return !stage.nameEditor(); });
+    stage.user.act([&] { openAfterEscape = stage.dialog.isVisible(); });
+    stage.user.click(stage.dialog.okButton());
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QVERIFY(openAfterEscape);
+    QCOMPARE(stage.titlesInHost(),
+             (QStringList{QStringLiteral("Custom Toolbar"), QStringLiteral("File"),
+                          QStringLiteral("Mine")}));
+}
+
+void tst_RyCustomizedDialog_Window::theUserRenamesAToolBar()
+{
+    Stage stage;
+    QStringList rows;
+    stage.waitForDialog();
+    stage.click(stage.editor.toolBarList, QStringLiteral("Mine"));
+    stage.user.click(stage.editor.renameButton);
+    stage.typeName(QStringLiteral("Afterwards"));
+    stage.user.clickKey(Qt::Key_Return, [&] { return !stage.nameEditor(); });
+    stage.user.act([&] { rows = rowsOf(stage.editor.toolBarList); });
+    stage.user.click(stage.dialog.okButton());
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(rows, words("Afterwards File"));
+    QCOMPARE(stage.mine->windowTitle(), QStringLiteral("Afterwards"));
+    QCOMPARE(standingOn(stage.mine), words("cut"));
+}
+
+void tst_RyCustomizedDialog_Window::theUserRemovesAToolBar()
+{
+    Stage stage;
+    const QPointer<QToolBar> mine = stage.mine;
+    stage.waitForDialog();
+    stage.click(stage.editor.toolBarList, QStringLiteral("Mine"));
+    stage.user.click(stage.editor.removeButton);
+    stage.user.waitFor(QStringLiteral("row gone"),
+                       [&] { return rowsOf(stage.editor.toolBarList) == words("File"); });
+    stage.user.click(stage.dialog.okButton());
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QTRY_VERIFY(!mine);
+    QCOMPARE(stage.titlesInHost(), words("File"));
+}
+
+void tst_RyCustomizedDialog_Window::theUserReordersAndRemovesActions()
+{
+    Stage stage;
+    stage.waitForDialog();
+    stage.click(stage.editor.toolBarList, QStringLiteral("File"));
+    stage.click(stage.editor.currentToolBarList, QStringLiteral("Save"));
+    stage.pressButton(stage.editor.upButton, "Open Save |");
+    stage.pressButton(stage.editor.upButton, "Save Open |");
+    stage.moveTo(stage.editor.currentToolBarList, QStringLiteral("Open"));
+    stage.user.doubleClick([&] { return stage.currentRows() == words("Save |"); });
+    stage.user.click(stage.dialog.okButton());
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(standingOn(stage.host.window.findChild<QToolBar *>(QStringLiteral("file"))),
+             words("save |"));
+}
+
+void tst_RyCustomizedDialog_Window::switchingTabsDiscardsTheEdits()
+{
+    Stage stage;
+    QStringList rows;
+    stage.waitForDialog();
+    stage.newToolBar(QStringLiteral("Lost"));
+    stage.clickTab(1);
+    stage.clickTab(0);
+    stage.user.act([&] { rows = rowsOf(stage.editor.toolBarList); });
+    stage.user.click(stage.dialog.okButton());
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(rows, words("File Mine"));
+    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+}
+
+void tst_RyCustomizedDialog_Window::restoreDefaultsRemovesCustomToolBars()
+{
+    Stage stage;
+    QStringList titlesBeforeOk;
+    stage.waitForDialog();
+    stage.user.click(stage.dialog.RestoreDefaultButton());
+    stage.user.waitFor(QStringLiteral("row gone"),
+                       [&] { return rowsOf(stage.editor.toolBarList) == words("File"); });
+    stage.user.act([&] { titlesBeforeOk = stage.titlesInHost(); });
+    stage.user.click(stage.dialog.okButton());
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(titlesBeforeOk, words("File Mine"));
+    QTRY_COMPARE(stage.titlesInHost(), words("File"));
+}
+
+void tst_RyCustomizedDialog_Window::helpShowsItsMessage()
+{
+    Stage stage;
+    QString title;
+    QString text;
+    const auto box = [] { return qobject_cast<QMessageBox *>(QApplication::activeWindow()); };
+    stage.waitForDialog();
+    stage.user.click(stage.dialog.helpButton());
+    stage.user.waitFor(QStringLiteral("message"), [=] { return box(); });
+    stage.user.act([&] {
+        title = box()->windowTitle();
+        text = box()->text();
+    });
+    stage.user.clickKey(Qt::Key_Return, [=] { return !box(); });
+    stage.waitForDialog();
+    stage.user.click(stage.cancelButton);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(title, QStringLiteral("help"));
+    QCOMPARE(text, QStringLiteral("KORVA help  doc!"));
+}
+
+void tst_RyCustomizedDialog_Window::theDialogCanBeRunAgain()
+{
+    Stage stage;
+    stage.waitForDialog();
+    stage.newToolBar(QStringLiteral("Lost"));
+    stage.user.click(stage.cancelButton);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    stage.waitForDialog();
+    stage.newToolBar(QStringLiteral("Second"));
+    stage.user.click(stage.dialog.okButton());
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.titlesInHost(), words("File Mine Second"));
 }
 
 QTEST_MAIN(tst_RyCustomizedDialog_Window)

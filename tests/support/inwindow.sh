@@ -11,13 +11,15 @@ if [ "${RY_IN_WINDOW:-}" != started ]; then
     RY_IN_WINDOW=started exec xvfb-run -a -s '-screen 0 1280x1024x24 -nolisten tcp' "$0" "$@"
 fi
 
-openbox --sm-disable &
+# A window manager that is still starting does not activate the windows that it finds. Openbox runs
+# this command once it is done with that.
+openbox --sm-disable \
+    --startup 'xprop -root -f RY_WINDOW_MANAGER 8s -set RY_WINDOW_MANAGER ready' &
 manager=$!
 trap 'kill "$manager" 2>/dev/null || true' EXIT
 
-# A window manager that is ready says so on the root window.
 tries=0
-until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
+until xprop -root RY_WINDOW_MANAGER 2>/dev/null | grep -q ready; do
     tries=$((tries + 1))
     [ "$tries" -lt 200 ] || { echo 'inwindow.sh: no window manager after 10 seconds' >&2; exit 1; }
     sleep 0.05

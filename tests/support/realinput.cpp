@@ -75,30 +75,38 @@ RealInput::~RealInput()
 void RealInput::moveTo(const QPoint &position)
 {
     fake(XCB_MOTION_NOTIFY, 0, position);
+    finish();
 }
 
 void RealInput::press(Qt::MouseButton button)
 {
     m_heldButtons.insert(buttonNumber(button));
     fake(XCB_BUTTON_PRESS, buttonNumber(button));
+    finish();
 }
 
 void RealInput::release(Qt::MouseButton button)
 {
     m_heldButtons.remove(buttonNumber(button));
     fake(XCB_BUTTON_RELEASE, buttonNumber(button));
+    finish();
 }
 
 void RealInput::click(Qt::MouseButton button)
 {
-    press(button);
-    release(button);
+    fake(XCB_BUTTON_PRESS, buttonNumber(button));
+    fake(XCB_BUTTON_RELEASE, buttonNumber(button));
+    finish();
 }
 
+// All in one request to the server, whose clock decides whether two clicks are a double one.
 void RealInput::doubleClick(Qt::MouseButton button)
 {
-    click(button);
-    click(button);
+    for (int i = 0; i < 2; ++i) {
+        fake(XCB_BUTTON_PRESS, buttonNumber(button));
+        fake(XCB_BUTTON_RELEASE, buttonNumber(button));
+    }
+    finish();
 }
 
 void RealInput::pressKey(Qt::Key key)
@@ -106,6 +114,7 @@ void RealInput::pressKey(Qt::Key key)
     const quint8 code = keyCode(symbolOf(key));
     m_heldKeys.insert(code);
     fake(XCB_KEY_PRESS, code);
+    finish();
 }
 
 void RealInput::releaseKey(Qt::Key key)
@@ -113,26 +122,32 @@ void RealInput::releaseKey(Qt::Key key)
     const quint8 code = keyCode(symbolOf(key));
     m_heldKeys.remove(code);
     fake(XCB_KEY_RELEASE, code);
+    finish();
 }
 
+// At once, lest the server repeats a key that it believes to be held.
 void RealInput::clickKey(Qt::Key key)
 {
-    pressKey(key);
-    releaseKey(key);
+    const quint8 code = keyCode(symbolOf(key));
+    fake(XCB_KEY_PRESS, code);
+    fake(XCB_KEY_RELEASE, code);
+    finish();
 }
 
 void RealInput::type(const QString &text)
 {
+    const quint8 shift = keyCode(symbolOf(Qt::Key_Shift));
     for (const QChar character : text) {
         bool shifted = false;
         const quint8 code = keyCode(character.unicode(), &shifted);
         if (shifted)
-            pressKey(Qt::Key_Shift);
+            fake(XCB_KEY_PRESS, shift);
         fake(XCB_KEY_PRESS, code);
         fake(XCB_KEY_RELEASE, code);
         if (shifted)
-            releaseKey(Qt::Key_Shift);
+            fake(XCB_KEY_RELEASE, shift);
     }
+    finish();
 }
 
 void RealInput::releaseAll()
@@ -143,6 +158,7 @@ void RealInput::releaseAll()
         fake(XCB_KEY_RELEASE, key);
     m_heldButtons.clear();
     m_heldKeys.clear();
+    finish();
 }
 
 void RealInput::closeByWindowManager(const QWindow *window)
@@ -178,7 +194,6 @@ void RealInput::fake(quint8 type, quint8 detail, const QPoint &position)
 {
     xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, m_root, qint16(position.x()),
                         qint16(position.y()), 0);
-    finish();
 }
 
 // Waits until the server has done all that was asked of it.

@@ -16,12 +16,13 @@ struct Warning
 QList<Warning> warnings;
 QtMessageHandler previousHandler = nullptr;
 
-// What the platforms say of themselves: the one without a display that it cannot do something, and
-// the X server's that a window was asked about which the window manager had just taken away.
+// What the platform without a display says of itself, and what Qt says on an X server where a frame
+// of the window manager went while Qt looked for the window below the pointer.
 bool isOfPlatform(const QString &text)
 {
     return text.startsWith(QLatin1String("This plugin does not support"))
-        || text.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)"));
+        || (text.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)"))
+            && text.contains(QLatin1String("(TranslateCoords)")));
 }
 
 void recordMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)

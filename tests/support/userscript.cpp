@@ -16,6 +16,13 @@ constexpr int patience = 20000;
 
 const QPoint outside(-1, -1);
 
+bool isSettled(const QWidget *window, const RealInput &input)
+{
+    const QWindow *const handle = window->windowHandle();
+    return handle && handle->isExposed() && handle->isActive()
+        && handle->mapToGlobal(QPoint()) == input.positionOf(handle);
+}
+
 } // namespace
 
 UserScript::UserScript()
@@ -95,10 +102,40 @@ void UserScript::releaseKey(Qt::Key key)
         [this, key] { return !m_heldKeys.contains(key); });
 }
 
-void UserScript::drop()
+void UserScript::click(QWidget *widget)
+{
+    moveTo([widget] { return widget; }, [widget] { return widget->rect().center(); });
+    press();
+    release();
+}
+
+void UserScript::doubleClick(const std::function<bool()> &done)
 {
     step(
-        QStringLiteral("drop"), [this] { input.release(); },
+        QStringLiteral("double click"), [this] { input.doubleClick(); }, done);
+}
+
+void UserScript::clickKey(Qt::Key key, const std::function<bool()> &done)
+{
+    step(
+        QStringLiteral("click key"), [this, key] { input.clickKey(key); }, done);
+}
+
+void UserScript::type(const QString &text, const std::function<bool()> &done)
+{
+    step(
+        QStringLiteral("type ") + text, [this, text] { input.type(text); }, done);
+}
+
+void UserScript::waitForWindow(QWidget *window)
+{
+    waitFor(QStringLiteral("window"), [this, window] { return isSettled(window, input); });
+}
+
+void UserScript::drop(Qt::MouseButton button)
+{
+    step(
+        QStringLiteral("drop"), [this, button] { input.release(button); },
         [this] { return !inNestedLoop() && !QGuiApplication::mouseButtons(); });
 }
 
@@ -115,6 +152,7 @@ void UserScript::start()
     input.moveTo(QPoint(0, 0));
     m_index = -1;
     m_failure.clear();
+    m_heldKeys.clear();
     m_pointer = outside;
     m_timer.start();
 }
@@ -209,8 +247,5 @@ void UserScript::end()
 bool waitUntilSettled(QWidget *window)
 {
     const RealInput input;
-    return QTest::qWaitForWindowActive(window) && QTest::qWaitFor([&] {
-               return window->windowHandle()->mapToGlobal(QPoint())
-                   == input.positionOf(window->windowHandle());
-           });
+    return QTest::qWaitFor([&] { return isSettled(window, input); }, patience);
 }

@@ -50,8 +50,19 @@ public:
     void pressKey(Qt::Key key);
     void releaseKey(Qt::Key key);
 
-    // The same inside a drag, which takes all input for itself: waits until every drag has ended.
-    void drop();
+    // All of a click in the middle of a widget.
+    void click(QWidget *widget);
+
+    // At once, for what follows closes a window or takes long; waits for what the test names.
+    void doubleClick(const std::function<bool()> &done);
+    void clickKey(Qt::Key key, const std::function<bool()> &done);
+    void type(const QString &text, const std::function<bool()> &done);
+
+    // Waits until a window is active and stands where Qt believes it to stand.
+    void waitForWindow(QWidget *window);
+
+    // Inside a drag, which takes all input for itself: waits until every drag has ended.
+    void drop(Qt::MouseButton button = Qt::LeftButton);
     void cancelDrag();
 
     // Takes the steps, each once: run(), or start(), what blocks, and finish(). The texts tell which
@@ -95,7 +106,7 @@ private:
     QSet<int> m_heldKeys;
 };
 
-// Waits until a shown window is active and stands where Qt believes it to stand.
+// The same outside of a script.
 bool waitUntilSettled(QWidget *window);
 
 #endif // USERSCRIPT_H

@@ -77,11 +77,15 @@ void fill(QTreeWidget &tree)
     tree.resize(200, 300);
 }
 
+// The lines of a text such as "a,  a1,b", as itemsOf() gives them.
+QStringList lines(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(','));
+}
+
 QStringList filledContent()
 {
-    return {QStringLiteral("a"), QStringLiteral("  a1"), QStringLiteral("  a2"),
-            QStringLiteral("b"), QStringLiteral("  b1"), QStringLiteral("c"),
-            QStringLiteral("d")};
+    return lines("a,  a1,  a2,b,  b1,c,d");
 }
 
 QStringList filledContentWithout(const QString &item)
@@ -916,14 +920,11 @@ void tst_RyTreeWidget::refusedMoveDeletesTheItemWithItsChildren_data()
 {
     QTest::addColumn<QString>("item");
     QTest::addColumn<QStringList>("left");
-    const auto words = [](const char *text) {
-        return QString::fromLatin1(text).split(QLatin1Char(','));
-    };
-    QTest::newRow("with children") << QStringLiteral("a") << words("b,  b1,c,d");
-    QTest::newRow("with folded children") << QStringLiteral("b") << words("a,  a1,  a2,c,d");
-    QTest::newRow("a child") << QStringLiteral("a1") << words("a,  a2,b,  b1,c,d");
-    QTest::newRow("an only child") << QStringLiteral("b1") << words("a,  a1,  a2,b,c,d");
-    QTest::newRow("the last one") << QStringLiteral("d") << words("a,  a1,  a2,b,  b1,c");
+    QTest::newRow("with children") << QStringLiteral("a") << lines("b,  b1,c,d");
+    QTest::newRow("with folded children") << QStringLiteral("b") << lines("a,  a1,  a2,c,d");
+    QTest::newRow("a child") << QStringLiteral("a1") << lines("a,  a2,b,  b1,c,d");
+    QTest::newRow("an only child") << QStringLiteral("b1") << lines("a,  a1,  a2,b,c,d");
+    QTest::newRow("the last one") << QStringLiteral("d") << lines("a,  a1,  a2,b,  b1,c");
 }
 
 void tst_RyTreeWidget::refusedMoveDeletesTheItemWithItsChildren()
@@ -973,8 +974,7 @@ void tst_RyTreeWidget::onlyTheCurrentItemIsDragged()
     makeCurrent(tree, current);
     for (const char *const selected : {"b", "c", "d"})
         itemNamed(&tree, QLatin1String(selected))->setSelected(true);
-    QStringList left = {QStringLiteral("a"), QStringLiteral("  a1"), QStringLiteral("  a2"),
-                        QStringLiteral("b"), QStringLiteral("c"),    QStringLiteral("d")};
+    QStringList left = lines("a,  a1,  a2,b,c,d");
     QCOMPARE(itemsOf(&tree), left);
     QCOMPARE(selectedIn(tree).count(), 3);
     tree.performDrag();
@@ -1003,9 +1003,7 @@ void tst_RyTreeWidget::aSecondDragTakesTheNextCurrentItem()
     makeCurrent(tree, QStringLiteral("a2"));
     tree.performDrag();
     QCOMPARE(dragsOf(tree), oneMove() + oneMove());
-    QCOMPARE(itemsOf(&tree),
-             (QStringList{QStringLiteral("a"), QStringLiteral("  a1"), QStringLiteral("b"),
-                          QStringLiteral("  b1"), QStringLiteral("d")}));
+    QCOMPARE(itemsOf(&tree), lines("a,  a1,b,  b1,d"));
 }
 
 void tst_RyTreeWidget::dragsWithoutASourceTreeAreLeftAlone_data()
