@@ -27,21 +27,23 @@ if [ -z "$missing" ]; then
 fi
 echo "Installing:$missing"
 
-as_root() {
-    if [ "$(id -u)" -eq 0 ]; then
-        env DEBIAN_FRONTEND=noninteractive "$@"
-    elif ! command -v sudo >/dev/null; then
-        echo "There is no sudo. As root, run: apt-get install$missing" >&2
-        return 1
-    elif (: </dev/tty) 2>/dev/null; then
-        sudo env DEBIAN_FRONTEND=noninteractive "$@"
-    else
-        sudo -n env DEBIAN_FRONTEND=noninteractive "$@"
-    fi
+if [ "$(id -u)" -eq 0 ]; then
+    sudo=
+elif ! command -v sudo >/dev/null; then
+    echo "There is no sudo. As root, run: apt-get install$missing" >&2
+    exit 1
+elif (: </dev/tty) 2>/dev/null; then
+    sudo=sudo
+else
+    sudo='sudo -n'
+fi
+
+apt_get() {
+    $sudo env DEBIAN_FRONTEND=noninteractive \
+        apt-get -q -oDPkg::Lock::Timeout=300 -oDpkg::Use-Pty=0 "$@"
 }
 
-wait_for_lock=-oDPkg::Lock::Timeout=300
 # A package source of somebody else's that does not answer must not stop us.
-as_root apt-get -q "$wait_for_lock" update || echo 'Going on with the package lists that are there.'
+apt_get update || echo 'Going on with the package lists that are there.'
 # shellcheck disable=SC2086 # several words are meant
-as_root apt-get -q "$wait_for_lock" install --yes --no-install-recommends $missing
+apt_get install --yes --no-install-recommends $missing
