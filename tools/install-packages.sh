@@ -1,21 +1,21 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 #
-# Installs those packages of a list that are missing, with apt, and says which. Calls apt for
+# Installs those packages of the lists that are missing, with apt, and says which. Calls apt for
 # nothing else.
 #
-# usage: install-packages.sh LIST
+# usage: install-packages.sh LIST...
 
 set -eu
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    echo "This system has no apt. What is needed is listed in $1."
+    echo "This system has no apt. What is needed is listed in: $*"
     exit 0
 fi
 
+wanted=$(sed 's/#.*//' "$@")
 missing=
-# shellcheck disable=SC2013 # words are meant
-for package in $(sed 's/#.*//' "$1"); do
+for package in $wanted; do
     case $(dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null || true) in
         ?i*) ;;
         *) missing="$missing $package" ;;
