@@ -9,15 +9,21 @@ cd "$(dirname "${BASH_SOURCE[0]}")" || exit
 . tools/steps.sh
 start_log build/demo.log
 
-step 'Packages' tools/install-packages.sh tools/packages-demo.txt
+has_display=${DISPLAY:-}${WAYLAND_DISPLAY:-}
+tour=examples/texteditor/tour
+packages=(tools/packages-demo.txt)
+[ -n "$has_display" ] || packages+=("$tour/packages.txt")
+step 'Packages' tools/install-packages.sh "${packages[@]}"
+
 # A folder of its own, because the tests need more packages.
 build=build/demo-release
 step 'Configure' cmake --preset release -B "$build" -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF
 step 'Build' cmake --build "$build" --parallel "$(nproc)"
-if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+
+if [ -n "$has_display" ]; then
     step 'Text editor' "$build/examples/texteditor/texteditor" examples/texteditor/sample.html
     finish 'the text editor was closed'
 else
-    step 'Tour' examples/texteditor/tour/run.sh "$build" build/demo
+    step 'Tour' "$tour/run.sh" "$build" build/demo
     finish 'every step of the tour held; its pictures are in build/demo'
 fi

@@ -1,21 +1,21 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 #
-# Installs those packages of a list that are missing, with apt, and says which. Calls apt for
+# Installs those packages of the lists that are missing, with apt, and says which. Calls apt for
 # nothing else.
 #
-# usage: install-packages.sh LIST
+# usage: install-packages.sh LIST...
 
 set -eu
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    echo "This system has no apt. What is needed is listed in $1."
+    echo "This system has no apt. What is needed is listed in: $*"
     exit 0
 fi
 
+wanted=$(sed 's/#.*//' "$@")
 missing=
-# shellcheck disable=SC2013 # words are meant
-for package in $(sed 's/#.*//' "$1"); do
+for package in $wanted; do
     case $(dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null || true) in
         ?i*) ;;
         *) missing="$missing $package" ;;
@@ -27,21 +27,23 @@ if [ -z "$missing" ]; then
 fi
 echo "Installing:$missing"
 
-as_root() {
-    if [ "$(id -u)" -eq 0 ]; then
-        env DEBIAN_FRONTEND=noninteractive "$@"
-    elif ! command -v sudo >/dev/null; then
-        echo "There is no sudo. As root, run: apt-get install$missing" >&2
-        return 1
-    elif (: </dev/tty) 2>/dev/null; then
-        sudo env DEBIAN_FRONTEND=noninteractive "$@"
-    else
-        sudo -n env DEBIAN_FRONTEND=noninteractive "$@"
-    fi
+if [ "$(id -u)" -eq 0 ]; then
+    sudo=
+elif ! command -v sudo >/dev/null; then
+    echo "There is no sudo. As root, run: apt-get install$missing" >&2
+    exit 1
+elif (: </dev/tty) 2>/dev/null; then
+    sudo=sudo
+else
+    sudo='sudo -n'
+fi
+
+apt_get() {
+    $sudo env DEBIAN_FRONTEND=noninteractive \
+        apt-get -q -oDPkg::Lock::Timeout=300 -oDpkg::Use-Pty=0 "$@"
 }
 
-wait_for_lock=-oDPkg::Lock::Timeout=300
 # A package source of somebody else's that does not answer must not stop us.
-as_root apt-get -q "$wait_for_lock" update || echo 'Going on with the package lists that are there.'
+apt_get update || echo 'Going on with the package lists that are there.'
 # shellcheck disable=SC2086 # several words are meant
-as_root apt-get -q "$wait_for_lock" install --yes --no-install-recommends $missing
+apt_get install --yes --no-install-recommends $missing

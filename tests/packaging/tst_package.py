@@ -179,17 +179,20 @@ class Library(unittest.TestCase):
 
 class Hosts(unittest.TestCase):
 
-    def configure(self, name, *options):
-        command = (CMAKE, '-S', HOST_DIR, '-B', work / name, '-G', 'Ninja',
+    def configure(self, source, name, *options):
+        command = (CMAKE, '-S', source, '-B', work / name, '-G', 'Ninja',
                    f'-DCMAKE_CXX_COMPILER={CXX}', '-DCMAKE_BUILD_TYPE=',
                    '-DCMAKE_CXX_FLAGS=' + ' '.join(CXXFLAGS),
                    '-DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF', *options)
         return attempt(*command)
 
-    def build_and_run(self, name, *options):
-        code, output = self.configure(name, *options)
+    def build(self, source, name, *options, target):
+        code, output = self.configure(source, name, *options)
         self.assertEqual(code, 0, output)
-        run(CMAKE, '--build', work / name, '--target', 'host')
+        run(CMAKE, '--build', work / name, '--target', target)
+
+    def build_and_run(self, name, *options):
+        self.build(HOST_DIR, name, *options, target='host')
         run(work / name / 'host')
 
     def test_cmake_package_works_wherever_it_lies(self):
@@ -208,9 +211,9 @@ class Hosts(unittest.TestCase):
         }
         for wanted, answer in answers.items():
             with self.subTest(wanted=wanted):
-                code, output = self.configure('versions', f'-DCMAKE_PREFIX_PATH={prefix}',
-                                              f'-DWANTED_VERSION={wanted}',
-                                              '-URyCustomizedDialog_DIR')
+                code, output = self.configure(
+                    HOST_DIR, 'versions', f'-DCMAKE_PREFIX_PATH={prefix}',
+                    f'-DWANTED_VERSION={wanted}', '-URyCustomizedDialog_DIR')
                 self.assertEqual(code == 0, answer, output)
                 if not answer:
                     self.assertIn(f'version: {VERSION}', output)
@@ -226,6 +229,13 @@ class Hosts(unittest.TestCase):
         cache = (work / 'subdirectory' / 'CMakeCache.txt').read_text()
         for what in ('TESTS', 'EXAMPLES'):
             self.assertIn(f'\nRYCUSTOMIZEDDIALOG_BUILD_{what}:BOOL=OFF\n', cache)
+
+    def test_examples_build_against_the_package(self):
+        for path in sorted((SOURCE_DIR / 'examples').glob('*/CMakeLists.txt')):
+            name = path.parent.name
+            with self.subTest(name):
+                self.build(path.parent, name, f'-DCMAKE_PREFIX_PATH={prefix}', target='all')
+                self.assertTrue(os.access(work / name / name, os.X_OK))
 
 
 class Headers(unittest.TestCase):
