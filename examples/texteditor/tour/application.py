@@ -1,0 +1,182 @@
+# SPDX-License-Identifier: MIT
+"""A program as assistive technology sees it: from outside, through the accessibility bus."""
+
+import os
+import subprocess
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+from desktop import Rect  # noqa: E402
+from waiting import NotSo, PATIENCE, deliver_events, expect, wait_for  # noqa: E402
+
+
+class Widget:
+    """One accessible object. Every question goes to the program; nothing is remembered."""
+
+    def __init__(self, accessible):
+        self._accessible = accessible
+
+    @property
+    def role(self):
+        return self._accessible.get_role_name()
+
+    @property
+    def name(self):
+        return self._accessible.get_name()
+
+    @property
+    def text(self):
+        return Atspi.Text.get_text(self._accessible, 0, -1)
+
+    @property
+    def rect(self):
+        extents = Atspi.Component.get_extents(self._accessible, Atspi.CoordType.SCREEN)
+        return Rect(extents.x, extents.y, extents.width, extents.height)
+
+    @property
+    def parent(self):
+        return Widget(self._accessible.get_parent())
+
+    def has(self, *states):
+        held = {state.value_nick for state in self._accessible.get_state_set().get_states()}
+        return held.issuperset(states)
+
+    def is_showing(self):
+        return self.has("showing") and not self.rect.is_empty()
+
+    def children(self):
+        count = self._accessible.get_child_count()
+        children = (self._accessible.get_child_at_index(index) for index in range(count))
+        return [Widget(child) for child in children if child]
+
+    def showing(self, *roles):
+        """The widgets of these roles inside this one that are to be seen."""
+        found = []
+        for child in self.children():
+            if child.role in roles and child.is_showing():
+                found.append(child)
+            found += child.showing(*roles)
+        return found
+
+    def find(self, role, name):
+        """The only widget of this role and name inside this one that is to be seen."""
+        def named():
+            return [widget for widget in self.showing(role) if plain(widget.name) == name]
+
+        return wait_for(f'there is not one {role} "{name}"', named, lambda all: len(all) == 1)[0]
+
+    def outline(self, indent=0):
+        """Everything inside this widget as lines of text, to look into a failure."""
+        try:
+            states = " ".join(state.value_nick
+                              for state in self._accessible.get_state_set().get_states())
+            rect = tuple(self.rect) if self._accessible.get_component_iface() else ()
+            lines = [f'{" " * indent}{self.role} "{self.name}" {rect} {states}']
+            for child in self.children():
+                lines += child.outline(indent + 2)
+            return lines
+        except GLib.Error as error:
+            return [f'{" " * indent}{error.message}']
+
+
+class Application:
+    """A program, started as a process of its own."""
+
+    def __init__(self, command, log):
+        environment = dict(os.environ, QT_ACCESSIBILITY="1", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        self._focused = None
+        self._popup = None
+        self._listener = Atspi.EventListener.new(self._take_event)
+        self._listener.register("object:state-changed:focused")
+        self._listener.register("object:state-changed:showing")
+        with open(log, "ab") as output:
+            self._process = subprocess.Popen(command, stdout=output, stderr=output,
+                                             env=environment)
+        self.root = wait_for("the program does not answer", self._find_root)
+
+    def window(self, role, name=None):
+        """The active window, once it is the only one of this role and in its place."""
+        def active():
+            return [window for window in self.root.children() if window.role == role
+                    and window.has("active") and name in (None, window.name)]
+
+        window = wait_for(f"no {role} is active", active, lambda all: len(all) == 1)[0]
+        wait_until_at_rest(window)
+        return window
+
+    def windows(self, role):
+        return [window for window in self.root.children()
+                if window.role == role and window.has("showing")]
+
+    def focused(self):
+        """The widget that got the keyboard last, be it a part of the tree or a passing editor."""
+        return self._focused if self._focused and self._focused.has("focused") else None
+
+    def popup_after(self, gesture):
+        """The popup menu that a gesture opens."""
+        deliver_events()
+        self._popup = None
+        gesture()
+        return wait_for("no menu opens", lambda: self._popup,
+                        lambda popup: popup and popup.is_showing())
+
+    def wait_for_end(self):
+        try:
+            status = self._process.wait(PATIENCE)
+        except subprocess.TimeoutExpired:
+            raise NotSo("the program does not end") from None
+        if status != 0:
+            raise NotSo(f"the program ended with status {status}")
+        self.stop()
+
+    def stop(self):
+        if self._process.poll() is None:
+            self._process.terminate()
+            self._process.wait()
+        self._listener.deregister("object:state-changed:focused")
+        self._listener.deregister("object:state-changed:showing")
+
+    def _find_root(self):
+        for program in Widget(Atspi.get_desktop(0)).children():
+            if program._accessible.get_process_id() == self._process.pid:
+                return program
+        if self._process.poll() is not None:
+            raise NotSo(f"the program ended with status {self._process.returncode}")
+        return None
+
+    def _take_event(self, event):
+        try:
+            if event.detail1 != 1:
+                return
+            if event.type.endswith("focused"):
+                self._focused = Widget(event.source)
+            elif event.source.get_role_name() == "popup menu":
+                self._popup = Widget(event.source)
+        except GLib.Error:
+            pass  # gone already
+
+
+def wait_until_at_rest(widget):
+    """Waits until a widget stays where it is, so that the pointer will meet it there."""
+    rects = [None]
+
+    def stays(rect):
+        rects.append(rect)
+        return rects[-1] == rects.pop(0)
+
+    wait_for("a widget does not come to rest", lambda: widget.rect, stays)
+
+
+def plain(text):
+    """A command's text as people read it: without the mark of its key and without the dots."""
+    marker = "\0"
+    text = text.replace("&&", marker).replace("&", "").replace(marker, "&")
+    return text.removesuffix("…").removesuffix("...")
+
+
+Atspi.set_timeout(10000, 20000)
+# Answers are always fresh.
+Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)
