@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+
+#include "commandline.h"
+
+#include <QCoreApplication>
+
+CommandLine::CommandLine()
+    : m_settings(QStringLiteral("settings"),
+                 QCoreApplication::translate("CommandLine", "Keep all settings in <file>."),
+                 QStringLiteral("file"))
+    , m_resetLayout(
+          QStringLiteral("reset-layout"),
+          QCoreApplication::translate("CommandLine", "Forget the stored layout of the toolbars."))
+{
+    m_parser.setApplicationDescription(QCoreApplication::translate(
+        "CommandLine", "A text editor whose toolbars the user can customize."));
+    m_parser.addHelpOption();
+    m_parser.addVersionOption();
+    m_parser.addOption(m_settings);
+    m_parser.addOption(m_resetLayout);
+    m_parser.addPositionalArgument(
+        QStringLiteral("file"), QCoreApplication::translate("CommandLine", "The document to open."),
+        QStringLiteral("[file]"));
+}
+
+bool CommandLine::parse(const QStringList &arguments)
+{
+    return m_parser.parse(arguments) && m_parser.positionalArguments().size() <= 1;
+}
+
+void CommandLine::process(const QCoreApplication &application)
+{
+    m_parser.process(application);
+    if (m_parser.positionalArguments().size() > 1)
+        m_parser.showHelp(1);
+}
+
+QString CommandLine::settingsFile() const
+{
+    return m_parser.value(m_settings);
+}
+
+bool CommandLine::resetLayout() const
+{
+    return m_parser.isSet(m_resetLayout);
+}
+
+QString CommandLine::document() const
+{
+    return m_parser.positionalArguments().value(0);
+}

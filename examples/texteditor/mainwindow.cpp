@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow.h"
+
+#include "editcommands.h"
+#include "editorview.h"
+#include "filecommands.h"
+#include "findbar.h"
+#include "formatcommands.h"
+#include "statusline.h"
+#include "viewcommands.h"
+
+#include <RyCustomizedDialog>
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+MainWindow::MainWindow(QSettings *settings, QWidget *parent)
+    : QMainWindow(parent)
+    , m_actions(this)
+    , m_layout(this, &m_manager, settings)
+    , m_recentFiles(settings)
+    , m_editor(new EditorView)
+    , m_findBar(new FindBar(m_editor))
+    , m_statusLine(new StatusLine(statusBar(), m_editor))
+    , m_files(new FileCommands(m_actions, m_editor, &m_recentFiles, this))
+{
+    QWidget *const center = new QWidget;
+    QVBoxLayout *const layout = new QVBoxLayout(center);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_editor);
+    layout->addWidget(m_findBar);
+    setCentralWidget(center);
+
+    new EditCommands(m_actions, m_editor, m_findBar);
+    new FormatCommands(m_actions, m_editor);
+    new ViewCommands(m_actions, m_editor, this, settings);
+    createMenus();
+    createToolBars();
+    registerWithManager();
+    connectActions();
+
+    resize(960, 680);
+    showPath(QString());
+    m_editor->setFocus();
+}
+
+void MainWindow::createMenus()
+{
+    QMenu *const file = createMenu(tr("&File"),
+                                   {"file_new", "file_open", "file_reload", "|", "file_save",
+                                    "file_save_as", "|", "file_quit"});
+    QMenu *const recent = new QMenu(tr("Open Recent"), file);
+    recent->setIcon(QIcon(QStringLiteral(":/icons/recent.svg")));
+    file->insertMenu(m_actions.action("file_reload"), recent);
+    m_recentFiles.fill(recent);
+
+    createMenu(tr("&Edit"),
+               {"edit_undo", "edit_redo", "|", "edit_cut", "edit_copy", "edit_paste", "edit_delete",
+                "edit_select_all", "|", "edit_find", "edit_find_next", "edit_find_previous",
+                "edit_replace", "edit_go_to_line", "|", "edit_duplicate_line", "edit_upper_case",
+                "edit_lower_case"});
+    createMenu(tr("&View"),
+               {"view_zoom_in", "view_zoom_out", "view_zoom_reset", "|", "view_word_wrap",
+                "view_status_bar", "view_full_screen"});
+    createMenu(tr("F&ormat"),
+               {"format_bold", "format_italic", "format_underline", "format_strikethrough", "|",
+                "format_align_left", "format_align_center", "format_align_right",
+                "format_align_justify", "|", "format_indent", "format_unindent", "|", "format_font",
+                "format_text_color"});
+    createMenu(tr("&Tools"),
+               {"tools_date_time", "tools_sort_lines", "tools_word_count", "|", "tools_read_only"});
+    QMenu *const settings = createMenu(tr("&Settings"), {});
+    createToolBarsMenu(settings);
+    settings->addSeparator();
+    addActionsTo(settings, {"tools_customize_toolbars", "tools_reset_toolbars"});
+    createMenu(tr("&Help"), {"help_tour", "|", "help_about"});
+}
+
+// Filled anew each time, because the user can create, rename and remove toolbars.
+void MainWindow::createToolBarsMenu(QMenu *parent)
+{
+    QMenu *const menu = parent->addMenu(tr("Toolbars"));
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+        menu->clear();
+        const auto toolBars = findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
+        for (QToolBar *toolBar : toolBars)
+            menu->addAction(toolBar->toggleViewAction());
+    });
+}
+
+void MainWindow::createToolBars()
+{
+    createToolBar("toolbar_file", tr("File"),
+                  {"file_new", "file_open", "file_save", "|", "file_reload"});
+    createToolBar("toolbar_edit", tr("Edit"),
+                  {"edit_undo", "edit_redo", "|", "edit_cut", "edit_copy", "edit_paste", "|",
+                   "edit_find", "edit_replace"});
+    createToolBar("toolbar_format", tr("Format"),
+                  {"format_bold", "format_italic", "format_underline", "|", "format_align_left",
+                   "format_align_center", "format_align_right", "format_align_justify", "|",
+                   "format_font", "format_text_color"});
+}
+
+QToolBar *MainWindow::createToolBar(const char *name, const QString &title,
+                                    std::initializer_list<const char *> actions)
+{
+    QToolBar *const toolBar = addToolBar(title);
+    toolBar->setObjectName(QLatin1String(name)); // what the saved states know it by
+    addActionsTo(toolBar, actions);
+    return toolBar;
+}
+
+QMenu *MainWindow::createMenu(const QString &title, std::initializer_list<const char *> actions)
+{
+    QMenu *const menu = menuBar()->addMenu(title);
+    addActionsTo(menu, actions);
+    return menu;
+}
+
+void MainWindow::addActionsTo(QWidget *widget, std::initializer_list<const char *> actions)
+{
+    for (const char *name : actions) {
+        if (qstrcmp(name, "|") != 0) {
+            widget->addAction(m_actions.action(name));
+            continue;
+        }
+        QAction *const separator = new QAction(widget);
+        separator->setSeparator(true);
+        widget->addAction(separator);
+    }
+}
+
+// Every action that may stand on a toolbar goes in, under its category, and every toolbar that the
+// application ships. What stands on the toolbars now is what a reset brings back.
+void MainWindow::registerWithManager()
+{
+    m_manager.setMainWindow(this);
+    for (const ActionCatalog::Category &category : m_actions.categories()) {
+        for (QAction *action : category.actions)
+            m_manager.addAction(action, category.title);
+    }
+    const auto toolBars = findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QToolBar *toolBar : toolBars)
+        m_manager.addDefaultToolBar(toolBar, toolBar->windowTitle());
+}
+
+void MainWindow::connectActions()
+{
+    connect(m_actions.action("file_quit"), &QAction::triggered, this, &QWidget::close);
+    connect(m_actions.action("tools_word_count"), &QAction::triggered, this,
+            &MainWindow::showWordCount);
+    connect(m_actions.action("tools_customize_toolbars"), &QAction::triggered, this,
+            &MainWindow::customizeToolBars);
+    connect(m_actions.action("tools_reset_toolbars"), &QAction::triggered, this,
+            &MainWindow::resetToolBars);
+    connect(m_actions.action("help_about"), &QAction::triggered, this, &MainWindow::showAbout);
+    connect(m_editor->document(), &QTextDocument::modificationChanged, this,
+            &QWidget::setWindowModified);
+    connect(m_files, &FileCommands::pathChanged, this, &MainWindow::showPath);
+}
+
+void MainWindow::restoreLayout()
+{
+    notify(m_layout.restore());
+}
+
+void MainWindow::forgetLayout()
+{
+    m_layout.forget();
+}
+
+void MainWindow::customizeToolBars()
+{
+    RyCustomizedDialog dialog({&m_manager, nullptr}, this);
+    dialog.exec();
+    // Whatever the result: an Apply before a Cancel has changed the toolbars all the same.
+    saveLayout();
+}
+
+void MainWindow::resetToolBars()
+{
+    m_manager.resetAllToolBars();
+    saveLayout();
+}
+
+void MainWindow::saveLayout()
+{
+    notify(m_layout.save());
+}
+
+// A notice must be seen, even if the user has hidden the status bar. An empty one takes it away.
+void MainWindow::notify(const QString &text)
+{
+    m_statusLine->setNotice(text);
+    if (!text.isEmpty())
+        statusBar()->show();
+}
+
+QMenu *MainWindow::createPopupMenu()
+{
+    QMenu *menu = QMainWindow::createPopupMenu();
+    if (!menu)
+        menu = new QMenu(this);
+    menu->addSeparator();
+    addActionsTo(menu, {"tools_customize_toolbars", "tools_reset_toolbars"});
+    return menu;
+}
+
+bool MainWindow::openFile(const QString &path)
+{
+    return m_files->open(path);
+}
+
+void MainWindow::showPath(const QString &path)
+{
+    const QString name = path.isEmpty() ? tr("Untitled") : QFileInfo(path).fileName();
+    setWindowTitle(tr("%1[*] - Text Editor").arg(name));
+    if (path.isEmpty())
+        m_statusLine->setDocumentKind(tr("Not saved yet"));
+    else
+        m_statusLine->setDocumentKind(TextFile::isHtml(path) ? tr("Text with formats")
+                                                             : tr("Plain text"));
+}
+
+void MainWindow::showWordCount()
+{
+    const QString text = m_editor->plainContent();
+    const QString line = text.simplified();
+    const int words = line.isEmpty() ? 0 : line.count(QLatin1Char(' ')) + 1;
+    notify(tr("%1 lines, %2 words, %3 characters")
+               .arg(m_editor->document()->blockCount())
+               .arg(words)
+               .arg(text.size()));
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About Text Editor"),
+                       tr("A text editor whose toolbars are yours: choose Customize Toolbars in "
+                          "the menu Settings."));
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_files->mayDiscardChanges()) {
+        event->ignore();
+        return;
+    }
+    saveLayout();
+    event->accept();
+}

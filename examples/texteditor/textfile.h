@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef TEXTFILE_H
+#define TEXTFILE_H
+
+#include <QCoreApplication>
+#include <QString>
+
+class QByteArray;
+
+/*!
+ * \brief The file of a document: plain text in UTF-8, or HTML if its name says so.
+ *
+ * Line ends and byte order mark are written as they were read.
+ */
+class TextFile
+{
+    Q_DECLARE_TR_FUNCTIONS(TextFile)
+
+public:
+    //! Whether a file of that name holds text with formats.
+    static bool isHtml(const QString &path);
+
+    //! Reads the whole file; false, and an error, if it cannot be read or is no text.
+    bool read(const QString &path);
+
+    //! What read() has read, lines separated by "\n".
+    QString text() const { return m_text; }
+
+    //! Writes the whole file, or leaves it as it is and returns false.
+    bool write(const QString &path, const QString &text);
+
+    //! Why the last operation failed, as a sentence for the user.
+    QString error() const { return m_error; }
+
+private:
+    bool decode(const QByteArray &bytes, bool html);
+    QByteArray encode(const QString &text) const;
+
+    QString m_text;
+    QString m_error;
+    bool m_hasByteOrderMark = false;
+    bool m_hasCarriageReturns = false;
+};
+
+#endif // TEXTFILE_H
