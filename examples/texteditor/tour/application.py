@@ -10,7 +10,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 from desktop import Rect  # noqa: E402
-from waiting import NotSo, PATIENCE, deliver_events, expect, wait_for  # noqa: E402
+from waiting import PATIENCE, NotSo, deliver_events, wait_for  # noqa: E402
 
 
 class Widget:
@@ -47,18 +47,26 @@ class Widget:
     def is_showing(self):
         return self.has("showing") and not self.rect.is_empty()
 
+    def is_gone(self):
+        try:
+            return not self.is_showing()
+        except GLib.Error:
+            return True
+
     def children(self):
-        count = self._accessible.get_child_count()
-        children = (self._accessible.get_child_at_index(index) for index in range(count))
-        return [Widget(child) for child in children if child]
+        return list(self._children(range(self._accessible.get_child_count())))
+
+    def children_from_last(self):
+        """Looks at one child after the other, and only as far as the caller goes."""
+        return self._children(reversed(range(self._accessible.get_child_count())))
 
     def showing(self, *roles):
         """The widgets of these roles inside this one that are to be seen."""
         found = []
         for child in self.children():
-            if child.role in roles and child.is_showing():
-                found.append(child)
-            found += child.showing(*roles)
+            if child.is_showing():
+                found += [child] if child.role in roles else []
+                found += child.showing(*roles)
         return found
 
     def find(self, role, name):
@@ -68,13 +76,17 @@ class Widget:
 
         return wait_for(f'there is not one {role} "{name}"', named, lambda all: len(all) == 1)[0]
 
+    def _children(self, indexes):
+        for index in indexes:
+            child = self._accessible.get_child_at_index(index)
+            if child:
+                yield Widget(child)
+
     def outline(self, indent=0):
         """Everything inside this widget as lines of text, to look into a failure."""
         try:
-            states = " ".join(state.value_nick
-                              for state in self._accessible.get_state_set().get_states())
-            rect = tuple(self.rect) if self._accessible.get_component_iface() else ()
-            lines = [f'{" " * indent}{self.role} "{self.name}" {rect} {states}']
+            place = ",".join(map(str, self.rect)) if self.has("visible") else "hidden"
+            lines = [f'{" " * indent}{self.role} "{self.name}" {place}']
             for child in self.children():
                 lines += child.outline(indent + 2)
             return lines
@@ -111,9 +123,9 @@ class Application:
         return [window for window in self.root.children()
                 if window.role == role and window.has("showing")]
 
-    def focused(self):
-        """The widget that got the keyboard last, be it a part of the tree or a passing editor."""
-        return self._focused if self._focused and self._focused.has("focused") else None
+    def last_focused(self):
+        """The widget or menu entry that got the keyboard last, even one outside the tree."""
+        return wait_for("nothing has got the keyboard", lambda: self._focused)
 
     def popup_after(self, gesture):
         """The popup menu that a gesture opens."""
@@ -161,13 +173,13 @@ class Application:
 
 def wait_until_at_rest(widget):
     """Waits until a widget stays where it is, so that the pointer will meet it there."""
-    rects = [None]
+    rects = [widget.rect]
 
-    def stays(rect):
-        rects.append(rect)
+    def stays():
+        rects.append(widget.rect)
         return rects[-1] == rects.pop(0)
 
-    wait_for("a widget does not come to rest", lambda: widget.rect, stays)
+    wait_for("a widget does not come to rest", stays)
 
 
 def plain(text):

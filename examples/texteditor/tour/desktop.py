@@ -99,17 +99,18 @@ class Desktop:
 
     def _settled_screen(self):
         """The screen once it has stopped changing: programs paint after they have answered."""
-        screens = [None]
+        screens = [self._screen()]
 
-        def has_settled(screen):
-            screens.append(screen)
+        def has_settled():
+            screens.append(self._screen())
             return screens[-1] == screens.pop(0)
 
-        return wait_for("the screen does not settle", self._screen, has_settled)
+        wait_for("the screen does not settle", has_settled)
+        return screens[-1]
 
     @staticmethod
     def _screen():
-        return subprocess.run(["import", "-window", "root", "ppm:-"], check=True,
+        return subprocess.run(["import", "-window", "root", "-depth", "8", "ppm:-"], check=True,
                               capture_output=True).stdout
 
     # --- X ---

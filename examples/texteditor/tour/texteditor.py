@@ -23,14 +23,18 @@ class TextEditor(Application):
     def main_window(self):
         return self.window("frame")
 
+    def wait_for_window(self):
+        self.window("frame")
+
     # --- Menus ---
 
     def open_menu(self, title):
         entry = self.main_window.find("menu bar", "").find("menu item", title)
         return self.popup_after(lambda: self._desktop.click(entry.rect.center))
 
-    def open_menu_by_key(self, key):
-        return self.popup_after(lambda: self._desktop.press(f"alt+{key}"))
+    def close_menu_by_key(self, menu):
+        self._desktop.press("Escape")
+        wait_for("Escape does not close the menu", menu.is_gone)
 
     def open_context_menu(self, title):
         handle = self.handle_of(title)
@@ -40,10 +44,28 @@ class TextEditor(Application):
         self._desktop.click(place_in_menu(menu, CUSTOMIZE))
         return ToolBarDialog(self._desktop, self)
 
+    def open_dialog_by_key_from(self, menu):
+        self.go_up_to(menu, CUSTOMIZE)
+        self._desktop.press("Return")
+        return ToolBarDialog(self._desktop, self)
+
+    def go_up_to(self, menu, name):
+        """Highlights an entry of an open menu, coming from its end."""
+        for entry in menu.children_from_last():
+            if entry.role != "separator":
+                self._desktop.press("Up")
+            if plain(entry.name) == name:
+                break
+        expect("the highlighted entry", lambda: plain(self.last_focused().name), name)
+
     # --- Toolbars ---
 
     def tool_bars(self):
-        """The content of every toolbar that is to be seen, by title."""
+        """The content of every toolbar that is to be seen, by title.
+
+        To the end of its run the program tells the title that a toolbar had when it was first
+        asked; a menu that lists the toolbars tells the present one.
+        """
         return {part.name: content_of(part) for part in self._window().children()
                 if part.role == "tool bar" and part.is_showing()}
 
@@ -107,8 +129,8 @@ class ToolBarDialog:
     def name_editor(self):
         """The in-place editor of a toolbar's name, once it has the keyboard."""
         def editor():
-            focused = self._application.focused()
-            is_editor = (focused and focused.role == "text"
+            focused = self._application.last_focused()
+            is_editor = (focused.role == "text" and focused.has("focused")
                          and self._tool_bar_list().rect.contains(focused.rect))
             return focused if is_editor else None
 
@@ -174,13 +196,16 @@ class ToolBarDialog:
             return [row for row in rows_of(view, role) if shown_name(row) == name]
 
         row = wait_for(f"there is not one row {name}", named, lambda all: len(all) == 1)[0]
-        while not view.rect.contains(row.rect):
+        self._scroll_to(view, row)
+        return row
+
+    def _scroll_to(self, view, row):
+        top, bottom = view.rect.y, view.rect.y + view.rect.height
+        while row.rect.y < top or row.rect.y + row.rect.height > bottom:
             before = row.rect
             self._desktop.point_at(view.rect.center)
-            is_above = before.y < view.rect.y
-            self._desktop.turn_wheel(Desktop.WHEEL_UP if is_above else Desktop.WHEEL_DOWN)
+            self._desktop.turn_wheel(Desktop.WHEEL_UP if before.y < top else Desktop.WHEEL_DOWN)
             wait_for("the list does not scroll", lambda: row.rect != before)
-        return row
 
     @staticmethod
     def _current_in(view):
@@ -193,25 +218,34 @@ def entries_of(menu):
 
 
 def place_in_menu(menu, name):
-    """Where to click on an entry of an open menu: below all entries before it.
+    """Where to click on an entry of an open menu; None if there is no such entry.
 
-    The entry of an action that stands in several menus cannot be asked: it tells its place in the
-    first of them only.
+    Entries are counted from the last one up, and none is asked for its place: Qt ties an entry to
+    the first menu in which anybody looks at it. In any other menu it tells a wrong place, and when
+    that menu is gone it tells nothing at all any more.
     """
-    entries = menu.children()
-    index = entries_of(menu).index(name)
-    top = menu.rect.y + sum(entry.rect.height for entry in entries[:index])
-    return Point(menu.rect.center.x, top + entries[index].rect.height // 2)
+    bottom = menu.rect.y + menu.rect.height
+    for entry in menu.children_from_last():
+        height = entry.rect.height
+        if plain(entry.name) == name:
+            return Point(menu.rect.center.x, bottom - height // 2)
+        bottom -= height
+    return None
 
 
 def content_of(tool_bar):
     """What stands on a toolbar, in the order in which it is to be seen."""
-    parts = [part for part in tool_bar.children() if part.is_showing()]
+    parts = [part for part in tool_bar.children() if part.is_showing() and not is_extension(part)]
     if is_upright(tool_bar.rect):
         parts.sort(key=lambda part: part.rect.y)
     else:
         parts.sort(key=lambda part: part.rect.x)
     return [SEPARATOR if is_separator(part) else plain(part.name) for part in parts]
+
+
+def is_extension(part):
+    """The arrow behind which a toolbar keeps what does not fit; what it keeps is not showing."""
+    return part.role == "check box" and not part.name
 
 
 def is_separator(part):
