@@ -7,10 +7,10 @@ import subprocess
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
+from gi.repository import Atspi, GLib
 
-from desktop import Rect  # noqa: E402
-from waiting import PATIENCE, NotSo, deliver_events, wait_for  # noqa: E402
+from desktop import Rect
+from waiting import PATIENCE, NotSo, deliver_events, settled, wait_for
 
 
 class Widget:
@@ -37,8 +37,8 @@ class Widget:
         return Rect(extents.x, extents.y, extents.width, extents.height)
 
     @property
-    def parent(self):
-        return Widget(self._accessible.get_parent())
+    def process(self):
+        return self._accessible.get_process_id()
 
     def has(self, *states):
         held = {state.value_nick for state in self._accessible.get_state_set().get_states()}
@@ -60,13 +60,13 @@ class Widget:
         """Looks at one child after the other, and only as far as the caller goes."""
         return self._children(reversed(range(self._accessible.get_child_count())))
 
-    def showing(self, *roles):
-        """The widgets of these roles inside this one that are to be seen."""
+    def showing(self, role):
+        """The widgets of this role inside this one that are to be seen."""
         found = []
         for child in self.children():
             if child.is_showing():
-                found += [child] if child.role in roles else []
-                found += child.showing(*roles)
+                found += [child] if child.role == role else []
+                found += child.showing(role)
         return found
 
     def find(self, role, name):
@@ -107,7 +107,11 @@ class Application:
         with open(log, "ab") as output:
             self._process = subprocess.Popen(command, stdout=output, stderr=output,
                                              env=environment)
-        self.root = wait_for("the program does not answer", self._find_root)
+        try:
+            self.root = wait_for("the program does not answer", self._find_root)
+        except NotSo:
+            self.stop()
+            raise
 
     def window(self, role, name=None):
         """The active window, once it is the only one of this role and in its place."""
@@ -116,7 +120,7 @@ class Application:
                     and window.has("active") and name in (None, window.name)]
 
         window = wait_for(f"no {role} is active", active, lambda all: len(all) == 1)[0]
-        wait_until_at_rest(window)
+        settled(f"the place of the {role}", lambda: window.rect)
         return window
 
     def windows(self, role):
@@ -153,7 +157,7 @@ class Application:
 
     def _find_root(self):
         for program in Widget(Atspi.get_desktop(0)).children():
-            if program._accessible.get_process_id() == self._process.pid:
+            if program.process == self._process.pid:
                 return program
         if self._process.poll() is not None:
             raise NotSo(f"the program ended with status {self._process.returncode}")
@@ -169,17 +173,6 @@ class Application:
                 self._popup = Widget(event.source)
         except GLib.Error:
             pass  # gone already
-
-
-def wait_until_at_rest(widget):
-    """Waits until a widget stays where it is, so that the pointer will meet it there."""
-    rects = [widget.rect]
-
-    def stays():
-        rects.append(widget.rect)
-        return rects[-1] == rects.pop(0)
-
-    wait_for("a widget does not come to rest", stays)
 
 
 def plain(text):

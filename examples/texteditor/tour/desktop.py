@@ -4,7 +4,7 @@
 import subprocess
 from typing import NamedTuple
 
-from waiting import wait_for
+from waiting import settled, wait_for
 
 
 class Point(NamedTuple):
@@ -94,19 +94,9 @@ class Desktop:
         self._save(path, "-crop", crop, "+repage")
 
     def _save(self, path, *drawing):
-        subprocess.run(["convert", "ppm:-", *drawing, path], input=self._settled_screen(),
-                       check=True)
-
-    def _settled_screen(self):
-        """The screen once it has stopped changing: programs paint after they have answered."""
-        screens = [self._screen()]
-
-        def has_settled():
-            screens.append(self._screen())
-            return screens[-1] == screens.pop(0)
-
-        wait_for("the screen does not settle", has_settled)
-        return screens[-1]
+        # Programs paint after they have answered.
+        screen = settled("the screen", self._screen)
+        subprocess.run(["convert", "ppm:-", *drawing, path], input=screen, check=True)
 
     @staticmethod
     def _screen():

@@ -20,7 +20,7 @@ if [ ! -x "$editor" ]; then
     echo "run.sh: there is no $editor; build the examples first" >&2
     exit 2
 fi
-missing=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' $(cat "$here/packages.txt") 2>&1 \
+missing=$(xargs dpkg-query -W -f '${db:Status-Status} ${Package}\n' <"$here/packages.txt" 2>&1 \
     | grep -v '^installed ' || true)
 if [ -n "$missing" ]; then
     printf 'run.sh: install the packages of %s first:\n%s\n' "$here/packages.txt" "$missing" >&2

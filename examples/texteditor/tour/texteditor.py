@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
 """The text editor as its user knows it: menus, toolbars, and the dialog that customizes them."""
 
-from application import Application, plain, wait_until_at_rest
+from application import Application, plain
 from desktop import Desktop, Point
-from waiting import NotSo, expect, wait_for
+from waiting import NotSo, expect, settled, wait_for
 
 CUSTOMIZE = "Customize Toolbars"
 SEPARATOR = "|"
@@ -76,8 +76,7 @@ class TextEditor(Application):
 
     def handle_of(self, title):
         tool_bar = self.main_window.find("tool bar", title)
-        wait_until_at_rest(tool_bar)
-        rect = tool_bar.rect
+        rect = settled(f'the place of "{title}"', lambda: tool_bar.rect)
         if is_upright(rect):
             return Point(rect.center.x, rect.y + HANDLE_MIDDLE)
         return Point(rect.x + HANDLE_MIDDLE, rect.center.y)
@@ -112,6 +111,13 @@ class ToolBarDialog:
     def current_entry(self):
         return self._current_in(self._content_list())
 
+    def edited_name(self):
+        """The text of the in-place editor in the list of toolbars, if it has the keyboard."""
+        focused = self._application.last_focused()
+        is_editor = (focused.role == "text" and focused.has("focused")
+                     and self._tool_bar_list().rect.contains(focused.rect))
+        return focused.text if is_editor else None
+
     # --- What its user does ---
 
     def press(self, button):
@@ -126,19 +132,9 @@ class ToolBarDialog:
         self._desktop.click(self._row(self._tool_bar_list(), title).rect.center)
         expect("the selected toolbar", self.current_tool_bar, title)
 
-    def name_editor(self):
-        """The in-place editor of a toolbar's name, once it has the keyboard."""
-        def editor():
-            focused = self._application.last_focused()
-            is_editor = (focused.role == "text" and focused.has("focused")
-                         and self._tool_bar_list().rect.contains(focused.rect))
-            return focused if is_editor else None
-
-        return wait_for("no in-place editor has the keyboard", editor)
-
     def type_name(self, name):
         self._desktop.type(name)
-        expect("the text in the editor", lambda: self.name_editor().text, name)
+        expect("the name in the editor", self.edited_name, name)
         self._desktop.press("Return")
 
     def select_action(self, *path):

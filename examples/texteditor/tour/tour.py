@@ -12,7 +12,7 @@ import sys
 from desktop import Desktop, Point
 from texteditor import (CUSTOMIZE, SEPARATOR, TextEditor, entries_of, is_upright, listed,
                         place_in_menu)
-from waiting import NotSo, expect, wait_for
+from waiting import NotSo, expect, settled, wait_for
 
 NAME = "My Tools"
 NEW_NAME = "Writing"
@@ -79,7 +79,7 @@ def first_start(tour):
     title = tour.editor.main_window.name
     if "sample.html" not in title:
         raise NotSo(f'the window\'s title "{title}" does not name the document')
-    tour.shipped = tour.editor.tool_bars()
+    tour.shipped = settled("the content of the toolbars", tour.editor.tool_bars)
     if not tour.shipped or NAME in tour.shipped:
         raise NotSo(f"the toolbars at the first start: {tour.shipped}")
     return f"The text editor shows its document and its own toolbars: {listed(tour.shipped)}"
@@ -99,7 +99,7 @@ def dialog_opened(tour):
 
 def new_toolbar(tour):
     tour.dialog.press("New")
-    expect("the text in the editor", lambda: tour.dialog.name_editor().text, "Custom Toolbar")
+    expect("the name in the editor", tour.dialog.edited_name, "Custom Toolbar")
     return 'New adds a toolbar, and "Custom Toolbar" is ready to be renamed in place'
 
 
@@ -213,7 +213,7 @@ def dialog_lists_toolbar(tour):
 
 def name_in_place(tour):
     tour.dialog.press("Rename")
-    expect("the text in the editor", lambda: tour.dialog.name_editor().text, NAME)
+    expect("the name in the editor", tour.dialog.edited_name, NAME)
     return f'Rename opens "{NAME}" in place'
 
 
@@ -352,7 +352,7 @@ def take_step(tour, number, step):
         tour.desktop.picture(tour.output_file(f"{name}.png"))
     except Exception as error:  # whatever it is, its picture tells more
         picture = tour.output_file(f"{name}-failed.png")
-        print(f"not ok {name}: {error} (see {picture})", flush=True)
+        print(f"not ok {number:02} {step.__name__}: {error} (see {picture})", flush=True)
         tour.desktop.picture(picture)
         return False
     print(f"ok {number:02} {told}", flush=True)

@@ -46,6 +46,18 @@ def expect(what, probe, wanted):
         raise NotSo(f"{what}: expected {wanted!r}, found {answers[-1]!r}") from None
 
 
+def settled(what, probe):
+    """Asks probe() until it answers the same twice in a row, and returns that answer."""
+    answers = [None]
+
+    def is_settled():
+        answers.append(probe())
+        return answers[-1] == answers.pop(0)
+
+    wait_for(f"{what} does not settle", is_settled)
+    return answers[-1]
+
+
 def deliver_events():
     """Hands out the accessibility events that have come in."""
     while GLib.MainContext.default().iteration(False):
