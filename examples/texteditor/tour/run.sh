@@ -1,0 +1,89 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# run.sh BUILD_DIR OUTPUT_DIR
+#
+# Takes the guided tour of the text editor built in BUILD_DIR: the real program, in a real window,
+# with a real pointer and real keys. Needs no display: it starts an X server, a window manager and
+# a message bus of its own, and ends them again. Prints one line for each step and leaves a
+# screenshot of each in OUTPUT_DIR, what the programs wrote in OUTPUT_DIR/log. Fails when a step
+# does not hold. packages.txt lists the Debian packages that it needs.
+set -euo pipefail
+
+if [ $# -ne 2 ]; then
+    echo "usage: run.sh BUILD_DIR OUTPUT_DIR" >&2
+    exit 2
+fi
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+editor=$(realpath "$1")/examples/texteditor/texteditor
+if [ ! -x "$editor" ]; then
+    echo "run.sh: there is no $editor; build the examples first" >&2
+    exit 2
+fi
+missing=$(xargs dpkg-query -W -f '${db:Status-Status} ${Package}\n' <"$here/packages.txt" 2>&1 \
+    | grep -v '^installed ' || true)
+if [ -n "$missing" ]; then
+    printf 'run.sh: install the packages of %s first:\n%s\n' "$here/packages.txt" "$missing" >&2
+    exit 2
+fi
+
+mkdir -p "$2/log"
+output=$(realpath "$2")
+rm -f "$output"/[0-9][0-9]-*.png "$output"/{dialog,window}.png "$output"/log/*
+scratch=$(mktemp -d)
+started=()
+
+end_all() {
+    local index
+    for ((index = ${#started[@]} - 1; index >= 0; --index)); do
+        kill "${started[index]}" 2>/dev/null || true
+        wait "${started[index]}" 2>/dev/null || true
+    done
+    rm -rf "$scratch"
+}
+trap end_all EXIT
+trap 'exit 129' HUP
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+# Starts a program that ends with this script, even when the script is killed.
+start() {
+    local log=$1
+    shift
+    setpriv --pdeathsig TERM "$@" >"$output/log/$log" 2>&1 &
+    started+=($!)
+}
+
+# Reads what the program just started says on descriptor 3 once it is ready.
+answer() {
+    local line
+    if ! read -r -t 30 -u 3 line; then
+        echo "run.sh: $1 does not start; see $output/log" >&2
+        exit 1
+    fi
+    printf '%s' "$line"
+}
+
+# Nothing of the user's desktop or settings reaches the tour, and the other way round.
+for variable in "${!QT_@}" "${!XDG_@}" "${!AT_SPI_@}" "${!DBUS_@}" "${!LC_@}" LANGUAGE; do
+    unset "$variable"
+done
+export LC_ALL=C.UTF-8 HOME="$scratch/home" XDG_RUNTIME_DIR="$scratch/runtime"
+mkdir "$HOME"
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+mkfifo "$scratch/ready"
+exec 3<>"$scratch/ready"
+
+start xserver.log Xvfb -displayfd 3 -screen 0 1280x860x24 -dpi 96 -nolisten tcp
+DISPLAY=:$(answer "the X server")
+export DISPLAY
+start bus.log dbus-daemon --session --nofork --nopidfile --print-address=3
+DBUS_SESSION_BUS_ADDRESS=$(answer "the message bus")
+export DBUS_SESSION_BUS_ADDRESS
+exec 3>&-
+start windowmanager.log openbox
+
+# In the background, so that an interrupt is taken at once. Debian's Python has the bindings.
+setpriv --pdeathsig TERM /usr/bin/python3 -B "$here/tour.py" "$editor" "$output" &
+started+=($!)
+wait $!

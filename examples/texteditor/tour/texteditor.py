@@ -1,0 +1,270 @@
+# SPDX-License-Identifier: MIT
+"""The text editor as its user knows it: menus, toolbars, and the dialog that customizes them."""
+
+from application import Application, plain
+from desktop import Desktop, Point
+from waiting import NotSo, expect, settled, wait_for
+
+CUSTOMIZE = "Customize Toolbars"
+SEPARATOR = "|"
+SEPARATOR_ENTRY = "< S E P A R A T O R >"
+THICKEST_SEPARATOR = 12
+HANDLE_MIDDLE = 5
+
+
+class TextEditor(Application):
+    """One run of the text editor."""
+
+    def __init__(self, desktop, program, settings, document, log):
+        super().__init__([program, "--settings", settings, document], log)
+        self._desktop = desktop
+
+    @property
+    def main_window(self):
+        return self.window("frame")
+
+    def wait_for_window(self):
+        self.window("frame")
+
+    # --- Menus ---
+
+    def open_menu(self, title):
+        entry = self.main_window.find("menu bar", "").find("menu item", title)
+        return self.popup_after(lambda: self._desktop.click(entry.rect.center))
+
+    def close_menu_by_key(self, menu):
+        self._desktop.press("Escape")
+        wait_for("Escape does not close the menu", menu.is_gone)
+
+    def open_context_menu(self, title):
+        handle = self.handle_of(title)
+        return self.popup_after(lambda: self._desktop.click(handle, Desktop.RIGHT))
+
+    def open_dialog_from(self, menu):
+        self._desktop.click(place_in_menu(menu, CUSTOMIZE))
+        return ToolBarDialog(self._desktop, self)
+
+    def open_dialog_by_key_from(self, menu):
+        self.go_up_to(menu, CUSTOMIZE)
+        self._desktop.press("Return")
+        return ToolBarDialog(self._desktop, self)
+
+    def go_up_to(self, menu, name):
+        """Highlights an entry of an open menu, coming from its end."""
+        for entry in menu.children_from_last():
+            if entry.role != "separator":
+                self._desktop.press("Up")
+            if plain(entry.name) == name:
+                break
+        expect("the highlighted entry", lambda: plain(self.last_focused().name), name)
+
+    # --- Toolbars ---
+
+    def tool_bars(self):
+        """The content of every toolbar that is to be seen, by title.
+
+        To the end of its run the program tells the title that a toolbar had when it was first
+        asked; a menu that lists the toolbars tells the present one.
+        """
+        return {part.name: content_of(part) for part in self._window().children()
+                if part.role == "tool bar" and part.is_showing()}
+
+    def place_of(self, title):
+        """Where a toolbar stands, seen from the corner of its window."""
+        window = self._window()
+        return window.find("tool bar", title).rect.relative_to(window.rect)
+
+    def handle_of(self, title):
+        tool_bar = self.main_window.find("tool bar", title)
+        rect = settled(f'the place of "{title}"', lambda: tool_bar.rect)
+        if is_upright(rect):
+            return Point(rect.center.x, rect.y + HANDLE_MIDDLE)
+        return Point(rect.x + HANDLE_MIDDLE, rect.center.y)
+
+    def _window(self):
+        """The main window, be it active or under a dialog."""
+        window, = self.windows("frame")
+        return window
+
+
+class ToolBarDialog:
+    """The dialog that customizes the toolbars, on its toolbar page."""
+
+    def __init__(self, desktop, application):
+        self._desktop = desktop
+        self._application = application
+        self.window = application.window("dialog", "Options")
+        expect("the pages", lambda: [tab.name for tab in self.window.showing("page tab")],
+               ["ToolBar", "Ribbon"])
+
+    # --- What it shows ---
+
+    def tool_bars(self):
+        return names_in(self._tool_bar_list())
+
+    def current_tool_bar(self):
+        return self._current_in(self._tool_bar_list())
+
+    def content(self):
+        return names_in(self._content_list())
+
+    def current_entry(self):
+        return self._current_in(self._content_list())
+
+    def edited_name(self):
+        """The text of the in-place editor in the list of toolbars, if it has the keyboard."""
+        focused = self._application.last_focused()
+        is_editor = (focused.role == "text" and focused.has("focused")
+                     and self._tool_bar_list().rect.contains(focused.rect))
+        return focused.text if is_editor else None
+
+    # --- What its user does ---
+
+    def press(self, button):
+        """Clicks a button, named by its text."""
+        self._desktop.click(self._enabled_button(button).rect.center)
+
+    def close_with(self, button):
+        self.press(button)
+        expect("open dialogs", lambda: len(self._application.windows("dialog")), 0)
+
+    def select_tool_bar(self, title):
+        self._desktop.click(self._row(self._tool_bar_list(), title).rect.center)
+        expect("the selected toolbar", self.current_tool_bar, title)
+
+    def type_name(self, name):
+        self._desktop.type(name)
+        expect("the name in the editor", self.edited_name, name)
+        self._desktop.press("Return")
+
+    def select_action(self, *path):
+        action = self._action(*path)
+        self._desktop.click(action.rect.center)
+        wait_for(f"{path[-1]} is not selected", lambda: self._action(*path).has("selected"))
+
+    def double_click_action(self, *path):
+        self._desktop.double_click(self._action(*path).rect.center)
+
+    def select_entry(self, name):
+        self._desktop.click(self._row(self._content_list(), name).rect.center)
+        expect("the selected entry", self.current_entry, name)
+
+    def double_click_entry(self, name):
+        self._desktop.double_click(self._row(self._content_list(), name).rect.center)
+
+    # --- Where things are ---
+
+    def _enabled_button(self, name):
+        button = self.window.find("push button", name)
+        wait_for(f"the button {name} is disabled", lambda: button.has("enabled", "sensitive"))
+        return button
+
+    def _tool_bar_list(self):
+        return self._lists()[0]
+
+    def _content_list(self):
+        return self._lists()[1]
+
+    def _lists(self):
+        lists = sorted(self.window.showing("list"), key=lambda widget: widget.rect.y)
+        if len(lists) != 2:
+            raise NotSo(f"the dialog shows {len(lists)} lists")
+        return lists
+
+    def _action(self, *path):
+        """The row of an action in the tree, given its category and name, brought into view."""
+        tree, = self.window.showing("tree")
+        *categories, name = path
+        for category in categories:
+            self._expand(tree, category)
+        return self._row(tree, name, "table cell")
+
+    def _expand(self, tree, category):
+        row = self._row(tree, category, "table cell")
+        if not row.has("expanded"):
+            arrow = Point((tree.rect.x + row.rect.x) // 2, row.rect.center.y)
+            self._desktop.click(arrow)
+            wait_for(f"{category} does not expand", lambda: row.has("expanded"))
+
+    def _row(self, view, name, role="list item"):
+        """The row of a name in a list or tree, brought into view."""
+        def named():
+            return [row for row in rows_of(view, role) if shown_name(row) == name]
+
+        row = wait_for(f"there is not one row {name}", named, lambda all: len(all) == 1)[0]
+        self._scroll_to(view, row)
+        return row
+
+    def _scroll_to(self, view, row):
+        top, bottom = view.rect.y, view.rect.y + view.rect.height
+        while row.rect.y < top or row.rect.y + row.rect.height > bottom:
+            before = row.rect
+            self._desktop.point_at(view.rect.center)
+            self._desktop.turn_wheel(Desktop.WHEEL_UP if before.y < top else Desktop.WHEEL_DOWN)
+            wait_for("the list does not scroll", lambda: row.rect != before)
+
+    @staticmethod
+    def _current_in(view):
+        current = [shown_name(row) for row in rows_of(view) if row.has("selected")]
+        return current[0] if len(current) == 1 else None
+
+
+def entries_of(menu):
+    return [plain(entry.name) for entry in menu.children()]
+
+
+def place_in_menu(menu, name):
+    """Where to click on an entry of an open menu; None if there is no such entry.
+
+    Entries are counted from the last one up, and none is asked for its place: Qt ties an entry to
+    the first menu in which anybody looks at it. In any other menu it tells a wrong place, and when
+    that menu is gone it tells nothing at all any more.
+    """
+    bottom = menu.rect.y + menu.rect.height
+    for entry in menu.children_from_last():
+        height = entry.rect.height
+        if plain(entry.name) == name:
+            return Point(menu.rect.center.x, bottom - height // 2)
+        bottom -= height
+    return None
+
+
+def content_of(tool_bar):
+    """What stands on a toolbar, in the order in which it is to be seen."""
+    parts = [part for part in tool_bar.children() if part.is_showing() and not is_extension(part)]
+    if is_upright(tool_bar.rect):
+        parts.sort(key=lambda part: part.rect.y)
+    else:
+        parts.sort(key=lambda part: part.rect.x)
+    return [SEPARATOR if is_separator(part) else plain(part.name) for part in parts]
+
+
+def is_extension(part):
+    """The arrow behind which a toolbar keeps what does not fit; what it keeps is not showing."""
+    return part.role == "check box" and not part.name
+
+
+def is_separator(part):
+    thickness = min(part.rect.width, part.rect.height)
+    return part.role == "filler" and not part.name and thickness <= THICKEST_SEPARATOR
+
+
+def is_upright(rect):
+    return rect.height > rect.width
+
+
+def rows_of(view, role="list item"):
+    return [row for row in view.children() if row.role == role]
+
+
+def names_in(view):
+    return [shown_name(row) for row in rows_of(view)]
+
+
+def shown_name(row):
+    return SEPARATOR if row.name == SEPARATOR_ENTRY else plain(row.name)
+
+
+def listed(names):
+    """Names as one text: "Bold, |, Find"."""
+    return ", ".join(names) or "nothing"
