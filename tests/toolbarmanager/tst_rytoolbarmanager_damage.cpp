@@ -4,7 +4,7 @@
 #include "layout.h"
 #include "literalreader.h"
 #include "processuse.h"
-#include "statebytes.h"
+#include "statewriter.h"
 #include "testcase.h"
 #include "texts.h"
 

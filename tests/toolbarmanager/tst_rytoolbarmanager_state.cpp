@@ -4,7 +4,7 @@
 #include "host.h"
 #include "layout.h"
 #include "localecodec.h"
-#include "statebytes.h"
+#include "statewriter.h"
 #include "testcase.h"
 #include "texts.h"
 #include "toolbarorder.h"

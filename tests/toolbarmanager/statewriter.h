@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-#ifndef STATEBYTES_H
-#define STATEBYTES_H
+#ifndef STATEWRITER_H
+#define STATEWRITER_H
 
 #include <QByteArray>
 #include <QStringList>
@@ -44,4 +44,4 @@ private:
 // if there are any.
 QStringList fieldsOf(const QByteArray &state);
 
-#endif // STATEBYTES_H
+#endif // STATEWRITER_H

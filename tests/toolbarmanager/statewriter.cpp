@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "statebytes.h"
+#include "statewriter.h"
 
 namespace {
 
