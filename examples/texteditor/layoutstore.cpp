@@ -6,7 +6,6 @@
 #include <QDataStream>
 #include <QIODevice>
 #include <QSettings>
-#include <QVariant>
 
 namespace {
 
@@ -26,12 +25,6 @@ QString checksum(const LayoutStore::Layout &layout)
     return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
 }
 
-// Empty for anything that is not a byte array: no other value is converted to one.
-QByteArray bytesOf(const QVariant &value)
-{
-    return value.type() == QVariant::ByteArray ? value.toByteArray() : QByteArray();
-}
-
 } // namespace
 
 LayoutStore::LayoutStore(QSettings *settings)
@@ -49,9 +42,9 @@ LayoutStore::Result LayoutStore::read(Layout *layout) const
         return Result::Damaged;
     if (version != Version)
         return Result::OtherVersion;
-    const Layout stored{bytesOf(m_settings->value(ToolBarsKey)),
-                        bytesOf(m_settings->value(WindowKey)),
-                        bytesOf(m_settings->value(GeometryKey))};
+    const Layout stored{m_settings->value(ToolBarsKey).toByteArray(),
+                        m_settings->value(WindowKey).toByteArray(),
+                        m_settings->value(GeometryKey).toByteArray()};
     if (m_settings->value(ChecksumKey).toString() != checksum(stored))
         return Result::Damaged;
     *layout = stored;

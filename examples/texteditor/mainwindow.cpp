@@ -85,12 +85,12 @@ void MainWindow::createMenus()
     createMenu(tr("&Help"), {"help_tour", "|", "help_about"});
 }
 
-// Filled anew each time, because the user can create, rename and remove toolbars.
+// Filled each time it is shown, because the user can create toolbars. An action that stands in the
+// menu already is not added twice; that of a removed toolbar leaves the menu by itself.
 void MainWindow::createToolBarsMenu(QMenu *parent)
 {
     QMenu *const menu = parent->addMenu(tr("Toolbars"));
     connect(menu, &QMenu::aboutToShow, this, [this, menu] {
-        menu->clear();
         const auto toolBars = findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
         for (QToolBar *toolBar : toolBars)
             menu->addAction(toolBar->toggleViewAction());

@@ -16,6 +16,8 @@ EditorSession::EditorSession(const QString &settingsFile)
     , window(&settings)
     , editor(window.findChild<EditorView *>())
 {
+    QObject::connect(&m_watch, &QTimer::timeout, &NextModal::refuseUnexpected);
+    m_watch.start(0);
 }
 
 void EditorSession::start()

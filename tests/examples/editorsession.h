@@ -49,6 +49,9 @@ public:
     QSettings settings;
     MainWindow window;
     EditorView *const editor;
+
+private:
+    QTimer m_watch;
 };
 
 #endif // EDITORSESSION_H

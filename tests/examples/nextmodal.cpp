@@ -6,8 +6,15 @@
 #include <QPushButton>
 #include <QtTest>
 
+namespace {
+
+int expectations = 0;
+
+} // namespace
+
 NextModal::NextModal(const std::function<void(QWidget *)> &deal)
 {
+    ++expectations;
     QObject::connect(&m_timer, &QTimer::timeout, [this, deal] { dealWithModal(deal); });
     m_timer.start(0);
 }
@@ -21,6 +28,20 @@ NextModal::NextModal(QMessageBox::StandardButton answer)
         QTest::mouseClick(box->button(answer), Qt::LeftButton);
     })
 {
+}
+
+NextModal::~NextModal()
+{
+    --expectations;
+}
+
+void NextModal::refuseUnexpected()
+{
+    QWidget *const modal = QApplication::activeModalWidget();
+    if (!modal || expectations > 0)
+        return;
+    modal->close();
+    QFAIL(qPrintable(QLatin1String("nobody expects ") + modal->windowTitle()));
 }
 
 void NextModal::dealWithModal(const std::function<void(QWidget *)> &deal)

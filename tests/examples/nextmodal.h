@@ -19,6 +19,11 @@ public:
     // Clicks that button of a message box.
     explicit NextModal(QMessageBox::StandardButton answer);
 
+    ~NextModal();
+
+    // Fails the test and closes a modal widget that no object of this class expects.
+    static void refuseUnexpected();
+
     // Whether one was opened, and the text of the message box.
     bool wasOpened() const { return m_wasOpened; }
     QString text() const { return m_text; }
