@@ -142,6 +142,7 @@ private Q_SLOTS:
     void resettingDoesNotBringARemovedActionBack();
     void removeActionLeavesDefaultContentThatDoesNotStandOnTheToolBar();
     void aRemovedActionMayBeRegisteredAgain();
+    void aRemovedActionIsNotTakenOffAgain();
     void removingTheLastActionRemovesTheCategory_data();
     void removingTheLastActionRemovesTheCategory();
     void removingOneOfSeveralActionsKeepsTheCategory();
@@ -716,11 +717,26 @@ void tst_RyToolBarManager_registry::aRemovedActionMayBeRegisteredAgain()
     QCOMPARE(entryOf(host.manager, open), QStringLiteral("B registered listed"));
     QCOMPARE(standingOn(file), QStringList());
     host.manager.setToolBar(edit, {open});
-    ActionLog log(file);
-    log.watch(edit);
+    file->addAction(open);
     host.manager.removeAction(open);
-    // The toolbars of its first life are forgotten.
-    QCOMPARE(log.take(), words("edit-open"));
+    // The toolbars of its first life are forgotten, so that the host's own placing stays.
+    QCOMPARE(standingOn(edit), QStringList());
+    QCOMPARE(standingOn(file), words("open"));
+}
+
+void tst_RyToolBarManager_registry::aRemovedActionIsNotTakenOffAgain()
+{
+    Host host;
+    QToolBar *const file = host.defaultToolBar(QStringLiteral("file"), words("open | save"), A);
+    QAction *const open = host.action(QStringLiteral("open"));
+    host.manager.removeAction(open);
+    file->addAction(open);
+    host.manager.setToolBar(file, host.list(words("save")));
+    QCOMPARE(standingOn(file), words("open save"));
+    host.manager.removeAction(host.action(QStringLiteral("save")));
+    delete host.action(QStringLiteral("save"));
+    host.manager.setToolBar(file, {nullptr});
+    QCOMPARE(standingOn(file), words("open |"));
 }
 
 void tst_RyToolBarManager_registry::removingTheLastActionRemovesTheCategory_data()
