@@ -20,6 +20,9 @@ void selectAfterRemoval(QListWidget *list, int removedRow)
 
 void RyCToolBarWidget::newClicked()
 {
+    // The buttons are enabled until something sets them, and nothing could be applied.
+    if (!m_manager)
+        return;
     const QString name = tr("Custom Toolbar");
     ToolBarItem *const record = createItem(name);
     m_workingActions.insert(record, QList<QAction *>());

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void newTwiceMakesTwoToolBarsOfOneName();
     void newAgainKeepsTheNameThatWasBeingTyped();
     void newDoesNotTouchTheHost();
+    void withoutAManagerNoCommandDoesAnything();
 
     void removeMakesTheNextToolBarCurrent_data();
     void removeMakesTheNextToolBarCurrent();
@@ -278,6 +279,23 @@ void tst_RyCToolBarWidget_Commands::newDoesNotTouchTheHost()
     editor.views.click(editor.views.newButton);
     QCOMPARE(host.window.findChildren<QToolBar *>().size(), before);
     QCOMPARE(host.manager.toolBars().size(), before);
+}
+
+void tst_RyCToolBarWidget_Commands::withoutAManagerNoCommandDoesAnything()
+{
+    ShownEditor editor(nullptr);
+    for (QToolButton *button :
+         {editor.views.newButton, editor.views.removeButton, editor.views.renameButton,
+          editor.views.upButton, editor.views.leftButton, editor.views.rightButton,
+          editor.views.downButton}) {
+        QVERIFY(button->isEnabled());
+        editor.views.click(button);
+    }
+    QVERIFY(!editor.views.renameEditor());
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList());
+    compare(editor, {});
+    editor.widget.applyClicked();
+    compare(editor, {});
 }
 
 void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent_data()
