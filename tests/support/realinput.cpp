@@ -72,6 +72,14 @@ RealInput::~RealInput()
     xcb_disconnect(m_connection);
 }
 
+QPoint RealInput::position() const
+{
+    const ReplyPointer<xcb_query_pointer_reply_t> reply(
+        xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_root), nullptr));
+    require(reply != nullptr, "no pointer");
+    return QPoint(reply->root_x, reply->root_y);
+}
+
 void RealInput::moveTo(const QPoint &position)
 {
     fake(XCB_MOTION_NOTIFY, 0, position);

@@ -24,6 +24,7 @@ public:
     RealInput &operator=(const RealInput &) = delete;
 
     // Positions of the screen.
+    QPoint position() const;
     void moveTo(const QPoint &position);
     void press(Qt::MouseButton button = Qt::LeftButton);
     void release(Qt::MouseButton button = Qt::LeftButton);

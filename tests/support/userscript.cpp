@@ -14,12 +14,16 @@ namespace {
 // Far beyond what a busy machine needs, and short enough to tell which step it was.
 constexpr int patience = 20000;
 
+// Places of the pointer that are none on the screen.
 const QPoint outside(-1, -1);
+const QPoint unknown(-2, -2);
 
 bool isSettled(const QWidget *window, const RealInput &input)
 {
     const QWindow *const handle = window->windowHandle();
-    return handle && handle->isExposed() && handle->isActive()
+    // Not QWindow::isActive(), which counts a dialog of the active window as active too.
+    return handle && handle->isExposed() && QGuiApplication::focusWindow() == handle
+        && QApplication::activeWindow() == window
         && handle->mapToGlobal(QPoint()) == input.positionOf(handle);
 }
 
@@ -58,7 +62,7 @@ void UserScript::moveTo(const std::function<QWidget *()> &widget,
 {
     const auto target = [=] { return widget()->mapToGlobal(place()); };
     step(
-        QStringLiteral("move"), [=] { input.moveTo(target()); },
+        QStringLiteral("move"), [=] { movePointer(target()); },
         [=] { return m_pointer == target(); });
 }
 
@@ -67,10 +71,10 @@ void UserScript::moveTo(QWidget *widget, const QPoint &place)
     moveTo([widget] { return widget; }, [place] { return place; });
 }
 
-void UserScript::moveOut()
+void UserScript::dragOut()
 {
     step(
-        QStringLiteral("move out"), [this] { input.moveTo(QPoint(0, 0)); },
+        QStringLiteral("drag out"), [this] { input.moveTo(QPoint(0, 0)); },
         [this] { return m_pointer == outside; });
 }
 
@@ -153,7 +157,7 @@ void UserScript::start()
     m_index = -1;
     m_failure.clear();
     m_heldKeys.clear();
-    m_pointer = outside;
+    m_pointer = unknown;
     m_timer.start();
 }
 
@@ -178,7 +182,8 @@ bool UserScript::eventFilter(QObject *object, QEvent *event)
     switch (event->type()) {
     // Qt makes no move out of an entry at the place where it saw the pointer last.
     case QEvent::Enter:
-        m_pointer = static_cast<QEnterEvent *>(event)->globalPos();
+        if (!inNestedLoop())
+            m_pointer = static_cast<QEnterEvent *>(event)->globalPos();
         break;
     case QEvent::MouseMove:
         m_pointer = static_cast<QMouseEvent *>(event)->globalPos();
@@ -187,7 +192,6 @@ bool UserScript::eventFilter(QObject *object, QEvent *event)
         m_pointer = window->mapToGlobal(static_cast<QDropEvent *>(event)->pos());
         break;
     case QEvent::DragLeave:
-    case QEvent::Leave:
         m_pointer = outside;
         break;
     case QEvent::KeyPress:
@@ -217,6 +221,15 @@ void UserScript::advance()
         m_steps.at(m_index).action();
     else
         end();
+}
+
+// A move to where the pointer is makes no event to wait for.
+void UserScript::movePointer(const QPoint &position)
+{
+    if (input.position() == position)
+        return;
+    m_pointer = unknown;
+    input.moveTo(position);
 }
 
 bool UserScript::inNestedLoop() const

@@ -41,9 +41,6 @@ public:
     void moveTo(const std::function<QWidget *()> &widget, const std::function<QPoint()> &place);
     void moveTo(QWidget *widget, const QPoint &place);
 
-    // Moves it off our windows, which must have it or what it drags.
-    void moveOut();
-
     // Buttons and keys, each waiting until Qt has it so.
     void press(Qt::MouseButton button = Qt::LeftButton);
     void release(Qt::MouseButton button = Qt::LeftButton);
@@ -61,7 +58,9 @@ public:
     // Waits until a window is active and stands where Qt believes it to stand.
     void waitForWindow(QWidget *window);
 
-    // Inside a drag, which takes all input for itself: waits until every drag has ended.
+    // Inside a drag, which takes all input for itself: moves off our windows, and two ways to end it,
+    // which wait until every drag has ended.
+    void dragOut();
     void drop(Qt::MouseButton button = Qt::LeftButton);
     void cancelDrag();
 
@@ -87,6 +86,7 @@ private:
         std::function<bool()> done;
     };
 
+    void movePointer(const QPoint &position);
     bool inNestedLoop() const;
     void giveUp();
     void end();
@@ -100,7 +100,7 @@ private:
     QString m_failure;
     // How deep the event loop of the test itself is; below it runs a drag or a modal dialog.
     int m_loopLevel;
-    // Where a window of ours had the pointer last.
+    // Where a window of ours had the pointer, or what it drags, since the last step that moves it.
     QPoint m_pointer;
     // The keys that our windows know to be held.
     QSet<int> m_heldKeys;

@@ -571,7 +571,7 @@ void tst_RyTreeWidget_Window::outsideOfAllWindows()
     QVERIFY(stage.show());
     stage.pickUp(stage.tree, "c", copying);
     stage.carryTo(stage.tree, "b");
-    stage.user.moveOut();
+    stage.user.dragOut();
     stage.drop(copying);
     QCOMPARE(stage.user.run(), QString());
     QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : filledContentWithoutC());
