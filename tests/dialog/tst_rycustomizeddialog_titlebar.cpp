@@ -13,9 +13,9 @@ namespace {
 QString protocolsOf(const QWidget *window)
 {
     QProcess process;
-    process.start(QStringLiteral("xprop"),
-                  {QStringLiteral("-id"), QString::number(window->winId()),
-                   QStringLiteral("WM_PROTOCOLS")});
+    process.start(
+        QStringLiteral("xprop"),
+        {QStringLiteral("-id"), QString::number(window->winId()), QStringLiteral("WM_PROTOCOLS")});
     if (!process.waitForFinished() || process.exitCode() != 0)
         QTest::qFail("xprop failed", __FILE__, __LINE__);
     return QString::fromUtf8(process.readAllStandardOutput());
