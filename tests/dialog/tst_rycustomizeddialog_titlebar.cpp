@@ -9,48 +9,55 @@
 
 namespace {
 
-// Runs a program of the X server's and returns what it prints.
-QString run(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished() || process.exitCode() != 0)
-        QTest::qFail(qPrintable(program + QLatin1String(" failed")), __FILE__, __LINE__);
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
-
-// What the window asks of the window manager, such as a button for context help.
+// What the window offers to the window manager, such as a button for context help.
 QString protocolsOf(const QWidget *window)
 {
-    return run(
+    QProcess process;
+    process.start(
         QStringLiteral("xprop"),
         {QStringLiteral("-id"), QString::number(window->winId()), QStringLiteral("WM_PROTOCOLS")});
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        QTest::qFail("xprop failed", __FILE__, __LINE__);
+    return QString::fromUtf8(process.readAllStandardOutput());
 }
 
 } // namespace
 
+// What the title bar of the dialog's real window offers.
 class tst_RyCustomizedDialog_TitleBar : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theTitleBarOffersNoContextHelp();
+    void offersToClose();
+    void offersNoContextHelp();
+    void offersContextHelpForOtherDialogs();
 };
 
-void tst_RyCustomizedDialog_TitleBar::theTitleBarOffersNoContextHelp()
+void tst_RyCustomizedDialog_TitleBar::offersToClose()
 {
     Host host;
     RyCustomizedDialog dialog({&host.manager, nullptr}, nullptr);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const QString offer = QStringLiteral("_NET_WM_CONTEXT_HELP");
-    QVERIFY(!protocolsOf(&dialog).contains(offer));
     QVERIFY(protocolsOf(&dialog).contains(QLatin1String("WM_DELETE_WINDOW")));
-    dialog.hide();
-    QDialog plain;
-    plain.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&plain));
-    QVERIFY(protocolsOf(&plain).contains(offer));
+}
+
+void tst_RyCustomizedDialog_TitleBar::offersNoContextHelp()
+{
+    Host host;
+    RyCustomizedDialog dialog({&host.manager, nullptr}, nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(!protocolsOf(&dialog).contains(QLatin1String("_NET_WM_CONTEXT_HELP")));
+}
+
+void tst_RyCustomizedDialog_TitleBar::offersContextHelpForOtherDialogs()
+{
+    QDialog dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(protocolsOf(&dialog).contains(QLatin1String("_NET_WM_CONTEXT_HELP")));
 }
 
 QTEST_MAIN(tst_RyCustomizedDialog_TitleBar)
