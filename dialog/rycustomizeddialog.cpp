@@ -68,7 +68,7 @@ void RyCustomizedDialog::slotApply()
 
 void RyCustomizedDialog::slotUiModeChanged(bool modified)
 {
-    // The inversion is meant: a host reports that it took its user interface over itself.
+    // The inversion is meant: true disables Apply, false enables it.
     applyButton()->setEnabled(!modified);
 }
 
@@ -94,6 +94,7 @@ void RyCustomizedDialog::closeOptionPages()
 
 void RyCustomizedDialog::createPages(const QList<RyAbstatcManager *> &managers)
 {
+    // Made in the other order than they are listed, on purpose; only the list's order counts later.
     RyCusInterface *const ribbonPage = new RyCRibbonPage(managers.at(1));
     RyCusInterface *const toolBarPage = new RyCToolBarPage(managers.at(0));
     m_optionPages << toolBarPage << ribbonPage;

@@ -94,6 +94,12 @@ private Q_SLOTS:
     void slotAccepted();
     void slotRejected();
     void slotApply();
+    /*!
+     * \brief Disables Apply if \a modified is true and enables it if it is false.
+     *
+     * For the host, which connects a signal of its own to it by signature string; the library
+     * connects it to nothing. The inversion is deliberate.
+     */
     void slotUiModeChanged(bool modified);
     void slotHelp();
     void slotRestorDefault();

@@ -54,8 +54,9 @@ class QMainWindow;
  * custom toolbars stay in the main window then.
  *
  * \par Arguments
- * Null, unknown and repeated arguments are ignored without a message. Only restoring and saving
- * print warnings, through Qt's message logger and without a source location.
+ * Null, unknown and repeated arguments are ignored without a message. Only restoring, saving,
+ * findAction() and findDefaultToolBar() print warnings, through Qt's message logger and without a
+ * source location.
  *
  * \par Deliberate quirks
  * - None of the signals is ever emitted by the manager. They are there for other code to raise.

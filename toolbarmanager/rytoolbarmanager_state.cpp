@@ -80,6 +80,7 @@ void RyToolBarManager::saveStateData(QDataStream &stream) const
     for (auto it = m_toolBars.cbegin(); it != m_toolBars.cend(); ++it) {
         if (m_defaultToolBars.contains(it.key()))
             continue;
+        // The objectName as it is, even if empty: here nothing stands in for it, on purpose.
         stream << it.key()->objectName() << it.key()->windowTitle();
         writeContent(stream, it.value());
     }

@@ -129,6 +129,7 @@ private Q_SLOTS:
     void restoreDefaultsSkipsAToolBarRegisteredMeanwhile();
 
     void helpShowsAMessage();
+    void helpIsAnAboutBox();
     void helpIsTranslated();
     void helpChangesNothing();
     void helpIsShownAtEachPress();
@@ -386,6 +387,24 @@ void tst_RyCustomizedDialog_Buttons::helpShowsAMessage()
     QCOMPARE(seen.informativeText, QString());
     QCOMPARE(seen.parent, &session.dialog);
     QCOMPARE(seen.buttons, 1);
+}
+
+// Unlike the other message boxes it shows the window's icon in place of a sign of its own.
+void tst_RyCustomizedDialog_Buttons::helpIsAnAboutBox()
+{
+    Session session;
+    QPixmap pixmap(64, 64);
+    pixmap.fill(Qt::magenta);
+    session.dialog.setWindowIcon(pixmap);
+    QImage shown;
+    const NextModal help([&shown](QWidget *modal) {
+        shown = qobject_cast<QMessageBox *>(modal)->iconPixmap().toImage();
+        QTest::keyClick(modal, Qt::Key_Escape);
+    });
+    session.press(QDialogButtonBox::Help);
+    QVERIFY(help.wasShown());
+    QVERIFY(!shown.isNull());
+    QCOMPARE(shown.pixelColor(shown.rect().center()), QColor(Qt::magenta));
 }
 
 void tst_RyCustomizedDialog_Buttons::helpIsTranslated()

@@ -167,6 +167,24 @@ class Library(unittest.TestCase):
         allowed |= {'libstdc++.so.6', 'libm.so.6', 'libgcc_s.so.1', 'libc.so.6'}
         self.assertEqual(sorted(set(self.dynamic('NEEDED')) - allowed), [])
 
+    def test_starts_no_timer_or_thread_and_reads_no_file_or_setting(self):
+        # C functions stand alone, and what belongs to a class has its name in front.
+        unwanted = re.compile(
+            r'\b(Q(Basic)?Timer|Q(Abstract)?Socket|QDir|QFile|QFileInfo|QLibrary|QLockFile|QMutex|'
+            r'QNetwork\w+|QProcess|QReadWriteLock|QSaveFile|QSemaphore|QSettings|QStandardPaths|'
+            r'QTemporary\w+|QThread|QThreadPool|QWaitCondition)::|'
+            r'\bQObject::(startTimer|moveToThread)\b|\b(qgetenv|qEnvironmentVariable\w*)\b|'
+            r'^(f?open(64)?|creat|(secure_)?getenv|pthread_\w+|socket|syscall|std::.*f?stream.*)\b')
+        lines = run('nm', '-DC', '--undefined-only', '--format=posix', self.library).splitlines()
+        self.assertGreater(len(lines), 0)
+        self.assertEqual([line for line in lines if unwanted.search(line)], [])
+
+    def test_dialog_takes_the_list_of_managers_by_value(self):
+        symbols = run('nm', '-DC', '--defined-only', '--format=posix', self.library)
+        constructors = re.findall(r'^RyCustomizedDialog::RyCustomizedDialog(\(.*\)) T', symbols,
+                                  re.MULTILINE)
+        self.assertEqual(set(constructors), {'(QList<RyAbstatcManager*>, QWidget*)'})
+
     def test_soname_holds_the_major_version(self):
         self.assertEqual(self.dynamic('SONAME'), [f'libRyCustomizedDialog.so.{MAJOR}'])
 

@@ -5,6 +5,7 @@
 #include "localecodec.h"
 #include "testcase.h"
 #include "texts.h"
+#include "virtualslots.h"
 
 #include <QMenu>
 #include <QMetaMethod>
@@ -90,6 +91,31 @@ public:
     using QToolBar::receivers;
 };
 
+// The types tell whose function it is that a subclass would override.
+struct Access : RyToolBarManager
+{
+    template <typename Event> using Handler = void (QObject::*)(Event *);
+    using Notice = void (QObject::*)(const QMetaMethod &);
+
+    static QList<bool> inherited()
+    {
+        return {
+            std::is_same_v<decltype(&Access::event), bool (QObject::*)(QEvent *)>,
+            std::is_same_v<decltype(&Access::eventFilter), bool (QObject::*)(QObject *, QEvent *)>,
+            std::is_same_v<decltype(&Access::timerEvent), Handler<QTimerEvent>>,
+            std::is_same_v<decltype(&Access::childEvent), Handler<QChildEvent>>,
+            std::is_same_v<decltype(&Access::customEvent), Handler<QEvent>>,
+            std::is_same_v<decltype(&Access::connectNotify), Notice>,
+            std::is_same_v<decltype(&Access::disconnectNotify), Notice>,
+        };
+    }
+};
+
+template <typename Signature> bool isOf(Signature function)
+{
+    return function != nullptr;
+}
+
 } // namespace
 
 class tst_RyToolBarManager_registry : public TestCase
@@ -100,6 +126,10 @@ private Q_SLOTS:
     void theMetaObjectHasThreeSignalsAndTwoSlotsInOrder();
     void theMetaObjectNamesOnlyTheManagerAndQObject();
     void theFieldsStandInTheirOrder();
+    void addsAndOverridesNoVirtualFunction();
+    void noQueryChangesTheManager();
+    void theRecordsNameTheSameToolBars();
+    void aRemovedActionIsForgottenByEveryRecord();
     void theParentArgumentIsIgnored();
     void aNewManagerIsEmpty();
     void destroyingTheManagerDeletesNothingElse();
@@ -217,6 +247,76 @@ void tst_RyToolBarManager_registry::theFieldsStandInTheirOrder()
              (Contents{{file, file->actions()}, {mine, mine->actions()}}));
     QCOMPARE(fieldOf<Contents>(manager, 6), (Contents{{file, {open, nullptr, save}}}));
     QCOMPARE(fieldOf<QMainWindow *>(manager, 7), &host.window);
+}
+
+void tst_RyToolBarManager_registry::addsAndOverridesNoVirtualFunction()
+{
+    QCOMPARE(virtualSlotCount<RyToolBarManager>(), virtualSlotCount<QObject>());
+    QVERIFY(!Access::inherited().contains(false));
+}
+
+// Each may be asked of a manager that is const, with these arguments and results.
+void tst_RyToolBarManager_registry::noQueryChangesTheManager()
+{
+    using Manager = RyToolBarManager;
+    using Contents = QMap<QToolBar *, QList<QAction *>>;
+    QVERIFY(isOf<QMainWindow *(Manager::*)() const>(&Manager::mainWindow));
+    QVERIFY(isOf<bool (Manager::*)(const QString &) const>(&Manager::hasCategory));
+    QVERIFY(isOf<QStringList (Manager::*)() const>(&Manager::categories));
+    QVERIFY(isOf<QList<QAction *> (Manager::*)(const QString &) const>(&Manager::categoryActions));
+    QVERIFY(isOf<QString (Manager::*)(QAction *) const>(&Manager::actionCategory));
+    QVERIFY(isOf<QSet<QAction *> (Manager::*)() const>(&Manager::actions));
+    QVERIFY(isOf<QAction *(Manager::*)(const QString &) const>(&Manager::findAction));
+    QVERIFY(isOf<QList<QToolBar *> (Manager::*)() const>(&Manager::toolBars));
+    QVERIFY(isOf<Contents (Manager::*)() const>(&Manager::defaultToolBars));
+    QVERIFY(isOf<bool (Manager::*)(QToolBar *) const>(&Manager::isDefaultToolBar));
+    QVERIFY(isOf<Contents (Manager::*)() const>(&Manager::toolBarsActions));
+    QVERIFY(isOf<QList<QAction *> (Manager::*)(QToolBar *) const>(&Manager::actions));
+    QVERIFY(isOf<QToolBar *(Manager::*)(const QString &) const>(&Manager::toolBarByName));
+    QVERIFY(isOf<QToolBar *(Manager::*)(const QString &) const>(&Manager::findDefaultToolBar));
+    QVERIFY(isOf<QByteArray (Manager::*)(int) const>(&Manager::saveState));
+    QVERIFY(isOf<void (Manager::*)(QDataStream &) const>(&Manager::saveStateData));
+}
+
+void tst_RyToolBarManager_registry::theRecordsNameTheSameToolBars()
+{
+    using Contents = QMap<QToolBar *, QList<QAction *>>;
+    Host host;
+    QToolBar *const file = host.defaultToolBar(QStringLiteral("file"), words("open |"), A);
+    QToolBar *const unmanaged = host.toolBar(QStringLiteral("other"), words("open"));
+    QToolBar *const deleted = host.manager.createToolBar(QStringLiteral("Deleted"));
+    QToolBar *const forgotten = host.manager.createToolBar(QStringLiteral("Forgotten"));
+    for (QToolBar *toolBar : {deleted, forgotten})
+        host.manager.setToolBar(toolBar, host.list(words("| open")));
+    host.manager.deleteToolBar(deleted);
+    host.manager.removeDefaultToolBar(forgotten);
+    host.manager.removeDefaultToolBar(unmanaged);
+    host.manager.setToolBar(unmanaged, host.list(words("|")));
+
+    QAction *const open = host.action(QStringLiteral("open"));
+    const RyToolBarManager &manager = host.manager;
+    QCOMPARE((fieldOf<QMap<QAction *, QList<QToolBar *>>>(manager, 3).value(open)),
+             QList<QToolBar *>{file});
+    QCOMPARE(fieldOf<Contents>(manager, 4).keys(), QList<QToolBar *>{file});
+    QCOMPARE(fieldOf<Contents>(manager, 5).keys(), QList<QToolBar *>{file});
+    QCOMPARE(fieldOf<Contents>(manager, 6).keys(), QList<QToolBar *>{file});
+}
+
+void tst_RyToolBarManager_registry::aRemovedActionIsForgottenByEveryRecord()
+{
+    using Contents = QMap<QToolBar *, QList<QAction *>>;
+    Host host;
+    QToolBar *const file = host.defaultToolBar(QStringLiteral("file"), words("open save"), A);
+    QAction *const save = host.action(QStringLiteral("save"));
+    host.manager.removeAction(host.action(QStringLiteral("open")));
+    const RyToolBarManager &manager = host.manager;
+    const QList<QAction *> left{save};
+    QCOMPARE((fieldOf<QMap<QString, QList<QAction *>>>(manager, 0).value(A)), left);
+    QCOMPARE((fieldOf<QMap<QAction *, QString>>(manager, 1).keys()), left);
+    QCOMPARE(fieldOf<QSet<QAction *>>(manager, 2).values(), left);
+    QCOMPARE((fieldOf<QMap<QAction *, QList<QToolBar *>>>(manager, 3).keys()), left);
+    for (size_t field : {4, 5, 6})
+        QCOMPARE(fieldOf<Contents>(manager, field).value(file), left);
 }
 
 void tst_RyToolBarManager_registry::theParentArgumentIsIgnored()
