@@ -48,6 +48,7 @@ void RyCToolBarWidget::applyCreatedToolBars()
         const QString name = record->toolBarName();
         m_createdRecords.remove(record);
         const auto actions = m_workingActions.value(record);
+        // Null without a main window, and passed on as it is.
         QToolBar *const toolBar = m_manager->createToolBar(name);
         record->setToolBar(toolBar);
         m_manager->setToolBar(toolBar, actions);

@@ -78,6 +78,7 @@ void RyCToolBarWidget::renameClicked()
 
 void RyCToolBarWidget::toolBarRenamed(QListWidgetItem *item)
 {
+    // Without a current toolbar the row's new text is not taken over, on purpose.
     if (!m_currentRecord)
         return;
     ToolBarItem *const record = m_recordOfListItem.value(item);

@@ -110,6 +110,7 @@ void RyTreeWidget::dragMoveEvent(QDragMoveEvent *event)
         event->ignore();
         return;
     }
+    // Over empty space no item is current then, which is meant.
     setCurrentItem(item);
     acceptDrop(event);
 }
@@ -121,6 +122,7 @@ void RyTreeWidget::dropEvent(QDropEvent *event)
         return;
     QTreeWidgetItem *const copy = dragged->clone();
     QTreeWidgetItem *const item = itemAt(event->pos());
+    // On the dragged item itself, too, the copy goes to the end of the top level on purpose.
     if (item && item != dragged)
         item->addChild(copy);
     else
@@ -128,6 +130,7 @@ void RyTreeWidget::dropEvent(QDropEvent *event)
     acceptDrop(event);
 }
 
+// By this tree's own flag on purpose, though the source tree's decides over the dragged item.
 void RyTreeWidget::acceptDrop(QDropEvent *event) const
 {
     event->setDropAction(ctrlPressed ? Qt::CopyAction : Qt::MoveAction);

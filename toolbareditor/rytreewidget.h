@@ -12,9 +12,9 @@
  * \brief A tree whose items can be moved or copied by drag and drop, within it and to others of its
  *        kind.
  *
- * Press an item and drag it to move it; hold Control while dragging to copy it. The item lands, with
- * everything below it, as the last child of the item under the pointer, or at the end of the top
- * level over empty space. Only the current item is dragged, whatever else is selected.
+ * Press an item and drag it to move it; hold Control before the drag starts to copy it. The item
+ * lands, with everything below it, as the last child of the item under the pointer, or at the end of
+ * the top level over empty space. Only the current item is dragged, whatever else is selected.
  *
  * Use it where a user arranges a tree of the host's own. The pages of RyCustomizedDialog do not use
  * it, and it tells nobody of a drop.
@@ -28,7 +28,7 @@
  * - A move removes the dragged item however the drag ends: also when it is cancelled, refused or
  *   dropped elsewhere, and when the item is dropped into its own subtree, which vanishes whole.
  * - No key does anything in the tree, Control excepted; nor does its parent see the keys.
- * - A Control key that is released while another widget has the focus is missed.
+ * - A Control key that is released while another widget has the focus, or during a drag, is missed.
  *
  * Drags from anything else, and payloads other than RyTreeItemMimeData, are refused. The order of
  * the fields and of the virtual functions is part of the binary contract.
@@ -62,7 +62,8 @@ public:
 
 protected:
     /*!
-     * \brief Keeps the position of a left press, from which a drag is measured.
+     * \brief Keeps the position of a left press, from which a drag is measured, then does what
+     *        QTreeView does.
      */
     void mousePressEvent(QMouseEvent *event) override;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "editorviews.h"
+#include "fieldoffset.h"
 #include "host.h"
 #include "recordingtranslator.h"
 #include "ryctoolbarpage.h"
@@ -28,6 +29,19 @@ struct ChangedHost : Host
     QToolBar *file;
 };
 
+QList<qptrdiff> fieldOffsetsOf(const RyCToolBarPage &page);
+
+// The arguments of an explicit instantiation may name private members.
+template <auto... Fields> struct FieldOffsets
+{
+    friend QList<qptrdiff> fieldOffsetsOf(const RyCToolBarPage &page)
+    {
+        return {fieldOffset(page, Fields)...};
+    }
+};
+
+template struct FieldOffsets<&RyCToolBarPage::m_widget, &RyCToolBarPage::m_manager>;
+
 const QStringList defaultContent{QStringLiteral("open"), QStringLiteral("|"),
                                  QStringLiteral("save")};
 const QStringList changedContent{QStringLiteral("save")};
@@ -43,9 +57,12 @@ class tst_RyCToolBarPage : public TestCase
 
 private Q_SLOTS:
     void isAPage();
+    void theFieldsStandInTheirOrder();
     void isNamedToolBar();
     void itsNameIsLookedUpAtEachCall();
+    void beforeCreatePageTheButtonsDoNothing();
     void createPageReturnsAnEditor();
+    void theEditorHasNoWindowFlags();
     void theEditorShowsWhatTheManagerHolds();
     void createPageFillsNothing();
     void applyWritesTheWorkingCopy();
@@ -67,6 +84,14 @@ void tst_RyCToolBarPage::isAPage()
     QVERIFY((std::is_constructible_v<RyCToolBarPage, RyAbstatcManager *>));
 }
 
+void tst_RyCToolBarPage::theFieldsStandInTheirOrder()
+{
+    const RyCToolBarPage page(nullptr);
+    const QList<qptrdiff> expected{sizeof(RyCusInterface),
+                                   sizeof(RyCusInterface) + sizeof(QPointer<QWidget>)};
+    QCOMPARE(fieldOffsetsOf(page), expected);
+}
+
 void tst_RyCToolBarPage::isNamedToolBar()
 {
     const RyCToolBarPage page(nullptr);
@@ -81,6 +106,23 @@ void tst_RyCToolBarPage::itsNameIsLookedUpAtEachCall()
     QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("RyCToolBarPage: ToolBar")});
     page.name();
     QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("RyCToolBarPage: ToolBar")});
+}
+
+void tst_RyCToolBarPage::beforeCreatePageTheButtonsDoNothing()
+{
+    ChangedHost host;
+    RyCToolBarPage page(&host.manager);
+    page.apply();
+    page.RestorDefaults();
+    page.finish();
+    QCOMPARE(standingOn(host.file), changedContent);
+}
+
+void tst_RyCToolBarPage::theEditorHasNoWindowFlags()
+{
+    QWidget parent;
+    RyCToolBarPage page(nullptr);
+    QCOMPARE(page.createPage(&parent)->windowFlags(), QWidget(&parent).windowFlags());
 }
 
 void tst_RyCToolBarPage::createPageReturnsAnEditor()

@@ -159,6 +159,7 @@ private Q_SLOTS:
     void restoreDefaultsChangesTheWorkingCopyOnly();
     void restoreDefaultsResetsTheContentOfDefaultToolBars();
     void restoreDefaultsShowsTheDefaultContent();
+    void restoreDefaultsRefreshesTheToolBarThatIsShown();
     void restoreDefaultsShowsNothingWithoutACurrentToolBar();
     void restoreDefaultsRemovesCustomToolBars();
     void restoreDefaultsFreesNewToolBars();
@@ -621,6 +622,22 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsTheDefaultContent()
              QStringList({QStringLiteral("Open"), Separator, QStringLiteral("Save")}));
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 0);
     QCOMPARE(editor.inconsistency(), QString());
+}
+
+// Even while another row of the list is current.
+void tst_RyCToolBarWidget_Apply::restoreDefaultsRefreshesTheToolBarThatIsShown()
+{
+    FilledHost host;
+    host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom")}, QStringLiteral("View"));
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    QListWidgetItem *const view = itemNamed(editor.views.toolBarList, QStringLiteral("View"));
+    QVERIFY(QMetaObject::invokeMethod(&editor.widget, "currentToolBarChanged", Qt::DirectConnection,
+                                      Q_ARG(QListWidgetItem *, view)));
+    editor.call("leftClicked");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
+    editor.widget.defaultClicked();
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{QStringLiteral("Zoom")});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsNothingWithoutACurrentToolBar()

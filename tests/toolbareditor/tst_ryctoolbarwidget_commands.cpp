@@ -77,6 +77,7 @@ private Q_SLOTS:
     void isDefaultToolBarTellsByTheToolBar();
 
     void renameOpensTheEditorOfTheName();
+    void renameTakesTheToolBarThatIsShown();
     void renameWithoutACurrentToolBarDoesNothing();
     void aDefaultToolBarCannotBeRenamed();
     void renameWhileTheEditorIsOpenKeepsItOpen();
@@ -537,6 +538,21 @@ void tst_RyCToolBarWidget_Commands::renameOpensTheEditorOfTheName()
     applyAndCompare(host, editor,
                     {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut"),
                      QStringLiteral("Yours: cut copy paste")});
+}
+
+// Even while another row of the list is current.
+void tst_RyCToolBarWidget_Commands::renameTakesTheToolBarThatIsShown()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QListWidgetItem *const tools = itemNamed(editor.views.toolBarList, QStringLiteral("Tools"));
+    QVERIFY(QMetaObject::invokeMethod(&editor.widget, "currentToolBarChanged", Qt::DirectConnection,
+                                      Q_ARG(QListWidgetItem *, tools)));
+    editor.views.click(editor.views.renameButton);
+    const QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
+    QVERIFY(name);
+    QCOMPARE(name->text(), QStringLiteral("Tools"));
 }
 
 void tst_RyCToolBarWidget_Commands::renameWithoutACurrentToolBarDoesNothing()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "fieldoffset.h"
 #include "host.h"
 #include "ryctoolbarwidget.h"
 #include "showneditor.h"
@@ -7,6 +8,7 @@
 #include "texts.h"
 #include "toolbaritem.h"
 #include "translations.h"
+#include "virtualslots.h"
 
 #include <QHeaderView>
 #include <QMetaMethod>
@@ -90,6 +92,45 @@ bool isEmpty(const EditorViews &views)
         && views.currentToolBarList->count() == 0;
 }
 
+QList<qptrdiff> fieldOffsetsOf(const RyCToolBarWidget &widget);
+ToolBarItem *createRecord(RyCToolBarWidget &widget, QToolBar *toolBar);
+void deleteRecord(RyCToolBarWidget &widget, ToolBarItem *record);
+
+// The arguments of an explicit instantiation may name private members.
+template <auto... Fields> struct FieldOffsets
+{
+    friend QList<qptrdiff> fieldOffsetsOf(const RyCToolBarWidget &widget)
+    {
+        return {fieldOffset(widget, Fields)...};
+    }
+};
+
+template <ToolBarItem *(RyCToolBarWidget::*Create)(QToolBar *),
+          void (RyCToolBarWidget::*Delete)(ToolBarItem *)>
+struct RecordFunctions
+{
+    friend ToolBarItem *createRecord(RyCToolBarWidget &widget, QToolBar *toolBar)
+    {
+        return (widget.*Create)(toolBar);
+    }
+    friend void deleteRecord(RyCToolBarWidget &widget, ToolBarItem *record)
+    {
+        (widget.*Delete)(record);
+    }
+};
+
+template struct FieldOffsets<
+    &RyCToolBarWidget::ui, &RyCToolBarWidget::m_manager, &RyCToolBarWidget::m_workingActions,
+    &RyCToolBarWidget::m_recordOfToolBar, &RyCToolBarWidget::m_createdRecords,
+    &RyCToolBarWidget::m_removedRecords, &RyCToolBarWidget::m_ownedRecords,
+    &RyCToolBarWidget::m_currentActionItem, &RyCToolBarWidget::m_treeItemOfAction,
+    &RyCToolBarWidget::m_actionOfTreeItem, &RyCToolBarWidget::m_currentRecord,
+    &RyCToolBarWidget::m_listItemOfRecord, &RyCToolBarWidget::m_recordOfListItem,
+    &RyCToolBarWidget::m_entryOfAction, &RyCToolBarWidget::m_actionOfEntry,
+    &RyCToolBarWidget::m_separatorText>;
+
+template struct RecordFunctions<&RyCToolBarWidget::createItem, &RyCToolBarWidget::deleteItem>;
+
 // A default toolbar and three custom ones.
 class FilledHost : public Host
 {
@@ -118,6 +159,8 @@ private Q_SLOTS:
     void theMetaObjectIsNamedAfterTheClass();
     void theSlotsStandInTheirOrder();
     void thereAreNoSignalsAndNoProperties();
+    void theFieldsStandInTheirOrder();
+    void thereAreNoNewVirtualFunctions();
 
     void theConstructorTakesParentAndFlags();
     void theConstructorFillsNothing();
@@ -129,12 +172,15 @@ private Q_SLOTS:
     void theFillShowsEveryCategoryAndAction();
     void everyLevelOfTheActionTreeIsSorted();
     void theSeparatorEntryIsSortedAmongTheCategories();
+    void aCategoryNamedAsTheSeparatorEntryComesAfterIt();
     void theTranslatedSeparatorEntryIsSortedByItsTranslation();
+    void theSeparatorIsTranslatedWhenTheEditorIsMade();
     void theSeparatorEntryIsCurrent();
     void theSeparatorEntryIsPlain();
     void categoriesArePlain();
     void anActionItemLooksLikeItsAction();
     void actionsWithTheSameTextHaveAnItemEach();
+    void actionsWithTheSameTextKeepTheirOrder();
     void aCategoryWithoutActionsIsChildless();
     void everyActionItemIsKnown();
 
@@ -152,6 +198,7 @@ private Q_SLOTS:
     void withoutAManagerTheEditorStaysEmpty();
 
     void selectingAToolBarShowsItsContent();
+    void selectingAToolBarSetsTheButtons();
     void anEntryLooksLikeItsAction();
     void aSeparatorRowIsPlain();
     void selectingAnEmptyToolBarShowsNothing();
@@ -176,6 +223,8 @@ private Q_SLOTS:
     void spontaneousEventsKeepTheEdits();
     void otherEventsDoAsTheyAreNot();
 
+    void noToolBarGivesNoRecord();
+    void aForeignRecordIsNotFreed();
     void theRecordsAreFreed_data();
     void theRecordsAreFreed();
     void anEditorThatWasNeverShownCanBeDestroyed();
@@ -228,6 +277,21 @@ void tst_RyCToolBarWidget_WorkingCopy::thereAreNoSignalsAndNoProperties()
     QCOMPARE(meta.propertyCount(), QWidget::staticMetaObject.propertyCount());
     QCOMPARE(meta.enumeratorCount(), QWidget::staticMetaObject.enumeratorCount());
     QCOMPARE(meta.constructorCount(), 0);
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::theFieldsStandInTheirOrder()
+{
+    RyCToolBarWidget widget(nullptr, nullptr, Qt::WindowFlags());
+    const auto offsets = fieldOffsetsOf(widget);
+    QCOMPARE(offsets.size(), 16);
+    for (int i = 0; i < offsets.size(); ++i)
+        QCOMPARE(offsets.at(i), qptrdiff(sizeof(QWidget) + i * sizeof(void *)));
+    QCOMPARE(sizeof(RyCToolBarWidget), sizeof(QWidget) + 16 * sizeof(void *));
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::thereAreNoNewVirtualFunctions()
+{
+    QCOMPARE(virtualSlotCount<RyCToolBarWidget>(), virtualSlotCount<QWidget>());
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theConstructorTakesParentAndFlags()
@@ -336,6 +400,17 @@ void tst_RyCToolBarWidget_WorkingCopy::theSeparatorEntryIsSortedAmongTheCategori
     QCOMPARE(currentOf(editor.views.actionTree), Separator);
 }
 
+void tst_RyCToolBarWidget_WorkingCopy::aCategoryNamedAsTheSeparatorEntryComesAfterIt()
+{
+    Host host;
+    host.registered(QStringLiteral("open"), Separator);
+    const ShownEditor editor(&host.manager);
+    QCOMPARE(itemsOf(editor.views.actionTree),
+             QStringList({Separator, Separator, QStringLiteral("  Open")}));
+    QCOMPARE(editor.views.actionTree->currentItem(), editor.views.actionTree->topLevelItem(0));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
 void tst_RyCToolBarWidget_WorkingCopy::theTranslatedSeparatorEntryIsSortedByItsTranslation()
 {
     const Translations german("RyCToolBarWidget", {{Separator, QStringLiteral("Trenner")}});
@@ -353,6 +428,16 @@ void tst_RyCToolBarWidget_WorkingCopy::theTranslatedSeparatorEntryIsSortedByItsT
     QCOMPARE(
         rowsOf(editor.views.currentToolBarList),
         QStringList({QStringLiteral("Open"), QStringLiteral("Trenner"), QStringLiteral("Save")}));
+}
+
+// Not when it is shown, so that a language that comes meanwhile is no matter.
+void tst_RyCToolBarWidget_WorkingCopy::theSeparatorIsTranslatedWhenTheEditorIsMade()
+{
+    Host host;
+    RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
+    const Translations german("RyCToolBarWidget", {{Separator, QStringLiteral("Trenner")}});
+    widget.show();
+    QCOMPARE(itemsOf(EditorViews(&widget).actionTree), QStringList{Separator});
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theSeparatorEntryIsCurrent()
@@ -418,6 +503,23 @@ void tst_RyCToolBarWidget_WorkingCopy::actionsWithTheSameTextHaveAnItemEach()
              QStringList({Separator, QStringLiteral("Files"), QStringLiteral("  Open"),
                           QStringLiteral("  Open")}));
     QCOMPARE(EditorFields::of(editor.widget).actionOfTreeItem.size(), 3);
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::actionsWithTheSameTextKeepTheirOrder()
+{
+    Host host;
+    for (const char *name : {"delta", "alpha", "charlie", "bravo"})
+        host.registered(QLatin1String(name), QStringLiteral("Names"))
+            ->setText(QStringLiteral("Same"));
+    const ShownEditor editor(&host.manager);
+    const EditorFields fields = EditorFields::of(editor.widget);
+    QTreeWidgetItem *const names = itemNamed(editor.views.actionTree, QStringLiteral("Names"));
+    QVERIFY(names);
+    QList<QAction *> shown;
+    for (int i = 0; i < names->childCount(); ++i)
+        shown << fields.actionOfTreeItem.value(names->child(i));
+    QCOMPARE(shown, host.manager.categoryActions(QStringLiteral("Names")));
+    QCOMPARE(shown.size(), 4);
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::aCategoryWithoutActionsIsChildless()
@@ -624,6 +726,24 @@ void tst_RyCToolBarWidget_WorkingCopy::selectingAToolBarShowsItsContent()
              QStringList({QStringLiteral("Open"), Separator, QStringLiteral("Save")}));
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 0);
     QCOMPARE(editor.inconsistency(), QString());
+}
+
+// Itself, not only because another entry becomes current: these toolbars have none.
+void tst_RyCToolBarWidget_WorkingCopy::selectingAToolBarSetsTheButtons()
+{
+    Host host;
+    host.defaultToolBar(QStringLiteral("file"), {}, QString());
+    customToolBar(host, QStringLiteral("Mine"), {});
+    ShownEditor editor(&host.manager);
+    const QStringList ofMine = {QStringLiteral("newButton"), QStringLiteral("removeButton"),
+                                QStringLiteral("renameButton"), QStringLiteral("rightButton")};
+    const QStringList ofFile = {QStringLiteral("newButton"), QStringLiteral("rightButton")};
+    for (int i = 0; i < 2; ++i) {
+        editor.selectToolBar(QStringLiteral("Mine"));
+        QCOMPARE(editor.views.enabledButtons(), ofMine);
+        editor.selectToolBar(QStringLiteral("File"));
+        QCOMPARE(editor.views.enabledButtons(), ofFile);
+    }
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::anEntryLooksLikeItsAction()
@@ -971,6 +1091,30 @@ void tst_RyCToolBarWidget_WorkingCopy::otherEventsDoAsTheyAreNot()
     QCoreApplication::sendEvent(&widget, &hide);
     QVERIFY(isEmpty(views));
     QVERIFY(isEmpty(EditorFields::of(widget)));
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::noToolBarGivesNoRecord()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    QCOMPARE(createRecord(editor.widget, nullptr), nullptr);
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::aForeignRecordIsNotFreed()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    ToolBarItem foreign(QStringLiteral("Foreign"));
+    deleteRecord(editor.widget, &foreign);
+    deleteRecord(editor.widget, nullptr);
+    QCOMPARE(foreign.toolBarName(), QStringLiteral("Foreign"));
+    // Nor is its own one freed twice.
+    ToolBarItem *const own = createRecord(editor.widget, host.toolBar(QStringLiteral("other")));
+    QVERIFY(EditorFields::of(editor.widget).ownedRecords.contains(own));
+    deleteRecord(editor.widget, own);
+    deleteRecord(editor.widget, own);
+    QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theRecordsAreFreed_data()

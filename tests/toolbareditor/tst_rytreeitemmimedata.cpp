@@ -1,12 +1,27 @@
 // SPDX-License-Identifier: MIT
 
+#include "fieldoffset.h"
 #include "rytreeitemmimedata.h"
 #include "testcase.h"
+#include "virtualslots.h"
 
 #include <QTreeWidgetItem>
 #include <QtTest>
 
 namespace {
+
+QList<qptrdiff> fieldOffsetsOf(const RyTreeItemMimeData &payload);
+
+// The arguments of an explicit instantiation may name private members.
+template <auto... Fields> struct FieldOffsets
+{
+    friend QList<qptrdiff> fieldOffsetsOf(const RyTreeItemMimeData &payload)
+    {
+        return {fieldOffset(payload, Fields)...};
+    }
+};
+
+template struct FieldOffsets<&RyTreeItemMimeData::dragItem, &RyTreeItemMimeData::formatList>;
 
 // Opens what a drop target's Qt reads through.
 class Payload : public RyTreeItemMimeData
@@ -48,6 +63,8 @@ private Q_SLOTS:
     void destroyingItLeavesTheItem();
     void isKnownToTheMetaObjectSystem();
     void declaresNothingInItsMetaObject();
+    void theFieldsStandInTheirOrder();
+    void thereAreNoNewVirtualFunctions();
 };
 
 void tst_RyTreeItemMimeData::startsWithoutAnItemAndWithoutFormats()
@@ -250,6 +267,18 @@ void tst_RyTreeItemMimeData::declaresNothingInItsMetaObject()
     const QMetaObject &meta = RyTreeItemMimeData::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 0);
     QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 0);
+}
+
+void tst_RyTreeItemMimeData::theFieldsStandInTheirOrder()
+{
+    const RyTreeItemMimeData payload;
+    const QList<qptrdiff> expected{sizeof(QMimeData), sizeof(QMimeData) + sizeof(void *)};
+    QCOMPARE(fieldOffsetsOf(payload), expected);
+}
+
+void tst_RyTreeItemMimeData::thereAreNoNewVirtualFunctions()
+{
+    QCOMPARE(virtualSlotCount<RyTreeItemMimeData>(), virtualSlotCount<QMimeData>());
 }
 
 QTEST_MAIN(tst_RyTreeItemMimeData)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 
+#include "fieldoffset.h"
 #include "rytreeitemmimedata.h"
 #include "rytreewidget.h"
 #include "testcase.h"
 #include "texts.h"
+#include "virtualslots.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -26,6 +28,19 @@ Q_DECLARE_METATYPE(Qt::MouseButton)
  */
 
 namespace {
+
+QList<qptrdiff> fieldOffsetsOf(const RyTreeWidget &tree);
+
+// The arguments of an explicit instantiation may name private members.
+template <auto... Fields> struct FieldOffsets
+{
+    friend QList<qptrdiff> fieldOffsetsOf(const RyTreeWidget &tree)
+    {
+        return {fieldOffset(tree, Fields)...};
+    }
+};
+
+template struct FieldOffsets<&RyTreeWidget::startPos, &RyTreeWidget::ctrlPressed>;
 
 // Takes the keys that reach a tree's parent.
 class KeyTaker : public QWidget
@@ -221,6 +236,8 @@ private Q_SLOTS:
     void selectedItemsArePaintedOnDarkRed();
     void isKnownToTheMetaObjectSystem();
     void declaresNothingInItsMetaObject();
+    void theFieldsStandInTheirOrder();
+    void thereAreNoNewVirtualFunctions();
     void offersToQtWhatAPlainTreeOffers();
 
     void keysDoNothing_data();
@@ -353,6 +370,19 @@ void tst_RyTreeWidget::declaresNothingInItsMetaObject()
     const QMetaObject &meta = RyTreeWidget::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 0);
     QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 0);
+}
+
+void tst_RyTreeWidget::theFieldsStandInTheirOrder()
+{
+    const RyTreeWidget tree;
+    const QList<qptrdiff> expected{sizeof(QTreeWidget), sizeof(QTreeWidget) + sizeof(QPoint)};
+    QCOMPARE(fieldOffsetsOf(tree), expected);
+}
+
+void tst_RyTreeWidget::thereAreNoNewVirtualFunctions()
+{
+    QCOMPARE(virtualSlotCount<RyTreeWidget>(), virtualSlotCount<QTreeWidget>());
+    QCOMPARE(virtualSlot(&RyTreeWidget::performDrag), -1);
 }
 
 void tst_RyTreeWidget::offersToQtWhatAPlainTreeOffers()

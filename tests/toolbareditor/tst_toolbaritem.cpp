@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "fieldoffset.h"
 #include "testcase.h"
 #include "toolbaritem.h"
 
@@ -7,6 +8,23 @@
 #include <QtTest>
 
 #include <type_traits>
+
+namespace {
+
+QList<qptrdiff> fieldOffsetsOf(const ToolBarItem &item);
+
+// The arguments of an explicit instantiation may name private members.
+template <auto... Fields> struct FieldOffsets
+{
+    friend QList<qptrdiff> fieldOffsetsOf(const ToolBarItem &item)
+    {
+        return {fieldOffset(item, Fields)...};
+    }
+};
+
+template struct FieldOffsets<&ToolBarItem::m_toolBar, &ToolBarItem::m_toolBarName>;
+
+} // namespace
 
 class tst_ToolBarItem : public TestCase
 {
@@ -22,6 +40,7 @@ private Q_SLOTS:
     void theNameIsReturnedAsACopy();
     void destroyingARecordLeavesTheToolBar();
     void theClassIsPlain();
+    void theFieldsStandInTheirOrder();
 };
 
 void tst_ToolBarItem::aRecordOfAToolBarHasTheToolBarAndTheName()
@@ -115,6 +134,13 @@ void tst_ToolBarItem::theClassIsPlain()
     QVERIFY(!std::is_polymorphic<ToolBarItem>::value);
     QVERIFY(!std::is_default_constructible<ToolBarItem>::value);
     QCOMPARE(sizeof(ToolBarItem), sizeof(QToolBar *) + sizeof(QString));
+}
+
+void tst_ToolBarItem::theFieldsStandInTheirOrder()
+{
+    const ToolBarItem item(QStringLiteral("Mine"));
+    const QList<qptrdiff> expected{0, sizeof(QToolBar *)};
+    QCOMPARE(fieldOffsetsOf(item), expected);
 }
 
 QTEST_MAIN(tst_ToolBarItem)
