@@ -86,7 +86,8 @@ class Widget:
         """Everything inside this widget as lines of text, to look into a failure."""
         try:
             place = ",".join(map(str, self.rect)) if self.has("visible") else "hidden"
-            lines = [f'{" " * indent}{self.role} "{self.name}" {place}']
+            states = [state for state in ("active", "focused", "selected") if self.has(state)]
+            lines = [" ".join([f'{" " * indent}{self.role} "{self.name}"', place, *states])]
             for child in self.children():
                 lines += child.outline(indent + 2)
             return lines

@@ -53,11 +53,15 @@ class Tour:
         self.dialog = self.editor.open_dialog_from(self.editor.open_menu("Settings"))
 
     def expect_tool_bars(self, wanted):
-        expect("the toolbars in the window", self.editor.tool_bars, wanted)
+        def other_than_wanted():
+            found = self.editor.tool_bars()
+            return [f"{title}: {listed(found.get(title, []))}, not {listed(wanted.get(title, []))}"
+                    for title in {**wanted, **found} if found.get(title) != wanted.get(title)]
+
+        expect("the toolbars in the window that are wrong", other_than_wanted, [])
 
     def expect_content(self, *wanted):
-        expect(f'the entries of "{self.dialog.current_tool_bar()}" in the dialog',
-               self.dialog.content, list(wanted))
+        expect("the entries in the dialog", self.dialog.content, list(wanted))
 
     def warnings(self):
         """What the editor wrote, without what Qt wrote about the X server and the bus."""
