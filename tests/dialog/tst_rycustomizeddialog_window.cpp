@@ -178,7 +178,6 @@ private Q_SLOTS:
     void switchingTabsDiscardsTheEdits();
     void restoreDefaultsRemovesCustomToolBars();
     void helpShowsItsMessage();
-    void theDialogCanBeRunAgain();
 };
 
 void tst_RyCustomizedDialog_Window::okAccepts()
@@ -257,7 +256,6 @@ void tst_RyCustomizedDialog_Window::theHostTakesNoClicksMeanwhile()
     // What the server tells of it comes before what it tells of this.
     stage.clickTab(1);
     stage.user.click(stage.cancelButton);
-    stage.user.waitForWindow(&stage.host.window);
     QCOMPARE(stage.exec(), QStringLiteral("rejected"));
     QCOMPARE(triggered.count(), 0);
 
@@ -289,7 +287,6 @@ void tst_RyCustomizedDialog_Window::theUserMakesAToolBar()
     QCOMPARE(made->window(), &stage.host.window);
 
     // It is no picture: its buttons work.
-    QVERIFY(waitUntilSettled(&stage.host.window));
     QAction *const paste = stage.host.action(QStringLiteral("paste"));
     QSignalSpy triggered(paste, &QAction::triggered);
     UserScript later;
@@ -441,31 +438,20 @@ void tst_RyCustomizedDialog_Window::helpShowsItsMessage()
     const auto box = [] { return qobject_cast<QMessageBox *>(QApplication::activeWindow()); };
     stage.waitForDialog();
     stage.user.click(stage.dialog.helpButton());
-    stage.user.waitFor(QStringLiteral("message"), [=] { return box(); });
+    stage.user.waitFor(QStringLiteral("message"), [=] {
+        return box() && box()->windowHandle() == QGuiApplication::focusWindow();
+    });
     stage.user.act([&] {
         title = box()->windowTitle();
         text = box()->text();
     });
-    stage.user.clickKey(Qt::Key_Return, [=] { return !box(); });
-    stage.waitForDialog();
+    // Not until the dialog is active again: with a slow window manager Qt may miss that it is.
+    stage.user.clickKey(Qt::Key_Return,
+                        [&] { return QApplication::activeModalWidget() == &stage.dialog; });
     stage.user.click(stage.cancelButton);
     QCOMPARE(stage.exec(), QStringLiteral("rejected"));
     QCOMPARE(title, QStringLiteral("help"));
     QCOMPARE(text, QStringLiteral("KORVA help  doc!"));
-}
-
-void tst_RyCustomizedDialog_Window::theDialogCanBeRunAgain()
-{
-    Stage stage;
-    stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("Lost"));
-    stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-    stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("Second"));
-    stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(stage.titlesInHost(), words("File Mine Second"));
 }
 
 QTEST_MAIN(tst_RyCustomizedDialog_Window)
