@@ -12,6 +12,8 @@ from gi.repository import Atspi, GLib
 from desktop import Rect
 from waiting import PATIENCE, NotSo, deliver_events, settled, wait_for
 
+EVENTS = ["object:state-changed:focused", "object:state-changed:showing"]
+
 
 class Widget:
     """One accessible object. Every question goes to the program; nothing is remembered."""
@@ -103,8 +105,8 @@ class Application:
         self._focused = None
         self._popup = None
         self._listener = Atspi.EventListener.new(self._take_event)
-        self._listener.register("object:state-changed:focused")
-        self._listener.register("object:state-changed:showing")
+        for event in EVENTS:
+            self._listener.register(event)
         with open(log, "ab") as output:
             self._process = subprocess.Popen(command, stdout=output, stderr=output,
                                              env=environment)
@@ -147,14 +149,14 @@ class Application:
             raise NotSo("the program does not end") from None
         if status != 0:
             raise NotSo(f"the program ended with status {status}")
-        self.stop()
+        for event in EVENTS:
+            self._listener.deregister(event)
 
     def stop(self):
+        """Ends the program if it still runs, whatever has become of the rest."""
         if self._process.poll() is None:
             self._process.terminate()
             self._process.wait()
-        self._listener.deregister("object:state-changed:focused")
-        self._listener.deregister("object:state-changed:showing")
 
     def _find_root(self):
         for program in Widget(Atspi.get_desktop(0)).children():

@@ -20,16 +20,24 @@ if [ ! -x "$editor" ]; then
     echo "run.sh: there is no $editor; build the examples first" >&2
     exit 2
 fi
-missing=$(xargs dpkg-query -W -f '${db:Status-Status} ${Package}\n' <"$here/packages.txt" 2>&1 \
-    | grep -v '^installed ' || true)
-if [ -n "$missing" ]; then
-    printf 'run.sh: install the packages of %s first:\n%s\n' "$here/packages.txt" "$missing" >&2
+missing=()
+for tool in Xvfb openbox dbus-daemon xdotool xprop import convert setpriv; do
+    command -v "$tool" >/dev/null || missing+=("$tool")
+done
+# Debian's own Python has the bindings.
+python=/usr/bin/python3
+"$python" -c 'import gi; gi.require_version("Atspi", "2.0")' 2>/dev/null \
+    || missing+=("the AT-SPI bindings of $python")
+if [ ${#missing[@]} -ne 0 ]; then
+    printf 'run.sh: not found: %s\n' "${missing[@]}" >&2
+    echo "run.sh: $here/packages.txt lists the packages that the tour needs" >&2
     exit 2
 fi
 
 mkdir -p "$2/log"
 output=$(realpath "$2")
-rm -f "$output"/[0-9][0-9]-*.png "$output"/{dialog,window}.png "$output"/log/*
+rm -f "$output"/[0-9][0-9]-*.png "$output"/{dialog,window}.png \
+    "$output"/log/{texteditor.log,widgets.txt}
 scratch=$(mktemp -d)
 started=()
 
@@ -39,7 +47,7 @@ end_all() {
         kill "${started[index]}" 2>/dev/null || true
         wait "${started[index]}" 2>/dev/null || true
     done
-    rm -rf "$scratch"
+    rm -rf "$scratch" || true
 }
 trap end_all EXIT
 trap 'exit 129' HUP
@@ -65,7 +73,8 @@ answer() {
 }
 
 # Nothing of the user's desktop or settings reaches the tour, and the other way round.
-for variable in "${!QT_@}" "${!XDG_@}" "${!AT_SPI_@}" "${!DBUS_@}" "${!LC_@}" LANGUAGE; do
+for variable in "${!QT_@}" "${!XDG_@}" "${!AT_SPI_@}" "${!DBUS_@}" "${!LC_@}" LANGUAGE \
+    WAYLAND_DISPLAY; do
     unset "$variable"
 done
 export LC_ALL=C.UTF-8 HOME="$scratch/home" XDG_RUNTIME_DIR="$scratch/runtime"
@@ -83,7 +92,7 @@ export DBUS_SESSION_BUS_ADDRESS
 exec 3>&-
 start windowmanager.log openbox
 
-# In the background, so that an interrupt is taken at once. Debian's Python has the bindings.
-setpriv --pdeathsig TERM /usr/bin/python3 -B "$here/tour.py" "$editor" "$output" &
+# In the background, so that an interrupt is taken at once.
+setpriv --pdeathsig TERM "$python" -B "$here/tour.py" "$editor" "$output" &
 started+=($!)
 wait $!
