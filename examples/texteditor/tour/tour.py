@@ -173,7 +173,7 @@ def toolbar_moved(tour):
     tour.desktop.drag(tour.editor.handle_of(NAME), left_edge)
     wait_for(f'"{NAME}" does not stand upright at the left edge', lambda: is_at_the_left(tour))
     tour.expect_tool_bars({**tour.shipped, NAME: CONTENT})
-    tour.place = tour.editor.place_of(NAME)
+    tour.place = settled(f'the place of "{NAME}"', lambda: tour.editor.place_of(NAME))
     return f'Dragged to the left edge, "{NAME}" moves from {at(before)} to {at(tour.place)}'
 
 
