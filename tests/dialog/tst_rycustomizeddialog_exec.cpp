@@ -86,8 +86,8 @@ private Q_SLOTS:
     void applyKeepsItRunning();
     void restoreDefaultsKeepsItRunning();
     void helpRunsAboveIt();
-    void escapeEndsARenameFirst();
-    void returnEndsARenameFirst();
+    void aKeyEndsARenameFirst_data();
+    void aKeyEndsARenameFirst();
     void enterInTheListsPressesOk();
     void endsWhenItIsDestroyed();
 };
@@ -251,44 +251,36 @@ void tst_RyCustomizedDialog_Exec::helpRunsAboveIt()
     QCOMPARE(standingOn(host.file), oldContent);
 }
 
-void tst_RyCustomizedDialog_Exec::escapeEndsARenameFirst()
+void tst_RyCustomizedDialog_Exec::aKeyEndsARenameFirst_data()
 {
-    FileHost host;
-    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    bool stayedOpen = false;
-    const NextModal modal([&stayedOpen](QWidget *widget) {
-        QVERIFY(QTest::qWaitForWindowActive(widget));
-        const EditorViews editor(widget);
-        editor.click(editor.newButton);
-        QVERIFY(editor.renameEditor());
-        key(widget, Qt::Key_Escape);
-        QTRY_VERIFY(!editor.renameEditor());
-        stayedOpen = widget->isVisible();
-        key(widget, Qt::Key_Escape);
-    });
-    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QVERIFY(stayedOpen);
-    QCOMPARE(host.window.findChildren<QToolBar *>().size(), 1);
+    QTest::addColumn<Qt::Key>("pressed");
+    QTest::addColumn<int>("result");
+    QTest::addColumn<int>("toolBars");
+    QTest::newRow("Escape") << Qt::Key_Escape << int(QDialog::Rejected) << 1;
+    QTest::newRow("Return") << Qt::Key_Return << int(QDialog::Accepted) << 2;
 }
 
-void tst_RyCustomizedDialog_Exec::returnEndsARenameFirst()
+void tst_RyCustomizedDialog_Exec::aKeyEndsARenameFirst()
 {
+    QFETCH(Qt::Key, pressed);
+    QFETCH(int, result);
+    QFETCH(int, toolBars);
     FileHost host;
     RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
     bool stayedOpen = false;
-    const NextModal modal([&stayedOpen](QWidget *widget) {
+    const NextModal modal([&stayedOpen, pressed](QWidget *widget) {
         QVERIFY(QTest::qWaitForWindowActive(widget));
         const EditorViews editor(widget);
         editor.click(editor.newButton);
         QVERIFY(editor.renameEditor());
-        key(widget, Qt::Key_Return);
+        key(widget, pressed);
         QTRY_VERIFY(!editor.renameEditor());
         stayedOpen = widget->isVisible();
-        key(widget, Qt::Key_Return);
+        key(widget, pressed);
     });
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCOMPARE(dialog.exec(), result);
     QVERIFY(stayedOpen);
-    QCOMPARE(host.window.findChildren<QToolBar *>().size(), 2);
+    QCOMPARE(host.window.findChildren<QToolBar *>().size(), toolBars);
 }
 
 void tst_RyCustomizedDialog_Exec::enterInTheListsPressesOk()
