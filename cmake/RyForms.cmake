@@ -1,0 +1,12 @@
+# SPDX-License-Identifier: MIT
+
+# The headers of the forms. A rule of their own, and not AUTOUIC, whose rule Ninja runs too late to
+# see in the same build that a form has changed.
+qt5_wrap_ui(RY_FORM_HEADERS
+    dialog/customizeddialog.ui
+    ribbon/cribbonpage.ui
+    toolbareditor/ctoolbarpage.ui)
+set(RY_FORM_INCLUDEDIR "${CMAKE_CURRENT_BINARY_DIR}")
+add_custom_target(RyCustomizedDialogForms DEPENDS ${RY_FORM_HEADERS})
+add_dependencies(RyCustomizedDialog RyCustomizedDialogForms)
+target_include_directories(RyCustomizedDialog PRIVATE "${RY_FORM_INCLUDEDIR}")
