@@ -1,0 +1,349 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Breaks the library on purpose, one place at a time, and sees whether the tests notice.
+
+usage: tools/mutate.py [--count N | --all] [--jobs N] [--only FILE[:LINE]] [--list]
+
+Each job works in a copy of the sources below build/mutants/, so that these stay as they are. A
+change that does not compile is not counted. What no test catches is printed at the end, unless
+tools/mutate-equivalent.txt says why nobody could see it.
+"""
+
+import argparse
+import collections
+import concurrent.futures
+import hashlib
+import os
+import queue
+import re
+import shutil
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+WORK = ROOT / "build" / "mutants"
+FOLDERS = ("dialog", "toolbarmanager", "toolbareditor", "ribbon", "resources")
+EQUIVALENT = ROOT / "tools" / "mutate-equivalent.txt"
+# Survivors of at most this share are let through; each is printed all the same.
+ALLOWED = 0.03
+TEST_TIMEOUT = 300
+CODE_IN_HEADERS = ("namelookup.h", "toolbarstateformat.h")
+
+Mutant = collections.namedtuple("Mutant", "path line kind old new")
+
+
+def code_changes(line):
+    """Yields (kind, new line) for one line of C++."""
+    code = line.split("//")[0].rstrip()
+    tail = line[len(code):]
+    indent = code[:len(code) - len(code.lstrip())]
+    text = code.strip()
+
+    def at(match, replacement):
+        return code[:match.start()] + replacement + code[match.end():] + tail
+
+    condition = re.fullmatch(r"(if|while) \((.*)\)( \{)?", text)
+    if condition and " const " not in condition[2].split("=")[0] + " ":
+        yield "negated", f"{indent}{condition[1]} (!({condition[2]})){condition[3] or ''}{tail}"
+    value = re.fullmatch(r"return (.+);", text)
+    if value and re.search(r"[=!<>]=|[<>&|]{1,2} |^!|contains|isDefault|true|false|\.next", value[1]):
+        yield "negated", f"{indent}return !({value[1]});{tail}"
+    elif value and value[1] not in ("nullptr", "{}"):
+        yield "nothing returned", f"{indent}return {{}};{tail}"
+
+    for old, news in (("&&", ["||"]), ("||", ["&&"]), (" == ", [" != "]), (" != ", [" == "]),
+                      (" < ", [" <= "]), (" <= ", [" < "]), (" > ", [" >= "]), (" >= ", [" > "]),
+                      (" + ", [" - "]), (" - ", [" + "]), ("++", ["--"]), ("--", ["++"]),
+                      (" ? ", [" ? !"]), ("true", ["false"]), ("false", ["true"]),
+                      ("nullptr", ["this"]), ("qMin", ["qMax"]), ("|", ["&"]), (" & ", [" | "])):
+        for match in re.finditer(re.escape(old), code):
+            around = code[match.start() - 1:match.end() + 1]
+            if old == "|" and "||" in around:
+                continue
+            for new in news:
+                yield "exchanged", at(match, new)
+    for match in re.finditer(r"(?<![\w.\"%])(\d+)(?![\w.\"])", code):
+        yield "one more", at(match, str(int(match[1]) + 1))
+    for match in re.finditer(r"\"((?:[^\"\\]|\\.)+)\"", code):
+        if not code.startswith("#"):
+            yield "other text", at(match, f'"{match[1]}x"')
+    for match in re.finditer(r"(?<=\()([^(),]+), ([^(),]+)(?=\))", code):
+        if not code.startswith("#"):
+            yield "swapped", at(match, f"{match[2]}, {match[1]}")
+    for match in re.finditer(r"\bQt::(\w+Order|\w+Action|dark\w+)\b", code):
+        other = {"AscendingOrder": "DescendingOrder", "CopyAction": "MoveAction",
+                 "MoveAction": "CopyAction", "darkGreen": "darkBlue"}.get(match[1])
+        if other:
+            yield "exchanged", at(match, "Qt::" + other)
+
+
+def form_changes(line):
+    """Yields (kind, new line) for one line of a form or of the list of icons."""
+    text = re.search(r"<string>([^<]+)</string>", line)
+    if text:
+        yield "other text", line.replace(text[1], text[1] + "x")
+    # Of a geometry only the size is used.
+    number = re.search(r"(?<!<x)(?<!<y)>(\d+)<", line)
+    if number:
+        yield "one more", line.replace(f">{number[1]}<", f">{int(number[1]) + 1}<")
+    for match in re.finditer(r"(row|column|colspan|rowspan)=\"(\d+)\"", line):
+        yield "one more", line.replace(match[0], f'{match[1]}="{int(match[2]) + 1}"')
+    name = re.search(r"name=\"(\w+)\"/?>$", line)
+    if name and ("<widget" in line or "<layout" in line):
+        yield "other name", line.replace(f'name="{name[1]}"', f'name="{name[1]}X"')
+    prefix = re.search(r"prefix=\"([^\"]+)\"", line)
+    if prefix:
+        yield "other text", line.replace(prefix[1], prefix[1] + "x")
+    hint = re.search(r"hsizetype=\"(\w+)\"", line)
+    if hint:
+        yield "exchanged", line.replace(hint[1], "Maximum")
+
+
+DECLARATION = re.compile(r"(const )?(auto|int|bool|q?u?int\d*|[A-Z]\w*(<.*>)?)( | \*| &)(const )?\w+"
+                         r"( =|;|\()|using |class |struct |template |typedef ")
+
+
+def statement_at(lines, index):
+    """The lines of the statement that begins there, or none."""
+    text = lines[index].strip()
+    before = next((l.strip() for l in reversed(lines[:index]) if l.strip()), "")
+    if not text or text.startswith(("return", "//", "#", "}", ":", ",", "Q_UNUSED", "if ", "for ")):
+        return []
+    if not lines[index].startswith("    ") or DECLARATION.match(text) or "= default" in text:
+        return []
+    if not before.endswith((";", "{", "}", ")", "else")) and not before.startswith("//"):
+        return []
+    for end in range(index, min(index + 4, len(lines))):
+        if "{" in lines[end]:
+            return []
+        if lines[end].rstrip().endswith(";"):
+            return lines[index:end + 1]
+    return []
+
+
+def swappable_statements(line, following):
+    return all(re.fullmatch(r"    +[^\s{}#/].*;", l) and not re.match(r"\s*(return|break|using)", l)
+               for l in (line, following))
+
+
+def code_mutants(path, lines):
+    for number, line in enumerate(lines):
+        if re.match(r"\s*(//|/?\*|#)", line):
+            continue
+        for kind, new in code_changes(line):
+            yield Mutant(path, number + 1, kind, line, new)
+        statement = statement_at(lines, number)
+        if statement:
+            yield Mutant(path, number + 1, "dropped", "\n".join(statement), "    ;")
+        following = lines[number + 1] if number + 1 < len(lines) else ""
+        if swappable_statements(line, following):
+            yield Mutant(path, number + 1, "order", f"{line}\n{following}", f"{following}\n{line}")
+
+
+def header_mutants(path, lines):
+    """Of what a header of a class declares, the order can be seen: of slots, signals, virtual
+    functions and, in exported classes, fields."""
+    section = ""
+    for number, (line, following) in enumerate(zip(lines, lines[1:])):
+        if re.match(r"\w+( \w+)?:$|Q_\w+:$", line):
+            section = line
+        listed = re.search("slots|SLOTS|SIGNALS", section)
+        pair = (line, following)
+        if all(re.fullmatch(r"    [^/*].*;", l) for l in pair) and (
+                listed or all("virtual" in l or "override" in l for l in pair)
+                or (path.name.startswith("ry") and all(re.search(r"m_\w+;", l) for l in pair))):
+            yield Mutant(path, number + 1, "order", f"{line}\n{following}", f"{following}\n{line}")
+
+
+def form_mutants(path, lines):
+    for number, line in enumerate(lines):
+        for kind, new in form_changes(line):
+            yield Mutant(path, number + 1, kind, line, new)
+
+
+def mutants_of(path):
+    lines = (ROOT / path).read_text().split("\n")
+    if path.suffix in (".ui", ".qrc"):
+        return form_mutants(path, lines)
+    if path.suffix == ".cpp" or path.name in CODE_IN_HEADERS:
+        return code_mutants(path, lines)
+    return header_mutants(path, lines)
+
+
+def sources():
+    tracked = subprocess.run(["git", "ls-files", *FOLDERS], cwd=ROOT, check=True,
+                             capture_output=True, text=True).stdout.split()
+    return [Path(p) for p in tracked if Path(p).suffix in (".cpp", ".h", ".ui", ".qrc")]
+
+
+def sample(mutants, count):
+    """About count mutants, the same at each run: of each file its share, but two at least."""
+    by_path = collections.defaultdict(list)
+    for mutant in mutants:
+        by_path[mutant.path].append(mutant)
+    chosen = []
+    for path in sorted(by_path):
+        of_path = sorted(by_path[path], key=lambda m: hashlib.sha256(repr(m).encode()).digest())
+        share = max(2, round(count * len(of_path) / len(mutants)))
+        chosen += sorted(of_path[:share], key=lambda m: m.line)
+    return chosen
+
+
+def read_equivalent():
+    """{(path, old line, new line): reason}, without the blanks around the lines."""
+    known = {}
+    if EQUIVALENT.exists():
+        blocks = re.split(r"\n\s*\n", EQUIVALENT.read_text())
+        for block in blocks:
+            rows = [r for r in block.split("\n") if r.strip() and not r.startswith("#")]
+            if len(rows) == 4:
+                path, old, new, reason = (r.strip() for r in rows)
+                known[(path, squeezed(old), squeezed(new))] = reason
+    return known
+
+
+def squeezed(text):
+    return " ".join(text.split())
+
+
+class Tree:
+    """A copy of the sources with a build of its own."""
+
+    def __init__(self, number):
+        self.source = WORK / f"tree{number}"
+        self.build = WORK / f"build{number}"
+        shutil.rmtree(self.source, ignore_errors=True)
+        files = subprocess.run(["git", "ls-files", "-z"], cwd=ROOT, check=True,
+                               capture_output=True, text=True).stdout.split("\0")
+        for name in filter(None, files):
+            target = self.source / name
+            target.parent.mkdir(parents=True, exist_ok=True)
+            if (ROOT / name).is_file():
+                shutil.copy2(ROOT / name, target)
+        self.run("cmake", "-G", "Ninja", "-S", self.source, "-B", self.build,
+                 "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O0 -g0 -w",
+                 "-DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES=OFF", check=True)
+        self.run("ninja", "-C", self.build, check=True)
+        listed = self.run("ctest", "-N", check=True).stdout
+        self.tests = [t for t in re.findall(r"Test +#\d+: (\S+)", listed)
+                      if not t.startswith(("tst_package", "tst_sources", "tst_model"))]
+        if not self.passes(self.tests):
+            sys.exit("The tests fail before anything is broken:\n" + self.output)
+
+    def run(self, *command, check=False):
+        done = subprocess.run([str(c) for c in command], cwd=self.build if self.build.exists()
+                              else ROOT, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, text=True, errors="replace")
+        if check and done.returncode:
+            sys.exit(done.stdout)
+        return done
+
+    def passes(self, tests):
+        if not tests:
+            return True
+        pattern = "^(" + "|".join(tests) + ")$"
+        done = self.run("ctest", "--stop-on-failure", "--timeout", TEST_TIMEOUT, "-R", pattern)
+        self.output = done.stdout
+        return done.returncode == 0
+
+    def rounds(self, path):
+        """The tests in the order in which they are worth their time."""
+        slow = [t for t in self.tests if t.endswith(("_damage", "_findings", "_window", "_titlebar"))]
+        own = [t for t in self.tests if t not in slow and path.parts[0] == self.folder(t)]
+        rest = [t for t in self.tests if t not in slow and t not in own]
+        # The manager knows nothing of windows, and nothing else of saved bytes.
+        worth = ("_damage", "_findings") if path.parts[0] == "toolbarmanager" else "_window"
+        return own, rest, [t for t in slow if t.endswith(worth)]
+
+    def folder(self, test):
+        found = list(self.source.glob(f"tests/*/{test}.cpp"))
+        return found[0].parent.name if found else ""
+
+    def verdict(self, mutant):
+        target = self.source / mutant.path
+        original = target.read_text()
+        lines = original.split("\n")
+        span = mutant.old.count("\n") + 1
+        lines[mutant.line - 1:mutant.line - 1 + span] = mutant.new.split("\n")
+        try:
+            target.write_text("\n".join(lines))
+            if self.run("ninja", "-C", self.build).returncode:
+                return "does not compile"
+            for tests in self.rounds(mutant.path):
+                if not self.passes(tests):
+                    failed = re.search(r"\d+ - (\S+) \(", self.output)
+                    return "caught by " + (failed[1] if failed else "?")
+            return "SURVIVED"
+        finally:
+            target.write_text(original)
+
+
+def check(mutants, jobs):
+    trees = queue.Queue()
+    for number in range(jobs):
+        trees.put(Tree(number))
+    done = []
+
+    def judge(mutant):
+        tree = trees.get()
+        try:
+            return mutant, tree.verdict(mutant)
+        finally:
+            trees.put(tree)
+
+    start = time.monotonic()
+    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+        for mutant, verdict in pool.map(judge, mutants):
+            done.append((mutant, verdict))
+            print(f"[{len(done)}/{len(mutants)} {time.monotonic() - start:.0f} s] "
+                  f"{mutant.path}:{mutant.line} {mutant.kind}: {verdict}", flush=True)
+    return done
+
+
+def report(done):
+    known = read_equivalent()
+    counted = [(m, v) for m, v in done if v != "does not compile"]
+    survivors = [m for m, v in counted if v == "SURVIVED"]
+    equivalent = [m for m in survivors
+                  if (str(m.path), squeezed(m.old), squeezed(m.new)) in known]
+    missed = [m for m in survivors if m not in equivalent]
+    for mutant in missed:
+        print(f"\nNot caught: {mutant.path}:{mutant.line} ({mutant.kind})\n"
+              f"- {mutant.old.strip()}\n+ {mutant.new.strip()}")
+    judged = len(counted) - len(equivalent)
+    share = 1 - len(missed) / judged if judged else 0
+    print(f"\n{len(counted)} places in {len({m.path for m, _ in counted})} files broken "
+          f"({len(done) - len(counted)} more did not compile), {judged - len(missed)} caught, "
+          f"{len(equivalent)} without any effect that could be seen, {len(missed)} not caught: "
+          f"{100 * share:.1f} % of those that matter were caught.")
+    return judged > 0 and 1 - share <= ALLOWED
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
+    parser.add_argument("--count", type=int, default=250, help="about so many places (250)")
+    parser.add_argument("--all", action="store_true", help="all places that are known")
+    parser.add_argument("--jobs", type=int, default=os.cpu_count())
+    parser.add_argument("--only", help="FILE or FILE:LINE")
+    parser.add_argument("--list", action="store_true", help="print the changes only")
+    arguments = parser.parse_args()
+
+    mutants = [m for path in sources() for m in mutants_of(path)]
+    if arguments.only:
+        mutants = [m for m in mutants
+                   if arguments.only in (str(m.path), f"{m.path}:{m.line}")]
+    elif not arguments.all:
+        mutants = sample(mutants, arguments.count)
+    if arguments.list:
+        for m in mutants:
+            print(f"{m.path}:{m.line} {m.kind}\n- {m.old.strip()}\n+ {m.new.strip()}")
+        print(len(mutants))
+        return 0
+    WORK.mkdir(parents=True, exist_ok=True)
+    return 0 if report(check(mutants, arguments.jobs)) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

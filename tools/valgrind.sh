@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Runs the tests of the dialog, the manager, the editor and the ribbon page under valgrind's
+# memcheck. Fails on any invalid access and on any block that is definitely lost.
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+. tools/steps.sh
+start_log build/valgrind.log
+
+# Left out: what needs a display, and the damaged states by the hundred thousand, which take hours
+# here; those run under the sanitizers, and their boundary cases stand in the other tests too.
+find_programs() {
+    find build/dev/tests/{dialog,toolbarmanager,toolbareditor,ribbon} -maxdepth 1 -type f \
+        -executable -name 'tst_*' ! -name '*_window' ! -name '*_titlebar' ! -name '*_damage' | sort
+}
+
+step 'Packages' tools/install-packages.sh tools/packages-test.txt tools/packages-proofs.txt
+step 'Configure' cmake --preset dev
+step 'Build' cmake --build --preset dev --parallel "$(nproc)"
+mkdir -p build/valgrind
+find_programs >build/valgrind/programs
+try 'Tests under valgrind' \
+    xargs --arg-file build/valgrind/programs --max-procs "$(nproc)" -n 1 tools/memcheck.sh
+finish 'valgrind reported nothing'
