@@ -10,6 +10,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+// Taking the list by value is part of the binary contract.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 RyCustomizedDialog::RyCustomizedDialog(QList<RyAbstatcManager *> managers, QWidget *parent)
     : QDialog(parent)
     , ui(new Ui_CustomizedDialog())

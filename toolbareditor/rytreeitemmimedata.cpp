@@ -9,6 +9,8 @@ RyTreeItemMimeData::RyTreeItemMimeData()
 
 RyTreeItemMimeData::~RyTreeItemMimeData() = default;
 
+// Taking the format by value is part of the binary contract.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void RyTreeItemMimeData::SetDragData(QString format, QTreeWidgetItem *item)
 {
     formatList.append(format);

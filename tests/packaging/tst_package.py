@@ -29,7 +29,6 @@ COMPILERS = {os.path.realpath(path): path
 VERSION = (SOURCE_DIR / 'VERSION').read_text().strip()
 MAJOR = int(VERSION.split('.')[0])
 HOST_DIR = SOURCE_DIR / 'tests' / 'packaging' / 'host'
-SUBSYSTEMS = ('dialog', 'toolbarmanager', 'toolbareditor', 'ribbon')
 
 CLASSES = (
     'RyAbstatcManager',
@@ -275,21 +274,6 @@ class Headers(unittest.TestCase):
             source.write_text(f'#include <{header}>\n#include <RyCustomizedDialog/{header}>\n')
             for compiler in COMPILERS:
                 commands[f'<{header}> with {compiler}'] = (compiler, *common, source)
-        self.assertEqual(failures_of(commands), '')
-
-
-class Sources(unittest.TestCase):
-
-    def test_each_compiles_without_what_qt_deprecated_until_5_6(self):
-        folders = [f'-I{SOURCE_DIR / folder}' for folder in SUBSYSTEMS]
-        forms = f'-I{BUILD_DIR / "RyCustomizedDialog_autogen" / "include"}'
-        common = (*CXX11, *STRICT, '-DRYCUSTOMIZEDDIALOG_LIBRARY', *folders, forms, *qt_flags(),
-                  '-fsyntax-only')
-        commands = {f'{source.name} with {compiler}': (compiler, *common, source)
-                    for folder in SUBSYSTEMS
-                    for source in (SOURCE_DIR / folder).glob('*.cpp')
-                    for compiler in COMPILERS}
-        self.assertGreater(len(commands), 0)
         self.assertEqual(failures_of(commands), '')
 
 

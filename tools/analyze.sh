@@ -1,0 +1,138 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Looks for mistakes without running anything: Clang with all its warnings, clang-tidy, clazy and
+# cppcheck. First it shows with a file full of mistakes that each of them finds some.
+#
+# usage: analyze.sh [--all]
+#   --all  clang-tidy and clazy read the examples and the tests too, which takes many minutes
+
+# shellcheck disable=SC2317 # the steps are functions
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+. tools/steps.sh
+set -o pipefail
+start_log build/analyze.log
+
+cores=$(nproc)
+build=build/analyze
+library=(dialog toolbarmanager toolbareditor ribbon)
+sample=tests/packaging/analysis/wrong.cpp
+others=OFF
+[ "${1-}" != --all ] || others=ON
+
+# Checks of clazy. old-style-connect reads the signatures of connections that are made by string;
+# that they are made so is the library's choice. Left out:
+#   qmap-with-pointer-key  the order by address is what the editor and the saved state go by
+#   const-signal-or-slot   which functions are slots is part of the binary contract
+clazy_checks=level0,level1,old-style-connect,no-qmap-with-pointer-key,no-const-signal-or-slot
+
+# Warnings of Clang that are not wanted: those about older standards, about gaps in objects, and
+# about the semicolon after Q_UNUSED().
+all_warnings=(-Weverything -Wno-c++98-compat -Wno-c++98-compat-pedantic -Wno-padded
+    -Wno-extra-semi-stmt)
+
+# Prints the findings among what a tool said, each once, and fails if there is one.
+findings() {
+    ! grep -E '(error|warning|style|performance|portability): ' |
+        grep -v ': Old Style Connect \[' | sed "s|$PWD/||g" | sort -u | grep .
+}
+
+# Runs a command for each of many files, several at a time. Fails if it cannot be run or finds
+# something.
+over() {
+    local said=$build/said.txt status=0
+    xargs -P "$cores" -I{} "$@" >"$said" 2>&1 || status=1
+    findings <"$said" || return
+    [ "$status" -eq 0 ] || cat "$said"
+    return "$status"
+}
+
+# sources FOLDER...: the files that git keeps and that are built with the rest.
+sources() {
+    git -c safe.directory="$PWD" ls-files -- "$@" | grep '\.cpp$' | grep -v '^tests/packaging/'
+}
+
+qt_flags() {
+    pkg-config --cflags Qt5Widgets | sed 's/-I/-isystem/g'
+}
+
+configure() {
+    cmake --preset clang -B "$build" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON \
+        -DRYCUSTOMIZEDDIALOG_BUILD_TESTS="$others" -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES="$others"
+}
+
+# What moc and uic write; nothing is compiled.
+generate() {
+    local targets
+    mapfile -t targets < <(ninja -C "$build" -t targets all | sed -n 's|^\([^/]*_autogen\): .*|\1|p')
+    ninja -C "$build" "${targets[@]}" | tail -n 1
+}
+
+every_warning() {
+    local flags
+    read -ra flags < <(qt_flags)
+    # With the headers of the library, whose folders are no system folders.
+    sources "${library[@]}" |
+        over clang++ -fsyntax-only -std=c++11 -fPIC "${all_warnings[@]}" "${flags[@]}" \
+            "${library[@]/#/-I}" -isystem "$build/RyCustomizedDialog_autogen/include" \
+            -DRYCUSTOMIZEDDIALOG_LIBRARY {}
+}
+
+tidy() {
+    sources "$@" | over clang-tidy --quiet -p "$build" {}
+}
+
+clazy() {
+    sources "$@" | over clazy-standalone -p "$build" -checks="$clazy_checks" \
+        -extra-arg=-Wno-error \
+        -header-filter="^$PWD/(dialog|toolbarmanager|toolbareditor|ribbon|tests|examples)/.*" {}
+}
+
+check_with_cppcheck() {
+    # How tests read is not for cppcheck to judge.
+    {
+        run_cppcheck warning,style,performance,portability "${library[@]}" examples &&
+            run_cppcheck warning,performance,portability tests
+    } 2>&1 | findings
+}
+
+run_cppcheck() {
+    cppcheck --quiet -j "$cores" --library=qt --std=c++17 -DQ_OBJECT= --enable="$1" \
+        --suppressions-list=tools/cppcheck-suppressions.txt -i "$sample" "${@:2}"
+}
+
+# Every mistake of the sample is found in its line.
+find_mistakes() {
+    local flags said=$build/sample.txt line number wanted missed=0
+    read -ra flags < <(qt_flags)
+    flags+=(-std=c++11 -fPIC)
+    {
+        clang++ -fsyntax-only "${all_warnings[@]}" "${flags[@]}" "$sample"
+        clang-tidy --quiet "$sample" -- "${flags[@]}"
+        clazy-standalone -checks="$clazy_checks" "$sample" -- "${flags[@]}"
+        cppcheck --quiet --library=qt --enable=warning "$sample"
+    } >"$said" 2>&1
+    while IFS= read -r line; do
+        number=${line%%:*} wanted=${line##* // }
+        if ! grep -F "$sample:$number:" "$said" | grep -qF -- "$wanted"; then
+            echo "Not found in line $number: $wanted"
+            missed=1
+        fi
+    done < <(grep -nE '[^ /].* // ' "$sample")
+    [ "$missed" -eq 0 ] && echo "All $(grep -cE '[^ /].* // ' "$sample") mistakes were found."
+}
+
+step 'Packages' tools/install-packages.sh tools/packages-analyze.txt
+step 'Configure' configure
+step 'Generated sources' generate
+try 'Mistakes are found' find_mistakes
+try 'Clang with every warning' every_warning
+try 'cppcheck' check_with_cppcheck
+try 'clazy' clazy "${library[@]}"
+try 'clang-tidy' tidy "${library[@]}"
+if [ "$others" = ON ]; then
+    try 'clazy over the examples and tests' clazy examples tests
+    try 'clang-tidy over the examples and tests' tidy examples tests
+fi
+finish 'nothing was found'
