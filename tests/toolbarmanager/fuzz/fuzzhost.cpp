@@ -4,6 +4,7 @@
 
 #include "texts.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 
 #include <algorithm>
@@ -25,6 +26,7 @@ void sortByAddress(QList<QToolBar *> &toolBars)
 
 FuzzHost::FuzzHost(int shape)
     : unmanaged(window.addToolBar(name("x")))
+    , m_shape(shape)
 {
     const auto count = [this] { ++signalsEmitted; };
     QObject::connect(&manager, &RyToolBarManager::toolBarCreated, count);
@@ -62,6 +64,34 @@ FuzzHost::FuzzHost(int shape)
     default:
         break;
     }
+    rememberToolBars();
+}
+
+void FuzzHost::rememberToolBars()
+{
+    const auto contents = manager.toolBarsActions();
+    for (auto it = contents.cbegin(); it != contents.cend(); ++it)
+        m_toolBars.insert(it.key(),
+                          ToolBar{it.key()->objectName(), it.key()->windowTitle(), it.value()});
+}
+
+bool FuzzHost::reset()
+{
+    // Nobody can bring a separator of the host's own back.
+    if (m_shape == SharedSeparators && separators.contains(nullptr))
+        return false;
+    const auto toolBars = manager.toolBars();
+    for (QToolBar *toolBar : toolBars) {
+        if (!m_toolBars.contains(toolBar))
+            manager.deleteToolBar(toolBar);
+    }
+    for (auto it = m_toolBars.cbegin(); it != m_toolBars.cend(); ++it) {
+        it.key()->setObjectName(it->objectName);
+        it.key()->setWindowTitle(it->title);
+        manager.setToolBar(it.key(), it->content);
+    }
+    QCoreApplication::sendPostedEvents();
+    return true;
 }
 
 QAction *FuzzHost::action(const QString &objectName, const QString &text)

@@ -31,6 +31,10 @@ public:
 
     explicit FuzzHost(int shape);
 
+    // Gives the toolbars of the shape their names and contents back and deletes all others, which
+    // is faster than a new host. False if that takes a new host.
+    bool reset();
+
     QMainWindow window;
     RyToolBarManager manager;
     // Stands in the window, but the manager does not know it.
@@ -40,6 +44,13 @@ public:
     int signalsEmitted = 0;
 
 private:
+    struct ToolBar
+    {
+        QString objectName;
+        QString title;
+        QList<QAction *> content;
+    };
+
     QAction *action(const QString &objectName, const QString &text);
     QAction *registered(const QString &objectName);
     QAction *registered(const QString &objectName, const QString &text);
@@ -56,6 +67,11 @@ private:
     void makeManyCustomToolBars();
     void makeSharedSeparators();
     void makeNumbersWithGaps();
+    void rememberToolBars();
+
+    const int m_shape;
+    // As they are in the beginning.
+    QMap<QToolBar *, ToolBar> m_toolBars;
 };
 
 #endif // FUZZHOST_H

@@ -66,6 +66,19 @@ HostSnapshot::HostSnapshot(const FuzzHost &host)
     }
 }
 
+bool HostSnapshot::hasLayoutOf(const HostSnapshot &other) const
+{
+    if (m_toolBars.keys() != other.m_toolBars.keys())
+        return false;
+    for (auto it = m_toolBars.cbegin(); it != m_toolBars.cend(); ++it) {
+        const ToolBar &that = other.m_toolBars[it.key()];
+        if (it->objectName != that.objectName || it->title != that.title
+            || it->content != that.content)
+            return false;
+    }
+    return true;
+}
+
 QMap<QToolBar *, HostSnapshot::ToolBar> HostSnapshot::toolBars(bool defaults) const
 {
     QMap<QToolBar *, ToolBar> selected;

@@ -28,6 +28,9 @@ public:
     bool operator==(const HostSnapshot &other) const { return m_toolBars == other.m_toolBars; }
     bool operator!=(const HostSnapshot &other) const { return !(*this == other); }
 
+    // True if the names and the contents are the same, be it with other separator actions.
+    bool hasLayoutOf(const HostSnapshot &other) const;
+
     // Those of the default or of the custom toolbars.
     QMap<QToolBar *, ToolBar> toolBars(bool defaults) const;
     const QMap<QToolBar *, ToolBar> &toolBars() const { return m_toolBars; }

@@ -12,6 +12,8 @@
 
 #include <QSet>
 
+#include <memory>
+
 namespace {
 
 const qint64 MostMilliseconds = 1000;
@@ -24,6 +26,8 @@ const int MostRounds = 6;
 // The low bits of the first byte.
 const int ShapeBits = 7;
 const int BeginningBit = 8;
+
+std::unique_ptr<FuzzHost> hosts[FuzzHost::ShapeCount];
 
 QStringList warnings;
 
@@ -78,14 +82,15 @@ QStringList textsOf(const QList<QPointer<QAction>> &actions)
 class RestoreCheck
 {
 public:
-    RestoreCheck(const QByteArray &input, MemoryGauge *gauge);
+    RestoreCheck(FuzzHost &host, const QByteArray &state, MemoryGauge *gauge);
 
     QString run();
+    bool hostIsAsBefore() const { return m_hostIsAsBefore; }
 
 private:
     void restore();
     void restoreMeasured(bool *result);
-    void checkWhatMayChange(const HostSnapshot &before, bool result);
+    void checkWhatMayChange(bool result);
     void checkHost(const char *when);
     void checkRegistry();
     void checkWidgets();
@@ -97,17 +102,17 @@ private:
                        const QList<QAction *> &content) const;
     void checkSaving();
     void checkNextRun(const QByteArray &saved);
-    void checkReset();
-    void checkDeleting();
+    void checkResetting();
     QStringList layout() const;
     void require(bool holds, const char *what, const QString &more = QString());
     void requireSame(const QStringList &actual, const QStringList &expected, const char *what);
 
     const QByteArray m_state;
     MemoryGauge *const m_gauge;
-    FuzzHost m_host;
+    FuzzHost &m_host;
     RyToolBarManager &m_manager;
     // The host as it was before anything was restored.
+    const HostSnapshot m_before;
     const LiteralReader m_untouched;
     const QMap<QToolBar *, QList<QAction *>> m_defaults;
     const QSet<QAction *> m_registered;
@@ -115,14 +120,16 @@ private:
     QStringList m_actionTexts;
     // What stands on the unmanaged toolbar.
     QList<QPointer<QAction>> m_elsewhere;
+    bool m_hostIsAsBefore = false;
     QStringList m_breaches;
 };
 
-RestoreCheck::RestoreCheck(const QByteArray &input, MemoryGauge *gauge)
-    : m_state(stateOfInput(input))
+RestoreCheck::RestoreCheck(FuzzHost &host, const QByteArray &state, MemoryGauge *gauge)
+    : m_state(state)
     , m_gauge(gauge)
-    , m_host(input.isEmpty() ? 0 : input.at(0) & ShapeBits)
+    , m_host(host)
     , m_manager(m_host.manager)
+    , m_before(host)
     , m_untouched(m_manager)
     , m_defaults(m_manager.defaultToolBars())
     , m_registered(m_manager.actions())
@@ -138,12 +145,10 @@ RestoreCheck::RestoreCheck(const QByteArray &input, MemoryGauge *gauge)
 QString RestoreCheck::run()
 {
     warnings.clear();
-    checkHost("before restoring");
     restore();
     checkHost("after restoring");
     checkSaving();
-    checkReset();
-    checkDeleting();
+    checkResetting();
     require(m_host.signalsEmitted == 0, "a signal was emitted");
     return m_breaches.join(QLatin1Char('\n'));
 }
@@ -151,7 +156,6 @@ QString RestoreCheck::run()
 // The result, the warnings and the layout are those of the plainest reader.
 void RestoreCheck::restore()
 {
-    const HostSnapshot before(m_host);
     LiteralReader reader(m_untouched);
     const bool expected = reader.restore(m_state, StateVersion);
     bool result = false;
@@ -159,7 +163,7 @@ void RestoreCheck::restore()
     require(result == expected, "the result is another one");
     requireSame(takeWarnings(), reader.warnings, "other warnings while restoring");
     requireSame(layout(), reader.layout(), "another layout was restored");
-    checkWhatMayChange(before, result);
+    checkWhatMayChange(result);
 }
 
 void RestoreCheck::restoreMeasured(bool *result)
@@ -176,21 +180,21 @@ void RestoreCheck::restoreMeasured(bool *result)
 
 // False without any change for what does not begin like a state; false with the default toolbars
 // changed for the rest.
-void RestoreCheck::checkWhatMayChange(const HostSnapshot &before, bool result)
+void RestoreCheck::checkWhatMayChange(bool result)
 {
     const HostSnapshot now(m_host);
     if (!m_state.startsWith(beginning())) {
         require(!result, "what does not begin like a state was restored");
-        require(now == before, "what does not begin like a state changed something");
+        require(now == m_before, "what does not begin like a state changed something");
     }
     if (!result)
-        require(now.toolBars(false) == before.toolBars(false),
+        require(now.toolBars(false) == m_before.toolBars(false),
                 "a custom toolbar changed although the result is false");
-    for (QToolBar *toolBar : before.toolBars().keys()) {
+    for (QToolBar *toolBar : m_before.toolBars().keys()) {
         require(now.toolBars().contains(toolBar), "a toolbar was lost");
         if (m_host.manager.isDefaultToolBar(toolBar))
             require(now.toolBars().value(toolBar).objectName
-                        == before.toolBars().value(toolBar).objectName,
+                        == m_before.toolBars().value(toolBar).objectName,
                     "a default toolbar was renamed");
     }
 }
@@ -376,24 +380,20 @@ void RestoreCheck::checkNextRun(const QByteArray &saved)
     require(next.restore(saved, StateVersion), "a saved state was refused in the next run");
 }
 
-void RestoreCheck::checkReset()
+// Both resetting by the manager and giving the host its first layout back, which deletes toolbars.
+void RestoreCheck::checkResetting()
 {
     const HostSnapshot before(m_host);
     m_manager.resetAllToolBars();
-    const HostSnapshot now(m_host);
-    require(now.toolBars(false) == before.toolBars(false), "resetting changed a custom toolbar");
+    require(HostSnapshot(m_host).toolBars(false) == before.toolBars(false),
+            "resetting changed a custom toolbar");
     for (auto it = m_defaults.cbegin(); it != m_defaults.cend(); ++it)
         require(m_manager.actions(it.key()) == it.value(), "a default content did not come back");
+    m_hostIsAsBefore = m_host.reset();
+    if (!m_hostIsAsBefore)
+        return;
+    require(HostSnapshot(m_host).hasLayoutOf(m_before), "the first layout did not come back");
     checkHost("after resetting");
-}
-
-void RestoreCheck::checkDeleting()
-{
-    const auto customs = HostSnapshot(m_host).toolBars(false).keys();
-    for (QToolBar *toolBar : customs)
-        m_manager.deleteToolBar(toolBar);
-    require(m_manager.toolBars() == m_defaults.keys(), "a custom toolbar was not deleted");
-    checkHost("after deleting the custom toolbars");
 }
 
 // In the form of the plainest reader. What stands on the widgets is looked at elsewhere.
@@ -442,7 +442,20 @@ QByteArray stateOfInput(const QByteArray &input)
 QString breachOf(const QByteArray &input, MemoryGauge *gauge)
 {
     const QtMessageHandler previous = qInstallMessageHandler(recordWarning);
-    const QString breach = RestoreCheck(input, gauge).run();
+    const int shape = input.isEmpty() ? 0 : input.at(0) & ShapeBits;
+    std::unique_ptr<FuzzHost> &host = hosts[shape];
+    if (!host)
+        host = std::make_unique<FuzzHost>(shape);
+    RestoreCheck check(*host, stateOfInput(input), gauge);
+    const QString breach = check.run();
+    if (!breach.isEmpty() || !check.hostIsAsBefore())
+        host.reset();
     qInstallMessageHandler(previous);
     return breach;
+}
+
+void forgetHosts()
+{
+    for (std::unique_ptr<FuzzHost> &host : hosts)
+        host.reset();
 }

@@ -27,8 +27,11 @@ public:
     virtual qint64 growth() = 0;
 };
 
-// What the input broke, in words; empty if everything holds. Installs a message handler.
+// What the input broke, in words; empty if everything holds. The hosts are kept for the next input.
 QString breachOf(const QByteArray &input, MemoryGauge *gauge);
+
+// Deletes the hosts.
+void forgetHosts();
 
 // The bytes that go into restoreState().
 QByteArray stateOfInput(const QByteArray &input);

@@ -53,6 +53,8 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
     static char *arguments[] = {name, nullptr};
     // Lives until the process ends, as the fuzzer leaves by exit().
     new QApplication(count, arguments);
+    // Before the application's own ends.
+    std::atexit(forgetHosts);
     return __sanitizer_install_malloc_and_free_hooks(onAllocation, onFree) ? 0 : 1;
 }
 
