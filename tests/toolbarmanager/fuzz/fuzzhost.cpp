@@ -185,31 +185,34 @@ void FuzzHost::makeUsual()
     manager.setToolBar(manager.toolBarByName(name("e")), list("c a | ä€"));
 }
 
-// Without objectNames, so that texts and titles stand in for them; some of them are empty, too, or
-// are the name of something else.
+// Without objectNames, so that texts and titles stand in for them.
 void FuzzHost::makeNameless()
 {
-    QAction *const empty = registered(QString(), QString());
     registered(QString(), name("T"));
     registered(QString(), name("S"));
-    QAction *const shadowed = registered(QString(), name("a"));
-    addDefaultToolBars({QString(), name("f"), QString(), name("N"), QString()},
-                       {name("N"), name("F"), QString(), name("M"), name("F")},
-                       {"T | a", "S b", "| c", "d", "a"});
-    addCustomToolBars({name("m"), QString(), QStringLiteral("")}, {QString(), name("N"), name("C")},
-                      {"T b", "|", "S"});
-    manager.setToolBar(manager.toolBarByName(name("f")),
-                       list("S") << shadowed << empty << nullptr << list("b"));
+    addDefaultToolBars({QString(), name("f"), QString()}, words("N F P"), {"T | a", "S b", "| c"});
+    addCustomToolBars(words("m"), {QString()}, {"T b"});
+    manager.setToolBar(manager.toolBarByName(name("f")), list("S | T b"));
 }
 
+// Names that several things bear, that are empty or that are the titles and texts of others. What is
+// saved of the toolbar without name and title goes to the one that has only a title, what is saved
+// of that one to the second "o", and what is saved of that one to the first.
 void FuzzHost::makeDoubles()
 {
     QAction *const second = registered(name("a"), name("T"));
+    QAction *const empty = registered(QString(), QString());
+    QAction *const shadowed = registered(QString(), name("a"));
     registered(name("g"), name("T"));
     registered(QString(), name("T"));
-    addDefaultToolBars(words("f f e f"), words("F F F G"), {"a |", "b | T", "g", "| |"});
-    addCustomToolBars(words("c c f m c"), words("C C2 F M C3"), {"a", "b | g", "c", "|", "d T"});
-    manager.setToolBar(manager.toolBarByName(name("m")), list("a |") << second);
+    addDefaultToolBars({name("o"), name("o"), QString(), QString(), name("f"), name("f")},
+                       {name("G"), name("t"), name("t"), QString(), name("F"), name("F")},
+                       {"a |", "b | T", "g", "| |", "c", "d"});
+    addCustomToolBars({name("c"), name("c"), name("f"), name("m"), QString(), QStringLiteral("")},
+                      {name("C"), name("C2"), name("F"), QString(), name("M"), name("o")},
+                      {"a", "b | g", "c", "|", "d T", "a"});
+    manager.setToolBar(manager.toolBarByName(name("m")),
+                       list("a |") << second << empty << shadowed);
 }
 
 void FuzzHost::makeManyCustomToolBars()

@@ -11,8 +11,8 @@
 /*
  * A host application in small, in one of several shapes, into which any bytes are restored.
  *
- * Toolbars get their names in the order of their addresses, so that one shape is always the same
- * to the manager, whatever the allocator does.
+ * Default toolbars get their names in the order of their addresses, and so do custom ones, so that
+ * a shape is nearly the same to the manager whatever the allocator does.
  */
 class FuzzHost
 {
