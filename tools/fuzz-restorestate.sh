@@ -28,7 +28,7 @@ export LSAN_OPTIONS=suppressions=$PWD/tests/support/qt-leaks.supp:print_suppress
 
 # Processor time and memory of each input are measured in the fuzzer; what the wall clock says is
 # only to end an endless loop, however busy the machine is.
-options=(-timeout=300 -malloc_limit_mb=64 -rss_limit_mb=1024 -max_len=4096 "-artifact_prefix=$found/")
+options=(-timeout=300 -report_slow_units=300 -malloc_limit_mb=64 -rss_limit_mb=1024 -max_len=4096 "-artifact_prefix=$found/")
 
 replay() {
     mkdir -p "$corpus" "$found"
