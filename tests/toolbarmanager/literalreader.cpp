@@ -8,16 +8,27 @@
 
 #include <QDataStream>
 
+namespace {
+
+// Stands for a separator and for an action that is not found.
+const int NoAction = -1;
+
+} // namespace
+
 LiteralReader::LiteralReader(const RyToolBarManager &manager)
     : m_hasWindow(manager.mainWindow())
 {
-    const auto actions = manager.actions();
+    const auto actions = manager.actions().values();
     for (QAction *action : actions)
         m_actions << Action{action->objectName(), action->text(), contentOf({action}).constFirst()};
     const auto toolBars = manager.toolBars();
     for (QToolBar *toolBar : toolBars) {
+        QList<int> content;
+        const auto standing = manager.actions(toolBar);
+        for (QAction *action : standing)
+            content << actions.indexOf(action);
         m_toolBars << ToolBar{manager.isDefaultToolBar(toolBar), toolBar->objectName(),
-                              toolBar->windowTitle(), contentOf(manager.actions(toolBar))};
+                              toolBar->windowTitle(), content};
     }
 }
 
@@ -39,7 +50,7 @@ bool LiteralReader::restore(const QByteArray &state, int version)
     repeat(stream, number, [&] {
         QString name;
         stream >> name;
-        const QStringList content = readContent(stream);
+        const QList<int> content = readContent(stream);
         if (ToolBar *const toolBar = findDefaultToolBar(name))
             setContent(toolBar, content);
     });
@@ -56,7 +67,7 @@ void LiteralReader::restoreCustomToolBar(QDataStream &stream)
     QString objectName;
     QString title;
     stream >> objectName >> title;
-    const QStringList content = readContent(stream);
+    const QList<int> content = readContent(stream);
     ToolBar *toolBar = toolBarByName(objectName);
     if (!toolBar && m_hasWindow) {
         m_toolBars << ToolBar{false, objectName, title, {}};
@@ -72,7 +83,8 @@ QStringList LiteralReader::layout() const
 {
     QStringList lines;
     for (const ToolBar &toolBar : m_toolBars)
-        lines << layoutLine(toolBar.isDefault, toolBar.objectName, toolBar.title, toolBar.content);
+        lines << layoutLine(toolBar.isDefault, toolBar.objectName, toolBar.title,
+                            shown(toolBar.content));
     lines.sort();
     return lines;
 }
@@ -87,35 +99,34 @@ void LiteralReader::repeat(QDataStream &stream, qint32 count, const std::functio
     }
 }
 
-QStringList LiteralReader::readContent(QDataStream &stream)
+QList<int> LiteralReader::readContent(QDataStream &stream)
 {
-    QStringList content;
+    QList<int> content;
     qint32 count = 0;
     stream >> count;
     repeat(stream, count, [&] {
         QString name;
         stream >> name;
-        if (name.isEmpty())
-            content << QStringLiteral("|");
-        else if (const Action *const action = findAction(name))
-            content << action->shown;
+        const int action = name.isEmpty() ? NoAction : findAction(name);
+        if (name.isEmpty() || action != NoAction)
+            content << action;
     });
     return content;
 }
 
-const LiteralReader::Action *LiteralReader::findAction(const QString &name)
+int LiteralReader::findAction(const QString &name)
 {
-    for (const Action &action : qAsConst(m_actions)) {
-        if (action.objectName == name)
-            return &action;
+    for (int i = 0; i < m_actions.size(); ++i) {
+        if (m_actions.at(i).objectName == name)
+            return i;
     }
     warn("QAction", "text", name, false);
-    for (const Action &action : qAsConst(m_actions)) {
-        if (action.text == name)
-            return &action;
+    for (int i = 0; i < m_actions.size(); ++i) {
+        if (m_actions.at(i).text == name)
+            return i;
     }
     warn("QAction", "text", name, true);
-    return nullptr;
+    return NoAction;
 }
 
 LiteralReader::ToolBar *LiteralReader::findDefaultToolBar(const QString &name)
@@ -159,11 +170,19 @@ void LiteralReader::warn(const char *className, const char *property, const QStr
 }
 
 // Repeated actions count once, separators each time.
-void LiteralReader::setContent(ToolBar *toolBar, const QStringList &content)
+void LiteralReader::setContent(ToolBar *toolBar, const QList<int> &content)
 {
     toolBar->content.clear();
-    for (const QString &entry : content) {
-        if (entry == QLatin1String("|") || !toolBar->content.contains(entry))
+    for (const int entry : content) {
+        if (entry == NoAction || !toolBar->content.contains(entry))
             toolBar->content << entry;
     }
+}
+
+QStringList LiteralReader::shown(const QList<int> &content) const
+{
+    QStringList texts;
+    for (const int entry : content)
+        texts << (entry == NoAction ? QStringLiteral("|") : m_actions.at(entry).shown);
+    return texts;
 }

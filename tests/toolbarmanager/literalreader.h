@@ -17,7 +17,8 @@ class RyToolBarManager;
  * is looked up by walking all objects. No widget is touched.
  *
  * The only bound is that of the manager: a list or section ends after 1,000 entries past the end of
- * the bytes. The names of the manager's actions and toolbars must be unique.
+ * the bytes. Of objects that share a name the first in the order of manager.actions() or
+ * manager.toolBars() is meant.
  */
 class LiteralReader
 {
@@ -45,19 +46,21 @@ private:
         bool isDefault;
         QString objectName;
         QString title;
-        QStringList content;
+        QList<int> content;
     };
 
     static void repeat(QDataStream &stream, qint32 count, const std::function<void()> &read);
-    QStringList readContent(QDataStream &stream);
-    const Action *findAction(const QString &name);
+    QList<int> readContent(QDataStream &stream);
+    int findAction(const QString &name);
     ToolBar *findDefaultToolBar(const QString &name);
     ToolBar *toolBarByName(const QString &objectName);
     void restoreCustomToolBar(QDataStream &stream);
     void warn(const char *className, const char *property, const QString &name, bool again);
-    static void setContent(ToolBar *toolBar, const QStringList &content);
+    static void setContent(ToolBar *toolBar, const QList<int> &content);
+    QStringList shown(const QList<int> &content) const;
 
     bool m_hasWindow;
+    // A content holds the indexes of its actions.
     QList<Action> m_actions;
     QList<ToolBar> m_toolBars;
 };
