@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+
+#include "sequence.h"
+
+#include "dialogsteps.h"
+#include "hoststeps.h"
+#include "managercomparison.h"
+#include "printedwarnings.h"
+
+QString Sequence::run(const Script &script)
+{
+    const PrintedWarnings warnings;
+    Differences differences;
+    Stage stage;
+    HostSteps hostSteps(&stage, &differences);
+    DialogSteps dialogSteps(&stage, &differences);
+    ManagerComparison managerComparison(&stage, &differences);
+    for (std::size_t place = 0; place < script.size(); ++place) {
+        const Step &step = script[place];
+        if (!hostSteps.run(step))
+            dialogSteps.run(step);
+        stage.updateToolBars();
+        managerComparison.run();
+        dialogSteps.compare();
+        if (!differences.lines.isEmpty()) {
+            return QStringLiteral("step %1 (%2): %3")
+                .arg(place + 1)
+                .arg(QString::fromStdString(step.text()),
+                     differences.lines.join(QLatin1String("\n  ")));
+        }
+    }
+    return QString();
+}

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+
+#include "sequencerange.h"
+
+#include "sequence.h"
+#include "stepgenerator.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+const unsigned SecondsToHang = 60;
+
+} // namespace
+
+SequenceRange::SequenceRange(std::uint64_t firstSeed, std::uint64_t count, int steps)
+    : m_firstSeed(firstSeed)
+    , m_count(count)
+    , m_steps(steps)
+{
+    // What the other process writes there outlives it.
+    void *const page = mmap(nullptr, sizeof *m_current, PROT_READ | PROT_WRITE,
+                            MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    if (page == MAP_FAILED)
+        std::abort();
+    m_current = static_cast<std::uint64_t *>(page);
+}
+
+Script SequenceRange::scriptOf(std::uint64_t seed, int steps)
+{
+    const auto kind = seed % 2 ? StepGenerator::ManagerOnly : StepGenerator::WithDialog;
+    return StepGenerator(seed, kind).script(steps);
+}
+
+bool SequenceRange::run()
+{
+    std::fflush(nullptr);
+    const pid_t child = fork();
+    if (child == 0)
+        runHere();
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+std::uint64_t SequenceRange::failedSeed() const
+{
+    return *m_current;
+}
+
+void SequenceRange::runHere() const
+{
+    for (std::uint64_t i = 0; i < m_count; ++i) {
+        *m_current = m_firstSeed + i;
+        alarm(SecondsToHang);
+        if (!Sequence::run(scriptOf(*m_current, m_steps)).isNull())
+            _exit(1);
+    }
+    _exit(0);
+}
