@@ -270,8 +270,8 @@ void DialogSteps::pressKey(const Step &step)
     const bool amongToolBars = step.number(0) % 2 == 0;
     if (m_model.editing || (!amongToolBars && Keys[key] == Qt::Key_F2))
         return;
-    QListWidget *const list
-        = amongToolBars ? m_real->views.toolBarList : m_real->views.currentToolBarList;
+    QListWidget *const list =
+        amongToolBars ? m_real->views.toolBarList : m_real->views.currentToolBarList;
     list->setFocus();
     m_real->press(list, Keys[key]);
     learnOrder();
@@ -284,7 +284,8 @@ void DialogSteps::pressKey(const Step &step)
 void DialogSteps::moveCurrent(QListWidget *list, int key)
 {
     const bool amongToolBars = list == m_real->views.toolBarList;
-    const int count = static_cast<int>(amongToolBars ? m_model.rows.size() : m_model.entries.size());
+    const int count =
+        static_cast<int>(amongToolBars ? m_model.rows.size() : m_model.entries.size());
     if (count == 0)
         return;
     const int row = amongToolBars ? m_model.currentRow() : m_model.currentEntry;
@@ -346,9 +347,13 @@ void DialogSteps::pressCancel()
 
 void DialogSteps::pressDefaults()
 {
-    m_real->click(m_real->dialog.RestoreDefaultButton());
+    QPushButton *const button = m_real->dialog.RestoreDefaultButton();
+    // The press takes the focus from an open editor; where its row goes must be seen before rows go.
+    QTest::mousePress(button, Qt::LeftButton);
     learnOrder();
     m_model.commitEditing();
+    QTest::mouseRelease(button, Qt::LeftButton);
+    learnOrder();
     m_model.restoreDefaults();
 }
 

@@ -62,10 +62,8 @@ void EditorComparison::compareRecords()
     if (!m_differences->lines.isEmpty())
         return;
     for (const auto &entry : m_model.records) {
-        m_differences->compare("toolbar of a record", entry.second.toolBar,
-                               entry.first->toolBar());
-        m_differences->compare("name of a record", entry.second.name,
-                               entry.first->toolBarName());
+        m_differences->compare("toolbar of a record", entry.second.toolBar, entry.first->toolBar());
+        m_differences->compare("name of a record", entry.second.name, entry.first->toolBarName());
     }
 }
 
@@ -87,10 +85,10 @@ void EditorComparison::compareRow(int row)
     QListWidgetItem *const found = m_real.views.toolBarList->item(row);
     m_differences->compare("record of a row", expected.record,
                            m_fields.recordOfListItem.value(found));
-    m_differences->compare("row of a record",
-                           static_cast<const void *>(m_fields.listItemOfRecord.value(
-                               expected.record)),
-                           static_cast<const void *>(found));
+    m_differences->compare(
+        "row of a record",
+        static_cast<const void *>(m_fields.listItemOfRecord.value(expected.record)),
+        static_cast<const void *>(found));
     m_differences->compare("text of a toolbar row", expected.text, found->text());
     m_differences->compare("editable row", int(!expected.isDefault),
                            int(found->flags().testFlag(Qt::ItemIsEditable)));
@@ -125,10 +123,9 @@ void EditorComparison::compareEntry(int row)
     const bool hasIcon = expected.action && !expected.action->icon().isNull();
     m_differences->compare("icon of an entry", int(hasIcon), int(!found->icon().isNull()));
     if (expected.action) {
-        m_differences->compare("entry of an action",
-                               static_cast<const void *>(found),
-                               static_cast<const void *>(
-                                   m_fields.entryOfAction.value(expected.action)));
+        m_differences->compare(
+            "entry of an action", static_cast<const void *>(found),
+            static_cast<const void *>(m_fields.entryOfAction.value(expected.action)));
     }
 }
 

@@ -362,8 +362,7 @@ void EditorModel::sortRows()
     std::sort(rows.begin(), rows.end(), [this](const Row &a, const Row &b) {
         const int order = QString::localeAwareCompare(a.text, b.text);
         return order < 0
-            || (order == 0
-                && placeOf(m_rowOrder, a.record) < placeOf(m_rowOrder, b.record));
+            || (order == 0 && placeOf(m_rowOrder, a.record) < placeOf(m_rowOrder, b.record));
     });
 }
 
@@ -375,12 +374,10 @@ void EditorModel::sortTree()
         if (order == 0 && a.isCategory != b.isCategory)
             return b.isCategory;
         return order < 0
-            || (order == 0
-                && placeOf(m_itemOrder, a.action) < placeOf(m_itemOrder, b.action));
+            || (order == 0 && placeOf(m_itemOrder, a.action) < placeOf(m_itemOrder, b.action));
     };
     for (Category &category : tree)
         std::sort(category.actions.begin(), category.actions.end(), before);
-    std::sort(tree.begin(), tree.end(), [&](const Category &a, const Category &b) {
-        return before(a.item, b.item);
-    });
+    std::sort(tree.begin(), tree.end(),
+              [&](const Category &a, const Category &b) { return before(a.item, b.item); });
 }

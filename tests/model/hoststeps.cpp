@@ -192,9 +192,9 @@ void HostSteps::textAction(const Step &step)
 
 void HostSteps::newToolBar(const Step &step)
 {
-    QToolBar *const toolBar = m_stage->addToolBar(&m_stage->windows[step.number(0) % 2],
-                                                  Stage::toolBarName(step.number(0)),
-                                                  Stage::title(step.number(1)));
+    QToolBar *const toolBar =
+        m_stage->addToolBar(&m_stage->windows[step.number(0) % 2],
+                            Stage::toolBarName(step.number(0)), Stage::title(step.number(1)));
     for (QAction *action : m_stage->content(step.from(2)))
         stand(toolBar, action);
 }
@@ -268,8 +268,8 @@ void HostSteps::scatter(int seed)
 void HostSteps::addAction(const Step &step)
 {
     QAction *const action = m_stage->action(step.number(0));
-    const bool isStranger
-        = action && !action->isSeparator() && !m_stage->world.actions.count(action);
+    const bool isStranger =
+        action && !action->isSeparator() && !m_stage->world.actions.count(action);
     if (isStranger)
         return;
     m_stage->manager.addAction(action, Stage::category(step.number(1)));
@@ -311,8 +311,8 @@ void HostSteps::create(const Step &step)
     std::deque<QToolBar *> known;
     if (made)
         known.push_back(made);
-    QToolBar *const expected
-        = m_stage->managerModel.createToolBar(Stage::title(step.number(0)), known);
+    QToolBar *const expected =
+        m_stage->managerModel.createToolBar(Stage::title(step.number(0)), known);
     m_differences->compare("createToolBar()", expected, made);
 }
 

@@ -17,8 +17,8 @@ const unsigned SecondsToHang = 60;
 {
     alarm(SecondsToHang);
     const QByteArray result = Sequence::run(script).toUtf8();
-    const bool told = write(output, result.constData(), static_cast<std::size_t>(result.size()))
-        == result.size();
+    const bool told =
+        write(output, result.constData(), static_cast<std::size_t>(result.size())) == result.size();
     _exit(result.isEmpty() && told ? 0 : 1);
 }
 

@@ -66,9 +66,8 @@ void ManagerModel::removeAction(QAction *action)
         removeAll(entry.second.content, action);
         removeAll(entry.second.defaultContent, action);
         auto &placed = entry.second.placed;
-        placed.erase(
-            std::remove(placed.begin(), placed.end(), WorldModel::Standing{action, 0}),
-            placed.end());
+        placed.erase(std::remove(placed.begin(), placed.end(), WorldModel::Standing{action, 0}),
+                     placed.end());
     }
     const auto category = categories.find(registered[action]);
     registered.erase(action);

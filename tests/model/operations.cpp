@@ -25,7 +25,9 @@ bool explain(const Script &script)
     if (result.isNull())
         return true;
     print("FAILED: " + result.toStdString() + "\n");
-    const auto fails = [](const Script &candidate) { return !IsolatedRun::run(candidate).isNull(); };
+    const auto fails = [](const Script &candidate) {
+        return !IsolatedRun::run(candidate).isNull();
+    };
     const Script shortest = Shrinker(fails).shrink(script);
     print("The shortest script that fails, for --replay:\n" + textOf(shortest));
     print("# " + IsolatedRun::run(shortest).toStdString() + "\n");

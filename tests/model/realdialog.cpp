@@ -119,8 +119,8 @@ QLineEdit *RealDialog::renameEditor() const
 
 QToolButton *RealDialog::button(int number) const
 {
-    QToolButton *const buttons[] = {views.newButton,  views.removeButton, views.renameButton,
-                                    views.upButton,   views.leftButton,   views.rightButton,
+    QToolButton *const buttons[] = {views.newButton, views.removeButton, views.renameButton,
+                                    views.upButton,  views.leftButton,   views.rightButton,
                                     views.downButton};
     return buttons[number];
 }

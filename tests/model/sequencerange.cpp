@@ -23,8 +23,8 @@ SequenceRange::SequenceRange(std::uint64_t firstSeed, std::uint64_t count, int s
     , m_steps(steps)
 {
     // What the other process writes there outlives it.
-    void *const page = mmap(nullptr, sizeof *m_current, PROT_READ | PROT_WRITE,
-                            MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    void *const page =
+        mmap(nullptr, sizeof *m_current, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     if (page == MAP_FAILED)
         std::abort();
     m_current = static_cast<std::uint64_t *>(page);
@@ -57,8 +57,12 @@ void SequenceRange::runHere() const
     for (std::uint64_t i = 0; i < m_count; ++i) {
         *m_current = m_firstSeed + i;
         alarm(SecondsToHang);
-        if (!Sequence::run(scriptOf(*m_current, m_steps)).isNull())
-            _exit(1);
+        const QString wrong = Sequence::run(scriptOf(*m_current, m_steps));
+        if (wrong.isNull())
+            continue;
+        std::puts(qPrintable(wrong));
+        std::fflush(stdout);
+        _exit(1);
     }
     _exit(0);
 }

@@ -87,15 +87,20 @@ QString Stage::category(int number)
 
 QString Stage::title(int number)
 {
-    static const char *const names[] = {"File", "Edit", "Custom Toolbar", "", "view", "\u00c4 bar",
-                                        "a b"};
+    static const char *const names[] = {"File",       "Edit", "Custom Toolbar", "", "view",
+                                        "\u00c4 bar", "a b"};
     return pick(names, number);
 }
 
 QString Stage::toolBarName(int number)
 {
-    static const char *const names[] = {"file", "edit", "", "_Custom_Toolbar_1", "view",
-                                        "_Custom_Toolbar_2", "_Custom_Toolbar_3",
+    static const char *const names[] = {"file",
+                                        "edit",
+                                        "",
+                                        "_Custom_Toolbar_1",
+                                        "view",
+                                        "_Custom_Toolbar_2",
+                                        "_Custom_Toolbar_3",
                                         "_Custom_Toolbar_01"};
     return pick(names, number);
 }

@@ -7,24 +7,24 @@ namespace {
 using Weights = std::vector<std::pair<Step::Kind, unsigned>>;
 
 const Weights HostWeights = {
-    {Step::MainWindow, 2},    {Step::NewAction, 2},    {Step::RecreateAction, 3},
-    {Step::NameAction, 3},    {Step::TextAction, 3},   {Step::NewToolBar, 3},
-    {Step::DropToolBar, 3},   {Step::NameToolBar, 4},  {Step::TitleToolBar, 4},
-    {Step::Stand, 4},         {Step::Unstand, 4},      {Step::Scatter, 1},
-    {Step::AddAction, 8},     {Step::RemoveAction, 5}, {Step::AddCategory, 3},
-    {Step::AddDefault, 5},    {Step::RemoveDefault, 4}, {Step::Create, 5},
-    {Step::Delete, 4},        {Step::Set, 16},         {Step::SetTwo, 3},
-    {Step::Reset, 4},         {Step::ResetAll, 3},     {Step::Save, 5},
-    {Step::Restore, 7},       {Step::RestoreMade, 4},  {Step::Find, 4},
+    {Step::MainWindow, 2},  {Step::NewAction, 2},     {Step::RecreateAction, 3},
+    {Step::NameAction, 3},  {Step::TextAction, 3},    {Step::NewToolBar, 3},
+    {Step::DropToolBar, 3}, {Step::NameToolBar, 4},   {Step::TitleToolBar, 4},
+    {Step::Stand, 4},       {Step::Unstand, 4},       {Step::Scatter, 1},
+    {Step::AddAction, 8},   {Step::RemoveAction, 5},  {Step::AddCategory, 3},
+    {Step::AddDefault, 5},  {Step::RemoveDefault, 4}, {Step::Create, 5},
+    {Step::Delete, 4},      {Step::Set, 16},          {Step::SetTwo, 3},
+    {Step::Reset, 4},       {Step::ResetAll, 3},      {Step::Save, 5},
+    {Step::Restore, 7},     {Step::RestoreMade, 4},   {Step::Find, 4},
 };
 
 const Weights DialogWeights = {
-    {Step::Destroy, 1},   {Step::Hide, 1},       {Step::Close, 1},    {Step::Tab, 3},
-    {Step::Button, 40},   {Step::Row, 14},       {Step::RowTwice, 3}, {Step::Entry, 10},
-    {Step::EntryTwice, 4}, {Step::Item, 12},     {Step::ItemTwice, 12}, {Step::Key, 8},
-    {Step::Type, 9},      {Step::Return, 7},     {Step::Escape, 2},   {Step::Ok, 2},
-    {Step::Apply, 6},     {Step::Cancel, 1},     {Step::Defaults, 3}, {Step::Minimize, 1},
-    {Step::Idle, 1},      {Step::Open, 3},
+    {Step::Destroy, 1},    {Step::Hide, 1},   {Step::Close, 1},      {Step::Tab, 3},
+    {Step::Button, 40},    {Step::Row, 14},   {Step::RowTwice, 3},   {Step::Entry, 10},
+    {Step::EntryTwice, 4}, {Step::Item, 12},  {Step::ItemTwice, 12}, {Step::Key, 8},
+    {Step::Type, 9},       {Step::Return, 7}, {Step::Escape, 2},     {Step::Ok, 2},
+    {Step::Apply, 6},      {Step::Cancel, 1}, {Step::Defaults, 3},   {Step::Minimize, 1},
+    {Step::Idle, 1},       {Step::Open, 3},
 };
 
 } // namespace
