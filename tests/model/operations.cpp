@@ -46,7 +46,7 @@ int replay(const QString &file)
     return result.isNull() ? 0 : 1;
 }
 
-int runRange(std::uint64_t firstSeed, std::uint64_t count, int steps)
+int runRange(std::uint64_t firstSeed, std::uint64_t count, int steps, bool shrink)
 {
     SequenceRange range(firstSeed, count, steps);
     const std::time_t start = std::time(nullptr);
@@ -59,7 +59,7 @@ int runRange(std::uint64_t firstSeed, std::uint64_t count, int steps)
     const std::uint64_t seed = range.failedSeed();
     print("FAILED: --seed " + std::to_string(seed) + " --steps " + std::to_string(steps) + " after "
           + std::to_string(seed - firstSeed) + " sequences\n");
-    if (explain(SequenceRange::scriptOf(seed, steps)))
+    if (shrink && explain(SequenceRange::scriptOf(seed, steps)))
         print("It fails only after the seeds from " + std::to_string(firstSeed) + " on.\n");
     return 1;
 }
@@ -85,6 +85,7 @@ int main(int argc, char **argv)
         {QStringLiteral("seed"), QStringLiteral("Run this one only."), QStringLiteral("number")},
         {QStringLiteral("replay"), QStringLiteral("Run the steps of a file."),
          QStringLiteral("file")},
+        {QStringLiteral("no-shrink"), QStringLiteral("Only say which seed fails.")},
         {QStringLiteral("print"), QStringLiteral("Print the steps of this seed."),
          QStringLiteral("number")},
     });
@@ -93,11 +94,12 @@ int main(int argc, char **argv)
         return parser.value(QLatin1String(name)).toULongLong();
     };
     const int steps = static_cast<int>(number("steps"));
+    const bool shrink = !parser.isSet(QStringLiteral("no-shrink"));
     if (parser.isSet(QStringLiteral("replay")))
         return replay(parser.value(QStringLiteral("replay")));
     if (parser.isSet(QStringLiteral("print")))
         return print(textOf(SequenceRange::scriptOf(number("print"), steps))), 0;
     if (parser.isSet(QStringLiteral("seed")))
-        return runRange(number("seed"), 1, steps);
-    return runRange(number("first-seed"), number("sequences"), steps);
+        return runRange(number("seed"), 1, steps, shrink);
+    return runRange(number("first-seed"), number("sequences"), steps, shrink);
 }
