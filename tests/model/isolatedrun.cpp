@@ -2,8 +2,6 @@
 
 #include "isolatedrun.h"
 
-#include "sequence.h"
-
 #include <cstdio>
 #include <cstdlib>
 #include <sys/wait.h>
@@ -13,10 +11,10 @@ namespace {
 
 const unsigned SecondsToHang = 60;
 
-[[noreturn]] void runHere(const Script &script, int output)
+[[noreturn]] void runHere(const Script &script, const Sequence::Meddle &meddle, int output)
 {
     alarm(SecondsToHang);
-    const QByteArray result = Sequence::run(script).toUtf8();
+    const QByteArray result = Sequence::run(script, meddle).toUtf8();
     const bool told =
         write(output, result.constData(), static_cast<std::size_t>(result.size())) == result.size();
     _exit(result.isEmpty() && told ? 0 : 1);
@@ -33,7 +31,7 @@ QByteArray readAll(int input)
 
 } // namespace
 
-QString IsolatedRun::run(const Script &script)
+QString IsolatedRun::run(const Script &script, const Sequence::Meddle &meddle)
 {
     int ends[2];
     std::fflush(nullptr);
@@ -41,7 +39,7 @@ QString IsolatedRun::run(const Script &script)
         std::abort();
     const pid_t child = fork();
     if (child == 0)
-        runHere(script, ends[1]);
+        runHere(script, meddle, ends[1]);
     close(ends[1]);
     const QString result = QString::fromUtf8(readAll(ends[0]));
     close(ends[0]);

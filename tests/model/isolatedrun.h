@@ -3,7 +3,7 @@
 #ifndef ISOLATEDRUN_H
 #define ISOLATEDRUN_H
 
-#include "step.h"
+#include "sequence.h"
 
 #include <QString>
 
@@ -15,7 +15,7 @@ class IsolatedRun
 {
 public:
     // What went wrong; a null string if nothing did.
-    static QString run(const Script &script);
+    static QString run(const Script &script, const Sequence::Meddle &meddle = {});
 };
 
 #endif // ISOLATEDRUN_H

@@ -7,7 +7,7 @@
 #include "managercomparison.h"
 #include "printedwarnings.h"
 
-QString Sequence::run(const Script &script)
+QString Sequence::run(const Script &script, const Meddle &meddle)
 {
     const PrintedWarnings warnings;
     Differences differences;
@@ -20,6 +20,8 @@ QString Sequence::run(const Script &script)
         if (!hostSteps.run(step))
             dialogSteps.run(step);
         stage.updateToolBars();
+        if (meddle && place + 1 == script.size())
+            meddle(stage);
         managerComparison.run();
         dialogSteps.compare();
         if (!differences.lines.isEmpty()) {

@@ -7,6 +7,10 @@
 
 #include <QString>
 
+#include <functional>
+
+class Stage;
+
 /*
  * Runs a script from nothing, the real thing and the models side by side, and compares everything
  * after each step.
@@ -14,8 +18,11 @@
 class Sequence
 {
 public:
-    // What went wrong in which step; a null string if nothing did.
-    static QString run(const Script &script);
+    using Meddle = std::function<void(Stage &)>;
+
+    // What went wrong in which step; a null string if nothing did. A test may meddle with the real
+    // things before they are compared for the last time.
+    static QString run(const Script &script, const Meddle &meddle = {});
 };
 
 #endif // SEQUENCE_H
