@@ -5,15 +5,18 @@
 #include "sequence.h"
 #include "stepgenerator.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
 
 const unsigned SecondsToHang = 60;
+const std::uint64_t SequencesToTell = 1000;
 
 } // namespace
 
@@ -54,15 +57,19 @@ std::uint64_t SequenceRange::failedSeed() const
 
 void SequenceRange::runHere() const
 {
+    // Not without the process that would tell the result.
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
     for (std::uint64_t i = 0; i < m_count; ++i) {
         *m_current = m_firstSeed + i;
         alarm(SecondsToHang);
         const QString wrong = Sequence::run(scriptOf(*m_current, m_steps));
-        if (wrong.isNull())
-            continue;
-        std::puts(qPrintable(wrong));
+        if (!wrong.isNull())
+            std::puts(qPrintable(wrong));
+        else if ((i + 1) % SequencesToTell == 0)
+            std::printf("%llu sequences\n", static_cast<unsigned long long>(i + 1));
         std::fflush(stdout);
-        _exit(1);
+        if (!wrong.isNull())
+            _exit(1);
     }
     _exit(0);
 }
