@@ -9,7 +9,8 @@
 
 namespace {
 
-const unsigned SecondsToHang = 60;
+// Long enough for a process that gets next to no processor.
+const unsigned SecondsToHang = 600;
 
 [[noreturn]] void runHere(const Script &script, const Sequence::Meddle &meddle, int output)
 {

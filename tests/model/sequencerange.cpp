@@ -15,7 +15,8 @@
 
 namespace {
 
-const unsigned SecondsToHang = 60;
+// Long enough for a process that gets next to no processor.
+const unsigned SecondsToHang = 600;
 const std::uint64_t SequencesToTell = 1000;
 
 } // namespace
