@@ -4,6 +4,10 @@
 
 namespace {
 
+// The last of up to nine objects, modulo one more than there are.
+const int Last = 2519;
+const int RemoveButton = 1;
+
 using Weights = std::vector<std::pair<Step::Kind, unsigned>>;
 
 const Weights HostWeights = {
@@ -122,11 +126,27 @@ void StepGenerator::addHostStep()
     if (kind == Step::RestoreMade && below(4))
         numbers[0] = 0;
     addWith(kind, numbers);
+    if (kind == Step::NewToolBar && below(2))
+        addWith(Step::AddDefault, {Last, any()});
+}
+
+// The address of a toolbar that is gone, and of its record, is soon given to others.
+void StepGenerator::addReuseOfAddresses()
+{
+    addWith(Step::Button, {RemoveButton});
+    addWith(Step::Apply, {});
+    addWith(Step::NewToolBar, {any(), any(), any()});
+    addWith(Step::AddDefault, {Last, any()});
+    if (below(2))
+        addWith(Step::Button, {0});
+    addWith(Step::Defaults, {});
 }
 
 void StepGenerator::addDialogStep()
 {
     const Step::Kind kind = m_open ? pick(DialogWeights) : Step::Open;
+    if (m_open && !below(100))
+        return addReuseOfAddresses();
     add(kind);
     // A guess that is right most of the time.
     switch (kind) {

@@ -30,6 +30,7 @@ private:
     void addHost();
     void addHostStep();
     void addDialogStep();
+    void addReuseOfAddresses();
 
     std::uint64_t m_state;
     Kind m_kind;
