@@ -64,32 +64,26 @@ int runRange(std::uint64_t firstSeed, std::uint64_t count, int steps, bool shrin
     return 1;
 }
 
-} // namespace
-
-int main(int argc, char **argv)
+void addOptions(QCommandLineParser &parser)
 {
-    // The same everywhere, and without a display.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_STYLE_OVERRIDE", "fusion");
-    qputenv("LC_ALL", "C.UTF-8");
-    QApplication application(argc, argv);
-    QCommandLineParser parser;
+    const QString number = QStringLiteral("number");
     parser.addHelpOption();
     parser.addOptions({
-        {QStringLiteral("sequences"), QStringLiteral("How many scripts."), QStringLiteral("number"),
+        {QStringLiteral("sequences"), QStringLiteral("How many scripts."), number,
          QStringLiteral("500")},
-        {QStringLiteral("steps"), QStringLiteral("Steps of each."), QStringLiteral("number"),
-         QStringLiteral("200")},
-        {QStringLiteral("first-seed"), QStringLiteral("Seed of the first."),
-         QStringLiteral("number"), QStringLiteral("1")},
-        {QStringLiteral("seed"), QStringLiteral("Run this one only."), QStringLiteral("number")},
+        {QStringLiteral("steps"), QStringLiteral("Steps of each."), number, QStringLiteral("200")},
+        {QStringLiteral("first-seed"), QStringLiteral("Seed of the first."), number,
+         QStringLiteral("1")},
+        {QStringLiteral("seed"), QStringLiteral("Run this one only."), number},
         {QStringLiteral("replay"), QStringLiteral("Run the steps of a file."),
          QStringLiteral("file")},
+        {QStringLiteral("print"), QStringLiteral("Print the steps of this seed."), number},
         {QStringLiteral("no-shrink"), QStringLiteral("Only say which seed fails.")},
-        {QStringLiteral("print"), QStringLiteral("Print the steps of this seed."),
-         QStringLiteral("number")},
     });
-    parser.process(application);
+}
+
+int run(const QCommandLineParser &parser)
+{
     const auto number = [&parser](const char *name) {
         return parser.value(QLatin1String(name)).toULongLong();
     };
@@ -102,4 +96,19 @@ int main(int argc, char **argv)
     if (parser.isSet(QStringLiteral("seed")))
         return runRange(number("seed"), 1, steps, shrink);
     return runRange(number("first-seed"), number("sequences"), steps, shrink);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // The same everywhere, and without a display.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_STYLE_OVERRIDE", "fusion");
+    qputenv("LC_ALL", "C.UTF-8");
+    const QApplication application(argc, argv);
+    QCommandLineParser parser;
+    addOptions(parser);
+    parser.process(application);
+    return run(parser);
 }
