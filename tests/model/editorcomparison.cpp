@@ -58,6 +58,10 @@ void EditorComparison::compareRecords()
     for (const auto &entry : m_model.records)
         owned.insert(entry.first);
     m_differences->compare("owned", owned, setOf(m_fields.ownedRecords));
+    std::map<QToolBar *, ToolBarItem *> recordOfToolBar;
+    for (auto it = m_fields.recordOfToolBar.cbegin(); it != m_fields.recordOfToolBar.cend(); ++it)
+        recordOfToolBar[it.key()] = it.value();
+    m_differences->compare("records of the fill", m_model.recordOfToolBar, recordOfToolBar);
     m_differences->compare("current record", m_model.currentRecord, m_fields.currentRecord);
     if (!m_differences->lines.isEmpty())
         return;

@@ -35,13 +35,13 @@ void EditorModel::reset()
     std::fill(enabled, enabled + ButtonCount, true);
 }
 
-void EditorModel::fill(const std::map<QToolBar *, ToolBarItem *> &recordOfToolBar)
+void EditorModel::fill(const std::map<QToolBar *, ToolBarItem *> &made)
 {
     filled = true;
-    m_recordOfToolBar = recordOfToolBar;
+    recordOfToolBar = made;
     fillTree();
     for (const auto &entry : m_manager->toolBars) {
-        ToolBarItem *const record = m_recordOfToolBar[entry.first];
+        ToolBarItem *const record = recordOfToolBar[entry.first];
         const QString title = m_world->toolBars[entry.first].title;
         records[record] = {entry.first, title};
         working[record] = entry.second.content;
@@ -49,7 +49,7 @@ void EditorModel::fill(const std::map<QToolBar *, ToolBarItem *> &recordOfToolBa
     }
     sortRows();
     if (!m_manager->toolBars.empty())
-        makeCurrent(rowOf(m_recordOfToolBar[m_manager->toolBars.begin()->first]));
+        makeCurrent(rowOf(recordOfToolBar[m_manager->toolBars.begin()->first]));
     setButtons();
 }
 
@@ -83,7 +83,7 @@ void EditorModel::clear()
     rows.clear();
     entries.clear();
     tree.clear();
-    m_recordOfToolBar.clear();
+    recordOfToolBar.clear();
     hasCurrentItem = false;
     currentEntry = -1;
     editing = nullptr;
@@ -132,18 +132,10 @@ void EditorModel::removeToolBar(ToolBarItem *record)
     if (records[record].toolBar)
         removed.insert(record);
     else
-        freeRecord(record);
+        records.erase(record);
     if (wasCurrent)
         makeCurrent(std::min(row, static_cast<int>(rows.size()) - 1));
     setButtons();
-}
-
-void EditorModel::freeRecord(ToolBarItem *record)
-{
-    // A new record may get the same address.
-    for (auto it = m_recordOfToolBar.begin(); it != m_recordOfToolBar.end();)
-        it = it->second == record ? m_recordOfToolBar.erase(it) : std::next(it);
-    records.erase(record);
 }
 
 void EditorModel::renameClicked()
@@ -271,7 +263,7 @@ void EditorModel::applyRemoved()
         QToolBar *const toolBar = records[record].toolBar;
         removed.erase(record);
         working.erase(record);
-        freeRecord(record);
+        records.erase(record);
         m_manager->deleteToolBar(toolBar);
     }
 }
@@ -280,9 +272,13 @@ void EditorModel::restoreDefaults()
 {
     // Toolbars that were registered after the page was filled have no record and are left out.
     for (const auto &entry : m_manager->toolBars) {
-        const auto record = m_recordOfToolBar.find(entry.first);
-        if (entry.second.isDefault && record != m_recordOfToolBar.end())
-            working[record->second] = entry.second.defaultContent;
+        const auto found = recordOfToolBar.find(entry.first);
+        if (!entry.second.isDefault || found == recordOfToolBar.end())
+            continue;
+        // The record may be gone, and its address that of another one.
+        const auto record = records.find(found->second);
+        if (record != records.end() && record->second.toolBar == entry.first)
+            working[record->first] = entry.second.defaultContent;
     }
     showCurrent();
     const auto copy = working;

@@ -59,7 +59,7 @@ public:
     EditorModel(WorldModel *world, ManagerModel *manager);
 
     // The page is shown; a record for each managed toolbar.
-    void fill(const std::map<QToolBar *, ToolBarItem *> &records);
+    void fill(const std::map<QToolBar *, ToolBarItem *> &made);
     // The page is hidden.
     void clear();
     // A new page.
@@ -92,6 +92,8 @@ public:
     void cancelEditing();
 
     bool filled = false;
+    // The records of the fill, some of them freed meanwhile.
+    std::map<QToolBar *, ToolBarItem *> recordOfToolBar;
     std::map<ToolBarItem *, Record> records;
     std::map<ToolBarItem *, Content> working;
     std::set<ToolBarItem *> created;
@@ -122,11 +124,9 @@ private:
     void moveEntry(int distance);
     void applyExisting();
     void applyRemoved();
-    void freeRecord(ToolBarItem *record);
 
     WorldModel *m_world;
     ManagerModel *m_manager;
-    std::map<QToolBar *, ToolBarItem *> m_recordOfToolBar;
     std::vector<ToolBarItem *> m_rowOrder;
     std::vector<QAction *> m_itemOrder;
 };

@@ -134,6 +134,7 @@ void ManagerComparison::compareWorld()
         return;
     for (const auto &entry : world.toolBars)
         compareWidget(entry.first, entry.second);
+    compareDeletedSeparators();
 }
 
 void ManagerComparison::compareWidget(QToolBar *toolBar, const WorldModel::ToolBar &expected)
@@ -166,6 +167,16 @@ void ManagerComparison::compareStanding(QToolBar *toolBar, const WorldModel::Too
             continue;
         QAction *const separator = found.at(static_cast<int>(place));
         const auto known = m_separators.emplace(number, separator).first;
-        m_differences->compare("separator", known->second, separator);
+        m_differences->compare("separator", known->second.data(), separator);
     }
+}
+
+void ManagerComparison::compareDeletedSeparators()
+{
+    for (int number : m_stage->world.deletedSeparators) {
+        m_differences->compare("deleted separator", static_cast<QAction *>(nullptr),
+                               m_separators[number].data());
+        m_separators.erase(number);
+    }
+    m_stage->world.deletedSeparators.clear();
 }

@@ -6,6 +6,8 @@
 #include "differences.h"
 #include "stage.h"
 
+#include <QPointer>
+
 /*
  * Compares everything that a manager and the host's objects tell with the models.
  */
@@ -24,13 +26,14 @@ private:
     void compareWorld();
     void compareWidget(QToolBar *toolBar, const WorldModel::ToolBar &expected);
     void compareStanding(QToolBar *toolBar, const WorldModel::ToolBar &expected);
+    void compareDeletedSeparators();
     void compareContent(const char *what, const Content &expected, const QList<QAction *> &found);
 
     Stage *m_stage;
     Differences *m_differences;
 
     // The separator actions that the model numbers.
-    std::map<int, QAction *> m_separators;
+    std::map<int, QPointer<QAction>> m_separators;
 };
 
 #endif // MANAGERCOMPARISON_H

@@ -151,8 +151,10 @@ void ManagerModel::setToolBar(QToolBar *toolBar, const Content &request)
         return;
     ToolBar &managed = toolBars[toolBar];
     managed.content = placeable(request);
-    for (const WorldModel::Standing &standing : managed.placed)
+    for (const WorldModel::Standing &standing : managed.placed) {
         m_world->take(toolBar, standing);
+        m_world->deleteSeparator(standing);
+    }
     managed.placed.clear();
     for (QAction *action : managed.content)
         managed.placed.push_back(m_world->append(toolBar, action));

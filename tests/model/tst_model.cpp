@@ -151,6 +151,11 @@ void tst_Model::addFaultsOfObjects()
         stage.toolBars[0]->removeAction(stage.toolBars[0]->actions().at(0));
     });
     addFault("separator:", [](Stage &stage) { replaceSeparator(stage.toolBars[0]); });
+    addFault("deleted separator", [](Stage &stage) {
+        // What the model was not told, it believes to be gone.
+        stage.world.deletedSeparators.push_back(
+            stage.world.toolBars[stage.toolBars[0]].standing[1].separator);
+    });
     addFault("windowTitle",
              [](Stage &stage) { stage.toolBars[2]->setWindowTitle(QStringLiteral("x")); });
     addFault("objectName:",

@@ -44,3 +44,9 @@ void WorldModel::take(QToolBar *toolBar, const Standing &standing)
 {
     removeAll(toolBars[toolBar].standing, standing);
 }
+
+void WorldModel::deleteSeparator(const Standing &standing)
+{
+    if (!standing.action)
+        deletedSeparators.push_back(standing.separator);
+}

@@ -50,12 +50,16 @@ public:
     // As the widget has it: an action that stands there already moves to the end.
     Standing append(QToolBar *toolBar, QAction *action);
     void take(QToolBar *toolBar, const Standing &standing);
+    void deleteSeparator(const Standing &standing);
 
     std::map<QAction *, Action> actions;
     std::map<QToolBar *, ToolBar> toolBars;
 
     // The toolbars of each window in the order of creation.
     std::map<QMainWindow *, std::vector<QToolBar *>> windows;
+
+    // The separators that are gone since this was last emptied.
+    std::vector<int> deletedSeparators;
 
 private:
     int m_separators = 0;
