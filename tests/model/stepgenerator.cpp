@@ -7,6 +7,7 @@ namespace {
 // The last of up to nine objects, modulo one more than there are.
 const int Last = 2519;
 const int RemoveButton = 1;
+const int RenameButton = 2;
 
 using Weights = std::vector<std::pair<Step::Kind, unsigned>>;
 
@@ -20,6 +21,18 @@ const Weights HostWeights = {
     {Step::Delete, 4},      {Step::Set, 16},          {Step::SetTwo, 3},
     {Step::Reset, 4},       {Step::ResetAll, 3},      {Step::Save, 5},
     {Step::Restore, 7},     {Step::RestoreMade, 4},   {Step::Find, 4},
+};
+
+// What makes the manager differ from what an open editor was filled with.
+const Weights OpenHostWeights = {
+    {Step::MainWindow, 3},  {Step::NewAction, 1},    {Step::NameAction, 1},
+    {Step::TextAction, 4},  {Step::NewToolBar, 3},   {Step::DropToolBar, 2},
+    {Step::NameToolBar, 3}, {Step::TitleToolBar, 5}, {Step::Stand, 3},
+    {Step::Unstand, 3},     {Step::AddAction, 4},    {Step::RemoveAction, 5},
+    {Step::AddCategory, 1}, {Step::AddDefault, 5},   {Step::RemoveDefault, 9},
+    {Step::Create, 3},      {Step::Delete, 2},       {Step::Set, 6},
+    {Step::Reset, 2},       {Step::ResetAll, 1},     {Step::Save, 2},
+    {Step::Restore, 4},     {Step::RestoreMade, 3},  {Step::Find, 1},
 };
 
 const Weights DialogWeights = {
@@ -113,7 +126,7 @@ void StepGenerator::addHost()
 
 void StepGenerator::addHostStep()
 {
-    const Step::Kind kind = pick(HostWeights);
+    const Step::Kind kind = pick(m_open ? OpenHostWeights : HostWeights);
     std::vector<int> numbers{any(), any(), any()};
     const bool takesMany = kind == Step::Set || kind == Step::SetTwo || kind == Step::NewToolBar;
     const std::vector<int> more = anyNumbers(kind == Step::RestoreMade ? 25 : takesMany ? 5 : 0);
@@ -142,11 +155,23 @@ void StepGenerator::addReuseOfAddresses()
     addWith(Step::Defaults, {});
 }
 
+void StepGenerator::addRename()
+{
+    addWith(Step::Row, {any()});
+    addWith(Step::Button, {RenameButton});
+    addWith(Step::Type, {any()});
+    if (below(3))
+        addWith(Step::Return, {});
+    if (below(2))
+        addWith(Step::Apply, {});
+}
+
 void StepGenerator::addDialogStep()
 {
     const Step::Kind kind = m_open ? pick(DialogWeights) : Step::Open;
-    if (m_open && !below(100))
-        return addReuseOfAddresses();
+    const unsigned chance = below(100);
+    if (m_open && chance < 4)
+        return chance == 0 ? addReuseOfAddresses() : addRename();
     add(kind);
     // A guess that is right most of the time.
     switch (kind) {

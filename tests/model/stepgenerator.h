@@ -31,6 +31,7 @@ private:
     void addHostStep();
     void addDialogStep();
     void addReuseOfAddresses();
+    void addRename();
 
     std::uint64_t m_state;
     Kind m_kind;
