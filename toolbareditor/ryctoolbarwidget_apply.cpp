@@ -5,7 +5,18 @@
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
 
+#include <QApplication>
 #include <QToolBar>
+
+namespace {
+
+// The host may have deleted the toolbar meanwhile, so that it is only compared.
+bool isAlive(QToolBar *toolBar)
+{
+    return QApplication::allWidgets().contains(toolBar);
+}
+
+} // namespace
 
 void RyCToolBarWidget::applyClicked()
 {
@@ -22,8 +33,8 @@ void RyCToolBarWidget::applyExistingToolBars()
         if (!toolBar)
             continue;
         m_manager->setToolBar(toolBar, it.value());
-        // The host may have deleted the toolbar meanwhile, which only the manager knows.
-        if (m_manager->toolBarsActions().contains(toolBar))
+        // One that the manager has forgotten meanwhile gets its title all the same.
+        if (m_manager->toolBarsActions().contains(toolBar) || isAlive(toolBar))
             toolBar->setWindowTitle(it.key()->toolBarName());
     }
 }

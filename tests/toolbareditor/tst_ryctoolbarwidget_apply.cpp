@@ -154,6 +154,7 @@ private Q_SLOTS:
     void anActionThatTheHostTookAwayIsLeftOut();
     void aToolBarThatTheHostDeletedIsLeftAlone();
     void aRemovedToolBarThatTheHostDeletedIsLeftAlone();
+    void aToolBarThatTheManagerForgotStillGetsItsTitle();
     void applyKeepsTheRecordsOfTheFill();
 
     void restoreDefaultsChangesTheWorkingCopyOnly();
@@ -558,6 +559,23 @@ void tst_RyCToolBarWidget_Apply::aRemovedToolBarThatTheHostDeletedIsLeftAlone()
     QCOMPARE(toolBarsOf(host.manager),
              QStringList({QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")}));
     QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Apply::aToolBarThatTheManagerForgotStillGetsItsTitle()
+{
+    FilledHost host;
+    QToolBar *const forgotten = toolBarTitled(host.manager, QStringLiteral("Mine"));
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.views.click(editor.views.renameButton);
+    editor.views.typeName(QStringLiteral("Yours"));
+    host.manager.removeDefaultToolBar(forgotten);
+    editor.widget.applyClicked();
+    QCOMPARE(forgotten->windowTitle(), QStringLiteral("Yours"));
+    // Its content is the host's alone.
+    QCOMPARE(standingOn(forgotten), QStringList());
+    QCOMPARE(toolBarsOf(host.manager),
+             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")}));
 }
 
 void tst_RyCToolBarWidget_Apply::applyKeepsTheRecordsOfTheFill()

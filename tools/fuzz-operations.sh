@@ -1,0 +1,61 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Builds the library optimized and runs random operations on it, side by side with a model of what
+# it must do.
+#
+# usage: fuzz-operations.sh [SEQUENCES [JOBS [FIRST_SEED]]]
+#
+# Each sequence has 200 steps. Without a seed other ones are taken each time. A failure prints its
+# seed and the shortest script of steps that shows it.
+#
+# shellcheck disable=SC2317 # steps are functions
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+. tools/steps.sh
+
+sequences=${1:-100000}
+jobs=${2:-$(nproc)}
+first_seed=${3:-$(date +%s)000000}
+steps=200
+program=build/release/tests/model/operations
+logs=build/fuzz-operations
+
+# run_job NUMBER: its share of the sequences, which for the last job is what the division leaves.
+run_job() {
+    local share=$((sequences / jobs)) first=$((first_seed + $1 * (sequences / jobs)))
+    [ "$1" -lt $((jobs - 1)) ] || share=$((sequences - share * (jobs - 1)))
+    nice "$program" --sequences "$share" --steps "$steps" --first-seed "$first" \
+        >"$logs/job$1.log" 2>&1
+}
+
+run_jobs() {
+    local job pids=() status=0
+    rm -rf "$logs" && mkdir -p "$logs" || return
+    for ((job = 0; job < jobs; ++job)); do
+        run_job "$job" &
+        pids+=($!)
+    done
+    for job in "${pids[@]}"; do
+        wait "$job" || status=1
+    done
+    tail -n +1 "$logs"/job*.log
+    return "$status"
+}
+
+# show_sum: what all jobs did together.
+show_sum() {
+    awk '/^passed: / { passed += $2 }
+         /^FAILED: --seed / { failed += 1; passed += $(NF - 1) }
+         END { printf "%d sequences of %d steps passed, %d failed\n", passed, steps, failed }' \
+        steps="$steps" "$logs"/job*.log
+    echo "$jobs jobs, seeds from $first_seed on, $SECONDS s in all"
+}
+
+start_log build/fuzz-operations.log
+step 'Packages' tools/install-packages.sh tools/packages-test.txt
+step 'Configure' cmake --preset release
+step 'Build' cmake --build --preset release --target operations --parallel "$jobs"
+try 'Run' run_jobs
+try 'Sum' show_sum
+finish 'no operation differed from the model'
