@@ -425,5 +425,5 @@ void DialogSteps::compare()
     m_differences->compare("visible dialog", int(m_visible), int(m_real->dialog.isVisible()));
     m_differences->compare("tab", m_tab, m_real->tabs->currentIndex());
     m_differences->compare("result()", m_result, m_real->dialog.result());
-    EditorComparison(m_model, m_stage->world, *m_real, m_differences).run();
+    EditorComparison(m_model, *m_real, m_differences).run();
 }

@@ -26,10 +26,9 @@ std::map<ToolBarItem *, Content> mapOf(const QMap<ToolBarItem *, QList<QAction *
 
 } // namespace
 
-EditorComparison::EditorComparison(const EditorModel &model, const WorldModel &world,
-                                   const RealDialog &real, Differences *differences)
+EditorComparison::EditorComparison(const EditorModel &model, const RealDialog &real,
+                                   Differences *differences)
     : m_model(model)
-    , m_world(world)
     , m_real(real)
     , m_fields(real.fields())
     , m_differences(differences)

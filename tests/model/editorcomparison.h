@@ -13,8 +13,7 @@
 class EditorComparison
 {
 public:
-    EditorComparison(const EditorModel &model, const WorldModel &world, const RealDialog &real,
-                     Differences *differences);
+    EditorComparison(const EditorModel &model, const RealDialog &real, Differences *differences);
 
     void run();
 
@@ -31,7 +30,6 @@ private:
     void compareEditing();
 
     const EditorModel &m_model;
-    const WorldModel &m_world;
     const RealDialog &m_real;
     const EditorFields m_fields;
     Differences *m_differences;
