@@ -22,9 +22,9 @@ public:
     // An item of the action tree: a category, or an action or (null) the separator entry.
     struct Item
     {
-        bool isCategory;
+        bool isCategory = false;
         QString text; // of a category its name; it names the category
-        QAction *action;
+        QAction *action = nullptr;
     };
 
     struct Category
