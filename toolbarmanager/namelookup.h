@@ -86,11 +86,12 @@ public:
     {
         if (Object *const object = m_byObjectName.value(name))
             return object;
+        // Before the warning, whose handler may be the host's and delete objects.
+        Object *const object = byStandInName().value(name);
         warnAboutObjectName<Object>(name);
-        if (Object *const object = byStandInName().value(name))
-            return object;
-        warnAboutStandInName<Object>(name);
-        return nullptr;
+        if (!object)
+            warnAboutStandInName<Object>(name);
+        return object;
     }
 
 private:
@@ -113,7 +114,7 @@ private:
         return m_byStandInName;
     }
 
-    const QList<Object *> m_objects;
+    QList<Object *> m_objects;
     Index m_byObjectName;
     Index m_byStandInName;
 };

@@ -3,6 +3,7 @@
 #include "rytoolbarmanager.h"
 
 #include "namelookup.h"
+#include "registrychanges.h"
 
 RyToolBarManager::RyToolBarManager(QObject *parent)
     : m_mainWindow(nullptr)
@@ -30,23 +31,40 @@ void RyToolBarManager::addAction(QAction *action, const QString &category)
     m_allActions.insert(action);
     m_categoryToActions[category].append(action);
     m_actionToCategory.insert(action, category);
+    ++RegistryChanges::ofActions;
 }
 
 void RyToolBarManager::removeAction(QAction *action)
 {
     if (!m_allActions.contains(action))
         return;
-    const auto toolBars = m_actionToToolBars.value(action);
-    for (QToolBar *toolBar : toolBars) {
-        m_toolBars[toolBar].removeAll(action);
-        m_toolBarsWithSeparators[toolBar].removeAll(action);
-        toolBar->removeAction(action);
-    }
+    // Guarded only if it is used: an action that stands nowhere may be gone already.
+    const bool stands = !m_actionToToolBars.value(action).isEmpty();
+    const QPointer<QAction> alive(stands ? action : nullptr);
+    takeOffToolBars(action, alive);
     for (auto it = m_defaultToolBars.begin(); it != m_defaultToolBars.end(); ++it)
         it.value().removeAll(action);
-    m_allActions.remove(action);
-    m_actionToToolBars.remove(action);
+    if (!m_allActions.remove(action))
+        return;
+    ++RegistryChanges::ofActions;
+    // The host may have placed it anew meanwhile; from now on it cannot.
+    takeOffToolBars(action, alive);
     forgetCategory(action);
+}
+
+void RyToolBarManager::takeOffToolBars(QAction *action, const QPointer<QAction> &alive)
+{
+    const auto toolBars = m_actionToToolBars.take(action);
+    for (QToolBar *toolBar : toolBars) {
+        const auto content = m_toolBars.find(toolBar);
+        // The host may have deleted the toolbar when the action was taken off another one.
+        if (content == m_toolBars.end())
+            continue;
+        content.value().removeAll(action);
+        m_toolBarsWithSeparators[toolBar].removeAll(action);
+        if (alive)
+            toolBar->removeAction(action);
+    }
 }
 
 // The category goes with its last action, even one that addCategory() created.

@@ -8,11 +8,13 @@
 #include <QAction>
 #include <QList>
 #include <QMap>
+#include <QPointer>
 #include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QToolBar>
 
+class ContentChange;
 class QByteArray;
 class QDataStream;
 class QMainWindow;
@@ -52,6 +54,14 @@ class QMainWindow;
  * the destruction of anything: take an action out with removeAction() before you delete it, and
  * keep default toolbars alive as long as the manager is used. The host deletes the manager;
  * custom toolbars stay in the main window then.
+ *
+ * \par Calls of the host meanwhile
+ * Every change of a toolbar or window makes Qt call event filters and slots of the host. They may
+ * call any operation of the manager in turn: toolbars and actions that are removed then are left
+ * alone from then on, and records and widgets agree in the end. They must not delete the manager,
+ * nor a managed toolbar otherwise than with deleteToolBar(), nor, as Qt asks, the action of the
+ * event that they filter; and a filter that deletes the toolbar that it filters returns true. A
+ * message handler that the warnings of saveState() reach must not change the manager.
  *
  * \par Arguments
  * Null, unknown and repeated arguments are ignored without a message. Only restoring, saving,
@@ -208,12 +218,16 @@ public:
      *
      * \param toolBarName the window title; it may be empty and need not be unique.
      * \return the toolbar, owned by the main window and managed until deleteToolBar() or
-     *         removeDefaultToolBar(); null, and nothing created, if no main window is set.
+     *         removeDefaultToolBar(); null, and nothing created, if no main window is set. Null as well if
+     *         the host deletes the toolbar when it hears of it.
      */
     QToolBar *createToolBar(const QString &toolBarName);
 
     /*!
      * \brief Takes everything off a custom toolbar and deletes the widget.
+     *
+     * Lists that the host sets for the toolbar meanwhile
+     * are ignored.
      *
      * \param toolBar a custom toolbar; the pointer dangles afterwards. Null, unmanaged and default
      *        toolbars are ignored.
@@ -227,9 +241,11 @@ public:
      * off the widget, its separator actions are deleted, and the new content is appended, each
      * separator entry as a fresh separator action. An action may stand on several toolbars.
      *
-     * Adding and removing actions makes Qt call event filters and slots of the host. They may query
-     * the manager, which still reports the old content; what happens when they change the same
-     * toolbar is not defined.
+     * Adding and removing actions makes Qt call event filters and slots of the host, which may call
+     * the manager; it still reports the old content then. A list that is set for the same toolbar
+     * from there counts instead of this one, but is placed only when they have returned: of several
+     * the last one, and at most a hundred times, so that a host that always wants another list comes
+     * to an end.
      *
      * \param toolBar a managed toolbar, default or custom; null and unmanaged ones are ignored.
      * \param actions the new content, with null for a separator. Every separator is kept, adjacent
@@ -310,7 +326,8 @@ public:
      * Custom toolbars that do not exist are created if a main window is set and are skipped
      * otherwise. Toolbars that the bytes do not name keep their content, and none is deleted. Names
      * that nothing bears are skipped with the warnings of findAction() and findDefaultToolBar().
-     * Names are read once, when restoring begins.
+     * Names are read when restoring begins, and anew after the host has registered or removed actions
+     * or toolbars meanwhile.
      *
      * Damaged bytes are survived, whatever they hold. What lies past their end reads as empty names
      * and zero counts, for at most 1,000 entries of one toolbar and 1,000 toolbars of one section.
@@ -374,10 +391,16 @@ private:
 
     void forgetCategory(QAction *action);
     QList<QAction *> placeableActions(const QList<QAction *> &actions) const;
-    void takeContent(QToolBar *toolBar);
+    void takeOffToolBars(QAction *action, const QPointer<QAction> &alive);
+    void takeContent(ContentChange &change);
     void deleteSeparator(QAction *separator);
-    QList<QAction *> placeContent(QToolBar *toolBar, const QList<QAction *> &actions);
-    QToolBar *addCustomToolBar(const QString &title, const QString &objectName);
+    void placeContent(const ContentChange &change);
+    void placeAction(const ContentChange &change, QAction *action);
+    void placeSeparator(const ContentChange &change);
+    bool isRecorded(QToolBar *toolBar, QAction *action) const;
+    QList<QAction *> placedContent(QToolBar *toolBar) const;
+    QToolBar *addCustomToolBar(QToolBar *toolBar, const QString &objectName);
+    QToolBar *forgetToolBar(QToolBar *toolBar);
 
     // Each category with its actions in the order of registration.
     QMap<QString, QList<QAction *>> m_categoryToActions;

@@ -2,8 +2,10 @@
 
 #include "rytoolbarmanager.h"
 
+#include "contentchange.h"
 #include "customtoolbarnumbers.h"
 #include "namelookup.h"
+#include "registrychanges.h"
 
 #include <QMainWindow>
 
@@ -24,46 +26,63 @@ void RyToolBarManager::addDefaultToolBar(QToolBar *toolBar, const QString &categ
     m_defaultToolBars.insert(toolBar, content);
     m_toolBars.insert(toolBar, content);
     m_toolBarsWithSeparators.insert(toolBar, standing);
+    ++RegistryChanges::ofToolBars;
 }
 
 void RyToolBarManager::removeDefaultToolBar(QToolBar *toolBar)
 {
     // The inverted test is meant: a default toolbar stays one for the manager's life.
-    if (m_defaultToolBars.contains(toolBar))
-        return;
-    setToolBar(toolBar, QList<QAction *>());
-    m_toolBars.remove(toolBar);
-    m_toolBarsWithSeparators.remove(toolBar);
+    if (m_toolBars.contains(toolBar) && !m_defaultToolBars.contains(toolBar))
+        forgetToolBar(toolBar);
 }
 
 QToolBar *RyToolBarManager::createToolBar(const QString &toolBarName)
 {
     if (!m_mainWindow)
         return nullptr;
+    // Before its number is chosen: the window hears of its new child and may create another one.
+    QToolBar *const toolBar = new QToolBar(toolBarName, m_mainWindow);
     CustomToolBarNumbers numbers;
     for (auto it = m_toolBars.cbegin(); it != m_toolBars.cend(); ++it)
         numbers.addName(it.key()->objectName());
-    return addCustomToolBar(toolBarName, numbers.firstFreeName());
+    return addCustomToolBar(toolBar, numbers.firstFreeName());
 }
 
-QToolBar *RyToolBarManager::addCustomToolBar(const QString &title, const QString &objectName)
+// The toolbar is new and a child of its window. It is recorded first, so that its number is taken
+// when the host is called. Null if the host deletes it then.
+QToolBar *RyToolBarManager::addCustomToolBar(QToolBar *toolBar, const QString &objectName)
 {
-    QToolBar *const toolBar = new QToolBar(title, m_mainWindow);
+    const QPointer<QToolBar> added(toolBar);
+    if (!m_toolBars.contains(toolBar)) {
+        m_toolBars.insert(toolBar, QList<QAction *>());
+        m_toolBarsWithSeparators.insert(toolBar, QList<QAction *>());
+        ++RegistryChanges::ofToolBars;
+    }
     toolBar->setObjectName(objectName);
-    m_mainWindow->addToolBar(toolBar);
-    m_toolBars.insert(toolBar, QList<QAction *>());
-    m_toolBarsWithSeparators.insert(toolBar, QList<QAction *>());
-    return toolBar;
+    QMainWindow *const window = added ? qobject_cast<QMainWindow *>(added->parent()) : nullptr;
+    if (window)
+        window->addToolBar(added);
+    return added;
 }
 
 void RyToolBarManager::deleteToolBar(QToolBar *toolBar)
 {
-    if (!m_toolBars.contains(toolBar) || m_defaultToolBars.contains(toolBar))
-        return;
-    setToolBar(toolBar, QList<QAction *>());
+    if (m_toolBars.contains(toolBar) && !m_defaultToolBars.contains(toolBar))
+        delete forgetToolBar(toolBar);
+}
+
+// Empties a custom toolbar and returns it; null if the host made the manager forget it meanwhile.
+QToolBar *RyToolBarManager::forgetToolBar(QToolBar *toolBar)
+{
+    ContentChange change(this, toolBar);
+    takeContent(change);
+    if (change.isCancelled())
+        return nullptr;
     m_toolBars.remove(toolBar);
     m_toolBarsWithSeparators.remove(toolBar);
-    delete toolBar;
+    ++RegistryChanges::ofToolBars;
+    ContentChange::cancel(this, toolBar);
+    return toolBar;
 }
 
 void RyToolBarManager::setToolBar(QToolBar *toolBar, const QList<QAction *> &actions)
@@ -72,10 +91,17 @@ void RyToolBarManager::setToolBar(QToolBar *toolBar, const QList<QAction *> &act
     if (current == m_toolBars.constEnd() || current.value() == actions)
         return;
     const QList<QAction *> content = placeableActions(actions);
-    takeContent(toolBar);
-    const QList<QAction *> standing = placeContent(toolBar, content);
-    m_toolBars.insert(toolBar, content);
-    m_toolBarsWithSeparators.insert(toolBar, standing);
+    if (ContentChange *const running = ContentChange::running(this, toolBar)) {
+        running->replaceContent(content);
+        return;
+    }
+    ContentChange change(this, toolBar, content);
+    do {
+        takeContent(change);
+        placeContent(change);
+    } while (change.startAgain());
+    if (!change.isCancelled())
+        m_toolBars.insert(toolBar, placedContent(toolBar));
 }
 
 QList<QAction *> RyToolBarManager::placeableActions(const QList<QAction *> &actions) const
@@ -92,50 +118,96 @@ QList<QAction *> RyToolBarManager::placeableActions(const QList<QAction *> &acti
     return placeable;
 }
 
-void RyToolBarManager::takeContent(QToolBar *toolBar)
+// Each action leaves the records before the widget, so that a host that is called finds no record
+// of what no longer stands there.
+void RyToolBarManager::takeContent(ContentChange &change)
 {
-    const auto standing = m_toolBarsWithSeparators.value(toolBar);
-    for (QAction *action : standing) {
-        toolBar->removeAction(action);
+    while (!change.isInterrupted()) {
+        QList<QAction *> &standing = m_toolBarsWithSeparators[change.toolBar()];
+        if (standing.isEmpty())
+            return;
+        const QPointer<QAction> action(standing.takeFirst());
+        const auto toolBars = m_actionToToolBars.find(action);
+        if (toolBars != m_actionToToolBars.end())
+            toolBars.value().removeAll(change.toolBar());
+        change.takeOff(action);
         // A registered action that became a separator later is still the host's.
-        if (action->isSeparator() && !m_allActions.contains(action))
+        if (action && action->isSeparator() && !m_allActions.contains(action))
             deleteSeparator(action);
-        else
-            m_actionToToolBars[action].removeAll(toolBar);
     }
 }
 
 // A separator action of the host may stand on several default toolbars; the last one deletes it.
 void RyToolBarManager::deleteSeparator(QAction *separator)
 {
+    if (ContentChange::isTakingOff(separator))
+        return;
     const auto widgets = separator->associatedWidgets();
     for (QWidget *widget : widgets) {
-        const auto recorded = m_toolBarsWithSeparators.value(qobject_cast<QToolBar *>(widget));
-        if (recorded.contains(separator))
+        if (isRecorded(qobject_cast<QToolBar *>(widget), separator))
             return;
     }
     delete separator;
 }
 
-QList<QAction *> RyToolBarManager::placeContent(QToolBar *toolBar, const QList<QAction *> &actions)
+void RyToolBarManager::placeContent(const ContentChange &change)
 {
-    QList<QAction *> standing;
-    standing.reserve(actions.size());
-    for (QAction *action : actions) {
-        if (action) {
-            toolBar->insertAction(nullptr, action);
-            m_actionToToolBars[action].append(toolBar);
-            standing.append(action);
-        } else {
-            standing.append(toolBar->insertSeparator(nullptr));
-        }
+    const QList<QAction *> content = change.content();
+    for (QAction *action : content) {
+        if (change.isInterrupted())
+            return;
+        if (!action)
+            placeSeparator(change);
+        else if (m_allActions.contains(action))
+            placeAction(change, action);
     }
-    return standing;
+}
+
+// Recorded only afterwards: what is taken off while Qt puts it on would leave its button behind.
+void RyToolBarManager::placeAction(const ContentChange &change, QAction *action)
+{
+    const QPointer<QAction> placed(action);
+    change.toolBar()->insertAction(nullptr, action);
+    if (!placed)
+        return;
+    if (!change.isCancelled() && m_allActions.contains(action)) {
+        m_actionToToolBars[action].append(change.toolBar());
+        m_toolBarsWithSeparators[change.toolBar()].append(action);
+    } else if (change.toolBar() && !isRecorded(change.toolBar(), action)) {
+        change.toolBar()->removeAction(action);
+    }
+}
+
+void RyToolBarManager::placeSeparator(const ContentChange &change)
+{
+    QAction *const separator = change.toolBar()->insertSeparator(nullptr);
+    // It goes with a toolbar that is gone.
+    if (!change.isCancelled())
+        m_toolBarsWithSeparators[change.toolBar()].append(separator);
+    else if (change.toolBar() && !isRecorded(change.toolBar(), separator))
+        delete separator;
+}
+
+bool RyToolBarManager::isRecorded(QToolBar *toolBar, QAction *action) const
+{
+    return m_toolBarsWithSeparators.value(toolBar).contains(action);
+}
+
+// What setToolBar() has placed: registered actions, and separators that it made.
+QList<QAction *> RyToolBarManager::placedContent(QToolBar *toolBar) const
+{
+    QList<QAction *> content = m_toolBarsWithSeparators.value(toolBar);
+    for (QAction *&entry : content) {
+        if (!m_allActions.contains(entry))
+            entry = nullptr;
+    }
+    return content;
 }
 
 void RyToolBarManager::setToolBars(const QMap<QToolBar *, QList<QAction *>> &toolBars)
 {
-    for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it)
+    const auto copy = toolBars;
+    for (auto it = copy.cbegin(); it != copy.cend(); ++it)
         setToolBar(it.key(), it.value());
 }
 

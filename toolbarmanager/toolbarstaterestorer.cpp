@@ -3,16 +3,22 @@
 #include "toolbarstaterestorer.h"
 
 #include "countedentries.h"
+#include "registrychanges.h"
 #include "rytoolbarmanager.h"
 #include "toolbarstateformat.h"
 
 #include <QDataStream>
+#include <QMainWindow>
+#include <QPointer>
+#include <QScopedPointer>
 
 ToolBarStateRestorer::ToolBarStateRestorer(RyToolBarManager *manager, QDataStream &stream)
     : m_manager(manager)
     , m_stream(stream)
     , m_actions(manager->actions().values())
     , m_defaultToolBars(manager->defaultToolBars().keys())
+    , m_changesOfActions(RegistryChanges::ofActions)
+    , m_changesOfToolBars(RegistryChanges::ofToolBars)
 {
 }
 
@@ -46,6 +52,7 @@ void ToolBarStateRestorer::restoreDefaultToolBar()
 {
     const QString name = readString();
     const QList<QAction *> content = readContent();
+    updateToolBars();
     if (QToolBar *const toolBar = m_defaultToolBars.find(name))
         m_manager->setToolBar(toolBar, content);
 }
@@ -63,11 +70,12 @@ void ToolBarStateRestorer::restoreCustomToolBar()
     const QString objectName = readString();
     const QString title = readString();
     const QList<QAction *> content = readContent();
-    QToolBar *const toolBar = titledToolBar(objectName, title);
-    if (!toolBar)
-        return;
-    toolBar->setObjectName(objectName);
-    m_manager->setToolBar(toolBar, content);
+    // Guarded, because its title and its name may call the host.
+    const QPointer<QToolBar> toolBar(titledToolBar(objectName, title));
+    if (toolBar)
+        toolBar->setObjectName(objectName);
+    if (toolBar)
+        m_manager->setToolBar(toolBar, content);
 }
 
 QList<QAction *> ToolBarStateRestorer::readContent()
@@ -76,6 +84,7 @@ QList<QAction *> ToolBarStateRestorer::readContent()
     CountedEntries entries(m_stream, readCount());
     while (entries.next()) {
         const QString name = readString();
+        updateActions();
         if (name.isEmpty())
             content.append(nullptr);
         else if (QAction *const action = m_actions.find(name))
@@ -98,8 +107,29 @@ qint32 ToolBarStateRestorer::readCount()
     return count;
 }
 
+// An action that the host removed meanwhile may be gone.
+void ToolBarStateRestorer::updateActions()
+{
+    if (m_changesOfActions == RegistryChanges::ofActions)
+        return;
+    m_changesOfActions = RegistryChanges::ofActions;
+    m_actions = NameIndex<QAction>(m_manager->actions().values());
+}
+
+// So may a toolbar that the host deleted.
+void ToolBarStateRestorer::updateToolBars()
+{
+    if (m_changesOfToolBars == RegistryChanges::ofToolBars)
+        return;
+    m_changesOfToolBars = RegistryChanges::ofToolBars;
+    m_defaultToolBars = NameIndex<QToolBar>(m_manager->defaultToolBars().keys());
+    indexToolBars();
+}
+
 void ToolBarStateRestorer::indexToolBars()
 {
+    m_toolBars.clear();
+    m_numbers = CustomToolBarNumbers();
     const auto toolBars = m_manager->toolBars();
     for (QToolBar *toolBar : toolBars) {
         const QString objectName = toolBar->objectName();
@@ -113,14 +143,25 @@ void ToolBarStateRestorer::indexToolBars()
 // there is none; null if that takes a main window and there is none.
 QToolBar *ToolBarStateRestorer::titledToolBar(const QString &objectName, const QString &title)
 {
-    if (QToolBar *const toolBar = m_toolBars.value(objectName)) {
+    updateToolBars();
+    if (const QPointer<QToolBar> toolBar = m_toolBars.value(objectName)) {
         toolBar->setWindowTitle(title);
         return toolBar;
     }
-    if (!m_manager->mainWindow())
-        return nullptr;
-    QToolBar *const toolBar = m_manager->addCustomToolBar(title, m_numbers.firstFreeName());
-    m_toolBars.insert(objectName, toolBar);
+    return m_manager->mainWindow() ? createdToolBar(objectName, title) : nullptr;
+}
+
+QToolBar *ToolBarStateRestorer::createdToolBar(const QString &objectName, const QString &title)
+{
+    QScopedPointer<QToolBar> toolBar(new QToolBar(title, m_manager->mainWindow()));
+    updateToolBars();
+    // The window heard of its new child, and the host may have restored the same one.
+    if (m_toolBars.contains(objectName))
+        return titledToolBar(objectName, title);
+    QToolBar *const added = m_manager->addCustomToolBar(toolBar.take(), m_numbers.firstFreeName());
+    m_toolBars.insert(objectName, added);
     m_numbers.addName(objectName);
-    return toolBar;
+    // Its own addition needs no new index; any other one of that moment does.
+    ++m_changesOfToolBars;
+    return added;
 }

@@ -33,8 +33,11 @@ private:
     QList<QAction *> readContent();
     QString readString();
     qint32 readCount();
+    void updateActions();
+    void updateToolBars();
     void indexToolBars();
     QToolBar *titledToolBar(const QString &objectName, const QString &title);
+    QToolBar *createdToolBar(const QString &objectName, const QString &title);
 
     RyToolBarManager *const m_manager;
     QDataStream &m_stream;
@@ -43,6 +46,9 @@ private:
     // Every managed toolbar by objectName, the lowest address first; kept up to date.
     QHash<QString, QToolBar *> m_toolBars;
     CustomToolBarNumbers m_numbers;
+    // What the indexes were made from; more means that the host was called and changed it.
+    quint64 m_changesOfActions;
+    quint64 m_changesOfToolBars;
 };
 
 #endif // TOOLBARSTATERESTORER_H

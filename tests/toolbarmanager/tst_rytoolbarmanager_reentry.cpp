@@ -1,0 +1,925 @@
+// SPDX-License-Identifier: MIT
+
+#include "host.h"
+#include "hostcalls.h"
+#include "nextmodal.h"
+#include "testcase.h"
+#include "texts.h"
+
+#include <QLayout>
+#include <QMap>
+#include <QMessageBox>
+#include <QPointer>
+#include <QtTest>
+
+#include <algorithm>
+
+namespace {
+
+const QString A = QStringLiteral("A");
+
+QString name(const char *text)
+{
+    return QLatin1String(text);
+}
+
+/*
+ * Two default and two custom toolbars, all watched for the changes of what stands on them, with the
+ * window watched for its children. The states are those of other layouts.
+ */
+class BusyHost : public Host
+{
+public:
+    BusyHost()
+        : file(defaultToolBar(name("file"), words("open | save"), A))
+        , edit(defaultToolBar(name("edit"), words("cut copy | paste"), A))
+        , mine(manager.createToolBar(name("Mine")))
+        , yours(manager.createToolBar(name("Yours")))
+    {
+        manager.setToolBar(mine, list(words("open | cut")));
+        manager.setToolBar(yours, list(words("save copy")));
+        plain = manager.saveState(1);
+        QToolBar *const third = manager.createToolBar(name("Third"));
+        QToolBar *const fourth = manager.createToolBar(name("Fourth"));
+        manager.setToolBar(file, list(words("| paste open |")));
+        manager.setToolBar(third, list(words("copy | open")));
+        manager.setToolBar(fourth, list(words("paste")));
+        full = manager.saveState(1);
+        manager.deleteToolBar(third);
+        manager.deleteToolBar(fourth);
+        manager.resetToolBar(file);
+    }
+
+    // Calls at every change of what stands on the toolbars and at every new child of the window.
+    void watch(HostCalls *calls)
+    {
+        window.installEventFilter(calls);
+        const auto toolBars = manager.toolBars();
+        for (QToolBar *toolBar : toolBars)
+            toolBar->installEventFilter(calls);
+    }
+
+    QToolBar *file;
+    QToolBar *edit;
+    QPointer<QToolBar> mine;
+    QPointer<QToolBar> yours;
+    QByteArray plain;
+    QByteArray full;
+};
+
+// Those that are left over included.
+int separatorsBelow(const QToolBar *toolBar)
+{
+    const auto actions = toolBar->findChildren<QAction *>();
+    return int(std::count_if(actions.cbegin(), actions.cend(),
+                             [](const QAction *action) { return action->isSeparator(); }));
+}
+
+using Operation = void (*)(BusyHost &);
+
+void query(BusyHost &host)
+{
+    const auto toolBars = host.manager.toolBars();
+    for (QToolBar *toolBar : toolBars) {
+        host.manager.actions(toolBar);
+        host.manager.isDefaultToolBar(toolBar);
+        host.manager.toolBarByName(toolBar->objectName());
+    }
+    host.manager.toolBarsActions();
+    host.manager.defaultToolBars();
+    host.manager.categoryActions(A);
+}
+
+void save(BusyHost &host)
+{
+    QCOMPARE(host.manager.saveState(1).left(4), QByteArray("\0\0\0\xFF", 4));
+}
+
+void setDefault(BusyHost &host)
+{
+    host.manager.setToolBar(host.file, host.list(words("| paste save | cut")));
+}
+
+void setCustom(BusyHost &host)
+{
+    host.manager.setToolBar(host.mine, host.list(words("paste | | save open")));
+}
+
+// Never the same twice.
+void setToAnother(BusyHost &host)
+{
+    static int length = 0;
+    length = (length + 1) % 7;
+    for (QToolBar *toolBar : {host.file, host.mine.data()})
+        host.manager.setToolBar(toolBar, host.list(words("open | cut | save |").mid(0, length)));
+}
+
+void setAll(BusyHost &host)
+{
+    host.manager.setToolBars({{host.file, host.list(words("copy |"))},
+                              {host.edit, host.list(words("| | open"))},
+                              {host.mine, host.list(words("cut save"))},
+                              {host.yours, QList<QAction *>()}});
+}
+
+void empty(BusyHost &host)
+{
+    host.manager.setToolBar(host.file, QList<QAction *>());
+    host.manager.setToolBar(host.mine, QList<QAction *>());
+}
+
+void create(BusyHost &host)
+{
+    if (host.manager.toolBars().size() > 20)
+        return;
+    QToolBar *const toolBar = host.manager.createToolBar(name("New"));
+    host.manager.setToolBar(toolBar, host.list(words("open | save")));
+}
+
+void deleteMine(BusyHost &host)
+{
+    host.manager.deleteToolBar(host.mine);
+}
+
+void deleteYours(BusyHost &host)
+{
+    host.manager.deleteToolBar(host.yours);
+}
+
+void deleteCustom(BusyHost &host)
+{
+    const auto toolBars = host.manager.toolBars();
+    for (QToolBar *toolBar : toolBars)
+        host.manager.deleteToolBar(toolBar);
+}
+
+void forgetMine(BusyHost &host)
+{
+    host.manager.removeDefaultToolBar(host.mine);
+}
+
+void adoptMine(BusyHost &host)
+{
+    host.manager.removeDefaultToolBar(host.mine);
+    host.manager.addDefaultToolBar(host.mine, A);
+}
+
+void resetAll(BusyHost &host)
+{
+    host.manager.resetAllToolBars();
+}
+
+void restorePlain(BusyHost &host)
+{
+    QVERIFY(host.manager.restoreState(host.plain, 1));
+    TestCase::takeWarnings();
+}
+
+void restoreFull(BusyHost &host)
+{
+    QVERIFY(host.manager.restoreState(host.full, 1));
+    TestCase::takeWarnings();
+}
+
+void unregister(BusyHost &host)
+{
+    host.manager.removeAction(host.action(name("save")));
+    host.manager.removeAction(host.action(name("open")));
+}
+
+void unregisterAndDelete(BusyHost &host)
+{
+    for (const char *text : {"save", "paste", "cut"}) {
+        if (QAction *const action = host.window.findChild<QAction *>(name(text))) {
+            host.manager.removeAction(action);
+            // Not at once: Qt still uses the action of the event.
+            action->deleteLater();
+        }
+    }
+}
+
+void unregisterAndRegister(BusyHost &host)
+{
+    host.manager.removeAction(host.action(name("save")));
+    host.registered(name("save"), A);
+}
+
+const QMap<QByteArray, Operation> &operations()
+{
+    static const QMap<QByteArray, Operation> all{
+        {"setting a default toolbar", setDefault},
+        {"setting a custom toolbar", setCustom},
+        {"setting two toolbars to another list each time", setToAnother},
+        {"setting all toolbars", setAll},
+        {"emptying toolbars", empty},
+        {"creating a toolbar", create},
+        {"deleting a toolbar", deleteMine},
+        {"deleting another toolbar", deleteYours},
+        {"deleting all custom toolbars", deleteCustom},
+        {"forgetting a toolbar", forgetMine},
+        {"making a custom toolbar a default one", adoptMine},
+        {"resetting all toolbars", resetAll},
+        {"restoring", restorePlain},
+        {"restoring more toolbars", restoreFull},
+        {"removing actions", unregister},
+        {"removing and deleting actions", unregisterAndDelete},
+        {"removing and registering an action", unregisterAndRegister},
+    };
+    return all;
+}
+
+} // namespace
+
+class tst_RyToolBarManager_reentry : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whateverTheHostCallsMeanwhileTheRecordsFitTheWidgets_data();
+    void whateverTheHostCallsMeanwhileTheRecordsFitTheWidgets();
+
+    void aListSetMeanwhileCountsInTheEnd_data();
+    void aListSetMeanwhileCountsInTheEnd();
+    void theLastOfTheListsSetMeanwhileCounts();
+    void settingTheSameListMeanwhileComesToAnEnd();
+    void settingAnotherListEachTimeComesToAnEnd();
+    void settingTheReportedListMeanwhileChangesNothing();
+    void resettingMeanwhileCountsInTheEnd();
+    void anotherToolBarIsSetMeanwhile();
+    void savingMeanwhileSavesTheOldContent();
+    void aMessageBoxMeanwhileMayChangeTheToolBar();
+
+    void aToolBarMayBeDeletedWhileItIsSet_data();
+    void aToolBarMayBeDeletedWhileItIsSet();
+    void aToolBarMayBeForgottenWhileItIsSet_data();
+    void aToolBarMayBeForgottenWhileItIsSet();
+    void aForgottenToolBarMayBecomeADefaultToolBarWhileItIsSet();
+    void deletingAToolBarTwiceAtOnceDeletesItOnce();
+    void aListSetWhileItsToolBarIsDeletedIsIgnored();
+    void aNewToolBarInThePlaceOfADeletedOneIsLeftAlone();
+    void aDeletedToolBarIsForgottenByItsActions();
+
+    void anActionRemovedWhileItIsPlacedIsNotPlaced();
+    void anActionRemovedMeanwhileIsNotPlaced_data();
+    void anActionRemovedMeanwhileIsNotPlaced();
+    void anActionDeletedMeanwhileIsNotTouched();
+    void anActionPlacedAnewWhileItIsRemovedIsTakenOff();
+    void aToolBarDeletedWhileAnActionIsRemovedIsNotTouched();
+    void anActionDeletedWhileItIsRemovedIsNotTouched();
+    void removingAnActionTwiceAtOnceKeepsTheNamelessCategory();
+    void aSeparatorOfTwoToolBarsChangedAtOnceIsDeletedOnce();
+
+    void aToolBarCreatedMeanwhileHasAnotherNumber();
+    void aToolBarCreatedWhileAnotherIsNamedHasAnotherNumber();
+    void theWindowMayBeUnsetWhileAToolBarIsCreated();
+    void aNewToolBarMayBeDeletedWhileItIsCreated();
+    void aNewToolBarMayBeMadeADefaultToolBarWhileItIsCreated();
+
+    void aToolBarDeletedWhileRestoringIsCreatedAnew();
+    void aToolBarCreatedWhileRestoringIsFound();
+    void aToolBarDeletedByItsNewTitleIsNotTouched();
+    void aToolBarDeletedByItsNewNameIsNotTouched();
+    void anActionDeletedWhileRestoringIsNotTouched();
+    void restoringWhileRestoringIsDone();
+
+    void theMapGivenToSetToolBarsMayChangeMeanwhile();
+    void theListGivenToSetToolBarMayChangeMeanwhile();
+};
+
+void tst_RyToolBarManager_reentry::whateverTheHostCallsMeanwhileTheRecordsFitTheWidgets_data()
+{
+    QTest::addColumn<QByteArray>("running");
+    QTest::addColumn<QByteArray>("called");
+    QTest::addColumn<bool>("always");
+    const auto names = operations().keys();
+    for (const QByteArray &running : names) {
+        for (const QByteArray &called : names) {
+            for (const bool always : {false, true})
+                QTest::newRow((running + " / " + called + (always ? " / always" : "")).constData())
+                    << running << called << always;
+        }
+    }
+}
+
+void tst_RyToolBarManager_reentry::whateverTheHostCallsMeanwhileTheRecordsFitTheWidgets()
+{
+    QFETCH(QByteArray, running);
+    QFETCH(QByteArray, called);
+    QFETCH(bool, always);
+    BusyHost host;
+    int depth = 0;
+    HostCalls calls(
+        {QEvent::ActionAdded, QEvent::ActionRemoved, QEvent::ChildAdded, QEvent::WindowTitleChange},
+        always ? HostCalls::Always : HostCalls::Once, [&] {
+            // A host that calls what calls it does not do so without an end.
+            if (depth >= 4)
+                return;
+            ++depth;
+            query(host);
+            save(host);
+            operations().value(called)(host);
+            --depth;
+        });
+    host.watch(&calls);
+    operations().value(running)(host);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+
+    // And it goes on.
+    host.window.removeEventFilter(&calls);
+    const auto toolBars = host.manager.toolBars();
+    for (QToolBar *toolBar : toolBars) {
+        toolBar->removeEventFilter(&calls);
+        host.manager.setToolBar(toolBar, host.list(words("| copy")));
+    }
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+    deleteCustom(host);
+    host.manager.removeAction(host.action(name("copy")));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aListSetMeanwhileCountsInTheEnd_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::addColumn<QString>("second");
+    for (const char *second : {"cut | save", "|", "", "open cut", "cut paste open"}) {
+        QTest::addRow("%s, when an action is removed", second)
+            << QEvent::ActionRemoved << QString::fromLatin1(second);
+        QTest::addRow("%s, when an action is added", second)
+            << QEvent::ActionAdded << QString::fromLatin1(second);
+        QTest::addRow("%s, when a button is made", second)
+            << QEvent::ChildAdded << QString::fromLatin1(second);
+    }
+}
+
+void tst_RyToolBarManager_reentry::aListSetMeanwhileCountsInTheEnd()
+{
+    QFETCH(QEvent::Type, type);
+    QFETCH(QString, second);
+    BusyHost host;
+    const QStringList expected = words(second.toLatin1().constData());
+    HostCalls calls({type}, HostCalls::Once,
+                    [&] { host.manager.setToolBar(host.file, host.list(expected)); });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("| paste copy |")));
+    QCOMPARE(calls.count(), 1);
+    QCOMPARE(contentOf(host.manager.actions(host.file)), expected);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+    QCOMPARE(separatorsBelow(host.file), expected.count(name("|")));
+}
+
+void tst_RyToolBarManager_reentry::theLastOfTheListsSetMeanwhileCounts()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] {
+        host.manager.setToolBar(host.file, host.list(words("cut")));
+        host.manager.setToolBar(host.file, host.list(words("copy | cut")));
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste open")));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("copy | cut"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::settingTheSameListMeanwhileComesToAnEnd()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded, QEvent::ActionRemoved}, HostCalls::Always, [&] {
+        host.manager.setToolBar(host.file, host.list(words("cut | stranger cut")));
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste open")));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("cut |"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+    // One removed, two that are left to remove, and two added.
+    QCOMPARE(calls.count(), 5);
+}
+
+void tst_RyToolBarManager_reentry::settingAnotherListEachTimeComesToAnEnd()
+{
+    BusyHost host;
+    int round = 0;
+    HostCalls calls({QEvent::ActionAdded, QEvent::ActionRemoved}, HostCalls::Always, [&] {
+        const char *const content = ++round % 2 ? "cut | copy" : "copy |";
+        host.manager.setToolBar(host.file, host.list(words(content)));
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste open")));
+    QVERIFY(calls.count() < 1000);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::settingTheReportedListMeanwhileChangesNothing()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded, QEvent::ActionRemoved}, HostCalls::Always,
+                    [&] { host.manager.setToolBar(host.file, host.manager.actions(host.file)); });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste | open")));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("paste | open"));
+    QCOMPARE(calls.count(), 6);
+}
+
+void tst_RyToolBarManager_reentry::resettingMeanwhileCountsInTheEnd()
+{
+    BusyHost host;
+    host.manager.setToolBar(host.file, host.list(words("cut")));
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Always,
+                    [&] { host.manager.resetAllToolBars(); });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste | open")));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("open | save"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::anotherToolBarIsSetMeanwhile()
+{
+    BusyHost host;
+    QStringList seen;
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] {
+        host.manager.setToolBar(host.mine, host.list(words("open |")));
+        seen = contentOf(host.manager.actions(host.mine)) + standingOn(host.mine);
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste | open")));
+    QCOMPARE(seen, words("open | open |"));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("paste | open"));
+    QCOMPARE(contentOf(host.manager.actions(host.mine)), words("open |"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::savingMeanwhileSavesTheOldContent()
+{
+    BusyHost host;
+    const QByteArray before = host.manager.saveState(1);
+    QList<QByteArray> saved;
+    HostCalls calls({QEvent::ActionAdded, QEvent::ActionRemoved}, HostCalls::Always,
+                    [&] { saved << host.manager.saveState(1); });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste")));
+    QCOMPARE(saved, (QList<QByteArray>{before, before, before, before}));
+}
+
+void tst_RyToolBarManager_reentry::aMessageBoxMeanwhileMayChangeTheToolBar()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] {
+        const NextModal next([&](QWidget *box) {
+            host.manager.setToolBar(host.file, host.list(words("cut |")));
+            host.manager.deleteToolBar(host.yours);
+            box->close();
+        });
+        QMessageBox(&host.window).exec();
+        QVERIFY(next.wasShown());
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste | open")));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("cut |"));
+    QVERIFY(!host.yours);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aToolBarMayBeDeletedWhileItIsSet_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::addColumn<QString>("content");
+    QTest::newRow("when an action is removed") << QEvent::ActionRemoved << "save";
+    QTest::newRow("when an action is added") << QEvent::ActionAdded << "save |";
+    QTest::newRow("when a separator is added") << QEvent::ActionAdded << "| save";
+}
+
+void tst_RyToolBarManager_reentry::aToolBarMayBeDeletedWhileItIsSet()
+{
+    QFETCH(QEvent::Type, type);
+    QFETCH(QString, content);
+    BusyHost host;
+    HostCalls calls({type}, HostCalls::Once, [&] { host.manager.deleteToolBar(host.mine); });
+    host.watch(&calls);
+    host.manager.setToolBar(host.mine, host.list(words(content.toLatin1().constData())));
+    QVERIFY(!host.mine);
+    QCOMPARE(host.manager.toolBars().size(), 3);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+    unregister(host);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aToolBarMayBeForgottenWhileItIsSet_data()
+{
+    aToolBarMayBeDeletedWhileItIsSet_data();
+}
+
+void tst_RyToolBarManager_reentry::aToolBarMayBeForgottenWhileItIsSet()
+{
+    QFETCH(QEvent::Type, type);
+    QFETCH(QString, content);
+    BusyHost host;
+    HostCalls calls({type}, HostCalls::Once, [&] { forgetMine(host); });
+    host.watch(&calls);
+    host.manager.setToolBar(host.mine, host.list(words(content.toLatin1().constData())));
+    QVERIFY(!host.manager.toolBars().contains(host.mine));
+    QCOMPARE(standingOn(host.mine), QStringList());
+    QCOMPARE(host.mine->layout()->count(), 0);
+    QCOMPARE(separatorsBelow(host.mine), 0);
+    delete host.mine;
+    unregister(host);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aForgottenToolBarMayBecomeADefaultToolBarWhileItIsSet()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] { adoptMine(host); });
+    host.watch(&calls);
+    host.manager.setToolBar(host.mine, host.list(words("save | open")));
+    QVERIFY(host.manager.isDefaultToolBar(host.mine));
+    QCOMPARE(contentOf(host.manager.actions(host.mine)), words("save"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::deletingAToolBarTwiceAtOnceDeletesItOnce()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Always,
+                    [&] { host.manager.deleteToolBar(host.mine); });
+    host.watch(&calls);
+    host.manager.deleteToolBar(host.mine);
+    QVERIFY(!host.mine);
+    QCOMPARE(host.manager.toolBars().size(), 3);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aListSetWhileItsToolBarIsDeletedIsIgnored()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Always, [&] { setCustom(host); });
+    host.watch(&calls);
+    host.manager.deleteToolBar(host.mine);
+    QVERIFY(!host.mine);
+    QCOMPARE(calls.count(), 3);
+    QCOMPARE(host.manager.toolBars().size(), 3);
+    unregister(host);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aNewToolBarInThePlaceOfADeletedOneIsLeftAlone()
+{
+    BusyHost host;
+    QToolBar *other = nullptr;
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] {
+        host.manager.deleteToolBar(host.mine);
+        other = host.manager.createToolBar(name("Other"));
+        host.manager.setToolBar(other, host.list(words("copy |")));
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.mine, host.list(words("save | open")));
+    QCOMPARE(contentOf(host.manager.actions(other)), words("copy |"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aDeletedToolBarIsForgottenByItsActions()
+{
+    BusyHost host;
+    host.manager.setToolBar(host.mine, QList<QAction *>());
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Always, [&] {
+        if (standingOn(host.mine).size() == 2)
+            host.manager.deleteToolBar(host.mine);
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.mine, host.list(words("save open")));
+    QVERIFY(!host.mine);
+    unregister(host);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::anActionRemovedWhileItIsPlacedIsNotPlaced()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once,
+                    [&] { host.manager.removeAction(host.action(name("paste"))); });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste | open")));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("| open"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+    delete host.action(name("paste"));
+    host.manager.setToolBar(host.file, host.list(words("open")));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::anActionRemovedMeanwhileIsNotPlaced_data()
+{
+    QTest::addColumn<QString>("removed");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("still to be taken off") << "save"
+                                           << "paste | open";
+    QTest::newRow("still to be placed") << "paste"
+                                        << "| open";
+    QTest::newRow("to be taken off and placed") << "open"
+                                                << "paste |";
+}
+
+void tst_RyToolBarManager_reentry::anActionRemovedMeanwhileIsNotPlaced()
+{
+    QFETCH(QString, removed);
+    QFETCH(QString, expected);
+    BusyHost host;
+    host.manager.setToolBar(host.file, host.list(words("cut save | open")));
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] {
+        QAction *const action = host.action(removed);
+        host.manager.removeAction(action);
+        delete action;
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("paste | open")));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words(expected.toLatin1().constData()));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::anActionDeletedMeanwhileIsNotTouched()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] {
+        for (const char *text : {"save", "copy", "cut"}) {
+            QAction *const action = host.action(name(text));
+            host.manager.removeAction(action);
+            delete action;
+        }
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("open | cut copy save")));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("open |"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::anActionPlacedAnewWhileItIsRemovedIsTakenOff()
+{
+    BusyHost host;
+    QAction *const save = host.action(name("save"));
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Always, [&] {
+        for (QToolBar *toolBar : {host.file, host.edit, host.mine.data()})
+            host.manager.setToolBar(toolBar, {save});
+    });
+    host.watch(&calls);
+    host.manager.removeAction(save);
+    QVERIFY(!host.manager.actions().contains(save));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+    delete save;
+    host.manager.saveState(1);
+    host.manager.resetAllToolBars();
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aToolBarDeletedWhileAnActionIsRemovedIsNotTouched()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] { deleteCustom(host); });
+    host.watch(&calls);
+    host.manager.removeAction(host.action(name("open")));
+    QCOMPARE(host.manager.toolBars().size(), 2);
+    QCOMPARE(host.manager.toolBarsActions().size(), 2);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::anActionDeletedWhileItIsRemovedIsNotTouched()
+{
+    BusyHost host;
+    QAction *const save = host.action(name("save"));
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] { delete save; });
+    // Below the toolbar's own handling, which needs the action: the tool button has it as well.
+    const auto buttons = host.file->findChildren<QWidget *>();
+    for (QWidget *button : buttons) {
+        if (button->actions().contains(save))
+            button->installEventFilter(&calls);
+    }
+    host.manager.removeAction(save);
+    QCOMPARE(contentOf(host.manager.actions(host.yours)), words("copy"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::removingAnActionTwiceAtOnceKeepsTheNamelessCategory()
+{
+    BusyHost host;
+    host.manager.addCategory(QString());
+    QAction *const save = host.action(name("save"));
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Always,
+                    [&] { host.manager.removeAction(save); });
+    host.watch(&calls);
+    host.manager.removeAction(save);
+    QVERIFY(host.manager.hasCategory(QString()));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aSeparatorOfTwoToolBarsChangedAtOnceIsDeletedOnce()
+{
+    Host host;
+    const QPointer<QAction> shared = new QAction(&host.window);
+    shared->setSeparator(true);
+    QToolBar *const first = host.toolBar(name("first"));
+    QToolBar *const second = host.toolBar(name("second"));
+    first->addAction(shared);
+    second->addAction(shared);
+    host.manager.addDefaultToolBar(first, A);
+    host.manager.addDefaultToolBar(second, A);
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once,
+                    [&] { host.manager.setToolBar(second, QList<QAction *>()); });
+    first->installEventFilter(&calls);
+    host.manager.setToolBar(first, {nullptr, nullptr});
+    QVERIFY(!shared);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aToolBarCreatedMeanwhileHasAnotherNumber()
+{
+    BusyHost host;
+    QToolBar *inner = nullptr;
+    HostCalls calls({QEvent::ChildAdded}, HostCalls::Once,
+                    [&] { inner = host.manager.createToolBar(name("Inner")); });
+    host.watch(&calls);
+    QToolBar *const outer = host.manager.createToolBar(name("Outer"));
+    QCOMPARE(inner->objectName(), name("_Custom_Toolbar_3"));
+    QCOMPARE(outer->objectName(), name("_Custom_Toolbar_4"));
+}
+
+void tst_RyToolBarManager_reentry::aToolBarCreatedWhileAnotherIsNamedHasAnotherNumber()
+{
+    BusyHost host;
+    QToolBar *inner = nullptr;
+    HostCalls calls({QEvent::ChildAdded}, HostCalls::Once, [&] {
+        QObject *const child = host.window.children().constLast();
+        connect(child, &QObject::objectNameChanged, this,
+                [&] { inner = host.manager.createToolBar(name("Inner")); });
+    });
+    host.watch(&calls);
+    QToolBar *const outer = host.manager.createToolBar(name("Outer"));
+    QCOMPARE(outer->objectName(), name("_Custom_Toolbar_3"));
+    QCOMPARE(inner->objectName(), name("_Custom_Toolbar_4"));
+}
+
+void tst_RyToolBarManager_reentry::theWindowMayBeUnsetWhileAToolBarIsCreated()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ChildAdded}, HostCalls::Once,
+                    [&] { host.manager.setMainWindow(nullptr); });
+    host.watch(&calls);
+    QToolBar *const toolBar = host.manager.createToolBar(name("New"));
+    QCOMPARE(toolBar->parent(), &host.window);
+    QVERIFY(host.manager.toolBars().contains(toolBar));
+    QVERIFY(!host.manager.createToolBar(name("New")));
+}
+
+void tst_RyToolBarManager_reentry::aNewToolBarMayBeDeletedWhileItIsCreated()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ChildAdded}, HostCalls::Once, [&] {
+        QObject *const child = host.window.children().constLast();
+        connect(child, &QObject::objectNameChanged, this,
+                [&host, child] { host.manager.deleteToolBar(qobject_cast<QToolBar *>(child)); });
+    });
+    host.watch(&calls);
+    QVERIFY(!host.manager.createToolBar(name("New")));
+    QCOMPARE(host.manager.toolBars().size(), 4);
+}
+
+void tst_RyToolBarManager_reentry::aNewToolBarMayBeMadeADefaultToolBarWhileItIsCreated()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ChildAdded}, HostCalls::Once, [&] {
+        QObject *const child = host.window.children().constLast();
+        connect(static_cast<QWidget *>(child), &QWidget::windowTitleChanged, this, [&host, child] {
+            QToolBar *const toolBar = qobject_cast<QToolBar *>(child);
+            toolBar->addAction(host.action(name("cut")));
+            host.manager.addDefaultToolBar(toolBar, A);
+        });
+    });
+    host.watch(&calls);
+    QToolBar *const toolBar = host.manager.createToolBar(name("New"));
+    QVERIFY(host.manager.isDefaultToolBar(toolBar));
+    QCOMPARE(contentOf(host.manager.actions(toolBar)), words("cut"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aToolBarDeletedWhileRestoringIsCreatedAnew()
+{
+    BusyHost host;
+    host.manager.setToolBar(host.mine, host.list(words("paste")));
+    host.manager.setToolBar(host.yours, host.list(words("paste")));
+    // The first of the two that is restored deletes both.
+    HostCalls calls({QEvent::WindowTitleChange}, HostCalls::Once, [&] { deleteCustom(host); });
+    host.mine->setWindowTitle(name("Old"));
+    host.yours->setWindowTitle(name("Old"));
+    host.watch(&calls);
+    QVERIFY(host.manager.restoreState(host.plain, 1));
+    QVERIFY(!host.mine && !host.yours);
+    QCOMPARE(host.manager.toolBars().size(), 3);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aToolBarCreatedWhileRestoringIsFound()
+{
+    BusyHost host;
+    deleteCustom(host);
+    QToolBar *made = nullptr;
+    HostCalls calls({QEvent::ChildAdded}, HostCalls::Once, [&] {
+        made = host.manager.createToolBar(name("Made"));
+        made->setObjectName(name("_Custom_Toolbar_2"));
+    });
+    host.watch(&calls);
+    QVERIFY(host.manager.restoreState(host.plain, 1));
+    QVERIFY(made);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aToolBarDeletedByItsNewTitleIsNotTouched()
+{
+    BusyHost host;
+    for (QToolBar *toolBar : {host.mine.data(), host.yours.data()}) {
+        toolBar->setWindowTitle(name("Old"));
+        connect(toolBar, &QWidget::windowTitleChanged, this,
+                [&host, toolBar] { host.manager.deleteToolBar(toolBar); });
+    }
+    QVERIFY(host.manager.restoreState(host.plain, 1));
+    QVERIFY(!host.mine && !host.yours);
+    QCOMPARE(host.manager.toolBars().size(), 2);
+}
+
+void tst_RyToolBarManager_reentry::aToolBarDeletedByItsNewNameIsNotTouched()
+{
+    BusyHost host;
+    deleteCustom(host);
+    HostCalls calls({QEvent::ChildAdded}, HostCalls::Always, [&] {
+        QObject *const child = host.window.children().constLast();
+        connect(child, &QObject::objectNameChanged, this, [&host, child] {
+            if (child->objectName() == name("mine"))
+                host.manager.deleteToolBar(qobject_cast<QToolBar *>(child));
+        });
+    });
+    QToolBar *const named = host.manager.createToolBar(name("Mine"));
+    named->setObjectName(name("mine"));
+    const QByteArray state = host.manager.saveState(1);
+    deleteCustom(host);
+    host.watch(&calls);
+    QVERIFY(host.manager.restoreState(state, 1));
+    QCOMPARE(host.manager.toolBars().size(), 2);
+}
+
+void tst_RyToolBarManager_reentry::anActionDeletedWhileRestoringIsNotTouched()
+{
+    BusyHost host;
+    QAction *const nameless = new QAction(name("Nameless"), &host.window);
+    host.manager.addAction(nameless, A);
+    host.manager.setToolBar(host.yours, {nameless});
+    const QByteArray state = host.manager.saveState(1);
+    TestCase::takeWarnings();
+    QAction *const other = host.registered(name("other"), A);
+    host.manager.setToolBar(host.yours, {other});
+    host.manager.setToolBar(host.file, host.list(words("cut")));
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] {
+        for (QAction *action : {other, host.action(name("copy"))}) {
+            host.manager.removeAction(action);
+            delete action;
+        }
+    });
+    host.watch(&calls);
+    QVERIFY(host.manager.restoreState(state, 1));
+    TestCase::takeWarnings();
+    QCOMPARE(contentOf(host.manager.actions(host.yours)), QStringList(name("\"Nameless\"")));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::restoringWhileRestoringIsDone()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded, QEvent::ChildAdded}, HostCalls::Once,
+                    [&] { QVERIFY(host.manager.restoreState(host.full, 1)); });
+    host.watch(&calls);
+    QVERIFY(host.manager.restoreState(host.full, 1));
+    QCOMPARE(calls.count(), 1);
+    QCOMPARE(host.manager.saveState(1).size(), host.full.size());
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::theMapGivenToSetToolBarsMayChangeMeanwhile()
+{
+    BusyHost host;
+    QMap<QToolBar *, QList<QAction *>> map{{host.file, host.list(words("cut"))},
+                                           {host.edit, host.list(words("open"))},
+                                           {host.mine, host.list(words("save"))}};
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Always, [&] { map.clear(); });
+    host.watch(&calls);
+    host.manager.setToolBars(map);
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("cut"));
+    QCOMPARE(contentOf(host.manager.actions(host.edit)), words("open"));
+    QCOMPARE(contentOf(host.manager.actions(host.mine)), words("save"));
+}
+
+void tst_RyToolBarManager_reentry::theListGivenToSetToolBarMayChangeMeanwhile()
+{
+    BusyHost host;
+    QList<QAction *> content = host.list(words("cut | copy"));
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Always, [&] { content.clear(); });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, content);
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("cut | copy"));
+}
+
+QTEST_MAIN(tst_RyToolBarManager_reentry)
+#include "tst_rytoolbarmanager_reentry.moc"
