@@ -226,7 +226,9 @@ public:
     /*!
      * \brief Takes everything off a custom toolbar and deletes the widget.
      *
-     * Lists that the host sets for the toolbar meanwhile
+     * Registered actions survive, those of QToolBar::addWidget() included, which Qt makes children
+     * of the toolbar that they are placed on: they become children of the default toolbar that they
+     * came with or else of the toolbar's parent. Lists that the host sets for the toolbar meanwhile
      * are ignored.
      *
      * \param toolBar a custom toolbar; the pointer dangles afterwards. Null, unmanaged and default
@@ -401,6 +403,8 @@ private:
     QList<QAction *> placedContent(QToolBar *toolBar) const;
     QToolBar *addCustomToolBar(QToolBar *toolBar, const QString &objectName);
     QToolBar *forgetToolBar(QToolBar *toolBar);
+    void keepActions(QToolBar *toolBar) const;
+    QObject *ownerOf(QAction *action, QObject *otherwise) const;
 
     // Each category with its actions in the order of registration.
     QMap<QString, QList<QAction *>> m_categoryToActions;

@@ -82,7 +82,29 @@ QToolBar *RyToolBarManager::forgetToolBar(QToolBar *toolBar)
     m_toolBarsWithSeparators.remove(toolBar);
     ++RegistryChanges::ofToolBars;
     ContentChange::cancel(this, toolBar);
+    keepActions(toolBar);
     return toolBar;
+}
+
+// What QToolBar::addWidget() made becomes the child of each toolbar that it is placed on. It is
+// still the host's, and must not go with a custom toolbar.
+void RyToolBarManager::keepActions(QToolBar *toolBar) const
+{
+    const auto actions = toolBar->findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QAction *action : actions) {
+        if (m_allActions.contains(action))
+            action->setParent(ownerOf(action, toolBar->parent()));
+    }
+}
+
+// The default toolbar that the action came with, or else the given object.
+QObject *RyToolBarManager::ownerOf(QAction *action, QObject *otherwise) const
+{
+    for (auto it = m_defaultToolBars.cbegin(); it != m_defaultToolBars.cend(); ++it) {
+        if (it.value().contains(action))
+            return it.key();
+    }
+    return otherwise;
 }
 
 void RyToolBarManager::setToolBar(QToolBar *toolBar, const QList<QAction *> &actions)

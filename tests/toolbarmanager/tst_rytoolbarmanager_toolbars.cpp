@@ -7,11 +7,13 @@
 #include "texts.h"
 #include "toolbarorder.h"
 
+#include <QLineEdit>
 #include <QPointer>
 #include <QtTest>
 
 #include <algorithm>
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -128,6 +130,8 @@ private Q_SLOTS:
     void deleteToolBarTakesTheActionsOffFirst();
     void deleteToolBarLeavesTheActionsAndOtherToolBars();
     void deleteToolBarLeavesWhatTheHostPlaced();
+    void theWidgetOfADeletedToolBarReturns();
+    void aWidgetActionOutlivesItsToolBars();
     void deleteToolBarIgnoresOtherToolBars_data();
     void deleteToolBarIgnoresOtherToolBars();
 
@@ -891,6 +895,44 @@ void tst_RyToolBarManager_toolbars::deleteToolBarLeavesWhatTheHostPlaced()
     host.manager.deleteToolBar(mine);
     QVERIFY(stranger);
     QVERIFY(guard);
+}
+
+void tst_RyToolBarManager_toolbars::theWidgetOfADeletedToolBarReturns()
+{
+    Host host;
+    QToolBar *const file = host.toolBar(name("file"));
+    const QPointer<QWidget> box = new QLineEdit;
+    QAction *const boxAction = file->addWidget(box);
+    boxAction->setObjectName(name("box"));
+    host.manager.addDefaultToolBar(file, A);
+    host.window.show();
+    host.manager.setToolBar(file, {});
+    QToolBar *const mine = host.manager.createToolBar(name("Mine"));
+    host.manager.setToolBar(mine, {boxAction});
+    QCOMPARE(mine->widgetForAction(boxAction), box.data());
+    host.manager.deleteToolBar(mine);
+    QVERIFY(box);
+    QCOMPARE(boxAction->parent(), file);
+    host.manager.resetToolBar(file);
+    QCOMPARE(file->widgetForAction(boxAction), box.data());
+    QTRY_VERIFY(box->isVisible());
+}
+
+void tst_RyToolBarManager_toolbars::aWidgetActionOutlivesItsToolBars()
+{
+    Host host;
+    std::unique_ptr<QToolBar> other(new QToolBar);
+    QPointer<QAction> box = other->addWidget(new QLineEdit);
+    box->setObjectName(name("box"));
+    host.manager.addAction(box, A);
+    QToolBar *const mine = host.manager.createToolBar(name("Mine"));
+    host.manager.setToolBar(mine, {box});
+    other.reset();
+    host.manager.removeDefaultToolBar(mine);
+    QCOMPARE(box->parent(), &host.window);
+    delete mine;
+    QVERIFY(box);
+    host.manager.removeAction(box);
 }
 
 void tst_RyToolBarManager_toolbars::deleteToolBarIgnoresOtherToolBars_data()
