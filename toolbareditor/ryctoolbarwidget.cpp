@@ -2,9 +2,9 @@
 
 #include "ryctoolbarwidget.h"
 
+#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
-#include "ui_ctoolbarpage.h"
 
 #include <QHideEvent>
 #include <QIcon>
@@ -13,12 +13,13 @@
 RyCToolBarWidget::RyCToolBarWidget(QWidget *parent, RyAbstatcManager *manager,
                                    Qt::WindowFlags flags)
     : QWidget(parent, flags)
-    , ui(new Ui_CToolBarPage())
+    , ui(new EditorForm())
     , m_manager(static_cast<RyToolBarManager *>(manager))
     , m_currentActionItem(nullptr)
     , m_currentRecord(nullptr)
     , m_separatorText(tr("< S E P A R A T O R >"))
 {
+    form()->manager = m_manager;
     ui->setupUi(this);
     ui->actionTree->setColumnCount(1);
     ui->actionTree->header()->hide();
@@ -31,7 +32,12 @@ RyCToolBarWidget::~RyCToolBarWidget()
     // While the hide event still reaches this class, which frees the working copy then.
     if (isVisible())
         hide();
-    delete ui;
+    delete form();
+}
+
+EditorForm *RyCToolBarWidget::form() const
+{
+    return static_cast<EditorForm *>(ui);
 }
 
 void RyCToolBarWidget::setIcons()
@@ -113,7 +119,9 @@ void RyCToolBarWidget::currentToolBarActionChanged(QListWidgetItem *current)
 
 bool RyCToolBarWidget::isDefaultToolBar(ToolBarItem *item) const
 {
-    return item && item->toolBar() && m_manager->isDefaultToolBar(item->toolBar());
+    QToolBar *const toolBar = item ? toolBarOf(item) : nullptr;
+    // A window that owns manager and dialog may take the manager with it first.
+    return toolBar && form()->manager && m_manager->isDefaultToolBar(toolBar);
 }
 
 void RyCToolBarWidget::setButtons()

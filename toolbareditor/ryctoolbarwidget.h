@@ -15,6 +15,7 @@ class QAction;
 class QListWidgetItem;
 class QToolBar;
 class QTreeWidgetItem;
+struct EditorForm;
 class RyAbstatcManager;
 class RyToolBarManager;
 class ToolBarItem;
@@ -37,9 +38,18 @@ class Ui_CToolBarPage;
  * - The texts of actions are shown as they are, with the "&" of a mnemonic.
  * - The separator entry is sorted among the categories by its text.
  *
- * What the host may do while the editor is shown: register actions and toolbars (they appear when it
- * is shown next) and delete custom toolbars with RyToolBarManager::deleteToolBar() (the editor leaves
- * them alone from then on). Actions must not be deleted meanwhile.
+ * What the host may do while the editor is shown:
+ * - Register actions and toolbars; they appear when it is shown next.
+ * - Delete custom toolbars with RyToolBarManager::deleteToolBar(). Their rows stay, and the editor
+ *   leaves alone whatever may get their address.
+ * - Remove actions with RyToolBarManager::removeAction() and delete them afterwards. They are shown as
+ *   before and are left out by applyClicked().
+ * - Change actions. Rows show the text and icon of the moment when they were made.
+ * - Change the style, the palette, the font, the direction or the language. The edits stay, and so do
+ *   the texts that are shown. Changing the window flags or the parent hides the editor, and with that
+ *   discards the edits.
+ * - Show a second editor of the same manager. Each writes everything as it shows it; the last
+ *   applyClicked() counts.
  *
  * The order of the fields, virtual functions and slots is part of the binary contract.
  */
@@ -75,6 +85,10 @@ public Q_SLOTS:
      * second time.
      *
      * While the editor is hidden the working copy is empty, and nothing is written.
+     *
+     * The working copy is read first. Event filters and slots of the host, which are called while the
+     * toolbars change, may hide or delete the editor: everything is written all the same. What they
+     * edit meanwhile is written by the next call.
      */
     void applyClicked();
 
@@ -118,6 +132,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    friend class EditorApply;
+
     ToolBarItem *createItem(QToolBar *toolBar);
     ToolBarItem *createItem(const QString &name);
     void deleteItem(ToolBarItem *item);
@@ -131,15 +147,20 @@ private:
     QListWidgetItem *addToolBarRow(ToolBarItem *record);
     void markToolBarRow(QListWidgetItem *row, bool isDefault);
     QListWidgetItem *createEntry(QAction *action);
+    void showAction(QListWidgetItem *entry, QAction *action) const;
     void takeEntry(QListWidgetItem *entry);
     void placeEntry(QListWidgetItem *entry);
     void moveCurrentEntry(int distance);
-    void applyExistingToolBars();
-    void applyRemovedToolBars();
-    void applyCreatedToolBars();
     ToolBarItem *recordOf(QToolBar *toolBar) const;
+    QToolBar *toolBarOf(const ToolBarItem *record) const;
+    void setToolBarOf(ToolBarItem *record, QToolBar *toolBar);
+    bool isAlive(QAction *action) const;
+    void guardActions(const QList<QAction *> &actions);
+    QList<QAction *> liveActions(const QList<QAction *> &actions) const;
+    EditorForm *form() const;
 
-    // Points to the child widgets without owning them; the form object itself is owned.
+    // Points to the child widgets without owning them; the form object itself is owned, and always
+    // an EditorForm.
     Ui_CToolBarPage *ui;
     // The host's manager, not owned; null leaves the editor empty.
     RyToolBarManager *m_manager;

@@ -2,68 +2,140 @@
 
 #include "ryctoolbarwidget.h"
 
+#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
 
-#include <QApplication>
-#include <QToolBar>
-
 namespace {
 
-// The host may have deleted the toolbar meanwhile, so that it is only compared.
-bool isAlive(QToolBar *toolBar)
+// One toolbar as edited.
+struct Edit
 {
-    return QApplication::allWidgets().contains(toolBar);
-}
+    ToolBarItem *record;
+    QPointer<QToolBar> toolBar;
+    QString name;
+    QList<QAction *> actions;
+};
 
 } // namespace
 
+/*
+ * Writes the working copy of an editor to its manager. Everything is read before the first toolbar
+ * changes: that makes Qt call the host, which may hide the editor or delete it, and what the user
+ * has confirmed is still written then.
+ */
+class EditorApply
+{
+public:
+    explicit EditorApply(RyCToolBarWidget *editor);
+
+    void run();
+
+private:
+    Edit editOf(ToolBarItem *record) const;
+    void readExisting();
+    void takeRemoved();
+    void takeCreated();
+    void write(const Edit &edit) const;
+    void create(const Edit &edit) const;
+    bool isFilled() const;
+
+    const QPointer<RyCToolBarWidget> m_editor;
+    RyToolBarManager *const m_manager;
+    const int m_discards;
+    QList<Edit> m_existing;
+    QList<QPointer<QToolBar>> m_removed;
+    QList<Edit> m_created;
+};
+
+EditorApply::EditorApply(RyCToolBarWidget *editor)
+    : m_editor(editor)
+    , m_manager(editor->m_manager)
+    , m_discards(editor->form()->discards)
+{
+    readExisting();
+    takeRemoved();
+    takeCreated();
+}
+
+Edit EditorApply::editOf(ToolBarItem *record) const
+{
+    const QList<QAction *> actions = m_editor->m_workingActions.value(record);
+    return {record, m_editor->toolBarOf(record), record->toolBarName(),
+            m_editor->liveActions(actions)};
+}
+
+void EditorApply::readExisting()
+{
+    const auto records = m_editor->m_workingActions.keys();
+    for (ToolBarItem *record : records) {
+        if (m_editor->toolBarOf(record))
+            m_existing.append(editOf(record));
+    }
+}
+
+void EditorApply::takeRemoved()
+{
+    const auto records = m_editor->m_removedRecords;
+    m_editor->m_removedRecords.clear();
+    for (ToolBarItem *record : records) {
+        m_removed.append(m_editor->toolBarOf(record));
+        m_editor->m_workingActions.remove(record);
+        m_editor->deleteItem(record);
+    }
+}
+
+// Taken at once, so that an apply during this one does not create them as well.
+void EditorApply::takeCreated()
+{
+    const auto records = m_editor->m_createdRecords;
+    m_editor->m_createdRecords.clear();
+    for (ToolBarItem *record : records)
+        m_created.append(editOf(record));
+}
+
+void EditorApply::run()
+{
+    for (const Edit &edit : m_existing)
+        write(edit);
+    for (const QPointer<QToolBar> &toolBar : m_removed)
+        m_manager->deleteToolBar(toolBar);
+    for (const Edit &edit : m_created)
+        create(edit);
+}
+
+void EditorApply::write(const Edit &edit) const
+{
+    if (!edit.toolBar)
+        return;
+    m_manager->setToolBar(edit.toolBar, edit.actions);
+    // The host may have deleted it; one that the manager has forgotten gets its title all the same.
+    if (edit.toolBar)
+        edit.toolBar->setWindowTitle(edit.name);
+}
+
+void EditorApply::create(const Edit &edit) const
+{
+    // Removed in the editor meanwhile.
+    if (isFilled() && !m_editor->m_ownedRecords.contains(edit.record))
+        return;
+    // Null without a main window, and passed on as it is.
+    const QPointer<QToolBar> toolBar(m_manager->createToolBar(edit.name));
+    if (isFilled() && m_editor->m_ownedRecords.contains(edit.record))
+        m_editor->setToolBarOf(edit.record, toolBar);
+    m_manager->setToolBar(toolBar, edit.actions);
+}
+
+// Still with the working copy that was read.
+bool EditorApply::isFilled() const
+{
+    return m_editor && m_editor->form()->discards == m_discards;
+}
+
 void RyCToolBarWidget::applyClicked()
 {
-    applyExistingToolBars();
-    applyRemovedToolBars();
-    applyCreatedToolBars();
-}
-
-void RyCToolBarWidget::applyExistingToolBars()
-{
-    const auto workingActions = m_workingActions;
-    for (auto it = workingActions.cbegin(); it != workingActions.cend(); ++it) {
-        QToolBar *const toolBar = it.key()->toolBar();
-        if (!toolBar)
-            continue;
-        m_manager->setToolBar(toolBar, it.value());
-        // One that the manager has forgotten meanwhile gets its title all the same.
-        if (m_manager->toolBarsActions().contains(toolBar) || isAlive(toolBar))
-            toolBar->setWindowTitle(it.key()->toolBarName());
-    }
-}
-
-void RyCToolBarWidget::applyRemovedToolBars()
-{
-    const auto removedRecords = m_removedRecords;
-    for (ToolBarItem *record : removedRecords) {
-        QToolBar *const toolBar = record->toolBar();
-        m_removedRecords.remove(record);
-        m_workingActions.remove(record);
-        deleteItem(record);
-        if (toolBar)
-            m_manager->deleteToolBar(toolBar);
-    }
-}
-
-void RyCToolBarWidget::applyCreatedToolBars()
-{
-    const auto createdRecords = m_createdRecords;
-    for (ToolBarItem *record : createdRecords) {
-        const QString name = record->toolBarName();
-        m_createdRecords.remove(record);
-        const auto actions = m_workingActions.value(record);
-        // Null without a main window, and passed on as it is.
-        QToolBar *const toolBar = m_manager->createToolBar(name);
-        record->setToolBar(toolBar);
-        m_manager->setToolBar(toolBar, actions);
-    }
+    if (form()->manager)
+        EditorApply(this).run();
 }
 
 void RyCToolBarWidget::defaultClicked()
@@ -71,8 +143,10 @@ void RyCToolBarWidget::defaultClicked()
     const auto defaults = m_manager->defaultToolBars();
     for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
         // None while the editor is hidden, and for toolbars registered after it was filled.
-        if (ToolBarItem *const record = recordOf(it.key()))
+        if (ToolBarItem *const record = recordOf(it.key())) {
             m_workingActions.insert(record, it.value());
+            guardActions(it.value());
+        }
     }
     currentToolBarChanged(m_listItemOfRecord.value(m_currentRecord));
     const auto records = m_workingActions.keys();
@@ -85,5 +159,5 @@ void RyCToolBarWidget::defaultClicked()
 ToolBarItem *RyCToolBarWidget::recordOf(QToolBar *toolBar) const
 {
     ToolBarItem *const record = m_recordOfToolBar.value(toolBar);
-    return m_ownedRecords.contains(record) && record->toolBar() == toolBar ? record : nullptr;
+    return m_ownedRecords.contains(record) && toolBarOf(record) == toolBar ? record : nullptr;
 }

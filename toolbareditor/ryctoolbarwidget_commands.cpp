@@ -57,7 +57,8 @@ void RyCToolBarWidget::removeToolBar(ToolBarItem *item)
     m_createdRecords.remove(item);
     m_recordOfListItem.remove(rowItem);
     delete rowItem;
-    if (item->toolBar())
+    // A toolbar that the host deleted is nothing to remove.
+    if (toolBarOf(item))
         m_removedRecords.insert(item);
     else
         deleteItem(item);

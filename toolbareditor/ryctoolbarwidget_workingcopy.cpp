@@ -2,9 +2,9 @@
 
 #include "ryctoolbarwidget.h"
 
+#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
-#include "ui_ctoolbarpage.h"
 
 namespace {
 
@@ -14,7 +14,7 @@ const int EntryAlignment = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemon
 
 void RyCToolBarWidget::fillNew()
 {
-    if (!m_manager)
+    if (!form()->manager)
         return;
     fillActionTree();
     fillToolBarList();
@@ -42,6 +42,7 @@ QTreeWidgetItem *RyCToolBarWidget::createCategoryItem(const QString &category)
 {
     QList<QTreeWidgetItem *> actionItems;
     const auto actions = m_manager->categoryActions(category);
+    guardActions(actions);
     for (QAction *action : actions)
         actionItems.append(createActionItem(action));
     QTreeWidgetItem *const item = new QTreeWidgetItem(QStringList(category));
@@ -67,6 +68,7 @@ void RyCToolBarWidget::fillToolBarList()
         ToolBarItem *const record = createItem(it.key());
         m_recordOfToolBar.insert(it.key(), record);
         m_workingActions.insert(record, it.value());
+        guardActions(it.value());
         QListWidgetItem *const row = addToolBarRow(record);
         if (it == toolBars.cbegin())
             ui->toolBarList->setCurrentItem(row);
@@ -118,6 +120,9 @@ void RyCToolBarWidget::clearOld()
     m_removedRecords.clear();
     qDeleteAll(m_ownedRecords);
     m_ownedRecords.clear();
+    form()->toolBars.clear();
+    form()->actions.clear();
+    ++form()->discards;
     m_currentRecord = nullptr;
     m_currentActionItem = nullptr;
 }
@@ -127,6 +132,7 @@ ToolBarItem *RyCToolBarWidget::createItem(QToolBar *toolBar)
     if (!toolBar)
         return nullptr;
     ToolBarItem *const item = new ToolBarItem(toolBar, toolBar->windowTitle());
+    form()->toolBars.insert(item, toolBar);
     m_ownedRecords.insert(item);
     return item;
 }
@@ -140,8 +146,47 @@ ToolBarItem *RyCToolBarWidget::createItem(const QString &name)
 
 void RyCToolBarWidget::deleteItem(ToolBarItem *item)
 {
-    if (m_ownedRecords.remove(item))
-        delete item;
+    if (!m_ownedRecords.remove(item))
+        return;
+    form()->toolBars.remove(item);
+    delete item;
+}
+
+// Null for a record without a toolbar, and for one whose toolbar the host deleted.
+QToolBar *RyCToolBarWidget::toolBarOf(const ToolBarItem *record) const
+{
+    const auto guard = form()->toolBars.constFind(record);
+    return guard == form()->toolBars.constEnd() ? record->toolBar() : guard.value().data();
+}
+
+void RyCToolBarWidget::setToolBarOf(ToolBarItem *record, QToolBar *toolBar)
+{
+    record->setToolBar(toolBar);
+    form()->toolBars.insert(record, toolBar);
+}
+
+void RyCToolBarWidget::guardActions(const QList<QAction *> &actions)
+{
+    for (QAction *action : actions) {
+        if (action)
+            form()->actions.insert(action, action);
+    }
+}
+
+bool RyCToolBarWidget::isAlive(QAction *action) const
+{
+    return !form()->actions.value(action).isNull();
+}
+
+QList<QAction *> RyCToolBarWidget::liveActions(const QList<QAction *> &actions) const
+{
+    QList<QAction *> live;
+    live.reserve(actions.size());
+    for (QAction *action : actions) {
+        if (!action || isAlive(action))
+            live.append(action);
+    }
+    return live;
 }
 
 // A row for the current toolbar's list that is not yet in the list.
@@ -149,11 +194,23 @@ QListWidgetItem *RyCToolBarWidget::createEntry(QAction *action)
 {
     QListWidgetItem *const entry = new QListWidgetItem(m_separatorText);
     if (action) {
-        entry->setText(action->text());
-        entry->setIcon(action->icon());
+        showAction(entry, action);
         entry->setTextAlignment(EntryAlignment);
         m_entryOfAction.insert(action, entry);
     }
     m_actionOfEntry.insert(entry, action);
     return entry;
+}
+
+// An action that the host deleted is shown as the action tree has kept it.
+void RyCToolBarWidget::showAction(QListWidgetItem *entry, QAction *action) const
+{
+    const QTreeWidgetItem *const item = m_treeItemOfAction.value(action);
+    if (isAlive(action)) {
+        entry->setText(action->text());
+        entry->setIcon(action->icon());
+    } else {
+        entry->setText(item ? item->text(0) : QString());
+        entry->setIcon(item ? item->icon(0) : QIcon());
+    }
 }

@@ -1,0 +1,886 @@
+// SPDX-License-Identifier: MIT
+
+#include "host.h"
+#include "hostcalls.h"
+#include "nextmodal.h"
+#include "showneditor.h"
+#include "testcase.h"
+#include "texts.h"
+#include "toolbaritem.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <QProxyStyle>
+#include <QTranslator>
+#include <QWidgetAction>
+#include <QtTest>
+
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <new>
+
+namespace {
+
+class FilledHost : public Host
+{
+public:
+    FilledHost()
+        : file(
+            defaultToolBar(QStringLiteral("file"), words("open | save"), QStringLiteral("Files")))
+    {
+        for (const char *name : {"copy", "cut", "paste"})
+            registered(QLatin1String(name), QStringLiteral("Edits"));
+        mine = customToolBar(*this, QStringLiteral("Mine"), words("cut | copy"));
+        yours = customToolBar(*this, QStringLiteral("Yours"), words("paste"));
+    }
+
+    QToolBar *file;
+    QPointer<QToolBar> mine;
+    QPointer<QToolBar> yours;
+};
+
+QStringList lines(std::initializer_list<const char *> texts)
+{
+    QStringList list;
+    for (const char *text : texts)
+        list << QString::fromUtf8(text);
+    return list;
+}
+
+// Memory that is kept when it is freed, to be given to the next object of that size.
+struct Memory
+{
+    void *kept;
+    bool isFreed;
+} memory = {nullptr, false};
+
+// Deletes the toolbar and creates a new one, certainly at its address.
+QToolBar *reborn(Host &host, QToolBar *toolBar)
+{
+    memory = {toolBar, false};
+    host.manager.deleteToolBar(toolBar);
+    QToolBar *const created = host.manager.createToolBar(QStringLiteral("Reborn"));
+    QTest::qCompare(created, toolBar, "created", "deleted", __FILE__, __LINE__);
+    memory = {nullptr, false};
+    return created;
+}
+
+// Shows texts in another language, all in the same way.
+class Shouting : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QString::fromUtf8(text).toUpper();
+    }
+};
+
+} // namespace
+
+void *operator new(std::size_t size)
+{
+    if (memory.isFreed && size == sizeof(QToolBar)) {
+        memory.isFreed = false;
+        return memory.kept;
+    }
+    if (void *const block = std::malloc(size ? size : 1))
+        return block;
+    throw std::bad_alloc();
+}
+
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept
+{
+    return std::malloc(size ? size : 1);
+}
+
+void operator delete(void *block) noexcept
+{
+    if (block && block == memory.kept)
+        memory.isFreed = true;
+    else
+        std::free(block);
+}
+
+void operator delete(void *block, std::size_t) noexcept
+{
+    operator delete(block);
+}
+
+class tst_RyCToolBarWidget_Hosts : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDeletedToolBarIsLeftAlone_data();
+    void aDeletedToolBarIsLeftAlone();
+    void aNewToolBarAtTheAddressOfADeletedOneIsLeftAlone_data();
+    void aNewToolBarAtTheAddressOfADeletedOneIsLeftAlone();
+    void aDefaultToolBarAtTheAddressOfADeletedOneIsNotReset();
+    void aToolBarDeletedByItsOwnWindowIsLeftAlone();
+
+    void aDeletedActionIsShownAsBefore();
+    void aDeletedActionIsLeftOutOfTheApply();
+    void aNewActionAtTheAddressOfADeletedOneIsNotPlaced();
+    void changesOfActionsAreShownOnlyByNewEntries();
+    void anActionThatIsDisabledOrHiddenMeanwhileIsStillPlaced();
+    void anActionThatBecameASeparatorIsStillAnAction();
+
+    void theEditorMayBeHiddenWhileItApplies();
+    void theEditorMayBeShownAnewWhileItApplies();
+    void theEditorMayBeDeletedWhileItApplies_data();
+    void theEditorMayBeDeletedWhileItApplies();
+    void anApplyDuringTheApplyCreatesNothingTwice();
+    void restoringDefaultsDuringTheApplyCreatesNothing();
+    void aToolBarDeletedDuringTheApplyIsNotTitled();
+    void toolBarsDeletedDuringTheApplyAreLeftAlone();
+    void aMessageBoxDuringTheApplyLosesNothing();
+    void restoringAStateDuringTheApplyLosesNoToolBar();
+    void anyEditDuringTheApplyKeepsTheEditorConsistent_data();
+    void anyEditDuringTheApplyKeepsTheEditorConsistent();
+
+    void twoEditorsOfOneManagerWriteWhatEachShows();
+    void aToolBarRemovedInOneEditorIsLeftAloneByTheOther();
+    void theManagerMayGoBeforeAShownEditor();
+
+    void theApplyLeavesAreaAndVisibilityAlone();
+    void theApplyReachesToolBarsInAnotherWindow();
+    void theApplyReachesFloatingToolBars();
+    void aWidgetOnAToolBarSurvivesTheApply();
+    void aWidgetOfTwoToolBarsStaysWhereItWas();
+    void aCreatedWidgetStandsOnEachToolBar();
+
+    void changesOfTheAppearanceKeepTheEdits_data();
+    void changesOfTheAppearanceKeepTheEdits();
+    void anotherLanguageKeepsTheEditsAndTheTexts();
+    void becomingAnotherWindowDiscardsTheEdits();
+};
+
+void tst_RyCToolBarWidget_Hosts::aDeletedToolBarIsLeftAlone_data()
+{
+    QTest::addColumn<bool>("isCurrent");
+    QTest::newRow("the current one") << true;
+    QTest::newRow("another one") << false;
+}
+
+void tst_RyCToolBarWidget_Hosts::aDeletedToolBarIsLeftAlone()
+{
+    QFETCH(bool, isCurrent);
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(isCurrent ? QStringLiteral("Mine") : QStringLiteral("File"));
+    host.manager.deleteToolBar(host.mine);
+    for (const char *slot : {"rightClicked", "upClicked", "downClicked", "leftClicked"})
+        editor.call(slot);
+    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("renameClicked");
+    editor.views.typeName(QStringLiteral("Ours"));
+    editor.widget.applyClicked();
+    QCOMPARE(editor.inconsistency(), QString());
+    editor.call("removeClicked");
+    // Nothing is left of it: there is nothing to delete at the next apply.
+    QCOMPARE(EditorFields::of(editor.widget).removedRecords.size(), 0);
+    QCOMPARE(EditorFields::of(editor.widget).ownedRecords.size(), 2);
+    QCOMPARE(editor.inconsistency(), QString());
+    editor.widget.defaultClicked();
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), lines({"File: open | save"}));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::aNewToolBarAtTheAddressOfADeletedOneIsLeftAlone_data()
+{
+    QTest::addColumn<bool>("removed");
+    QTest::newRow("edited") << false;
+    QTest::newRow("removed in the editor") << true;
+}
+
+void tst_RyCToolBarWidget_Hosts::aNewToolBarAtTheAddressOfADeletedOneIsLeftAlone()
+{
+    QFETCH(bool, removed);
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call(removed ? "removeClicked" : "leftClicked");
+    QToolBar *const other = reborn(host, host.mine);
+    host.manager.setToolBar(other, host.list(words("open | paste")));
+    const QStringList before = toolBarsOf(host.manager);
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), before);
+    if (!removed) {
+        editor.selectToolBar(QStringLiteral("Mine"));
+        editor.call("removeClicked");
+    }
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), before);
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::aDefaultToolBarAtTheAddressOfADeletedOneIsNotReset()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    QToolBar *const other = reborn(host, host.mine);
+    host.manager.removeDefaultToolBar(other);
+    other->addAction(host.action(QStringLiteral("open")));
+    host.manager.addDefaultToolBar(other, QStringLiteral("Late"));
+    host.manager.setToolBar(other, host.list(words("paste")));
+    editor.widget.defaultClicked();
+    QCOMPARE(editor.workingCopy(), lines({"File: open | save"}));
+    editor.widget.applyClicked();
+    QCOMPARE(contentOf(host.manager.actions(other)), words("paste"));
+}
+
+void tst_RyCToolBarWidget_Hosts::aToolBarDeletedByItsOwnWindowIsLeftAlone()
+{
+    FilledHost host;
+    std::unique_ptr<QMainWindow> second(new QMainWindow);
+    host.manager.setMainWindow(second.get());
+    QPointer<QToolBar> far = customToolBar(host, QStringLiteral("Far"), words("cut"));
+    ShownEditor editor(&host.manager);
+    host.manager.deleteToolBar(far);
+    second.reset();
+    host.manager.setMainWindow(&host.window);
+    editor.selectToolBar(QStringLiteral("Far"));
+    editor.call("leftClicked");
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"File: open | save", "Mine: cut | copy", "Yours: paste"}));
+}
+
+void tst_RyCToolBarWidget_Hosts::aDeletedActionIsShownAsBefore()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    QAction *const cut = host.action(QStringLiteral("cut"));
+    host.manager.removeAction(cut);
+    delete cut;
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QCOMPARE(rowsOf(editor.views.currentToolBarList),
+             lines({"Cut", "< S E P A R A T O R >", "Copy"}));
+    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.selectAction(QStringLiteral("Cut"));
+    editor.call("rightClicked");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), lines({"Paste", "Cut"}));
+    editor.call("upClicked");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), lines({"Cut", "Paste"}));
+}
+
+void tst_RyCToolBarWidget_Hosts::aDeletedActionIsLeftOutOfTheApply()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    QAction *const cut = host.action(QStringLiteral("cut"));
+    host.manager.removeAction(cut);
+    delete cut;
+    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.selectAction(QStringLiteral("Cut"));
+    editor.call("rightClicked");
+    editor.call("newClicked");
+    editor.call("rightClicked");
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar:", "File: open | save", "Mine: | copy", "Yours: paste"}));
+}
+
+void tst_RyCToolBarWidget_Hosts::aNewActionAtTheAddressOfADeletedOneIsNotPlaced()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    QAction *const cut = host.action(QStringLiteral("cut"));
+    host.manager.removeAction(cut);
+    cut->~QAction();
+    // At the same address for certain.
+    QAction *const reborn = new (static_cast<void *>(cut)) QAction(&host.window);
+    reborn->setObjectName(QStringLiteral("reborn"));
+    host.manager.addAction(reborn, QStringLiteral("Edits"));
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QCOMPARE(rowsOf(editor.views.currentToolBarList).constFirst(), QStringLiteral("Cut"));
+    editor.widget.applyClicked();
+    QCOMPARE(contentOf(host.manager.actions(host.mine)), words("| copy"));
+}
+
+void tst_RyCToolBarWidget_Hosts::changesOfActionsAreShownOnlyByNewEntries()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QAction *const cut = host.action(QStringLiteral("cut"));
+    cut->setText(QStringLiteral("Snip"));
+    cut->setObjectName(QStringLiteral("snip"));
+    QCOMPARE(rowsOf(editor.views.currentToolBarList).constFirst(), QStringLiteral("Cut"));
+    QVERIFY(itemNamed(editor.views.actionTree, QStringLiteral("Cut")));
+    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectAction(QStringLiteral("Cut"));
+    editor.call("rightClicked");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList),
+             lines({"Open", "Snip", "< S E P A R A T O R >", "Save"}));
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QCOMPARE(rowsOf(editor.views.currentToolBarList).constFirst(), QStringLiteral("Snip"));
+    editor.widget.applyClicked();
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("open snip | save"));
+    QCOMPARE(host.manager.findAction(QStringLiteral("snip")), cut);
+}
+
+void tst_RyCToolBarWidget_Hosts::anActionThatIsDisabledOrHiddenMeanwhileIsStillPlaced()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    host.action(QStringLiteral("cut"))->setEnabled(false);
+    host.action(QStringLiteral("copy"))->setVisible(false);
+    editor.selectToolBar(QStringLiteral("Yours"));
+    for (const char *text : {"Cut", "Copy"}) {
+        editor.selectAction(QLatin1String(text));
+        editor.call("rightClicked");
+    }
+    editor.widget.applyClicked();
+    QCOMPARE(contentOf(host.manager.actions(host.yours)), words("paste cut copy"));
+    QVERIFY(!host.action(QStringLiteral("cut"))->isEnabled());
+    QVERIFY(!host.action(QStringLiteral("copy"))->isVisible());
+}
+
+void tst_RyCToolBarWidget_Hosts::anActionThatBecameASeparatorIsStillAnAction()
+{
+    FilledHost host;
+    const QPointer<QAction> cut = host.action(QStringLiteral("cut"));
+    ShownEditor editor(&host.manager);
+    cut->setSeparator(true);
+    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.selectAction(QStringLiteral("Cut"));
+    editor.call("rightClicked");
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.widget.applyClicked();
+    QVERIFY(cut);
+    QCOMPARE(contentOf(host.manager.actions(host.yours)), words("paste cut"));
+    QCOMPARE(contentOf(host.manager.actions(host.mine)), words("| copy"));
+    cut->setSeparator(false);
+    editor.widget.defaultClicked();
+    editor.widget.applyClicked();
+    QVERIFY(cut);
+    QCOMPARE(toolBarsOf(host.manager), lines({"File: open | save"}));
+}
+
+void tst_RyCToolBarWidget_Hosts::theEditorMayBeHiddenWhileItApplies()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.call("removeClicked");
+    editor.selectToolBar(QStringLiteral("File"));
+    editor.call("leftClicked");
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.call("newClicked");
+    editor.call("rightClicked");
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] { editor.widget.hide(); });
+    host.file->installEventFilter(&calls);
+    host.mine->installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QCOMPARE(calls.count(), 1);
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar: |", "File: | save", "Mine: | copy"}));
+    QCOMPARE(editor.inconsistency(), QString());
+    QCOMPARE(editor.workingCopy(), QStringList());
+}
+
+void tst_RyCToolBarWidget_Hosts::theEditorMayBeShownAnewWhileItApplies()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    for (const char *title : {"Mine", "Yours", "File"}) {
+        editor.selectToolBar(QLatin1String(title));
+        editor.call("leftClicked");
+    }
+    editor.call("newClicked");
+    editor.call("rightClicked");
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] {
+        editor.widget.hide();
+        editor.widget.show();
+    });
+    for (QToolBar *toolBar : {host.file, host.mine.data(), host.yours.data()})
+        toolBar->installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QCOMPARE(calls.count(), 1);
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar: |", "File: | save", "Mine: | copy", "Yours:"}));
+    QCOMPARE(editor.inconsistency(), QString());
+    QCOMPARE(editor.workingCopy().size(), 3);
+}
+
+void tst_RyCToolBarWidget_Hosts::theEditorMayBeDeletedWhileItApplies_data()
+{
+    QTest::addColumn<int>("phase");
+    QTest::newRow("when a toolbar is changed") << 0;
+    QTest::newRow("when a toolbar is deleted") << 1;
+    QTest::newRow("when a toolbar is created") << 2;
+}
+
+void tst_RyCToolBarWidget_Hosts::theEditorMayBeDeletedWhileItApplies()
+{
+    QFETCH(int, phase);
+    FilledHost host;
+    ShownEditor *editor = new ShownEditor(&host.manager);
+    editor->selectToolBar(QStringLiteral("Yours"));
+    editor->call("removeClicked");
+    editor->selectToolBar(QStringLiteral("Mine"));
+    editor->call("leftClicked");
+    editor->call("newClicked");
+    editor->call("rightClicked");
+    HostCalls calls({phase == 2 ? QEvent::ChildAdded : QEvent::ActionRemoved}, HostCalls::Once,
+                    [&] {
+                        delete editor;
+                        editor = nullptr;
+                    });
+    QObject *const watched[] = {host.mine, host.yours, &host.window};
+    watched[phase]->installEventFilter(&calls);
+    editor->widget.applyClicked();
+    QVERIFY(!editor);
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar: |", "File: open | save", "Mine: | copy"}));
+}
+
+void tst_RyCToolBarWidget_Hosts::anApplyDuringTheApplyCreatesNothingTwice()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.call("removeClicked");
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.call("newClicked");
+    editor.call("rightClicked");
+    HostCalls calls({QEvent::ActionRemoved, QEvent::ActionAdded, QEvent::ChildAdded},
+                    HostCalls::Once, [&] { editor.widget.applyClicked(); });
+    host.mine->installEventFilter(&calls);
+    host.window.installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QCOMPARE(calls.count(), 1);
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar: |", "File: open | save", "Mine: | copy"}));
+    QCOMPARE(editor.inconsistency(), QString());
+    editor.widget.applyClicked();
+    QCOMPARE(host.manager.toolBars().size(), 3);
+}
+
+void tst_RyCToolBarWidget_Hosts::restoringDefaultsDuringTheApplyCreatesNothing()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.call("newClicked");
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once,
+                    [&] { editor.widget.defaultClicked(); });
+    host.mine->installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QCOMPARE(calls.count(), 1);
+    QCOMPARE(editor.inconsistency(), QString());
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"File: open | save", "Mine: | copy", "Yours: paste"}));
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), lines({"File: open | save"}));
+}
+
+void tst_RyCToolBarWidget_Hosts::aToolBarDeletedDuringTheApplyIsNotTitled()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    QToolBar *other = nullptr;
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once,
+                    [&] { other = reborn(host, host.mine); });
+    host.mine->installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QCOMPARE(other->windowTitle(), QStringLiteral("Reborn"));
+    QCOMPARE(standingOn(other), QStringList());
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::toolBarsDeletedDuringTheApplyAreLeftAlone()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    for (const char *title : {"Mine", "Yours", "File"}) {
+        editor.selectToolBar(QLatin1String(title));
+        editor.call("leftClicked");
+    }
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] {
+        host.manager.deleteToolBar(host.mine);
+        host.manager.deleteToolBar(host.yours);
+    });
+    for (QToolBar *toolBar : {host.file, host.mine.data(), host.yours.data()})
+        toolBar->installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), lines({"File: | save"}));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::aMessageBoxDuringTheApplyLosesNothing()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.call("newClicked");
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] {
+        const NextModal next([&](QWidget *box) {
+            editor.widget.hide();
+            host.manager.resetAllToolBars();
+            box->close();
+        });
+        QMessageBox(&host.window).exec();
+        QVERIFY(next.wasShown());
+    });
+    host.mine->installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar:", "File: open | save", "Mine: | copy", "Yours: paste"}));
+}
+
+void tst_RyCToolBarWidget_Hosts::restoringAStateDuringTheApplyLosesNoToolBar()
+{
+    FilledHost host;
+    const QByteArray state = host.manager.saveState(1);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.call("newClicked");
+    HostCalls calls({QEvent::ActionRemoved, QEvent::ChildAdded}, HostCalls::Always,
+                    [&] { QVERIFY(host.manager.restoreState(state, 1)); });
+    host.mine->installEventFilter(&calls);
+    host.window.installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QVERIFY(calls.count() >= 2);
+    QCOMPARE(host.manager.toolBars().size(), 4);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::anyEditDuringTheApplyKeepsTheEditorConsistent_data()
+{
+    QTest::addColumn<QByteArray>("slot");
+    for (const char *slot :
+         {"newClicked", "removeClicked", "upClicked", "downClicked", "rightClicked", "leftClicked",
+          "defaultClicked", "applyClicked", "setButtons"}) {
+        QTest::newRow(slot) << QByteArray(slot);
+    }
+}
+
+void tst_RyCToolBarWidget_Hosts::anyEditDuringTheApplyKeepsTheEditorConsistent()
+{
+    QFETCH(QByteArray, slot);
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.call("newClicked");
+    editor.call("rightClicked");
+    for (const char *title : {"Yours", "File", "Mine"}) {
+        editor.selectToolBar(QLatin1String(title));
+        editor.call("leftClicked");
+    }
+    HostCalls calls({QEvent::ActionRemoved, QEvent::ActionAdded, QEvent::ChildAdded},
+                    HostCalls::Always, [&] {
+                        static int depth = 0;
+                        if (++depth < 3)
+                            editor.call(slot.constData());
+                        --depth;
+                    });
+    for (QObject *object :
+         std::initializer_list<QObject *>{host.file, host.mine, host.yours, &host.window})
+        object->installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QVERIFY(calls.count() > 0);
+    QCOMPARE(editor.inconsistency(), QString());
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+    for (QObject *object : std::initializer_list<QObject *>{host.file, &host.window})
+        object->removeEventFilter(&calls);
+    editor.widget.applyClicked();
+    QCOMPARE(editor.inconsistency(), QString());
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::twoEditorsOfOneManagerWriteWhatEachShows()
+{
+    FilledHost host;
+    ShownEditor first(&host.manager);
+    ShownEditor second(&host.manager);
+    first.selectToolBar(QStringLiteral("Mine"));
+    first.call("leftClicked");
+    second.selectToolBar(QStringLiteral("Yours"));
+    second.call("rightClicked");
+    first.call("newClicked");
+    first.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar:", "File: open | save", "Mine: | copy", "Yours: paste"}));
+    // The second writes everything as it was when it was shown, but knows no new toolbar.
+    second.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar:", "File: open | save", "Mine: cut | copy", "Yours: paste |"}));
+    first.call("rightClicked");
+    first.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar: |", "File: open | save", "Mine: | copy", "Yours: paste"}));
+    QCOMPARE(first.inconsistency(), QString());
+    QCOMPARE(second.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::aToolBarRemovedInOneEditorIsLeftAloneByTheOther()
+{
+    FilledHost host;
+    ShownEditor first(&host.manager);
+    ShownEditor second(&host.manager);
+    for (ShownEditor *editor : {&first, &second}) {
+        editor->selectToolBar(QStringLiteral("Mine"));
+        editor->call("removeClicked");
+    }
+    first.selectToolBar(QStringLiteral("Yours"));
+    first.call("removeClicked");
+    second.selectToolBar(QStringLiteral("Yours"));
+    second.call("rightClicked");
+    first.widget.applyClicked();
+    second.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), lines({"File: open | save"}));
+    second.call("removeClicked");
+    second.widget.defaultClicked();
+    second.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), lines({"File: open | save"}));
+    QCOMPARE(first.inconsistency(), QString());
+    QCOMPARE(second.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::theManagerMayGoBeforeAShownEditor()
+{
+    QMainWindow window;
+    std::unique_ptr<RyToolBarManager> manager(new RyToolBarManager);
+    manager->setMainWindow(&window);
+    manager->createToolBar(QStringLiteral("Mine"));
+    std::unique_ptr<ShownEditor> editor(new ShownEditor(manager.get()));
+    QCOMPARE(currentOf(editor->views.toolBarList), QStringLiteral("Mine"));
+    manager.reset();
+    editor->widget.hide();
+    editor->widget.show();
+    editor->widget.applyClicked();
+    QCOMPARE(editor->workingCopy(), QStringList());
+    editor.reset();
+}
+
+void tst_RyCToolBarWidget_Hosts::theApplyLeavesAreaAndVisibilityAlone()
+{
+    FilledHost host;
+    host.window.addToolBar(Qt::LeftToolBarArea, host.mine);
+    host.window.addToolBarBreak(Qt::LeftToolBarArea);
+    host.window.addToolBar(Qt::BottomToolBarArea, host.yours);
+    host.window.show();
+    host.mine->hide();
+    ShownEditor editor(&host.manager);
+    for (const char *title : {"Mine", "Yours", "File"}) {
+        editor.selectToolBar(QLatin1String(title));
+        editor.call("leftClicked");
+    }
+    editor.widget.applyClicked();
+    QVERIFY(!host.mine->isVisible());
+    QVERIFY(host.yours->isVisible());
+    QCOMPARE(host.window.toolBarArea(host.mine), Qt::LeftToolBarArea);
+    QCOMPARE(host.window.toolBarArea(host.yours), Qt::BottomToolBarArea);
+    QCOMPARE(host.mine->orientation(), Qt::Vertical);
+    QCOMPARE(toolBarsOf(host.manager), lines({"File: | save", "Mine: | copy", "Yours:"}));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::theApplyReachesToolBarsInAnotherWindow()
+{
+    FilledHost host;
+    QMainWindow second;
+    second.addToolBar(host.mine);
+    second.addToolBar(host.yours);
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.call("removeClicked");
+    editor.widget.applyClicked();
+    QVERIFY(!host.yours);
+    QCOMPARE(host.mine->parent(), &second);
+    QCOMPARE(standingOn(host.mine), words("| copy"));
+}
+
+void tst_RyCToolBarWidget_Hosts::theApplyReachesFloatingToolBars()
+{
+    FilledHost host;
+    host.window.show();
+    for (QToolBar *toolBar : {host.mine.data(), host.yours.data()}) {
+        toolBar->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+        toolBar->move(300, 300);
+        toolBar->show();
+        QVERIFY(toolBar->isFloating());
+    }
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.call("removeClicked");
+    editor.widget.applyClicked();
+    QVERIFY(!host.yours);
+    QVERIFY(host.mine->isFloating());
+    QVERIFY(host.mine->isVisible());
+    QCOMPARE(standingOn(host.mine), words("| copy"));
+}
+
+void tst_RyCToolBarWidget_Hosts::aWidgetOnAToolBarSurvivesTheApply()
+{
+    Host host;
+    QToolBar *const file = host.toolBar(QStringLiteral("file"), words("open"));
+    const QPointer<QWidget> box = new QListWidget;
+    QAction *const boxAction = file->addWidget(box);
+    boxAction->setObjectName(QStringLiteral("box"));
+    boxAction->setText(QStringLiteral("Box"));
+    file->addAction(host.action(QStringLiteral("save")));
+    host.manager.addDefaultToolBar(file, QStringLiteral("Files"));
+    host.window.show();
+    ShownEditor editor(&host.manager);
+    editor.selectEntry(1);
+    editor.call("upClicked");
+    editor.widget.applyClicked();
+    QCOMPARE(standingOn(file), words("box open save"));
+    QVERIFY(box);
+    QCOMPARE(file->widgetForAction(boxAction), box.data());
+    QTRY_VERIFY(box->isVisible());
+    editor.call("leftClicked");
+    editor.widget.applyClicked();
+    QCOMPARE(standingOn(file), words("open save"));
+    QVERIFY(box && !box->isVisible());
+    editor.widget.defaultClicked();
+    editor.widget.applyClicked();
+    QCOMPARE(standingOn(file), words("open box save"));
+    QTRY_VERIFY(box && box->isVisible());
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::aWidgetOfTwoToolBarsStaysWhereItWas()
+{
+    Host host;
+    QToolBar *const file = host.toolBar(QStringLiteral("file"));
+    QWidget *const box = new QListWidget;
+    QAction *const boxAction = file->addWidget(box);
+    boxAction->setObjectName(QStringLiteral("box"));
+    boxAction->setText(QStringLiteral("Box"));
+    host.manager.addDefaultToolBar(file, QStringLiteral("Files"));
+    QToolBar *const mine = host.manager.createToolBar(QStringLiteral("Mine"));
+    host.window.show();
+    host.manager.setToolBar(mine, {boxAction});
+    QCOMPARE(file->widgetForAction(boxAction), box);
+    QVERIFY(qobject_cast<QToolButton *>(mine->widgetForAction(boxAction)));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::aCreatedWidgetStandsOnEachToolBar()
+{
+    class Maker : public QWidgetAction
+    {
+    public:
+        using QWidgetAction::QWidgetAction;
+        QWidget *createWidget(QWidget *parent) override { return new QListWidget(parent); }
+    };
+    Host host;
+    Maker maker(nullptr);
+    maker.setObjectName(QStringLiteral("maker"));
+    host.manager.addAction(&maker, QStringLiteral("Files"));
+    QToolBar *const mine = host.manager.createToolBar(QStringLiteral("Mine"));
+    QToolBar *const yours = host.manager.createToolBar(QStringLiteral("Yours"));
+    host.manager.setToolBars({{mine, {&maker}}, {yours, {&maker}}});
+    QVERIFY(qobject_cast<QListWidget *>(mine->widgetForAction(&maker)));
+    QVERIFY(qobject_cast<QListWidget *>(yours->widgetForAction(&maker)));
+    host.manager.deleteToolBar(mine);
+    QVERIFY(qobject_cast<QListWidget *>(yours->widgetForAction(&maker)));
+    host.manager.removeAction(&maker);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::changesOfTheAppearanceKeepTheEdits_data()
+{
+    QTest::addColumn<int>("change");
+    const char *const names[] = {"style",     "style sheet", "palette",         "font",
+                                 "direction", "enabled",     "application font"};
+    for (int i = 0; i < 7; ++i)
+        QTest::newRow(names[i]) << i;
+}
+
+void tst_RyCToolBarWidget_Hosts::changesOfTheAppearanceKeepTheEdits()
+{
+    QFETCH(int, change);
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.call("newClicked");
+    editor.call("rightClicked");
+    const QStringList edited = editor.workingCopy();
+    const QStringList entries = rowsOf(editor.views.currentToolBarList);
+    const QFont font = QApplication::font();
+    QProxyStyle style(QStringLiteral("windows"));
+    const std::function<void()> changes[] = {
+        [&] { editor.widget.setStyle(&style); },
+        [&] { editor.widget.setStyleSheet(QStringLiteral("QListWidget { padding: 9px; }")); },
+        [&] { editor.widget.setPalette(QPalette(Qt::darkBlue)); },
+        [&] { editor.widget.setFont(QFont(font.family(), 30)); },
+        [&] { editor.widget.setLayoutDirection(Qt::RightToLeft); },
+        [&] { editor.widget.setEnabled(false); },
+        [&] { QApplication::setFont(QFont(font.family(), 30)); },
+    };
+    changes[change]();
+    QCoreApplication::processEvents();
+    QCOMPARE(editor.workingCopy(), edited);
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), entries);
+    QCOMPARE(editor.inconsistency(), QString());
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), edited);
+    editor.widget.setStyle(nullptr);
+    QApplication::setFont(font);
+}
+
+void tst_RyCToolBarWidget_Hosts::anotherLanguageKeepsTheEditsAndTheTexts()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    const QStringList edited = editor.workingCopy();
+    const QStringList entries = rowsOf(editor.views.currentToolBarList);
+    const QString rename = editor.views.renameButton->text();
+    Shouting translator;
+    QCoreApplication::installTranslator(&translator);
+    QCoreApplication::processEvents();
+    QCOMPARE(editor.workingCopy(), edited);
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), entries);
+    QCOMPARE(editor.views.renameButton->text(), rename);
+    editor.selectAction(QStringLiteral("< S E P A R A T O R >"));
+    editor.call("rightClicked");
+    QCOMPARE(currentOf(editor.views.currentToolBarList), QStringLiteral("< S E P A R A T O R >"));
+    editor.call("newClicked");
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("CUSTOM TOOLBAR"));
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::becomingAnotherWindowDiscardsTheEdits()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.call("newClicked");
+    editor.widget.setWindowFlags(Qt::Dialog);
+    QCOMPARE(editor.workingCopy(), QStringList());
+    editor.widget.show();
+    QCOMPARE(editor.workingCopy(),
+             lines({"File: open | save", "Mine: cut | copy", "Yours: paste"}));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+QTEST_MAIN(tst_RyCToolBarWidget_Hosts)
+#include "tst_ryctoolbarwidget_hosts.moc"
