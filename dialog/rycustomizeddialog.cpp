@@ -8,6 +8,7 @@
 #include "ui_customizeddialog.h"
 
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 // Taking the list by value is part of the binary contract.
@@ -50,7 +51,11 @@ QPushButton *RyCustomizedDialog::helpButton() const
 
 void RyCustomizedDialog::slotAccepted()
 {
+    // Applying calls the host, which may delete the dialog.
+    const QPointer<RyCustomizedDialog> guard(this);
     slotApply();
+    if (!guard)
+        return;
     closeOptionPages();
     QDialog::accept();
 }
@@ -63,9 +68,14 @@ void RyCustomizedDialog::slotRejected()
 
 void RyCustomizedDialog::slotApply()
 {
+    const QPointer<RyCustomizedDialog> guard(this);
     const auto pages = m_optionPages;
-    for (RyCusInterface *page : pages)
+    for (RyCusInterface *page : pages) {
         page->apply();
+        // The pages go with the dialog.
+        if (!guard)
+            return;
+    }
 }
 
 void RyCustomizedDialog::slotUiModeChanged(bool modified)
