@@ -218,8 +218,8 @@ public:
      *
      * \param toolBarName the window title; it may be empty and need not be unique.
      * \return the toolbar, owned by the main window and managed until deleteToolBar() or
-     *         removeDefaultToolBar(); null, and nothing created, if no main window is set. Null as well if
-     *         the host deletes the toolbar when it hears of it.
+     *         removeDefaultToolBar(); null, and nothing created, if no main window is set. Null as well
+     *         if the host deletes the toolbar when it hears of it.
      */
     QToolBar *createToolBar(const QString &toolBarName);
 
