@@ -280,6 +280,7 @@ private Q_SLOTS:
     void aToolBarDeletedByItsNewTitleIsNotTouched();
     void aToolBarDeletedByItsNewNameIsNotTouched();
     void anActionDeletedWhileRestoringIsNotTouched();
+    void anActionReplacedWhileRestoringIsFound();
     void restoringWhileRestoringIsDone();
 
     void theMapGivenToSetToolBarsMayChangeMeanwhile();
@@ -671,6 +672,8 @@ void tst_RyToolBarManager_reentry::anActionPlacedAnewWhileItIsRemovedIsTakenOff(
 void tst_RyToolBarManager_reentry::aToolBarDeletedWhileAnActionIsRemovedIsNotTouched()
 {
     BusyHost host;
+    // Placed last, so that it is the turn of a toolbar that is gone.
+    host.manager.setToolBar(host.mine, host.list(words("open")));
     HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] { deleteCustom(host); });
     host.watch(&calls);
     host.manager.removeAction(host.action(name("open")));
@@ -882,6 +885,22 @@ void tst_RyToolBarManager_reentry::anActionDeletedWhileRestoringIsNotTouched()
     QVERIFY(host.manager.restoreState(state, 1));
     TestCase::takeWarnings();
     QCOMPARE(contentOf(host.manager.actions(host.yours)), QStringList(name("\"Nameless\"")));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::anActionReplacedWhileRestoringIsFound()
+{
+    BusyHost host;
+    host.manager.setToolBar(host.file, host.list(words("cut")));
+    QAction *const old = host.action(name("copy"));
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] {
+        host.manager.removeAction(old);
+        old->setObjectName(name("old"));
+        host.registered(name("copy"), A);
+    });
+    host.file->installEventFilter(&calls);
+    QVERIFY(host.manager.restoreState(host.plain, 1));
+    QCOMPARE(contentOf(host.manager.actions(host.yours)), words("save copy"));
     QCOMPARE(inconsistencyOf(host.manager), QString());
 }
 
