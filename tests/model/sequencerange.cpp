@@ -48,6 +48,8 @@ bool SequenceRange::run()
         runHere();
     int status = 0;
     waitpid(child, &status, 0);
+    if (WIFSIGNALED(status))
+        std::printf("ended by signal %d\n", WTERMSIG(status));
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
