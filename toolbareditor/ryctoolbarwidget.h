@@ -15,11 +15,11 @@ class QAction;
 class QListWidgetItem;
 class QToolBar;
 class QTreeWidgetItem;
-struct EditorForm;
 class RyAbstatcManager;
 class RyToolBarManager;
 class ToolBarItem;
 class Ui_CToolBarPage;
+struct EditorForm;
 
 /*!
  * \brief The toolbar editor: the widget of the "ToolBar" tab.
@@ -80,9 +80,9 @@ public Q_SLOTS:
      *
      * First every existing toolbar is given its content through RyToolBarManager::setToolBar() and
      * its title, changed or not, in the order of the editor's records; then removed toolbars are
-     * deleted; then new ones are created and filled. The editor stays as it is. Toolbars that the
-     * manager no longer manages are left alone. Applying twice creates and deletes nothing the
-     * second time.
+     * deleted; then new ones are created and filled. The editor stays as it is. A toolbar that the
+     * manager has forgotten meanwhile gets its title only; one that is gone is left out. Applying
+     * twice creates and deletes nothing the second time.
      *
      * While the editor is hidden the working copy is empty, and nothing is written.
      *
