@@ -53,7 +53,7 @@ void EditorApply::takeCreated()
         m_created.append(editOf(record));
 }
 
-void EditorApply::run()
+void EditorApply::run() const
 {
     for (const Edit &edit : m_existing)
         write(edit);

@@ -23,7 +23,7 @@ class EditorApply
 public:
     explicit EditorApply(RyCToolBarWidget *editor);
 
-    void run();
+    void run() const;
 
 private:
     // One toolbar as edited.

@@ -11,23 +11,28 @@ const int MaximumReplacements = 100;
 ContentChange *ContentChange::s_innermost = nullptr;
 
 ContentChange::ContentChange(const RyToolBarManager *manager, QToolBar *toolBar,
-                             const QList<QAction *> &content)
+                             const QList<QAction *> &content, int replacements)
     : m_outer(s_innermost)
     , m_manager(manager)
     , m_toolBar(toolBar)
     , m_content(content)
     , m_takenOff(nullptr)
-    , m_replacementsLeft(MaximumReplacements)
+    , m_replacementsLeft(replacements)
     , m_isReplaced(false)
     , m_isCancelled(false)
 {
     s_innermost = this;
 }
 
-ContentChange::ContentChange(const RyToolBarManager *manager, QToolBar *toolBar)
-    : ContentChange(manager, toolBar, QList<QAction *>())
+ContentChange::ContentChange(const RyToolBarManager *manager, QToolBar *toolBar,
+                             const QList<QAction *> &content)
+    : ContentChange(manager, toolBar, content, MaximumReplacements)
 {
-    m_replacementsLeft = 0;
+}
+
+ContentChange::ContentChange(const RyToolBarManager *manager, QToolBar *toolBar)
+    : ContentChange(manager, toolBar, QList<QAction *>(), 0)
+{
 }
 
 ContentChange::~ContentChange()

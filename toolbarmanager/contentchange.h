@@ -59,6 +59,8 @@ public:
 private:
     Q_DISABLE_COPY(ContentChange)
 
+    ContentChange(const RyToolBarManager *manager, QToolBar *toolBar,
+                  const QList<QAction *> &content, int replacements);
     bool concerns(const RyToolBarManager *manager, const QToolBar *toolBar) const;
 
     static ContentChange *s_innermost;

@@ -228,6 +228,8 @@ QList<QAction *> RyToolBarManager::placedContent(QToolBar *toolBar) const
 
 void RyToolBarManager::setToolBars(const QMap<QToolBar *, QList<QAction *>> &toolBars)
 {
+    // The host may be called and change the map that it gave.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const auto copy = toolBars;
     for (auto it = copy.cbegin(); it != copy.cend(); ++it)
         setToolBar(it.key(), it.value());

@@ -66,7 +66,7 @@ configure() {
 generate() {
     local targets
     mapfile -t targets < <(ninja -C "$build" -t targets all | sed -n 's|^\([^/]*_autogen\): .*|\1|p')
-    ninja -C "$build" "${targets[@]}" | tail -n 1
+    ninja -C "$build" RyCustomizedDialogForms "${targets[@]}" | tail -n 1
 }
 
 every_warning() {
@@ -75,7 +75,7 @@ every_warning() {
     # With the headers of the library, whose folders are no system folders.
     sources "${library[@]}" |
         over clang++ -fsyntax-only -std=c++11 -fPIC "${all_warnings[@]}" "${flags[@]}" \
-            "${library[@]/#/-I}" -isystem "$build/RyCustomizedDialog_autogen/include" \
+            "${library[@]/#/-I}" -isystem "$build" \
             -DRYCUSTOMIZEDDIALOG_LIBRARY {}
 }
 

@@ -25,7 +25,7 @@ library=(dialog toolbarmanager toolbareditor ribbon)
 generate() {
     cmake --preset release -B "$build" -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF \
         -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES=OFF &&
-        ninja -C "$build" RyCustomizedDialog_autogen | tail -n 1
+        ninja -C "$build" RyCustomizedDialogForms RyCustomizedDialog_autogen | tail -n 1
 }
 
 # uses FOLDER... -- SOURCE...
@@ -34,7 +34,7 @@ uses() {
     read -ra flags < <(pkg-config --cflags Qt5Widgets | sed 's/-I/-isystem/g')
     # The module of libclang belongs to the system's own Python.
     /usr/bin/python3 -B "$checks/uses.py" "$@" -- -std=c++11 -fPIC "${flags[@]}" \
-        "${library[@]/#/-I}" "-I$build/RyCustomizedDialog_autogen/include" -DQT_NO_KEYWORDS \
+        "${library[@]/#/-I}" "-I$build" -DQT_NO_KEYWORDS \
         -DRYCUSTOMIZEDDIALOG_LIBRARY
 }
 
