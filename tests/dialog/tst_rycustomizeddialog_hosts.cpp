@@ -4,6 +4,7 @@
 #include "host.h"
 #include "hostcalls.h"
 #include "nextmodal.h"
+#include "recordingtranslator.h"
 #include "rycustomizeddialog.h"
 #include "testcase.h"
 #include "texts.h"
@@ -13,7 +14,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTranslator>
 #include <QtTest>
 
 #include <functional>
@@ -64,16 +64,6 @@ void edit(RyCustomizedDialog *dialog)
     views.click(views.leftButton);
     QCOMPARE(rowsOf(views.currentToolBarList).size(), 2);
 }
-
-class Shouting : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *text, const char *, int) const override
-    {
-        return QString::fromUtf8(text).toUpper();
-    }
-};
 
 } // namespace
 
@@ -315,12 +305,10 @@ void tst_RyCustomizedDialog_Hosts::anotherLanguageMeanwhileKeepsTextsAndEdits()
     dialog->show();
     edit(dialog.get());
     QTabWidget *const tabs = dialog->findChild<QTabWidget *>();
-    Shouting translator;
-    QCoreApplication::installTranslator(&translator);
+    const RecordingTranslator translator;
     QCoreApplication::processEvents();
     QCOMPARE(dialog->windowTitle(), QStringLiteral("Options"));
     QCOMPARE(tabs->tabText(0), QStringLiteral("ToolBar"));
-    QCoreApplication::removeTranslator(&translator);
     dialog->okButton()->click();
     QCOMPARE(standingOn(host.file), words("| save"));
 }

@@ -3,6 +3,7 @@
 #include "host.h"
 #include "hostcalls.h"
 #include "nextmodal.h"
+#include "recordingtranslator.h"
 #include "showneditor.h"
 #include "testcase.h"
 #include "texts.h"
@@ -12,7 +13,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QProxyStyle>
-#include <QTranslator>
 #include <QWidgetAction>
 #include <QtTest>
 
@@ -49,6 +49,17 @@ QStringList lines(std::initializer_list<const char *> texts)
     return list;
 }
 
+// One edit of each kind: "Yours" goes, "Mine" loses its first entry, and a new toolbar gets one.
+void removeEditAndCreate(ShownEditor &editor)
+{
+    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.call("removeClicked");
+    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.call("leftClicked");
+    editor.call("newClicked");
+    editor.call("rightClicked");
+}
+
 // Memory that is kept when it is freed, to be given to the next object of that size.
 struct Memory
 {
@@ -66,17 +77,6 @@ QToolBar *reborn(Host &host, QToolBar *toolBar)
     memory = {nullptr, false};
     return created;
 }
-
-// Shows texts in another language, all in the same way.
-class Shouting : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *text, const char *, int) const override
-    {
-        return QString::fromUtf8(text).toUpper();
-    }
-};
 
 } // namespace
 
@@ -369,14 +369,9 @@ void tst_RyCToolBarWidget_Hosts::theEditorMayBeHiddenWhileItApplies()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Yours"));
-    editor.call("removeClicked");
     editor.selectToolBar(QStringLiteral("File"));
     editor.call("leftClicked");
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.call("leftClicked");
-    editor.call("newClicked");
-    editor.call("rightClicked");
+    removeEditAndCreate(editor);
     HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] { editor.widget.hide(); });
     host.file->installEventFilter(&calls);
     host.mine->installEventFilter(&calls);
@@ -425,12 +420,7 @@ void tst_RyCToolBarWidget_Hosts::theEditorMayBeDeletedWhileItApplies()
     QFETCH(int, phase);
     FilledHost host;
     ShownEditor *editor = new ShownEditor(&host.manager);
-    editor->selectToolBar(QStringLiteral("Yours"));
-    editor->call("removeClicked");
-    editor->selectToolBar(QStringLiteral("Mine"));
-    editor->call("leftClicked");
-    editor->call("newClicked");
-    editor->call("rightClicked");
+    removeEditAndCreate(*editor);
     HostCalls calls({phase == 2 ? QEvent::ChildAdded : QEvent::ActionRemoved}, HostCalls::Once,
                     [&] {
                         delete editor;
@@ -448,12 +438,7 @@ void tst_RyCToolBarWidget_Hosts::anApplyDuringTheApplyCreatesNothingTwice()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Yours"));
-    editor.call("removeClicked");
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.call("leftClicked");
-    editor.call("newClicked");
-    editor.call("rightClicked");
+    removeEditAndCreate(editor);
     HostCalls calls({QEvent::ActionRemoved, QEvent::ActionAdded, QEvent::ChildAdded},
                     HostCalls::Once, [&] { editor.widget.applyClicked(); });
     host.mine->installEventFilter(&calls);
@@ -852,8 +837,7 @@ void tst_RyCToolBarWidget_Hosts::anotherLanguageKeepsTheEditsAndTheTexts()
     const QStringList edited = editor.workingCopy();
     const QStringList entries = rowsOf(editor.views.currentToolBarList);
     const QString rename = editor.views.renameButton->text();
-    Shouting translator;
-    QCoreApplication::installTranslator(&translator);
+    const RecordingTranslator translator;
     QCoreApplication::processEvents();
     QCOMPARE(editor.workingCopy(), edited);
     QCOMPARE(rowsOf(editor.views.currentToolBarList), entries);
@@ -862,8 +846,7 @@ void tst_RyCToolBarWidget_Hosts::anotherLanguageKeepsTheEditsAndTheTexts()
     editor.call("rightClicked");
     QCOMPARE(currentOf(editor.views.currentToolBarList), QStringLiteral("< S E P A R A T O R >"));
     editor.call("newClicked");
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("CUSTOM TOOLBAR"));
-    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("translated Custom Toolbar"));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
