@@ -60,8 +60,9 @@ class QMainWindow;
  * call any operation of the manager in turn: toolbars and actions that are removed then are left
  * alone from then on, and records and widgets agree in the end. They must not delete the manager,
  * nor a managed toolbar otherwise than with deleteToolBar(), nor, as Qt asks, the action of the
- * event that they filter; and a filter that deletes the toolbar that it filters returns true. A
- * message handler that the warnings of saveState() reach must not change the manager.
+ * event that they filter; and a filter that deletes the toolbar that it filters returns true, and
+ * does not delete it at a change of its title, which Qt does not survive. A message handler that
+ * the warnings of saveState() reach must not change the manager.
  *
  * \par Arguments
  * Null, unknown and repeated arguments are ignored without a message. Only restoring, saving,
