@@ -36,3 +36,17 @@ finish() {
         "$0" "$result" $((SECONDS / 60)) $((SECONDS % 60)) "$log" | tee -a "$log"
     exit "$status"
 }
+
+# test_preset PRESET: builds everything with a preset and runs all its tests.
+test_preset() {
+    local cores
+    cores=$(nproc)
+    step 'Packages' tools/install-packages.sh tools/packages-test.txt
+    step 'Configure' cmake --preset "$1"
+    step 'Build' cmake --build --preset "$1" --parallel "$cores"
+    try 'Tests without a display' \
+        ctest --preset "$1" --label-exclude window --no-tests=error --parallel "$cores"
+    # Each of these starts an X server and a window manager.
+    try 'Tests in real windows' \
+        ctest --preset "$1" --label-regex window --no-tests=error --parallel $(((cores + 1) / 2))
+}
