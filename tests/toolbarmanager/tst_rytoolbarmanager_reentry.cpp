@@ -3,6 +3,7 @@
 #include "host.h"
 #include "hostcalls.h"
 #include "nextmodal.h"
+#include "statewriter.h"
 #include "testcase.h"
 #include "texts.h"
 
@@ -286,6 +287,7 @@ private Q_SLOTS:
 
     void aToolBarDeletedWhileRestoringIsCreatedAnew();
     void toolBarsReplacedWhileRestoringAreLookedUpAnew();
+    void aDefaultToolBarRegisteredWhileRestoringIsFound();
     void aToolBarCreatedWhileRestoringIsFound();
     void aToolBarDeletedByItsNewTitleIsNotTouched();
     void aToolBarDeletedByItsNewNameIsNotTouched();
@@ -843,6 +845,24 @@ void tst_RyToolBarManager_reentry::toolBarsReplacedWhileRestoringAreLookedUpAnew
     QVERIFY(host.manager.restoreState(host.plain, 1));
     QVERIFY(!host.mine != !host.yours);
     QCOMPARE(host.manager.toolBars().size(), 5);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aDefaultToolBarRegisteredWhileRestoringIsFound()
+{
+    BusyHost host;
+    QToolBar *const late = host.toolBar(name("late"));
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once,
+                    [&] { host.manager.addDefaultToolBar(late, A); });
+    host.watch(&calls);
+    const QByteArray state = StateWriter::ofVersion(1)
+                                 .defaults(2)
+                                 .defaultToolBar(name("file"), words("paste"))
+                                 .defaultToolBar(name("late"), words("cut"))
+                                 .customs(0)
+                                 .bytes();
+    QVERIFY(host.manager.restoreState(state, 1));
+    QCOMPARE(contentOf(host.manager.actions(late)), words("cut"));
     QCOMPARE(inconsistencyOf(host.manager), QString());
 }
 
