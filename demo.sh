@@ -25,5 +25,5 @@ if [ -n "$has_display" ]; then
     finish 'the text editor was closed'
 else
     step 'Tour' "$tour/run.sh" "$build" build/demo
-    finish 'every step of the tour held; its pictures are in build/demo'
+    finish 'every step of the tour held; its pictures and tour.gif are in build/demo'
 fi

@@ -5,9 +5,9 @@
 #
 # Takes the guided tour of the text editor built in BUILD_DIR: the real program, in a real window,
 # with a real pointer and real keys. Needs no display: it starts an X server, a window manager and
-# a message bus of its own, and ends them again. Prints one line for each step and leaves a
-# screenshot of each in OUTPUT_DIR, what the programs wrote in OUTPUT_DIR/log. Fails when a step
-# does not hold. packages.txt lists the Debian packages that it needs.
+# a message bus of its own, and ends them again. Prints one line for each step and leaves in
+# OUTPUT_DIR a screenshot of each, tour.gif made of the first ones, and in log/ what the programs
+# wrote. Fails when a step does not hold. packages.txt lists the Debian packages that it needs.
 set -euo pipefail
 
 if [ $# -ne 2 ]; then
@@ -36,7 +36,7 @@ fi
 
 mkdir -p "$2/log"
 output=$(realpath "$2")
-rm -f "$output"/[0-9][0-9]-*.png "$output"/{dialog,window}.png \
+rm -f "$output"/[0-9][0-9]-*.png "$output"/{dialog,window}.png "$output"/tour.gif \
     "$output"/log/{texteditor.log,widgets.txt}
 scratch=$(mktemp -d)
 started=()
@@ -96,3 +96,4 @@ start windowmanager.log openbox
 setpriv --pdeathsig TERM "$python" -B "$here/tour.py" "$editor" "$output" &
 started+=($!)
 wait $!
+"$here/animate.sh" "$output"
