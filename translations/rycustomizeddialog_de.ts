@@ -1,0 +1,205 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CRibbonPage</name>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Aktionen</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Werkzeugleisten</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>Neue Werkzeugleiste hinzufügen</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>Ausgewählte Werkzeugleiste entfernen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>Werkzeugleiste umbenennen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>Aktionen der aktuellen Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>Aktion nach oben verschieben</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>Aktion aus der Werkzeugleiste entfernen</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>Aktion zur Werkzeugleiste hinzufügen</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>Aktion nach unten verschieben</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
+</context>
+<context>
+    <name>CToolBarPage</name>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Aktionen</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Werkzeugleisten</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>Neue Werkzeugleiste hinzufügen</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>Ausgewählte Werkzeugleiste entfernen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>Werkzeugleiste umbenennen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>Aktionen der aktuellen Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>Aktion nach oben verschieben</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>Aktion aus der Werkzeugleiste entfernen</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>Aktion zur Werkzeugleiste hinzufügen</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>Aktion nach unten verschieben</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
+</context>
+<context>
+    <name>CustomizedDialog</name>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>RyCRibbonPage</name>
+    <message>
+        <source>Ribbon</source>
+        <translation>Menüband</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarPage</name>
+    <message>
+        <source>ToolBar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarWidget</name>
+    <message>
+        <source>&lt; S E P A R A T O R &gt;</source>
+        <translation>&lt; T R E N N L I N I E &gt;</translation>
+    </message>
+    <message>
+        <source>Custom Toolbar</source>
+        <translation>Eigene Werkzeugleiste</translation>
+    </message>
+</context>
+<context>
+    <name>RyCustomizedDialog</name>
+    <message>
+        <source>help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>KORVA help  doc!</source>
+        <translation>KORVA-Hilfedokument!</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,205 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="he" sourcelanguage="en">
+<context>
+    <name>CRibbonPage</name>
+    <message>
+        <source>Display</source>
+        <translation>תצוגה</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>פעולות</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>סרגלי כלים</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>הוסף סרגל כלים חדש</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>חדש</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>הסר את סרגל הכלים הנבחר</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>הסר</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>שנה את שם סרגל הכלים</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>שנה שם</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>פעולות סרגל הכלים הנוכחי</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>הזז את הפעולה למעלה</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>למעלה</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>הסר את הפעולה מסרגל הכלים</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>הוסף את הפעולה לסרגל הכלים</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>הזז את הפעולה למטה</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>למטה</translation>
+    </message>
+</context>
+<context>
+    <name>CToolBarPage</name>
+    <message>
+        <source>Display</source>
+        <translation>תצוגה</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>פעולות</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>סרגלי כלים</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>הוסף סרגל כלים חדש</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>חדש</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>הסר את סרגל הכלים הנבחר</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>הסר</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>שנה את שם סרגל הכלים</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>שנה שם</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>פעולות סרגל הכלים הנוכחי</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>הזז את הפעולה למעלה</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>למעלה</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>הסר את הפעולה מסרגל הכלים</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>הוסף את הפעולה לסרגל הכלים</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>הזז את הפעולה למטה</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>למטה</translation>
+    </message>
+</context>
+<context>
+    <name>CustomizedDialog</name>
+    <message>
+        <source>Options</source>
+        <translation>אפשרויות</translation>
+    </message>
+</context>
+<context>
+    <name>RyCRibbonPage</name>
+    <message>
+        <source>Ribbon</source>
+        <translation>רצועת כלים</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarPage</name>
+    <message>
+        <source>ToolBar</source>
+        <translation>סרגל כלים</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarWidget</name>
+    <message>
+        <source>&lt; S E P A R A T O R &gt;</source>
+        <translation>&lt; מ פ ר י ד &gt;</translation>
+    </message>
+    <message>
+        <source>Custom Toolbar</source>
+        <translation>סרגל כלים מותאם אישית</translation>
+    </message>
+</context>
+<context>
+    <name>RyCustomizedDialog</name>
+    <message>
+        <source>help</source>
+        <translation>עזרה</translation>
+    </message>
+    <message>
+        <source>KORVA help  doc!</source>
+        <translation>מסמך העזרה של KORVA!</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,205 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>CRibbonPage</name>
+    <message>
+        <source>Display</source>
+        <translation>Visualizzazione</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Azioni</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barre degli strumenti</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>Aggiungi una nuova barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuova</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>Rimuovi la barra degli strumenti selezionata</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>Rinomina la barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>Azioni della barra degli strumenti attuale</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>Sposta l&apos;azione in alto</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Su</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>Rimuovi l&apos;azione dalla barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>Aggiungi l&apos;azione alla barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>Sposta l&apos;azione in basso</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Giù</translation>
+    </message>
+</context>
+<context>
+    <name>CToolBarPage</name>
+    <message>
+        <source>Display</source>
+        <translation>Visualizzazione</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Azioni</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barre degli strumenti</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>Aggiungi una nuova barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuova</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>Rimuovi la barra degli strumenti selezionata</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>Rinomina la barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>Azioni della barra degli strumenti attuale</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>Sposta l&apos;azione in alto</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Su</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>Rimuovi l&apos;azione dalla barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>Aggiungi l&apos;azione alla barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>Sposta l&apos;azione in basso</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Giù</translation>
+    </message>
+</context>
+<context>
+    <name>CustomizedDialog</name>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+</context>
+<context>
+    <name>RyCRibbonPage</name>
+    <message>
+        <source>Ribbon</source>
+        <translation>Barra multifunzione</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarPage</name>
+    <message>
+        <source>ToolBar</source>
+        <translation>Barra degli strumenti</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarWidget</name>
+    <message>
+        <source>&lt; S E P A R A T O R &gt;</source>
+        <translation>&lt; S E P A R A T O R E &gt;</translation>
+    </message>
+    <message>
+        <source>Custom Toolbar</source>
+        <translation>Barra degli strumenti personalizzata</translation>
+    </message>
+</context>
+<context>
+    <name>RyCustomizedDialog</name>
+    <message>
+        <source>help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>KORVA help  doc!</source>
+        <translation>Documento d&apos;aiuto di KORVA!</translation>
+    </message>
+</context>
+</TS>

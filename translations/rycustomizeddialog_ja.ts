@@ -1,0 +1,205 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>CRibbonPage</name>
+    <message>
+        <source>Display</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>アクション</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>ツールバー</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>新しいツールバーを追加</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新規</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>選択したツールバーを削除</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>ツールバーの名前を変更</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前の変更</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>現在のツールバーのアクション</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>アクションを上に移動</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>ツールバーからアクションを削除</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>ツールバーにアクションを追加</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>アクションを下に移動</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下へ</translation>
+    </message>
+</context>
+<context>
+    <name>CToolBarPage</name>
+    <message>
+        <source>Display</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>アクション</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>ツールバー</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>新しいツールバーを追加</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新規</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>選択したツールバーを削除</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>ツールバーの名前を変更</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前の変更</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>現在のツールバーのアクション</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>アクションを上に移動</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>ツールバーからアクションを削除</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>ツールバーにアクションを追加</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>アクションを下に移動</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下へ</translation>
+    </message>
+</context>
+<context>
+    <name>CustomizedDialog</name>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+</context>
+<context>
+    <name>RyCRibbonPage</name>
+    <message>
+        <source>Ribbon</source>
+        <translation>リボン</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarPage</name>
+    <message>
+        <source>ToolBar</source>
+        <translation>ツールバー</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarWidget</name>
+    <message>
+        <source>&lt; S E P A R A T O R &gt;</source>
+        <translation>&lt; 区 切 り &gt;</translation>
+    </message>
+    <message>
+        <source>Custom Toolbar</source>
+        <translation>カスタムツールバー</translation>
+    </message>
+</context>
+<context>
+    <name>RyCustomizedDialog</name>
+    <message>
+        <source>help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>KORVA help  doc!</source>
+        <translation>KORVA のヘルプ文書！</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,205 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name>CRibbonPage</name>
+    <message>
+        <source>Display</source>
+        <translation>Exibição</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Ações</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barras de ferramentas</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>Adicionar uma nova barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nova</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>Remover a barra de ferramentas selecionada</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>Renomear a barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renomear</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>Ações da barra de ferramentas atual</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>Mover a ação para cima</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>Remover a ação da barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>Adicionar a ação à barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>Mover a ação para baixo</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Descer</translation>
+    </message>
+</context>
+<context>
+    <name>CToolBarPage</name>
+    <message>
+        <source>Display</source>
+        <translation>Exibição</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Ações</translation>
+    </message>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barras de ferramentas</translation>
+    </message>
+    <message>
+        <source>Add new toolbar</source>
+        <translation>Adicionar uma nova barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nova</translation>
+    </message>
+    <message>
+        <source>Remove selected toolbar</source>
+        <translation>Remover a barra de ferramentas selecionada</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Rename toolbar</source>
+        <translation>Renomear a barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renomear</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Current Toolbar Actions</source>
+        <translation>Ações da barra de ferramentas atual</translation>
+    </message>
+    <message>
+        <source>Move action up</source>
+        <translation>Mover a ação para cima</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Remove action from toolbar</source>
+        <translation>Remover a ação da barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Add action to toolbar</source>
+        <translation>Adicionar a ação à barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Move action down</source>
+        <translation>Mover a ação para baixo</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Descer</translation>
+    </message>
+</context>
+<context>
+    <name>CustomizedDialog</name>
+    <message>
+        <source>Options</source>
+        <translation>Opções</translation>
+    </message>
+</context>
+<context>
+    <name>RyCRibbonPage</name>
+    <message>
+        <source>Ribbon</source>
+        <translation>Faixa de opções</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarPage</name>
+    <message>
+        <source>ToolBar</source>
+        <translation>Barra de ferramentas</translation>
+    </message>
+</context>
+<context>
+    <name>RyCToolBarWidget</name>
+    <message>
+        <source>&lt; S E P A R A T O R &gt;</source>
+        <translation>&lt; S E P A R A D O R &gt;</translation>
+    </message>
+    <message>
+        <source>Custom Toolbar</source>
+        <translation>Barra de ferramentas personalizada</translation>
+    </message>
+</context>
+<context>
+    <name>RyCustomizedDialog</name>
+    <message>
+        <source>help</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>KORVA help  doc!</source>
+        <translation>Documento de ajuda do KORVA!</translation>
+    </message>
+</context>
+</TS>
