@@ -1,12 +1,13 @@
 # SPDX-License-Identifier: MIT
 
-# What `cmake --install` gives: the library, its headers, a relocatable CMake package and a
-# pkg-config file.
+# What `cmake --install` gives: the library, its headers, its translations, a relocatable CMake
+# package and a pkg-config file.
 
 include(CMakePackageConfigHelpers)
 
 set(RY_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/RyCustomizedDialog")
 set(RY_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+set(RY_TRANSLATIONS_DIR "${CMAKE_INSTALL_DATADIR}/rycustomizeddialog/translations")
 
 install(TARGETS RyCustomizedDialog EXPORT RyCustomizedDialogTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
@@ -14,6 +15,7 @@ install(TARGETS RyCustomizedDialog EXPORT RyCustomizedDialogTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(FILES ${RY_PUBLIC_HEADERS} ${RY_FORWARDING_HEADERS}
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/RyCustomizedDialog")
+install(FILES ${RY_TRANSLATIONS} DESTINATION "${RY_TRANSLATIONS_DIR}")
 
 install(EXPORT RyCustomizedDialogTargets
     NAMESPACE RyCustomizedDialog::
@@ -22,6 +24,7 @@ configure_package_config_file(
     cmake/RyCustomizedDialogConfig.cmake.in
     "${PROJECT_BINARY_DIR}/RyCustomizedDialogConfig.cmake"
     INSTALL_DESTINATION "${RY_PACKAGE_DIR}"
+    PATH_VARS RY_TRANSLATIONS_DIR
     NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(
     "${PROJECT_BINARY_DIR}/RyCustomizedDialogConfigVersion.cmake"
@@ -32,10 +35,12 @@ install(FILES
     DESTINATION "${RY_PACKAGE_DIR}")
 
 # The prefix is found from where the file lies, so that the installed tree can be moved.
-if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}"
+        OR IS_ABSOLUTE "${CMAKE_INSTALL_DATADIR}")
     set(RY_PKGCONFIG_PREFIX "${CMAKE_INSTALL_PREFIX}")
     set(RY_PKGCONFIG_LIBDIR "${CMAKE_INSTALL_FULL_LIBDIR}")
     set(RY_PKGCONFIG_INCLUDEDIR "${CMAKE_INSTALL_FULL_INCLUDEDIR}")
+    set(RY_PKGCONFIG_DATADIR "${CMAKE_INSTALL_FULL_DATADIR}")
 else()
     file(RELATIVE_PATH RY_PREFIX_FROM_PKGCONFIG
         "${CMAKE_INSTALL_PREFIX}/${RY_PKGCONFIG_DIR}" "${CMAKE_INSTALL_PREFIX}")
@@ -43,6 +48,12 @@ else()
     set(RY_PKGCONFIG_PREFIX "\${pcfiledir}/${RY_PREFIX_FROM_PKGCONFIG}")
     set(RY_PKGCONFIG_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
     set(RY_PKGCONFIG_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+    set(RY_PKGCONFIG_DATADIR "\${prefix}/${CMAKE_INSTALL_DATADIR}")
+endif()
+set(RY_PKGCONFIG_TRANSLATIONS "")
+if(RYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS)
+    set(RY_PKGCONFIG_TRANSLATIONS
+        "translationsdir=${RY_PKGCONFIG_DATADIR}/rycustomizeddialog/translations\n")
 endif()
 configure_file(cmake/RyCustomizedDialog.pc.in "${PROJECT_BINARY_DIR}/RyCustomizedDialog.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/RyCustomizedDialog.pc" DESTINATION "${RY_PKGCONFIG_DIR}")

@@ -3,7 +3,7 @@
 """Tests of what `cmake --install` gives, as a host meets it.
 
 CMake runs the test classes one by one and sets what they need in the environment: SOURCE_DIR,
-BUILD_DIR, INSTALL_PREFIX, LIBDIR, CMAKE, CXX and CXXFLAGS of the build under test.
+BUILD_DIR, LIBDIR, TRANSLATIONS, CMAKE, CXX and CXXFLAGS of the build under test.
 """
 
 import os
@@ -19,6 +19,7 @@ from pathlib import Path
 SOURCE_DIR = Path(os.environ['SOURCE_DIR'])
 BUILD_DIR = Path(os.environ['BUILD_DIR'])
 LIBDIR = os.environ['LIBDIR']
+TRANSLATIONS = os.environ['TRANSLATIONS']
 CMAKE = os.environ['CMAKE']
 CXX = os.environ['CXX']
 CXXFLAGS = shlex.split(os.environ['CXXFLAGS'])
@@ -42,6 +43,10 @@ CLASSES = (
     'RyTreeItemMimeData',
     'RyTreeWidget',
 )
+LANGUAGES = [path.stem for path in (SOURCE_DIR / 'translations').glob('*.ts')
+             if TRANSLATIONS == 'ON']
+# What a host is told about them.
+TRANSLATED = ['translated'] if LANGUAGES else []
 HEADERS = CLASSES + tuple(name.lower() + '.h' for name in CLASSES) + ('rycustomizeddialogexport.h',)
 
 # What a host may define before it includes a header.
@@ -116,6 +121,7 @@ class InstalledTree(unittest.TestCase):
         expected += [f'{LIBDIR}/{library}{end}' for end in ('', f'.{MAJOR}', f'.{VERSION}')]
         expected += [f'{package}{end}.cmake' for end in ('Config', 'ConfigVersion', 'Targets')]
         expected += [f'{LIBDIR}/pkgconfig/RyCustomizedDialog.pc']
+        expected += [f'share/rycustomizeddialog/translations/{name}.qm' for name in LANGUAGES]
         found = [str(path.relative_to(prefix)) for path in prefix.rglob('*') if not path.is_dir()]
         # One more file is named after the build type.
         found = [path for path in found if not re.match(re.escape(package) + r'Targets-\w+', path)]
@@ -210,7 +216,7 @@ class Hosts(unittest.TestCase):
 
     def build_and_run(self, name, *options):
         self.build(HOST_DIR, name, *options, target='host')
-        run(work / name / 'host')
+        run(work / name / 'host', *TRANSLATED)
 
     def test_cmake_package_works_wherever_it_lies(self):
         self.build_and_run('package', f'-DCMAKE_PREFIX_PATH={prefix}')
@@ -237,15 +243,30 @@ class Hosts(unittest.TestCase):
 
     def test_pkg_config_file_works_wherever_it_lies(self):
         flags = pkg_config('--cflags', '--libs', 'RyCustomizedDialog')
-        run(CXX, *CXXFLAGS, '-std=c++11', '-fPIC', HOST_DIR / 'main.cpp', '-o', work / 'pc-host',
-            *flags)
-        run(work / 'pc-host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
+        folder = ''.join(pkg_config('--variable=translationsdir', 'RyCustomizedDialog'))
+        run(CXX, *CXXFLAGS, '-std=c++11', '-fPIC', f'-DTRANSLATIONS_DIR="{folder}"',
+            HOST_DIR / 'main.cpp', '-o', work / 'pc-host', *flags)
+        run(work / 'pc-host', *TRANSLATED, LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
     def test_subdirectory_gives_the_same_target_without_tests_and_examples(self):
-        self.build_and_run('subdirectory', f'-DLIBRARY_SOURCE_DIR={SOURCE_DIR}')
+        self.build_and_run('subdirectory', f'-DLIBRARY_SOURCE_DIR={SOURCE_DIR}',
+                           f'-DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS={TRANSLATIONS}')
         cache = (work / 'subdirectory' / 'CMakeCache.txt').read_text()
         for what in ('TESTS', 'EXAMPLES'):
             self.assertIn(f'\nRYCUSTOMIZEDDIALOG_BUILD_{what}:BOOL=OFF\n', cache)
+
+    def test_package_without_translations_names_no_folder(self):
+        # In the folder of the other test, so that the library is compiled once.
+        self.build(HOST_DIR, 'subdirectory', f'-DLIBRARY_SOURCE_DIR={SOURCE_DIR}',
+                   '-DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=OFF', target='host')
+        run(work / 'subdirectory' / 'host')
+        run(CMAKE, '--install', work / 'subdirectory', '--prefix', work / 'without')
+        self.assertEqual(list((work / 'without').rglob('*translations*')), [])
+        self.build(HOST_DIR, 'told-nothing', f'-DCMAKE_PREFIX_PATH={work / "without"}',
+                   target='host')
+        run(work / 'told-nothing' / 'host')
+        file = work / 'without' / LIBDIR / 'pkgconfig' / 'RyCustomizedDialog.pc'
+        self.assertNotIn('translationsdir', file.read_text())
 
     def test_examples_build_against_the_package(self):
         for path in sorted((SOURCE_DIR / 'examples').glob('*/CMakeLists.txt')):

@@ -15,6 +15,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QToolBar>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -31,6 +32,22 @@ void check(bool holds, const char *what)
 }
 
 #define CHECK(condition) check((condition), #condition)
+
+// A library that was built without translations names no folder.
+void checkTranslations(bool expected)
+{
+    const QString folder = QStringLiteral(TRANSLATIONS_DIR);
+    CHECK(folder.isEmpty() == !expected);
+    if (folder.isEmpty())
+        return;
+    QTranslator german;
+    CHECK(german.load(QLocale(QStringLiteral("de_DE")), QStringLiteral("rycustomizeddialog"),
+                      QStringLiteral("_"), folder));
+    QCoreApplication::installTranslator(&german);
+    RyToolBarManager manager;
+    const RyCustomizedDialog dialog({&manager, nullptr});
+    CHECK(dialog.windowTitle() == QStringLiteral("Optionen"));
+}
 
 } // namespace
 
@@ -76,5 +93,6 @@ int main(int argc, char *argv[])
     const QImage icon(QStringLiteral(":/RyCustomizedDialog/images/plus.png"));
     CHECK(icon.size() == QSize(22, 22));
 
+    checkTranslations(argc > 1);
     return failures;
 }
