@@ -42,7 +42,7 @@ test_preset() {
     local cores
     cores=$(nproc)
     step 'Packages' tools/install-packages.sh tools/packages-test.txt
-    step 'Configure' cmake --preset "$1"
+    step 'Configure' cmake --preset "$1" -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
     step 'Build' cmake --build --preset "$1" --parallel "$cores"
     try 'Tests without a display' \
         ctest --preset "$1" --label-exclude window --no-tests=error --parallel "$cores"

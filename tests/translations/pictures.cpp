@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+
+// usage: translation-pictures FOLDER
+//
+// Writes a picture for each language: the dialog's two tabs and the box of its Help button, each
+// with its title above it, in the direction of the language.
+
+#include "host.h"
+#include "installedlanguage.h"
+#include "rycustomizeddialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace {
+
+struct View
+{
+    QString title;
+    QPixmap picture;
+};
+
+View viewOf(QWidget *widget)
+{
+    return {widget->windowTitle(), widget->grab()};
+}
+
+View helpOf(const RyCustomizedDialog &dialog)
+{
+    View view;
+    QTimer::singleShot(0, qApp, [&view] {
+        QWidget *const box = QApplication::activeModalWidget();
+        view = viewOf(box);
+        box->close();
+    });
+    dialog.helpButton()->click();
+    return view;
+}
+
+QList<View> viewsOfDialog()
+{
+    Host host;
+    host.registered(QStringLiteral("print"), QStringLiteral("File"));
+    host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open"), QStringLiteral("|")},
+                        QStringLiteral("File"));
+    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
+    dialog.show();
+    dialog.findChild<QAbstractButton *>(QStringLiteral("newButton"))->click();
+    QCoreApplication::processEvents();
+
+    QList<View> views{viewOf(&dialog)};
+    dialog.findChild<QTabWidget *>()->setCurrentIndex(1);
+    views << viewOf(&dialog) << helpOf(dialog);
+    return views;
+}
+
+QImage sheetOf(const QList<View> &views)
+{
+    const int caption = 24;
+    QSize size;
+    for (const View &view : views)
+        size = QSize(qMax(size.width(), view.picture.width()),
+                     size.height() + caption + view.picture.height());
+    QImage sheet(size, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    QPainter painter(&sheet);
+    int y = 0;
+    for (const View &view : views) {
+        painter.drawText(QRect(0, y, size.width(), caption), Qt::AlignCenter, view.title);
+        painter.drawPixmap(0, y + caption, view.picture);
+        y += caption + view.picture.height();
+    }
+    return sheet;
+}
+
+bool takePicture(const QString &language, const QDir &folder)
+{
+    const InstalledLanguage installed(language, InstalledLanguage::LibraryAndQt);
+    QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
+    const QString file = folder.filePath(language + QLatin1String(".png"));
+    const bool done = installed.isLoaded() && sheetOf(viewsOfDialog()).save(file);
+    std::printf("%s: %s\n", qPrintable(file), done ? "written" : "FAILED");
+    return done;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    const QDir folder(application.arguments().value(1));
+    int failed = 0;
+    const auto languages = InstalledLanguage::all();
+    for (const QString &language : languages)
+        failed += takePicture(language, folder) ? 0 : 1;
+    return failed;
+}

@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: MIT
+
+#include "installedlanguage.h"
+#include "recordingtranslator.h"
+#include "testcase.h"
+#include "translateddialog.h"
+#include "translationfile.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QtTest>
+
+namespace {
+
+// What a translation may share with its source: signs, and words that the languages share.
+const QStringList signs{QStringLiteral("->"), QStringLiteral("1"), QStringLiteral("<-")};
+const QMap<QString, QStringList> sharedWords{
+    {QStringLiteral("fr"), {QStringLiteral("Actions"), QStringLiteral("Options")}},
+    {QStringLiteral("pl"), {QStringLiteral("< S E P A R A T O R >")}},
+};
+
+// Letters that a text of the language must not have: those of another alphabet look alike.
+const QMap<QString, QString> foreignLetters{
+    {QStringLiteral("ar"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Hebrew}]")},
+    {QStringLiteral("he"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Arabic}]")},
+    {QStringLiteral("ja"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Hangul}]")},
+    {QStringLiteral("ko"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Han}\\p{Katakana}]")},
+    {QStringLiteral("ru"), QStringLiteral("[A-Za-zіїєґІЇЄҐ]")},
+    {QStringLiteral("uk"), QStringLiteral("[A-Za-zыэёъЫЭЁЪ]")},
+    {QStringLiteral("zh_CN"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Hangul}\\p{Katakana}]")},
+};
+
+QStringList namesWith(const char *ending)
+{
+    QStringList names;
+    const auto languages = InstalledLanguage::all();
+    for (const QString &language : languages)
+        names << QStringLiteral("rycustomizeddialog_%1.%2").arg(language, QLatin1String(ending));
+    names.sort();
+    return names;
+}
+
+bool endsLikeEllipsis(const QString &text)
+{
+    return text.endsWith(QLatin1String("...")) || text.endsWith(QChar(0x2026));
+}
+
+// How a translation is told in a failure.
+QString told(const TranslationFile::Message &message)
+{
+    return QStringLiteral("%1: %2 = %3").arg(message.context, message.source, message.translation);
+}
+
+} // namespace
+
+class tst_Translations : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyFileIsBuilt();
+    void theEnglishFileListsWhatTheLibraryLooksUp();
+    void theEnglishFileTranslatesNothing();
+
+    void everyMessageIsFinished_data() { addLanguages(); }
+    void everyMessageIsFinished();
+    void onlyTheListedTextsEqualTheirSource_data() { addLanguages(); }
+    void onlyTheListedTextsEqualTheirSource();
+    void blanksAcceleratorsAndEllipsesAreThoseOfTheSource_data() { addLanguages(); }
+    void blanksAcceleratorsAndEllipsesAreThoseOfTheSource();
+    void signsAndNamesAreKept_data() { addLanguages(); }
+    void signsAndNamesAreKept();
+    void lettersAreThoseOfTheLanguage_data() { addLanguages(); }
+    void lettersAreThoseOfTheLanguage();
+    void oneSourceHasOneTranslation_data() { addLanguages(); }
+    void oneSourceHasOneTranslation();
+    void differentTextsOfAPageStayDifferent_data() { addLanguages(); }
+    void differentTextsOfAPageStayDifferent();
+
+    void qtLoadsEachByItsLocale_data();
+    void qtLoadsEachByItsLocale();
+    void qtFindsWhatTheFileSays_data() { addLanguages(); }
+    void qtFindsWhatTheFileSays();
+
+private:
+    static void addLanguages();
+};
+
+// All but English.
+void tst_Translations::addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    auto languages = InstalledLanguage::all();
+    languages.removeAll(QStringLiteral("en"));
+    for (const QString &language : qAsConst(languages))
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void tst_Translations::everyFileIsBuilt()
+{
+    const QDir sources(QStringLiteral(RY_TRANSLATION_SOURCES_DIR));
+    QCOMPARE(sources.entryList({QStringLiteral("*.ts")}), namesWith("ts"));
+    const auto compiled = namesWith("qm");
+    for (const QString &name : compiled)
+        QVERIFY2(QDir(QStringLiteral(RY_TRANSLATIONS_DIR)).exists(name), qPrintable(name));
+}
+
+void tst_Translations::theEnglishFileListsWhatTheLibraryLooksUp()
+{
+    RecordingTranslator translator;
+    TranslatedDialog session;
+    session.createToolBar();
+    session.help();
+    QStringList lookedUp = translator.takeLookUps();
+    lookedUp.removeDuplicates();
+    lookedUp.sort();
+    QStringList listed = TranslationFile(QStringLiteral("en")).keys();
+    listed.sort();
+    QCOMPARE(listed, lookedUp);
+}
+
+void tst_Translations::theEnglishFileTranslatesNothing()
+{
+    const TranslationFile file(QStringLiteral("en"));
+    for (const auto &message : file.messages)
+        QCOMPARE(message.translation, QString());
+    const InstalledLanguage language(QStringLiteral("en"));
+    QVERIFY(language.isLoaded());
+    QVERIFY(language.library().isEmpty());
+}
+
+void tst_Translations::everyMessageIsFinished()
+{
+    QFETCH(QString, language);
+    const TranslationFile file(language);
+    QCOMPARE(file.language, language);
+    QCOMPARE(file.keys(), TranslationFile(QStringLiteral("en")).keys());
+    for (const auto &message : file.messages) {
+        QVERIFY2(message.type.isEmpty(), qPrintable(told(message)));
+        QVERIFY2(!message.translation.isEmpty(), qPrintable(told(message)));
+    }
+}
+
+void tst_Translations::onlyTheListedTextsEqualTheirSource()
+{
+    QFETCH(QString, language);
+    const auto translations = TranslationFile(language).bySource();
+    QStringList equal;
+    for (auto it = translations.cbegin(); it != translations.cend(); ++it) {
+        if (it.key() == it.value())
+            equal << it.key();
+    }
+    QStringList expected = signs + sharedWords.value(language);
+    expected.sort();
+    QCOMPARE(equal, expected);
+}
+
+void tst_Translations::blanksAcceleratorsAndEllipsesAreThoseOfTheSource()
+{
+    QFETCH(QString, language);
+    const TranslationFile file(language);
+    for (const auto &message : file.messages) {
+        const QString text = message.translation;
+        const QByteArray what = told(message).toUtf8();
+        QVERIFY2(text == text.simplified() || text.contains(QChar(QChar::Nbsp)), what.constData());
+        QVERIFY2(text == text.trimmed(), what.constData());
+        QVERIFY2(text.count(QLatin1Char('&')) == message.source.count(QLatin1Char('&')),
+                 what.constData());
+        QVERIFY2(text.count(QLatin1Char('%')) == message.source.count(QLatin1Char('%')),
+                 what.constData());
+        QVERIFY2(endsLikeEllipsis(text) == endsLikeEllipsis(message.source), what.constData());
+    }
+}
+
+// The separator's entry comes first among the categories because of its "<".
+void tst_Translations::signsAndNamesAreKept()
+{
+    QFETCH(QString, language);
+    const auto translations = TranslationFile(language).bySource();
+    const QString separator = translations.value(QStringLiteral("< S E P A R A T O R >"));
+    QVERIFY2(separator.startsWith(QLatin1String("< ")), qPrintable(separator));
+    QVERIFY2(separator.endsWith(QLatin1String(" >")), qPrintable(separator));
+    QCOMPARE(separator, separator.toUpper());
+    const QString help = translations.value(QStringLiteral("KORVA help  doc!"));
+    QVERIFY2(help.contains(QLatin1String("KORVA")), qPrintable(help));
+}
+
+void tst_Translations::lettersAreThoseOfTheLanguage()
+{
+    QFETCH(QString, language);
+    QString foreign = QStringLiteral("[\\p{Cyrillic}\\p{Greek}\\p{Arabic}\\p{Hebrew}\\p{Han}]");
+    if (foreignLetters.contains(language))
+        foreign = foreignLetters.value(language);
+    const QRegularExpression letters(foreign);
+    QVERIFY(letters.isValid());
+    const TranslationFile file(language);
+    for (const auto &message : file.messages) {
+        QString text = message.translation;
+        text.remove(QLatin1String("KORVA"));
+        QVERIFY2(!text.contains(letters), qPrintable(told(message)));
+    }
+}
+
+void tst_Translations::oneSourceHasOneTranslation()
+{
+    QFETCH(QString, language);
+    const TranslationFile file(language);
+    const auto translations = file.bySource();
+    for (const auto &message : file.messages)
+        QCOMPARE(message.translation, translations.value(message.source));
+}
+
+void tst_Translations::differentTextsOfAPageStayDifferent()
+{
+    QFETCH(QString, language);
+    QMap<QString, QString> sources;
+    const TranslationFile file(language);
+    for (const auto &message : file.messages) {
+        const QString key = message.context + QLatin1String(": ") + message.translation;
+        QVERIFY2(!sources.contains(key), qPrintable(told(message)));
+        sources.insert(key, message.source);
+    }
+}
+
+void tst_Translations::qtLoadsEachByItsLocale_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("language");
+    const auto languages = InstalledLanguage::all();
+    for (const QString &language : languages)
+        QTest::newRow(qPrintable(language)) << language << language;
+    const QMap<QString, QString> others{
+        {QStringLiteral("ar_EG"), QStringLiteral("ar")},
+        {QStringLiteral("de_AT"), QStringLiteral("de")},
+        {QStringLiteral("en_US"), QStringLiteral("en")},
+        {QStringLiteral("es_MX"), QStringLiteral("es")},
+        {QStringLiteral("fr_CA"), QStringLiteral("fr")},
+        {QStringLiteral("he_IL"), QStringLiteral("he")},
+        {QStringLiteral("ja_JP"), QStringLiteral("ja")},
+        // Brazil's Portuguese and China's characters are not everybody's.
+        {QStringLiteral("pt_PT"), QString()},
+        {QStringLiteral("zh_TW"), QString()},
+        {QStringLiteral("nl_NL"), QString()},
+    };
+    for (auto it = others.cbegin(); it != others.cend(); ++it)
+        QTest::newRow(qPrintable(it.key())) << it.key() << it.value();
+}
+
+void tst_Translations::qtLoadsEachByItsLocale()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, language);
+    const InstalledLanguage installed(locale);
+    QCOMPARE(installed.isLoaded(), !language.isEmpty());
+    const QString file = QStringLiteral("rycustomizeddialog_%1.qm").arg(language);
+    QCOMPARE(QFileInfo(installed.library().filePath()).fileName(),
+             language.isEmpty() ? QString() : file);
+}
+
+void tst_Translations::qtFindsWhatTheFileSays()
+{
+    QFETCH(QString, language);
+    const InstalledLanguage installed(language);
+    const TranslationFile file(language);
+    for (const auto &message : file.messages) {
+        QCOMPARE(QCoreApplication::translate(message.context.toUtf8().constData(),
+                                             message.source.toUtf8().constData()),
+                 message.translation);
+    }
+}
+
+QTEST_MAIN(tst_Translations)
+#include "tst_translations.moc"
