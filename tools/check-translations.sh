@@ -1,0 +1,70 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Checks that translations/ keeps up with the sources: the English file lists exactly the texts that
+# the sources have, and every language has each of them, translated and finished.
+#
+# usage: check-translations.sh [--update]
+#   --update  takes new texts over into all files, drops those that are gone, and makes the files of
+#             languages that are new in cmake/RyTranslations.cmake; new texts are left unfinished
+
+# shellcheck disable=SC2317 # the steps are functions
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+. tools/steps.sh
+start_log build/translations.log
+
+fresh=build/translations
+read -ra languages < <(sed -n 's/^set(RY_LANGUAGES \(.*\))$/\1/p' cmake/RyTranslations.cmake)
+names=("${languages[@]/#/rycustomizeddialog_}")
+files=("${names[@]/%/.ts}")
+
+# The one in Debian's path calls that of a Qt which need not be installed.
+find_lupdate() {
+    local program
+    for program in /usr/lib/qt6/bin/lupdate /usr/lib/qt5/bin/lupdate lupdate; do
+        if "$program" -version >/dev/null 2>&1; then
+            lupdate=$program
+            return
+        fi
+    done
+    echo 'There is no lupdate.'
+    return 1
+}
+
+# What the files would be if they were taken from the sources now.
+take_texts() {
+    find_lupdate || return
+    "$lupdate" -version
+    rm -rf "$fresh"
+    mkdir -p "$fresh" && cp translations/*.ts "$fresh" &&
+        "$lupdate" -silent -no-obsolete -locations none -source-language en \
+            dialog toolbareditor toolbarmanager ribbon -ts "${files[@]/#/$fresh/}"
+}
+
+compare() {
+    diff -u translations "$fresh" && echo "${#files[@]} files are as lupdate writes them."
+}
+
+# English is the list and stays untranslated.
+look_for_gaps() {
+    local file name count gaps=0
+    for file in "${files[@]}"; do
+        name=${file%.ts}
+        count=$(grep -c '<translation>..*</translation>' "$fresh/$file")
+        printf '%-6s %s of %s\n' "${name#rycustomizeddialog_}" "$count" "$texts"
+        case $file in
+            *_en.ts) [ "$count" -eq 0 ] || gaps=1 ;;
+            *) [ "$count" -eq "$texts" ] || gaps=1 ;;
+        esac
+    done
+    return "$gaps"
+}
+
+step 'Packages' tools/install-packages.sh tools/packages-translations.txt
+step 'Texts of the sources' take_texts
+[ "${1-}" != --update ] || step 'Update' cp "${files[@]/#/$fresh/}" translations
+try 'Every text is listed, and nothing else' compare
+texts=$(grep -c '<source>' "$fresh/rycustomizeddialog_en.ts")
+try 'Every text is translated' look_for_gaps
+finish "all $texts texts are translated into $((${#files[@]} - 1)) languages"
