@@ -28,6 +28,7 @@ COMPILERS = {os.path.realpath(path): path
 
 VERSION = (SOURCE_DIR / 'VERSION').read_text().strip()
 MAJOR = int(VERSION.split('.')[0])
+FEATURES = f'{LIBDIR}/qt5/mkspecs/features'
 HOST_DIR = SOURCE_DIR / 'tests' / 'packaging' / 'host'
 
 CLASSES = (
@@ -116,6 +117,7 @@ class InstalledTree(unittest.TestCase):
         expected += [f'{LIBDIR}/{library}{end}' for end in ('', f'.{MAJOR}', f'.{VERSION}')]
         expected += [f'{package}{end}.cmake' for end in ('Config', 'ConfigVersion', 'Targets')]
         expected += [f'{LIBDIR}/pkgconfig/RyCustomizedDialog.pc']
+        expected += [f'{FEATURES}/rycustomizeddialog.prf']
         found = [str(path.relative_to(prefix)) for path in prefix.rglob('*') if not path.is_dir()]
         # One more file is named after the build type.
         found = [path for path in found if not re.match(re.escape(package) + r'Targets-\w+', path)]
@@ -240,6 +242,18 @@ class Hosts(unittest.TestCase):
         run(CXX, *CXXFLAGS, '-std=c++11', '-fPIC', HOST_DIR / 'main.cpp', '-o', work / 'pc-host',
             *flags)
         run(work / 'pc-host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
+
+    def test_qmake_feature_works_wherever_it_lies(self):
+        folder = work / 'qmake'
+        folder.mkdir()
+        (folder / 'host.pro').write_text(
+            f'CONFIG += rycustomizeddialog\nSOURCES = {HOST_DIR}/main.cpp\n')
+        qmake = run('pkg-config', '--variable=host_bins', 'Qt5Core').strip() + '/qmake'
+        run(qmake, '-o', folder / 'Makefile', folder / 'host.pro',
+            f'QMAKE_CXX={CXX}', f'QMAKE_LINK={CXX}', 'QMAKE_CXXFLAGS+=' + ' '.join(CXXFLAGS),
+            'QMAKE_LFLAGS+=' + ' '.join(CXXFLAGS), QMAKEFEATURES=str(prefix / FEATURES))
+        run('make', '-C', folder)
+        run(folder / 'host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
     def test_subdirectory_gives_the_same_target_without_tests_and_examples(self):
         self.build_and_run('subdirectory', f'-DLIBRARY_SOURCE_DIR={SOURCE_DIR}')
