@@ -1,5 +1,7 @@
 # SPDX-License-Identifier: MIT
 
+include_guard()
+
 # The target RyCustomizedDialogDocs: the reference of the public headers, as HTML and as a help
 # collection for Qt's tools, in the folder docs of the build tree. A name without a comment fails it.
 
@@ -33,4 +35,4 @@ add_custom_command(OUTPUT "${RY_DOCS_DIR}/RyCustomizedDialog.qch"
     WORKING_DIRECTORY "${RY_DOCS_DIR}"
     COMMENT "Writing the reference"
     VERBATIM)
-add_custom_target(RyCustomizedDialogDocs DEPENDS "${RY_DOCS_DIR}/RyCustomizedDialog.qch")
+add_custom_target(RyCustomizedDialogDocs ALL DEPENDS "${RY_DOCS_DIR}/RyCustomizedDialog.qch")
