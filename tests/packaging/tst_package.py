@@ -249,9 +249,9 @@ class Hosts(unittest.TestCase):
         (folder / 'host.pro').write_text(
             f'CONFIG += rycustomizeddialog\nSOURCES = {HOST_DIR}/main.cpp\n')
         qmake = run('pkg-config', '--variable=host_bins', 'Qt5Core').strip() + '/qmake'
-        run(qmake, '-o', folder / 'Makefile', folder / 'host.pro',
-            f'QMAKE_CXX={CXX}', f'QMAKE_LINK={CXX}', 'QMAKE_CXXFLAGS+=' + ' '.join(CXXFLAGS),
-            'QMAKE_LFLAGS+=' + ' '.join(CXXFLAGS), QMAKEFEATURES=str(prefix / FEATURES))
+        # Debian's qmake would mix these with the flags of its own compiler.
+        run('env', '-u', 'CXX', '-u', 'CXXFLAGS', qmake, '-o', folder / 'Makefile',
+            folder / 'host.pro', QMAKEFEATURES=str(prefix / FEATURES))
         run('make', '-C', folder)
         run(folder / 'host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
