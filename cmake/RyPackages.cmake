@@ -31,7 +31,7 @@ string(REGEX REPLACE "^ -- (.*>)  .*" "\\1" RY_MAINTAINER "${RY_MAINTAINER}")
 set(RY_SYMBOLS "${RY_DEBIAN_BUILD_DIR}/symbols")
 add_custom_command(OUTPUT "${RY_SYMBOLS}"
     COMMAND "${CMAKE_COMMAND}" -E make_directory "${RY_DEBIAN_BUILD_DIR}"
-    COMMAND "${RY_GENSYMBOLS}" -q -c4 -p${RY_RUNTIME} -v${PROJECT_VERSION}
+    COMMAND "${RY_GENSYMBOLS}" -c4 -p${RY_RUNTIME} -v${PROJECT_VERSION}-${RY_REVISION}
         "-I${RY_DEBIAN_DIR}/${RY_RUNTIME}.symbols" "-e$<TARGET_FILE:RyCustomizedDialog>"
         "-O${RY_SYMBOLS}"
     DEPENDS RyCustomizedDialog "${RY_DEBIAN_DIR}/${RY_RUNTIME}.symbols"
