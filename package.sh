@@ -14,6 +14,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")" || exit
 . tools/steps.sh
 start_log build/package.log
 
+# CPack packs the folders as it finds them.
+umask 022
 build=build/package
 packages=build/packages
 
