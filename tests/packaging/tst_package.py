@@ -114,10 +114,10 @@ class InstalledTree(unittest.TestCase):
         library = 'libRyCustomizedDialog.so'
         package = f'{LIBDIR}/cmake/RyCustomizedDialog/RyCustomizedDialog'
         expected = [f'include/RyCustomizedDialog/{header}' for header in HEADERS]
+        expected += [f'{FEATURES}/rycustomizeddialog.prf']
         expected += [f'{LIBDIR}/{library}{end}' for end in ('', f'.{MAJOR}', f'.{VERSION}')]
         expected += [f'{package}{end}.cmake' for end in ('Config', 'ConfigVersion', 'Targets')]
         expected += [f'{LIBDIR}/pkgconfig/RyCustomizedDialog.pc']
-        expected += [f'{FEATURES}/rycustomizeddialog.prf']
         found = [str(path.relative_to(prefix)) for path in prefix.rglob('*') if not path.is_dir()]
         # One more file is named after the build type.
         found = [path for path in found if not re.match(re.escape(package) + r'Targets-\w+', path)]
@@ -243,18 +243,6 @@ class Hosts(unittest.TestCase):
             *flags)
         run(work / 'pc-host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
-    def test_qmake_feature_works_wherever_it_lies(self):
-        folder = work / 'qmake'
-        folder.mkdir()
-        (folder / 'host.pro').write_text(
-            f'CONFIG += rycustomizeddialog\nSOURCES = {HOST_DIR}/main.cpp\n')
-        qmake = run('pkg-config', '--variable=host_bins', 'Qt5Core').strip() + '/qmake'
-        # Debian's qmake would mix these with the flags of its own compiler.
-        run('env', '-u', 'CXX', '-u', 'CXXFLAGS', qmake, '-o', folder / 'Makefile',
-            folder / 'host.pro', QMAKEFEATURES=str(prefix / FEATURES))
-        run('make', '-C', folder)
-        run(folder / 'host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
-
     def test_subdirectory_gives_the_same_target_without_tests_and_examples(self):
         self.build_and_run('subdirectory', f'-DLIBRARY_SOURCE_DIR={SOURCE_DIR}')
         cache = (work / 'subdirectory' / 'CMakeCache.txt').read_text()
@@ -267,6 +255,18 @@ class Hosts(unittest.TestCase):
             with self.subTest(name):
                 self.build(path.parent, name, f'-DCMAKE_PREFIX_PATH={prefix}', target='all')
                 self.assertTrue(os.access(work / name / name, os.X_OK))
+
+    def test_qmake_feature_works_wherever_it_lies(self):
+        folder = work / 'qmake'
+        folder.mkdir()
+        (folder / 'host.pro').write_text(
+            f'CONFIG += rycustomizeddialog\nSOURCES = {HOST_DIR}/main.cpp\n')
+        qmake = run('pkg-config', '--variable=host_bins', 'Qt5Core').strip() + '/qmake'
+        # Debian's qmake would mix these with the flags of its own compiler.
+        run('env', '-u', 'CXX', '-u', 'CXXFLAGS', qmake, '-o', folder / 'Makefile',
+            folder / 'host.pro', QMAKEFEATURES=str(prefix / FEATURES))
+        run('make', '-C', folder)
+        run(folder / 'host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
 
 class Headers(unittest.TestCase):
