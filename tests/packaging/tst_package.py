@@ -260,7 +260,8 @@ class Hosts(unittest.TestCase):
         folder = work / 'qmake'
         folder.mkdir()
         (folder / 'host.pro').write_text(
-            f'CONFIG += rycustomizeddialog\nSOURCES = {HOST_DIR}/main.cpp\n')
+            f'CONFIG += rycustomizeddialog\nSOURCES = {HOST_DIR}/main.cpp\n'
+            r'DEFINES += TRANSLATIONS_DIR=\\\"\\\"')
         qmake = run('pkg-config', '--variable=host_bins', 'Qt5Core').strip() + '/qmake'
         # Debian's qmake would mix these with the flags of its own compiler.
         run('env', '-u', 'CXX', '-u', 'CXXFLAGS', qmake, '-o', folder / 'Makefile',
