@@ -43,6 +43,8 @@ class Ui_CustomizedDialog;
  * - Switching away from the "ToolBar" tab discards the edits that were not applied.
  * - Restore Defaults edits only the page's working copy, so it does nothing while the "Ribbon" tab
  *   is current: the editor's working copy is empty then.
+ * - The private slot slotUiModeChanged(bool) is for signals of the host, connected by signature
+ *   string: true disables Apply, false enables it.
  *
  * The order of the fields and of the slots is part of the binary contract.
  */

@@ -27,19 +27,8 @@ if [ -z "$missing" ]; then
 fi
 echo "Installing:$missing"
 
-if [ "$(id -u)" -eq 0 ]; then
-    sudo=
-elif ! command -v sudo >/dev/null; then
-    echo "There is no sudo. As root, run: apt-get install$missing" >&2
-    exit 1
-elif (: </dev/tty) 2>/dev/null; then
-    sudo=sudo
-else
-    sudo='sudo -n'
-fi
-
 apt_get() {
-    $sudo env DEBIAN_FRONTEND=noninteractive \
+    "${0%/*}/as-root.sh" env DEBIAN_FRONTEND=noninteractive \
         apt-get -q -oDPkg::Lock::Timeout=300 -oDpkg::Use-Pty=0 "$@"
 }
 

@@ -29,6 +29,7 @@ COMPILERS = {os.path.realpath(path): path
 
 VERSION = (SOURCE_DIR / 'VERSION').read_text().strip()
 MAJOR = int(VERSION.split('.')[0])
+FEATURES = f'{LIBDIR}/qt5/mkspecs/features'
 HOST_DIR = SOURCE_DIR / 'tests' / 'packaging' / 'host'
 
 CLASSES = (
@@ -118,6 +119,7 @@ class InstalledTree(unittest.TestCase):
         library = 'libRyCustomizedDialog.so'
         package = f'{LIBDIR}/cmake/RyCustomizedDialog/RyCustomizedDialog'
         expected = [f'include/RyCustomizedDialog/{header}' for header in HEADERS]
+        expected += [f'{FEATURES}/rycustomizeddialog.prf']
         expected += [f'{LIBDIR}/{library}{end}' for end in ('', f'.{MAJOR}', f'.{VERSION}')]
         expected += [f'{package}{end}.cmake' for end in ('Config', 'ConfigVersion', 'Targets')]
         expected += [f'{LIBDIR}/pkgconfig/RyCustomizedDialog.pc']
@@ -274,6 +276,19 @@ class Hosts(unittest.TestCase):
             with self.subTest(name):
                 self.build(path.parent, name, f'-DCMAKE_PREFIX_PATH={prefix}', target='all')
                 self.assertTrue(os.access(work / name / name, os.X_OK))
+
+    def test_qmake_feature_works_wherever_it_lies(self):
+        folder = work / 'qmake'
+        folder.mkdir()
+        (folder / 'host.pro').write_text(
+            f'CONFIG += rycustomizeddialog\nSOURCES = {HOST_DIR}/main.cpp\n'
+            r'DEFINES += TRANSLATIONS_DIR=\\\"\\\"')
+        qmake = run('pkg-config', '--variable=host_bins', 'Qt5Core').strip() + '/qmake'
+        # Debian's qmake would mix these with the flags of its own compiler.
+        run('env', '-u', 'CXX', '-u', 'CXXFLAGS', qmake, '-o', folder / 'Makefile',
+            folder / 'host.pro', QMAKEFEATURES=str(prefix / FEATURES))
+        run('make', '-C', folder)
+        run(folder / 'host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
 
 class Headers(unittest.TestCase):

@@ -1,0 +1,20 @@
+# SPDX-License-Identifier: MIT
+
+# What qmake needs for `CONFIG += rycustomizeddialog`. It lies where qmake looks if the prefix is Qt's
+# own; elsewhere a host names the folder in QMAKEFEATURES.
+
+set(RY_QMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/features")
+
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
+    set(RY_QMAKE_LIBDIR "${CMAKE_INSTALL_FULL_LIBDIR}")
+    set(RY_QMAKE_INCLUDEDIR "${CMAKE_INSTALL_FULL_INCLUDEDIR}")
+else()
+    # Found from where the file lies, so that the installed tree can be moved.
+    foreach(folder IN ITEMS LIBDIR INCLUDEDIR)
+        file(RELATIVE_PATH RY_FROM_QMAKE "${CMAKE_INSTALL_PREFIX}/${RY_QMAKE_DIR}"
+            "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_${folder}}")
+        set(RY_QMAKE_${folder} "\$\$PWD/${RY_FROM_QMAKE}")
+    endforeach()
+endif()
+configure_file(cmake/rycustomizeddialog.prf.in "${PROJECT_BINARY_DIR}/rycustomizeddialog.prf" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/rycustomizeddialog.prf" DESTINATION "${RY_QMAKE_DIR}")

@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Writes the reference of the public headers: build/docs/docs/html, for browsers, and
+# build/docs/docs/RyCustomizedDialog.qch, for Qt Assistant and Qt Creator. Fails if a public name has no
+# comment, and if Qt's help viewers do not find every class. What is missing is installed with apt.
+
+# shellcheck disable=SC2317 # the steps are functions
+
+cd "$(dirname "${BASH_SOURCE[0]}")" || exit
+. tools/steps.sh
+start_log build/docs.log
+export QT_QPA_PLATFORM=offscreen
+
+build=build/docs
+pages=$build/docs/html
+help_file=$build/docs/RyCustomizedDialog.qch
+
+# Each class, and each function that a class declares for its hosts.
+read_help() {
+    local names flags
+    mapfile -t names < <(sed -n 's|^    [a-z]*/\(Ry[A-Za-z]*\).*|\1|p' cmake/RyHeaders.cmake)
+    names+=(RyToolBarManager::restoreState RyCustomizedDialog::okButton RyTreeWidget::performDrag)
+    read -ra flags < <(pkg-config --cflags --libs Qt5Help)
+    g++ -std=c++17 -fPIC -Wall -Werror tests/packaging/docs/readhelp.cpp -o "$build/readhelp" \
+        "${flags[@]}" &&
+        rm -f "$build/reader.qhc" &&
+        "$build/readhelp" "$PWD/$help_file" "$PWD/$build/reader.qhc" "${names[@]}"
+}
+
+# The viewer itself, with settings of its own. It forgets only what it knows.
+register_help() {
+    local file home
+    file=$PWD/$help_file home=$PWD/$build/home
+    rm -rf "$home" && mkdir "$home" &&
+        HOME=$home assistant -register "$file" -quiet &&
+        HOME=$home assistant -unregister "$file" -quiet &&
+        echo 'Qt Assistant has registered the help file and forgotten it again.'
+}
+
+step 'Packages' tools/install-packages.sh tools/packages-docs.txt
+step 'Configure' cmake -G Ninja -B "$build" -DRYCUSTOMIZEDDIALOG_BUILD_DOCS=ON \
+    -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES=OFF
+step 'Reference' cmake --build "$build" --target RyCustomizedDialogDocs
+try 'Qt Help' read_help
+try 'Qt Assistant' register_help
+finish "the reference is in $pages and $help_file"
