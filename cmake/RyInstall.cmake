@@ -20,7 +20,9 @@ install(TARGETS RyCustomizedDialog EXPORT RyCustomizedDialogTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(FILES ${RY_PUBLIC_HEADERS} ${RY_FORWARDING_HEADERS}
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/RyCustomizedDialog")
-install(FILES ${RY_TRANSLATIONS} DESTINATION "${RY_TRANSLATIONS_DIR}")
+install(FILES ${RY_TRANSLATIONS}
+    DESTINATION "${RY_TRANSLATIONS_DIR}"
+    COMPONENT RyCustomizedDialog_Runtime)
 
 install(EXPORT RyCustomizedDialogTargets
     NAMESPACE RyCustomizedDialog::

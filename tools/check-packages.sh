@@ -130,6 +130,14 @@ reference_is_there() {
         /usr/share/doc/librycustomizeddialog-doc/html/index.html
 }
 
+# Hosts that run need them, and not only those that are built.
+translations_are_there() {
+    local runtime
+    runtime=$(printf '%s\n' "${names[@]}" | grep '^librycustomizeddialog[0-9]*$')
+    [ "$(dpkg -L "$runtime" | grep -c '\.qm$')" -eq "$(find translations -name '*.ts' | wc -l)" ] &&
+        echo "$runtime has them all."
+}
+
 # What other packages brought or took meanwhile is theirs.
 no_trace_is_left() {
     local path left=0
@@ -157,6 +165,7 @@ if try 'Install' install_packages && try 'User of the example' build_visitor; th
     try 'Other examples' other_examples
     try 'Dependencies of a host' dependencies_of_a_host
     try 'Reference' reference_is_there
+    try 'Translations' translations_are_there
 fi
 try 'Remove' remove_packages
 try 'Files afterwards' no_trace_is_left
