@@ -108,7 +108,7 @@ void TranslatedDialog::createToolBar()
     editor.click(editor.newButton);
     QVERIFY(editor.renameEditor());
     QTest::keyClick(editor.renameEditor(), Qt::Key_Return);
-    QTRY_VERIFY(!editor.renameEditor());
+    QVERIFY(QTest::qWaitFor([this] { return !editor.renameEditor(); }));
 }
 
 QStringList TranslatedDialog::help()
@@ -145,9 +145,9 @@ QStringList TranslatedDialog::cutOff() const
     appendCutOff<QAbstractButton>(found, &dialog);
     appendCutOff(found, tabs->tabBar());
     const QWidget *const page = tabs->currentWidget();
-    for (const auto *const view : page->findChildren<QAbstractItemView *>())
+    const auto views = page->findChildren<QAbstractItemView *>();
+    for (const QAbstractItemView *view : views)
         appendCutOff(found, view);
-    for (const auto *const view : page->findChildren<QTreeView *>())
-        appendCutOff(found, view);
+    appendCutOff(found, page->findChild<QTreeView *>());
     return found;
 }
