@@ -13,6 +13,7 @@
 //! [includes]
 
 #include <QAccessible>
+#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -259,6 +260,8 @@ class tst_guide_dressing : public TestCase
 
 private Q_SLOTS:
     void everyPartIsFound();
+    void everyButtonIsReachedWithTab();
+    void theKeyForRenamingWorksByItself();
     void theRibbonTabIsHidden();
     void theOwnHelpIsShown();
     void theFilterShowsWhatMatches_data();
@@ -290,6 +293,32 @@ void tst_guide_dressing::everyPartIsFound()
     QCOMPARE(parts.currentToolBarList, views.currentToolBarList);
     QCOMPARE(parts.button("newButton"), views.newButton);
     QVERIFY(parts.actionTree->isVisible());
+    QCOMPARE(dialog.objectName(), QStringLiteral("CustomizedDialog"));
+    QCOMPARE(parts.page->objectName(), QStringLiteral("CToolBarPage"));
+    QVERIFY(dialog.findChild<QDialogButtonBox *>(QStringLiteral("m_dialogButtonBox")));
+}
+
+void tst_guide_dressing::everyButtonIsReachedWithTab()
+{
+    EditHost host;
+    RyCustomizedDialog dialog({&host.manager, nullptr});
+    const auto buttons = EditorParts(dialog).page->findChildren<QToolButton *>();
+    QCOMPARE(buttons.size(), 7);
+    for (const QToolButton *button : buttons)
+        QVERIFY2(button->focusPolicy() & Qt::TabFocus, qPrintable(button->objectName()));
+}
+
+void tst_guide_dressing::theKeyForRenamingWorksByItself()
+{
+    EditHost host;
+    host.manager.createToolBar(QStringLiteral("Mine"));
+    RyCustomizedDialog dialog({&host.manager, nullptr});
+    dialog.show();
+    const EditorViews editor(&dialog);
+    editor.click(editor.toolBarList, QStringLiteral("Mine"));
+    QTest::keyClick(editor.toolBarList, Qt::Key_F2);
+    editor.typeName(QStringLiteral("My"));
+    QCOMPARE(rowsOf(editor.toolBarList), words("Edit My"));
 }
 
 void tst_guide_dressing::theRibbonTabIsHidden()

@@ -72,6 +72,20 @@ void connectPlugin(QAction *placeholder, QAction *command)
 }
 //! [placeholder]
 
+//! [toolbar]
+QToolBar *toolBarOfPlugin(RyToolBarManager *manager, const QString &objectName,
+                          const QString &title, const QList<QAction *> &actions)
+{
+    QToolBar *toolBar = manager->toolBarByName(objectName); // in the user's layout already
+    if (!toolBar) {
+        toolBar = manager->createToolBar(title);
+        toolBar->setObjectName(objectName);
+        manager->setToolBar(toolBar, actions);
+    }
+    return toolBar;
+}
+//! [toolbar]
+
 struct PluginHost : Host
 {
     PluginHost()
@@ -120,6 +134,8 @@ private Q_SLOTS:
     void withoutSavingAnewTheEditsWouldBeUndone();
     void aPlaceholderKeepsItsPlaceWhileThePluginIsAway();
     void aPlaceholderFollowsItsCommand();
+    void aToolBarOfAPluginIsCreatedOnce();
+    void aToolBarOfAPluginGoesWithIt();
 };
 
 void tst_guide_plugins::anActionThatComesLateFindsItsPlace()
@@ -204,6 +220,41 @@ void tst_guide_plugins::aPlaceholderFollowsItsCommand()
     }
     QVERIFY(!placeholder->isVisible());
     delete placeholder;
+}
+
+void tst_guide_plugins::aToolBarOfAPluginIsCreatedOnce()
+{
+    const QString name = QStringLiteral("spell.toolbar");
+    Plugin plugin;
+    QByteArray state;
+    {
+        PluginHost host;
+        host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
+        QToolBar *const toolBar =
+            toolBarOfPlugin(&host.manager, name, QStringLiteral("Spelling"), {&plugin.spell});
+        QCOMPARE(standingOn(toolBar), words("spell.check"));
+        host.manager.setToolBar(toolBar, {&plugin.spell, host.action(QStringLiteral("copy"))});
+        state = host.layout.save();
+    }
+    PluginHost host;
+    host.layout.restore(state);
+    QCOMPARE(takeWarnings().size(), 2);
+    host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
+    QToolBar *const toolBar =
+        toolBarOfPlugin(&host.manager, name, QStringLiteral("Spelling"), {&plugin.spell});
+    QCOMPARE(standingOn(toolBar), words("spell.check copy"));
+    QCOMPARE(host.manager.toolBars().size(), 2);
+}
+
+void tst_guide_plugins::aToolBarOfAPluginGoesWithIt()
+{
+    PluginHost host;
+    Plugin plugin;
+    host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
+    host.manager.deleteToolBar(toolBarOfPlugin(&host.manager, QStringLiteral("spell.toolbar"),
+                                               QStringLiteral("Spelling"), {&plugin.spell}));
+    QCOMPARE(host.manager.toolBars(), QList<QToolBar *>{host.edit});
+    host.layout.removePlugin({&plugin.spell});
 }
 
 QTEST_MAIN(tst_guide_plugins)

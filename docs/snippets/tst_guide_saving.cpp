@@ -320,6 +320,7 @@ private Q_SLOTS:
     void unknownVersionsChangeNothing();
     void aNewDefaultAppearsAndARemovedOneDoesNot();
     void aNewDefaultAppearsOnce();
+    void aNewToolBarShowsItsDefaults();
     void theFirstStartShowsTheDefaults();
     void everyDamageIsSeen();
     void whatIsWholeComesBack();
@@ -484,6 +485,21 @@ void tst_guide_saving::aNewDefaultAppearsOnce()
     NextEditHost again;
     restoreWithNewDefaults(&again.manager, m_settings.data());
     QCOMPARE(standingOn(again.edit), words("edit_find"));
+}
+
+void tst_guide_saving::aNewToolBarShowsItsDefaults()
+{
+    EditHost host;
+    restoreWithNewDefaults(&host.manager, m_settings.data());
+    host.manager.setToolBar(host.edit, host.list(words("edit_copy"))); // the user removes Cut
+    saveLayout(host.window, host.manager, m_settings.data());
+
+    EditHost next;
+    QToolBar *const file = next.defaultToolBar(QStringLiteral("file"), words("file_open edit_cut"),
+                                               QStringLiteral("File"));
+    restoreWithNewDefaults(&next.manager, m_settings.data());
+    QCOMPARE(standingOn(file), words("file_open edit_cut"));
+    QCOMPARE(standingOn(next.edit), words("edit_copy"));
 }
 
 void tst_guide_saving::theFirstStartShowsTheDefaults()
