@@ -100,7 +100,6 @@ QLineEdit *addFilter(RyCustomizedDialog *dialog)
     const EditorParts parts(*dialog);
     QLineEdit *const filter = new QLineEdit(parts.page);
     filter->setPlaceholderText(QCoreApplication::translate("Toolbars", "Search actions"));
-    filter->setClearButtonEnabled(true);
     // Below the tree, whose cells are those of the rows 1 to 3.
     qobject_cast<QGridLayout *>(parts.page->layout())->addWidget(filter, 4, 0);
     QObject::connect(filter, &QLineEdit::textChanged, parts.actionTree,
@@ -266,6 +265,8 @@ private Q_SLOTS:
     void theOwnHelpIsShown();
     void theFilterShowsWhatMatches_data();
     void theFilterShowsWhatMatches();
+    void theFilterStandsBelowTheTree();
+    void theFilterOpensTheCategoriesOfWhatItFinds();
     void whatTheFilterHidesCannotBeAdded();
     void theFilterIsClearedWithTheTree();
     void screenReadersHearWhatAButtonDoes();
@@ -384,6 +385,30 @@ void tst_guide_dressing::theFilterShowsWhatMatches()
     QCOMPARE(visibleItems(parts.actionTree), shown);
     filter->clear();
     QCOMPARE(visibleItems(parts.actionTree).size(), 8);
+}
+
+void tst_guide_dressing::theFilterStandsBelowTheTree()
+{
+    EditHost host;
+    RyCustomizedDialog dialog({&host.manager, nullptr});
+    const QLineEdit *const filter = addFilter(&dialog);
+    dialog.show();
+    const QRect tree = EditorParts(dialog).actionTree->geometry();
+    QVERIFY(filter->y() > tree.bottom());
+    QCOMPARE(filter->x(), tree.x());
+    QCOMPARE(filter->width(), tree.width());
+}
+
+void tst_guide_dressing::theFilterOpensTheCategoriesOfWhatItFinds()
+{
+    EditHost host;
+    RyCustomizedDialog dialog({&host.manager, nullptr});
+    QLineEdit *const filter = addFilter(&dialog);
+    dialog.show();
+    const EditorParts parts(dialog);
+    filter->setText(QStringLiteral("save"));
+    QVERIFY(itemNamed(parts.actionTree, QStringLiteral("File"))->isExpanded());
+    QVERIFY(!itemNamed(parts.actionTree, QStringLiteral("Edit"))->isExpanded());
 }
 
 void tst_guide_dressing::whatTheFilterHidesCannotBeAdded()
@@ -506,6 +531,7 @@ void tst_guide_dressing::arrowsPointToWhereThingsGo()
     QCOMPARE(pictureOf(editor.leftButton->icon()), pictureOf(listIsAtTheRight ? left : right));
 }
 
+// What is shown, compared with what an action without an "&" looks like.
 void tst_guide_dressing::mnemonicsAreHidden()
 {
     EditHost host;
@@ -513,14 +539,20 @@ void tst_guide_dressing::mnemonicsAreHidden()
     hideMnemonics(&dialog);
     dialog.show();
     const EditorViews editor(&dialog);
-    // What is shown, compared with what an action without an "&" looks like.
     editor.doubleClick(editor.actionTree, QStringLiteral("&Open && Close"));
-    QListWidgetItem *const entry = editor.currentToolBarList->currentItem();
-    const QImage shown = editor.currentToolBarList->viewport()->grab().toImage();
-    editor.currentToolBarList->setItemDelegate(new QStyledItemDelegate(&dialog));
-    QVERIFY(shown != editor.currentToolBarList->viewport()->grab().toImage());
-    entry->setText(QStringLiteral("Open & Close"));
-    QCOMPARE(shown, editor.currentToolBarList->viewport()->grab().toImage());
+    const auto pictures = [&editor] {
+        return QList<QImage>{editor.actionTree->viewport()->grab().toImage(),
+                             editor.currentToolBarList->viewport()->grab().toImage()};
+    };
+    const QList<QImage> shown = pictures();
+    QStyledItemDelegate *const plain = new QStyledItemDelegate(&dialog);
+    editor.actionTree->setItemDelegate(plain);
+    editor.currentToolBarList->setItemDelegate(plain);
+    QVERIFY(shown.at(0) != pictures().at(0));
+    QVERIFY(shown.at(1) != pictures().at(1));
+    editor.actionTree->currentItem()->setText(0, QStringLiteral("Open & Close"));
+    editor.currentToolBarList->currentItem()->setText(QStringLiteral("Open & Close"));
+    QCOMPARE(shown, pictures());
 }
 
 void tst_guide_dressing::theTextsOfActionsStay()
