@@ -128,7 +128,7 @@ class Pages(unittest.TestCase):
                 if problem:
                     wrong.append(f'{page.relative_to(SOURCE_DIR)}: {link} {problem}')
         self.assertEqual(wrong, [])
-        self.assertGreater(links, 20)
+        self.assertGreater(links, 50)
 
     def test_wrong_links_are_told(self):
         page = DOCS / 'README.md'
@@ -140,20 +140,17 @@ class Pages(unittest.TestCase):
         self.assertEqual(self.problem(page, '../../elsewhere.md'), 'leads out of the project')
         self.assertEqual(self.problem(page, 'file:///tmp'), 'neither relative nor https')
 
-    def test_index_names_every_page_and_nothing_twice(self):
-        index = self.LINK.findall((DOCS / 'README.md').read_text())
-        pages = sorted(str(page.relative_to(DOCS)) for page in DOCS.rglob('*.md')
-                       if page.name != 'README.md')
-        named = [link for link in index if link.endswith('.md') and not link.startswith('..')]
-        self.assertEqual(sorted(named), pages)
+    def test_index_names_every_page(self):
+        named = self.LINK.findall((DOCS / 'README.md').read_text())
+        missing = [str(page.relative_to(DOCS)) for page in sorted(DOCS.rglob('*.md'))
+                   if page.name != 'README.md' and named.count(str(page.relative_to(DOCS))) != 1]
+        self.assertEqual(missing, [], 'each needs one line in docs/README.md')
 
-    def test_every_picture_is_shown(self):
-        shown = set()
-        for page in self.pages():
-            for link in self.LINK.findall(page.read_text()):
-                shown.add((page.parent / link).resolve())
-        pictures = {path.resolve() for path in (DOCS / 'images').iterdir()}
-        self.assertEqual({str(path) for path in pictures - shown}, set())
+    def test_every_picture_for_users_is_shown(self):
+        shown = self.LINK.findall((DOCS / 'user-guide.md').read_text())
+        pictures = [f'images/{path.name}' for path in sorted((DOCS / 'images').glob('user-*'))]
+        self.assertEqual(sorted(link for link in shown if link.startswith('images/')), pictures)
+        self.assertGreater(len(pictures), 0)
 
 
 if __name__ == '__main__':
