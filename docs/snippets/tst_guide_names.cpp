@@ -47,17 +47,18 @@ QStringList nameProblems(const RyToolBarManager &manager)
 }
 //! [audit]
 
+//! [call]
 void auditInDebugBuilds(const RyToolBarManager &manager)
 {
-    //! [call]
-#ifndef QT_NO_DEBUG
+#ifdef QT_NO_DEBUG
+    Q_UNUSED(manager)
+#else
     const QStringList problems = nameProblems(manager);
     for (const QString &problem : problems)
         qWarning("Toolbar layouts: %s", qPrintable(problem));
 #endif
-    //! [call]
-    Q_UNUSED(manager)
 }
+//! [call]
 
 //! [name]
 QAction *createCommand(const char *name, const QString &text, QObject *parent)

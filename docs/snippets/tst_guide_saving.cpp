@@ -84,6 +84,8 @@ bool restoreVersion(RyToolBarManager *manager, const QByteArray &state, int vers
         if (version > name.lastVersion)
             break;
         QAction *const action = manager->findAction(QLatin1String(name.now));
+        if (!action)
+            continue;
         before.insert(action, QLatin1String(name.before)); // an older name replaces a newer one
         now.insert(action, action->objectName());
     }
@@ -318,6 +320,7 @@ private Q_SLOTS:
     void anApplyBeforeACancelIsSaved();
     void oldVersionsAreReadUnderTheirNames_data();
     void oldVersionsAreReadUnderTheirNames();
+    void anOldNameOfAnActionThatIsGoneIsSkipped();
     void unknownVersionsChangeNothing();
     void aNewDefaultAppearsAndARemovedOneDoesNot();
     void aNewDefaultAppearsOnce();
@@ -452,6 +455,14 @@ void tst_guide_saving::oldVersionsAreReadUnderTheirNames()
     QVERIFY(restoreAnyVersion(&host.manager, state));
     QCOMPARE(standingOn(host.edit), words("edit_copy edit_cut"));
     QCOMPARE(copy->objectName(), QStringLiteral("edit_copy"));
+}
+
+void tst_guide_saving::anOldNameOfAnActionThatIsGoneIsSkipped()
+{
+    Host host;
+    const QByteArray state = host.manager.saveState(1);
+    QVERIFY(restoreAnyVersion(&host.manager, state));
+    QCOMPARE(takeWarnings().size(), 6); // two for each look-up of "edit_copy"
 }
 
 void tst_guide_saving::unknownVersionsChangeNothing()
