@@ -338,6 +338,7 @@ private Q_SLOTS:
     void aBadFileChangesNothing();
 
 private:
+    void saveWithoutCut();
     QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
 
     QScopedPointer<QTemporaryDir> m_folder;
@@ -477,12 +478,17 @@ void tst_guide_saving::unknownVersionsChangeNothing()
     }
 }
 
-void tst_guide_saving::aNewDefaultAppearsAndARemovedOneDoesNot()
+void tst_guide_saving::saveWithoutCut()
 {
     EditHost host;
     restoreWithNewDefaults(&host.manager, m_settings.data());
-    host.manager.setToolBar(host.edit, host.list(words("edit_copy"))); // the user removes Cut
+    host.manager.setToolBar(host.edit, host.list(words("edit_copy")));
     saveLayout(host.window, host.manager, m_settings.data());
+}
+
+void tst_guide_saving::aNewDefaultAppearsAndARemovedOneDoesNot()
+{
+    saveWithoutCut();
 
     NextEditHost next;
     restoreWithNewDefaults(&next.manager, m_settings.data());
@@ -504,10 +510,7 @@ void tst_guide_saving::aNewDefaultAppearsOnce()
 
 void tst_guide_saving::aNewToolBarShowsItsDefaults()
 {
-    EditHost host;
-    restoreWithNewDefaults(&host.manager, m_settings.data());
-    host.manager.setToolBar(host.edit, host.list(words("edit_copy"))); // the user removes Cut
-    saveLayout(host.window, host.manager, m_settings.data());
+    saveWithoutCut();
 
     EditHost next;
     QToolBar *const file = next.defaultToolBar(QStringLiteral("file"), words("file_open edit_cut"),
