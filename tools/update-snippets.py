@@ -13,7 +13,8 @@ A page of docs/ asks for a snippet with a comment, and the code block below it i
 
 The snippet is what stands between two lines "//! [audit]" in docs/snippets/tst_guide_names.cpp,
 moved to the left; in files of other kinds "#! [audit]" or "<!--! [audit] -->". Without a name it is
-the whole file. Blocks of C++ without such a comment, and snippets that no page shows, are errors.
+the whole file. A page that shows snippets shows no other C++: that is an error, and so is a snippet that no
+page shows.
 
 Without --check the pages are rewritten. With it nothing is, and pages that differ are an error.
 """
@@ -80,7 +81,7 @@ class Guide:
         blocks = [match for match in BLOCK.finditer(text) if match.group('file')]
         if len(blocks) != len(REQUEST.findall(text)):
             raise Wrong(f'{page.name}: a snippet comment without a code block right below it')
-        return BLOCK.sub(lambda match: self._block(page, match), text)
+        return BLOCK.sub(lambda match: self._block(page, match), text) if blocks else text
 
     def _block(self, page, match):
         file, name, language = match.group('file', 'name', 'language')
