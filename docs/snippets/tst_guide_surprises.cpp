@@ -79,6 +79,7 @@ private Q_SLOTS:
     void leavingTheTabDiscards();
     void leavingTheTabMayApply();
     void restoreDefaultsOnTheOtherTabDoesNothing();
+    void returnIsOkAlsoOnAnAction();
     void aToolBarOfTheUserHasNoPlaceOfItsOwn();
     void anActionMayStandOnSeveralToolBars();
 };
@@ -151,6 +152,20 @@ void tst_guide_surprises::restoreDefaultsOnTheOtherTabDoesNothing()
     QTest::mouseClick(dialog.RestoreDefaultButton(), Qt::LeftButton);
     QTest::mouseClick(dialog.okButton(), Qt::LeftButton);
     QCOMPARE(standingOn(host.edit), QStringList());
+}
+
+void tst_guide_surprises::returnIsOkAlsoOnAnAction()
+{
+    EditHost host;
+    RyCustomizedDialog dialog({&host.manager, nullptr});
+    dialog.show();
+    const EditorViews editor(&dialog);
+    editor.click(editor.actionTree, QStringLiteral("Cut"));
+    editor.doubleClick(editor.currentToolBarList, 0);
+    QTest::keyClick(editor.actionTree, Qt::Key_Return);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(standingOn(host.edit), words("| copy"));
 }
 
 void tst_guide_surprises::aToolBarOfTheUserHasNoPlaceOfItsOwn()
