@@ -1,0 +1,157 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Checks of the pages in docs/ and of the links in all pages, without building anything.
+
+CMake runs the test classes one by one and sets SOURCE_DIR in the environment.
+"""
+
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+from urllib.parse import unquote
+
+SOURCE_DIR = Path(os.environ['SOURCE_DIR'])
+DOCS = SOURCE_DIR / 'docs'
+UPDATE = SOURCE_DIR / 'tools' / 'update-snippets.py'
+
+sys.path.insert(0, str(SOURCE_DIR / 'tests' / 'packaging'))
+import tst_sources  # noqa: E402
+
+
+class Snippets(unittest.TestCase):
+    """The pages show the code that is compiled and tested, and nothing else."""
+
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.copy = Path(scratch.name) / 'docs'
+        shutil.copytree(DOCS, self.copy)
+
+    def run_tool(self, *arguments, docs=None):
+        return subprocess.run([sys.executable, '-B', UPDATE, '--docs', docs or self.copy, *arguments],
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                              universal_newlines=True)
+
+    def replace(self, name, old, new):
+        path = self.copy / name
+        text = path.read_text()
+        self.assertIn(old, text)
+        path.write_text(text.replace(old, new, 1))
+
+    def test_pages_show_the_tested_code(self):
+        done = self.run_tool('--check', docs=DOCS)
+        self.assertEqual(done.returncode, 0, done.stdout)
+
+    def test_a_changed_page_is_told_and_mended(self):
+        self.replace('names.md', 'QStringList', 'QList<QString>')
+        self.assertEqual(self.run_tool('--check').returncode, 1)
+        self.assertEqual(self.run_tool().returncode, 0)
+        self.assertEqual((self.copy / 'names.md').read_text(), (DOCS / 'names.md').read_text())
+
+    def test_a_changed_snippet_is_told(self):
+        self.replace('snippets/tst_guide_names.cpp', 'QStringList nameProblems', 'auto nameProblems')
+        done = self.run_tool('--check')
+        self.assertEqual(done.returncode, 1)
+        self.assertIn('names.md', done.stdout)
+
+    def test_code_that_no_test_compiles_is_told(self):
+        self.replace('names.md', '\n## ', '\n```cpp\nint untested;\n```\n\n## ')
+        self.assertIn('no test compiles: int untested;', self.run_tool('--check').stdout)
+
+    def test_an_unknown_snippet_is_told(self):
+        self.replace('names.md', 'tst_guide_names.cpp audit', 'tst_guide_names.cpp odd')
+        self.assertIn('no snippet tst_guide_names.cpp odd', self.run_tool('--check').stdout)
+
+    def test_a_snippet_that_no_page_shows_is_told(self):
+        self.replace('names.md', '<!-- snippet tst_guide_names.cpp audit -->\n```cpp', '```text')
+        self.assertIn('no page shows tst_guide_names.cpp audit', self.run_tool('--check').stdout)
+
+    def test_snippets_for_hosts_use_nothing_newer_than_qt_5_6(self):
+        found = []
+        for path in sorted((DOCS / 'snippets').glob('*.cpp')):
+            blocks = re.findall(r'^ *//! \[([\w-]+)\]\n(.*?)^ *//! \[\1\]$', path.read_text(),
+                                re.MULTILINE | re.DOTALL)
+            self.assertGreater(len(blocks), 0, path.name)
+            found += [f'{path.name} {name}: since Qt {version}: {pattern}'
+                      for name, code in blocks
+                      for pattern, version in tst_sources.NEWER_THAN_QT_5_6.items()
+                      if re.search(pattern, code)]
+        self.assertEqual(found, [])
+
+
+class Pages(unittest.TestCase):
+    """The links in all pages lead somewhere."""
+
+    CODE = re.compile(r'^```.*?^```$|`[^`\n]*`', re.MULTILINE | re.DOTALL)
+    LINK = re.compile(r'!?\[[^\]]*\]\(([^)\s]+)\)')
+    HEADING = re.compile(r'^#+ +(.+?) *#*$', re.MULTILINE)
+
+    def pages(self):
+        return [SOURCE_DIR / 'README.md', SOURCE_DIR / 'CONTRIBUTING.md', *sorted(DOCS.rglob('*.md'))]
+
+    def anchors(self, page):
+        """The anchors of the headings, as GitHub makes them."""
+        found = []
+        code = re.sub(r'^```.*?^```$', '', page.read_text(), flags=re.MULTILINE | re.DOTALL)
+        for heading in self.HEADING.findall(code):
+            plain = self.LINK.sub(lambda link: link.group(0)[1:].split(']')[0], heading)
+            anchor = re.sub(r'[^\w\- ]', '', plain.lower()).replace(' ', '-')
+            found.append(f'{anchor}-{found.count(anchor)}' if anchor in found else anchor)
+        return found
+
+    def problem(self, page, link):
+        """What is wrong with a link of a page; None if nothing is."""
+        if re.match(r'[a-z]+:', link):
+            return None if link.startswith('https:') else 'neither relative nor https'
+        path, _, anchor = unquote(link).partition('#')
+        target = (page.parent / path).resolve() if path else page
+        if SOURCE_DIR not in target.parents:
+            return 'leads out of the project'
+        if not target.exists():
+            return 'leads nowhere'
+        if anchor and (target.suffix != '.md' or anchor not in self.anchors(target)):
+            return 'leads to no heading'
+        return None
+
+    def test_links_lead_somewhere(self):
+        wrong = []
+        links = 0
+        for page in self.pages():
+            for link in self.LINK.findall(self.CODE.sub('', page.read_text())):
+                links += 1
+                problem = self.problem(page, link)
+                if problem:
+                    wrong.append(f'{page.relative_to(SOURCE_DIR)}: {link} {problem}')
+        self.assertEqual(wrong, [])
+        self.assertGreater(links, 50)
+
+    def test_wrong_links_are_told(self):
+        page = DOCS / 'README.md'
+        self.assertIsNone(self.problem(page, 'names.md'))
+        self.assertIsNone(self.problem(page, 'testing.md#random-bytes-into-restorestate'))
+        self.assertEqual(self.problem(page, 'nmaes.md'), 'leads nowhere')
+        self.assertEqual(self.problem(page, 'testing.md#random-bits'), 'leads to no heading')
+        self.assertEqual(self.problem(page, '#random-bits'), 'leads to no heading')
+        self.assertEqual(self.problem(page, '../../elsewhere.md'), 'leads out of the project')
+        self.assertEqual(self.problem(page, 'file:///tmp'), 'neither relative nor https')
+
+    def test_index_names_every_page(self):
+        named = self.LINK.findall((DOCS / 'README.md').read_text())
+        missing = [str(page.relative_to(DOCS)) for page in sorted(DOCS.rglob('*.md'))
+                   if page.name != 'README.md' and named.count(str(page.relative_to(DOCS))) != 1]
+        self.assertEqual(missing, [], 'each needs one line in docs/README.md')
+
+    def test_every_picture_for_users_is_shown(self):
+        shown = self.LINK.findall((DOCS / 'user-guide.md').read_text())
+        pictures = [f'images/{path.name}' for path in sorted((DOCS / 'images').glob('user-*'))]
+        self.assertEqual(sorted(link for link in shown if link.startswith('images/')), pictures)
+        self.assertGreater(len(pictures), 0)
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=2)

@@ -1,0 +1,137 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Copies the code of the guide from the files that are compiled and tested into its pages.
+
+    update-snippets.py [--check] [--docs DIR]
+
+A page of docs/ asks for a snippet with a comment, and the code block below it is the copy:
+
+    <!-- snippet tst_guide_names.cpp audit -->
+    ```cpp
+    ...
+    ```
+
+The snippet is what stands between two lines "//! [audit]" in docs/snippets/tst_guide_names.cpp,
+moved to the left; in files of other kinds "#! [audit]" or "<!--! [audit] -->". Without a name it is
+the whole file. A page that shows snippets shows no other C++: that is an error, and so is a snippet that no
+page shows.
+
+Without --check the pages are rewritten. With it nothing is, and pages that differ are an error.
+"""
+
+import argparse
+import difflib
+import re
+import sys
+import textwrap
+from pathlib import Path
+
+DOCS = Path(__file__).resolve().parent.parent / 'docs'
+MARKER = re.compile(r'^\s*(?://|#|<!--)! \[([\w-]+)\]')
+BLOCK = re.compile(r'^(?:<!-- snippet (?P<file>\S+)(?: (?P<name>[\w-]+))? -->\n)?'
+                   r'```(?P<language>\w*)\n(?P<code>.*?)^```$', re.MULTILINE | re.DOTALL)
+REQUEST = re.compile(r'^<!-- snippet .*$', re.MULTILINE)
+
+
+class Wrong(Exception):
+    """A page or a file of snippets that needs a person."""
+
+
+def snippets_of(path):
+    """The named snippets of a file."""
+    found = {}
+    opened = {}
+    for number, line in enumerate(path.read_text(encoding='utf-8').splitlines(), 1):
+        marker = MARKER.match(line)
+        if not marker:
+            for lines in opened.values():
+                lines.append(line)
+        elif marker.group(1) in opened:
+            name = marker.group(1)
+            code = textwrap.dedent('\n'.join(opened.pop(name)) + '\n')
+            if not code.strip():
+                raise Wrong(f'{path.name}:{number}: the snippet {name} is empty')
+            found[name] = code
+        elif marker.group(1) in found:
+            raise Wrong(f'{path.name}:{number}: a second snippet {marker.group(1)}')
+        else:
+            opened[marker.group(1)] = []
+    if opened:
+        raise Wrong(f'{path.name}: no end of the snippet {", ".join(opened)}')
+    return found
+
+
+class Guide:
+    """The pages and the snippets of a folder."""
+
+    def __init__(self, docs):
+        self.docs = docs
+        self.snippets = {path.name: snippets_of(path)
+                         for path in sorted((docs / 'snippets').iterdir())
+                         if path.suffix in ('.cpp', '.h', '.txt', '.qrc')}
+        self.unused = {(file, name) for file, names in self.snippets.items() for name in names}
+        self.used = 0
+
+    def pages(self):
+        return sorted(self.docs.rglob('*.md'))
+
+    def updated(self, page):
+        """The text of a page with its snippets as they are now."""
+        text = page.read_text(encoding='utf-8')
+        blocks = [match for match in BLOCK.finditer(text) if match.group('file')]
+        if len(blocks) != len(REQUEST.findall(text)):
+            raise Wrong(f'{page.name}: a snippet comment without a code block right below it')
+        return BLOCK.sub(lambda match: self._block(page, match), text) if blocks else text
+
+    def _block(self, page, match):
+        file, name, language = match.group('file', 'name', 'language')
+        if not file:
+            if language in ('cpp', 'c++'):
+                raise Wrong(f'{page.name}: C++ that no test compiles: {match.group("code")}')
+            return match.group(0)
+        code = self._code(page, file, name)
+        named = f' {name}' if name else ''
+        return f'<!-- snippet {file}{named} -->\n```{language}\n{code}```'
+
+    def _code(self, page, file, name):
+        if file not in self.snippets or (name and name not in self.snippets[file]):
+            raise Wrong(f'{page.name}: there is no snippet {file} {name or ""}')
+        self.used += 1
+        if not name:
+            return (self.docs / 'snippets' / file).read_text(encoding='utf-8')
+        self.unused.discard((file, name))
+        return self.snippets[file][name]
+
+
+def main():
+    parser = argparse.ArgumentParser(description='Copies tested code into the pages of the guide.')
+    parser.add_argument('--check', action='store_true', help='only compare')
+    parser.add_argument('--docs', type=Path, default=DOCS, help='the folder of the pages')
+    arguments = parser.parse_args()
+
+    guide = Guide(arguments.docs)
+    differing = []
+    for page in guide.pages():
+        old = page.read_text(encoding='utf-8')
+        new = guide.updated(page)
+        if new == old:
+            continue
+        differing.append(page.name)
+        if arguments.check:
+            sys.stdout.writelines(difflib.unified_diff(
+                old.splitlines(True), new.splitlines(True), str(page), 'the tested code'))
+        else:
+            page.write_text(new, encoding='utf-8')
+    if guide.unused:
+        raise Wrong('no page shows ' + ', '.join(' '.join(pair) for pair in sorted(guide.unused)))
+    verb = 'differ' if arguments.check else 'rewritten'
+    print(f'{guide.used} snippets in {len(guide.pages())} pages; {verb}: '
+          f'{", ".join(differing) or "none"}')
+    return 1 if arguments.check and differing else 0
+
+
+if __name__ == '__main__':
+    try:
+        sys.exit(main())
+    except Wrong as wrong:
+        sys.exit(f'update-snippets.py: {wrong}')
