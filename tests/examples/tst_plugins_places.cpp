@@ -260,7 +260,10 @@ void tst_Plugins_Places::aRestartWithThePluginOffKeepsThePlaces()
     }
     Run run;
     QCOMPARE(run.shown("Mine"), words(withoutLines));
-    run.customize([](const EditorViews &) {});
+    QStringList offered;
+    run.customize([&](const EditorViews &views) { offered = itemsOf(views.actionTree); });
+    const int category = offered.indexOf(QStringLiteral("Lines"));
+    QCOMPARE(offered.value(category + 3), QStringLiteral("  Sort Lines (plugin is off)"));
     run.switchPlugin("Lines");
     QCOMPARE(run.shown("Mine"), words(all));
 }
