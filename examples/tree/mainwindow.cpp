@@ -37,15 +37,17 @@ void MainWindow::createTrees()
     m_library->setObjectName(QStringLiteral("library"));
     m_readingList->setObjectName(QStringLiteral("readingList"));
     QSplitter *const splitter = new QSplitter;
-    splitter->addWidget(withCaption(tr("&Library"), m_library));
-    splitter->addWidget(withCaption(tr("&Reading List"), m_readingList));
+    splitter->addWidget(withCaption(tr("Library"), m_library));
+    splitter->addWidget(withCaption(tr("Reading List"), m_readingList));
     setCentralWidget(splitter);
 }
 
 QWidget *MainWindow::withCaption(const QString &caption, GuardedTree *tree)
 {
-    QLabel *const label = new QLabel(caption);
+    // Alt and the first letter go to the tree. For a screen reader Qt takes no name from a buddy here.
+    QLabel *const label = new QLabel(QLatin1Char('&') + caption);
     label->setBuddy(tree);
+    tree->setAccessibleName(caption);
     tree->header()->hide();
     QWidget *const widget = new QWidget;
     QVBoxLayout *const layout = new QVBoxLayout(widget);

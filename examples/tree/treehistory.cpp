@@ -72,7 +72,6 @@ void TreeHistory::end()
 {
     if (!m_isChanged)
         return;
-    m_isChanged = false;
     if (countIn(content()) < countIn(m_before)) {
         show(m_before);
         Q_EMIT putBack();

@@ -233,6 +233,8 @@ void tst_Tree_Guard::theCaptionsNameTheTrees()
         buddies << label->buddy();
     QVERIFY(buddies.contains(stage.library));
     QVERIFY(buddies.contains(stage.readingList));
+    QCOMPARE(stage.library->accessibleName(), QStringLiteral("Library"));
+    QCOMPARE(stage.readingList->accessibleName(), QStringLiteral("Reading List"));
 }
 
 QTEST_MAIN(tst_Tree_Guard)
