@@ -67,18 +67,18 @@ void Dressing::addFilter()
     QLabel *const caption = part<QLabel>("label");
     QGridLayout *const grid = qobject_cast<QGridLayout *>(m_page->layout());
     QHBoxLayout *const both = new QHBoxLayout;
-    grid->removeWidget(caption);
     both->addWidget(caption);
     both->addWidget(filter);
     grid->addLayout(both, 0, 0);
     QWidget::setTabOrder(part<QToolButton>("renameButton"), filter);
-    QWidget::setTabOrder(filter, m_actionTree);
 }
 
 void Dressing::addNames()
 {
     // Qt takes the names of views from nowhere else, not even from a caption whose buddy they are.
     m_actionTree->setAccessibleName(part<QLabel>("label")->text());
+    m_actionTree->setHeaderLabel(
+        part<QLabel>("label")->text()); // hidden, and spoken as "1" otherwise
     m_toolBarList->setAccessibleName(part<QLabel>("label_2")->text());
     m_currentToolBarList->setAccessibleName(part<QLabel>("label_6")->text());
     m_actionTree->setAccessibleDescription(tr("Insert adds the current action to the toolbar"));

@@ -23,6 +23,7 @@ class tst_Dressed_Dialog : public TestCase
 private Q_SLOTS:
     void viewsAndButtonsHaveNames_data();
     void viewsAndButtonsHaveNames();
+    void theHiddenHeaderIsSpokenAsTheCaption();
     void separatorsAreSpokenAsAWord();
     void defaultToolBarsAreDescribed();
     void newToolBarsAreNotDescribedAsDefault();
@@ -96,6 +97,16 @@ void tst_Dressed_Dialog::viewsAndButtonsHaveNames()
     QVERIFY(part);
     QCOMPARE(spoken(part, QAccessible::Name), name);
     QCOMPARE(spoken(part, QAccessible::Description), description);
+}
+
+void tst_Dressed_Dialog::theHiddenHeaderIsSpokenAsTheCaption()
+{
+    DressedDialog stage;
+    const QAccessibleInterface *const header =
+        QAccessible::queryAccessibleInterface(stage.views.actionTree)->child(0);
+    QCOMPARE(header->role(), QAccessible::ColumnHeader);
+    QCOMPARE(header->text(QAccessible::Name), QStringLiteral("Actions"));
+    QVERIFY(stage.views.actionTree->isHeaderHidden());
 }
 
 void tst_Dressed_Dialog::separatorsAreSpokenAsAWord()
