@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QMetaEnum>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QtTest>
@@ -167,6 +168,10 @@ private Q_SLOTS:
     void tabsAreToldAndPressed();
     void theRibbonPageIsToldAsInvisible();
     void everyButtonTakesTheFocus();
+    void noOtherKeyDoesAnything_data();
+    void noOtherKeyDoesAnything();
+    void captionsAndButtonsHaveNoAccelerators();
+    void mnemonicsAreToldAsTheyStand();
     void selectingAnItemDoesNotMakeItCurrent_data();
     void selectingAnItemDoesNotMakeItCurrent();
 };
@@ -366,6 +371,7 @@ void tst_RyCustomizedDialog_Accessibility::newAndRenameOpenALineWithTheName()
     QTRY_VERIFY(stage.views.renameEditor());
     QAccessibleInterface *const line = told(stage.views.renameEditor());
     QCOMPARE(line->role(), QAccessible::EditableText);
+    QCOMPARE(line->text(QAccessible::Name), QString());
     QCOMPARE(line->text(QAccessible::Value), name);
     QVERIFY(line->state().focused);
     line->setText(QAccessible::Value, QStringLiteral("Spoken"));
@@ -450,6 +456,54 @@ void tst_RyCustomizedDialog_Accessibility::everyButtonTakesTheFocus()
         QVERIFY(told(button)->state().focused);
     }
     QCOMPARE(count, 12);
+}
+
+void tst_RyCustomizedDialog_Accessibility::noOtherKeyDoesAnything_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("alt");
+    QTest::newRow("F1") << int(Qt::Key_F1) << false;
+    QTest::newRow("Insert") << int(Qt::Key_Insert) << false;
+    QTest::newRow("Delete") << int(Qt::Key_Delete) << false;
+    QTest::newRow("Alt+Up") << int(Qt::Key_Up) << true;
+    QTest::newRow("Alt+Down") << int(Qt::Key_Down) << true;
+}
+
+void tst_RyCustomizedDialog_Accessibility::noOtherKeyDoesAnything()
+{
+    QFETCH(int, key);
+    QFETCH(bool, alt);
+    Stage stage;
+    for (QWidget *view : QList<QWidget *>{stage.views.actionTree, stage.views.currentToolBarList,
+                                          stage.views.toolBarList}) {
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key(key), alt ? Qt::AltModifier : Qt::NoModifier);
+        // Arrows move the current row, with Alt too; nothing is changed.
+        stage.views.toolBarList->setCurrentItem(
+            itemNamed(stage.views.toolBarList, QStringLiteral("Mine")));
+        QCOMPARE(stage.rows(), words("Cut | Copy"));
+        QCOMPARE(rowsOf(stage.views.toolBarList), words("File Mine"));
+        QVERIFY(!stage.views.renameEditor());
+    }
+    QVERIFY(stage.dialog.isVisible());
+}
+
+void tst_RyCustomizedDialog_Accessibility::captionsAndButtonsHaveNoAccelerators()
+{
+    Stage stage;
+    const auto parts = stage.views.page->findChildren<QWidget *>(
+        QRegularExpression(QStringLiteral("^label|Button$")));
+    QCOMPARE(parts.size(), 10);
+    for (QWidget *part : parts)
+        QCOMPARE(told(part)->text(QAccessible::Accelerator), QString());
+}
+
+void tst_RyCustomizedDialog_Accessibility::mnemonicsAreToldAsTheyStand()
+{
+    Stage stage;
+    stage.host.action(QStringLiteral("open"))->setText(QStringLiteral("&Open"));
+    stage.views.toolBarList->setCurrentRow(0);
+    QCOMPARE(itemsTold(stage.views.currentToolBarList), lines("&Open focused selected\nSave"));
 }
 
 void tst_RyCustomizedDialog_Accessibility::selectingAnItemDoesNotMakeItCurrent_data()
