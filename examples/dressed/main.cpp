@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow.h"
+#include "dressedwindow.h"
 
 #include <QApplication>
 
@@ -9,7 +9,7 @@ int main(int argc, char *argv[])
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // or no sharp icons
     QApplication application(argc, argv);
-    MainWindow window;
+    DressedWindow window;
     window.show();
     return application.exec();
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow.h"
+#include "pluginswindow.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -10,7 +10,7 @@ int main(int argc, char *argv[])
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
     QSettings settings(QStringLiteral("RyCustomizedDialog"), QStringLiteral("Plugins"));
-    MainWindow window(&settings, TextPlugin::all());
+    PluginsWindow window(&settings, TextPlugin::all());
     window.show();
     return application.exec();
 }

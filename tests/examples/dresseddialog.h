@@ -16,6 +16,8 @@
 struct DressedDialog
 {
     DressedDialog();
+    DressedDialog(const DressedDialog &) = delete;
+    DressedDialog &operator=(const DressedDialog &) = delete;
 
     // What keys a user presses reach.
     void pressKey(QWidget *focus, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "actionfilter.h"
-#include "mainwindow.h"
+#include "dressedwindow.h"
 #include "nextmodal.h"
 #include "testcase.h"
 
@@ -37,7 +37,7 @@ protected:
 
 namespace {
 
-QAction *entry(const MainWindow &window, const QString &text)
+QAction *entry(const DressedWindow &window, const QString &text)
 {
     const auto menus = window.menuBar()->actions();
     for (const QAction *menu : menus) {
@@ -50,7 +50,7 @@ QAction *entry(const MainWindow &window, const QString &text)
     return nullptr;
 }
 
-void customize(const MainWindow &window, const std::function<void(RyCustomizedDialog *)> &steps)
+void customize(const DressedWindow &window, const std::function<void(RyCustomizedDialog *)> &steps)
 {
     const NextModal next([&steps](QWidget *modal) {
         RyCustomizedDialog *const dialog = qobject_cast<RyCustomizedDialog *>(modal);
@@ -66,7 +66,7 @@ void customize(const MainWindow &window, const std::function<void(RyCustomizedDi
 
 void tst_Dressed_Window::commandsTellTheirNames()
 {
-    MainWindow window;
+    DressedWindow window;
     window.show();
     entry(window, QStringLiteral("Pause"))->trigger();
     QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("Pause"));
@@ -75,7 +75,7 @@ void tst_Dressed_Window::commandsTellTheirNames()
 
 void tst_Dressed_Window::iconsKeepTheirColorsInSelectedRows()
 {
-    const MainWindow window;
+    const DressedWindow window;
     const QIcon icon = entry(window, QStringLiteral("Open"))->icon();
     QVERIFY(!icon.availableSizes().isEmpty());
     for (const int size : {16, 22, 32})
@@ -84,7 +84,7 @@ void tst_Dressed_Window::iconsKeepTheirColorsInSelectedRows()
 
 void tst_Dressed_Window::theDialogIsDressed()
 {
-    MainWindow window;
+    DressedWindow window;
     window.show();
     bool hasFilter = false;
     customize(window, [&](const RyCustomizedDialog *dialog) {
@@ -95,7 +95,7 @@ void tst_Dressed_Window::theDialogIsDressed()
 
 void tst_Dressed_Window::helpIsAWindowOfTheDialog()
 {
-    MainWindow window;
+    DressedWindow window;
     window.show();
     customize(window, [](RyCustomizedDialog *dialog) {
         for (int i = 0; i < 2; ++i) {
@@ -113,7 +113,7 @@ void tst_Dressed_Window::helpIsAWindowOfTheDialog()
 
 void tst_Dressed_Window::theDirectionIsSwitched()
 {
-    MainWindow window;
+    DressedWindow window;
     QAction *const direction = entry(window, QStringLiteral("Right to Left"));
     direction->trigger();
     QVERIFY(window.isRightToLeft());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "editorviews.h"
-#include "mainwindow.h"
+#include "pluginswindow.h"
 #include "nextmodal.h"
 #include "testcase.h"
 #include "texts.h"
@@ -121,7 +121,7 @@ struct Run
     }
 
     QSettings settings;
-    MainWindow window;
+    PluginsWindow window;
 };
 
 QList<TextPlugin> allButLines()

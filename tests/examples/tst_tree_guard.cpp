@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "guardedtree.h"
-#include "mainwindow.h"
+#include "bookswindow.h"
 #include "testcase.h"
 #include "texts.h"
 #include "treehistory.h"
@@ -62,7 +62,7 @@ struct Stage
         QTest::mouseRelease(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
     }
 
-    MainWindow window;
+    BooksWindow window;
     GuardedTree *const library;
     GuardedTree *const readingList;
     QAction *const undo;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "guardedtree.h"
-#include "mainwindow.h"
+#include "bookswindow.h"
 #include "testcase.h"
 #include "texts.h"
 #include "treehistory.h"
@@ -77,7 +77,7 @@ struct Stage
         });
     }
 
-    MainWindow window;
+    BooksWindow window;
     GuardedTree *const library;
     GuardedTree *const readingList;
     QAction *const undo;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow.h"
+#include "dressedwindow.h"
 
 #include "dressing.h"
 
@@ -29,7 +29,7 @@ QIcon visibleWhenSelected(QIcon icon)
 
 } // namespace
 
-MainWindow::MainWindow(QWidget *parent)
+DressedWindow::DressedWindow(QWidget *parent)
     : QMainWindow(parent)
 {
     m_manager.setMainWindow(this);
@@ -51,7 +51,7 @@ MainWindow::MainWindow(QWidget *parent)
                  {"sound_volume", tr("Volume"), QStyle::SP_MediaVolume}});
 
     QMenu *const settings = menuBar()->addMenu(tr("Se&ttings"));
-    settings->addAction(tr("Customize Toolbars…"), this, &MainWindow::customizeToolBars);
+    settings->addAction(tr("Customize Toolbars…"), this, &DressedWindow::customizeToolBars);
     QAction *const direction = settings->addAction(tr("Right to Left"));
     direction->setCheckable(true);
     connect(direction, &QAction::toggled, qApp, [](bool on) {
@@ -66,7 +66,8 @@ MainWindow::MainWindow(QWidget *parent)
     resize(640, 360);
 }
 
-void MainWindow::addCategory(const char *name, const QString &title, const QList<Command> &commands)
+void DressedWindow::addCategory(const char *name, const QString &title,
+                                const QList<Command> &commands)
 {
     QMenu *const menu = menuBar()->addMenu(QLatin1Char('&') + title);
     for (const Command &command : commands) {
@@ -82,7 +83,7 @@ void MainWindow::addCategory(const char *name, const QString &title, const QList
     m_manager.addDefaultToolBar(toolBar, title);
 }
 
-void MainWindow::customizeToolBars()
+void DressedWindow::customizeToolBars()
 {
     RyCustomizedDialog dialog({&m_manager, nullptr}, this);
     const Dressing *const dressing = new Dressing(&dialog);
@@ -91,7 +92,7 @@ void MainWindow::customizeToolBars()
 }
 
 // A child of the modal dialog, or the user could not even scroll in it.
-void MainWindow::showHelp(RyCustomizedDialog *dialog)
+void DressedWindow::showHelp(RyCustomizedDialog *dialog)
 {
     QDialog *window = dialog->findChild<QDialog *>(QStringLiteral("help"));
     if (!window) {

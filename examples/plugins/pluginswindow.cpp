@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow.h"
+#include "pluginswindow.h"
 
 #include "lettericon.h"
 
@@ -27,7 +27,7 @@ QString switchKey(const TextPlugin &plugin)
 
 } // namespace
 
-MainWindow::MainWindow(QSettings *settings, const QList<TextPlugin> &plugins, QWidget *parent)
+PluginsWindow::PluginsWindow(QSettings *settings, const QList<TextPlugin> &plugins, QWidget *parent)
     : QMainWindow(parent)
     , m_settings(settings)
     , m_editor(new QPlainTextEdit)
@@ -47,7 +47,7 @@ MainWindow::MainWindow(QSettings *settings, const QList<TextPlugin> &plugins, QW
     createSettingsMenu();
 }
 
-void MainWindow::createOwnCommands()
+void PluginsWindow::createOwnCommands()
 {
     const QColor gray(0x70, 0x78, 0x80);
     QMenu *const menu = menuBar()->addMenu(tr("&Edit"));
@@ -68,7 +68,7 @@ void MainWindow::createOwnCommands()
     m_manager.addDefaultToolBar(toolBar, tr("Edit"));
 }
 
-void MainWindow::createPluginsMenu(const QList<TextPlugin> &plugins)
+void PluginsWindow::createPluginsMenu(const QList<TextPlugin> &plugins)
 {
     m_commandsMenu = menuBar()->addMenu(tr("&Commands"));
     m_pluginsMenu = menuBar()->addMenu(tr("&Plugins"));
@@ -81,20 +81,20 @@ void MainWindow::createPluginsMenu(const QList<TextPlugin> &plugins)
     }
     m_pluginsMenu->addSeparator();
     m_pluginsMenu->addAction(tr("Forget Plugins That Are Off"), this,
-                             &MainWindow::forgetAbsentPlugins);
+                             &PluginsWindow::forgetAbsentPlugins);
 }
 
-void MainWindow::createSettingsMenu()
+void PluginsWindow::createSettingsMenu()
 {
     QMenu *const menu = menuBar()->addMenu(tr("&Settings"));
-    menu->addAction(tr("Customize Toolbars…"), this, &MainWindow::customizeToolBars);
+    menu->addAction(tr("Customize Toolbars…"), this, &PluginsWindow::customizeToolBars);
     menu->addAction(tr("Reset Toolbars"), this, [this] {
         m_manager.resetAllToolBars();
         saveToolBars();
     });
 }
 
-void MainWindow::switchPlugin(const TextPlugin &plugin, bool on)
+void PluginsWindow::switchPlugin(const TextPlugin &plugin, bool on)
 {
     if (on) {
         const auto actions = plugin.createActions(m_editor);
@@ -107,30 +107,30 @@ void MainWindow::switchPlugin(const TextPlugin &plugin, bool on)
     m_settings->setValue(switchKey(plugin), on);
 }
 
-void MainWindow::forgetAbsentPlugins()
+void PluginsWindow::forgetAbsentPlugins()
 {
     m_pluginActions.forgetAbsent();
     saveToolBars();
 }
 
-void MainWindow::customizeToolBars()
+void PluginsWindow::customizeToolBars()
 {
     RyCustomizedDialog({&m_manager, nullptr}, this).exec();
     saveToolBars();
 }
 
-void MainWindow::restoreLayout()
+void PluginsWindow::restoreLayout()
 {
     m_manager.restoreState(m_settings->value(ToolBarsKey).toByteArray(), LayoutVersion);
     restoreState(m_settings->value(WindowKey).toByteArray(), LayoutVersion);
 }
 
-void MainWindow::saveToolBars()
+void PluginsWindow::saveToolBars()
 {
     m_settings->setValue(ToolBarsKey, m_manager.saveState(LayoutVersion));
 }
 
-void MainWindow::closeEvent(QCloseEvent *event)
+void PluginsWindow::closeEvent(QCloseEvent *event)
 {
     m_settings->setValue(WindowKey, saveState(LayoutVersion));
     QMainWindow::closeEvent(event);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-#ifndef MAINWINDOW_H
-#define MAINWINDOW_H
+#ifndef BOOKSWINDOW_H
+#define BOOKSWINDOW_H
 
 #include <QMainWindow>
 
@@ -11,12 +11,12 @@ class TreeHistory;
 /*!
  * \brief Books that the user drags from a library to a reading list, and back.
  */
-class MainWindow : public QMainWindow
+class BooksWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    explicit BooksWindow(QWidget *parent = nullptr);
 
 private Q_SLOTS:
     void moveAcross();
@@ -34,4 +34,4 @@ private:
     TreeHistory *const m_history;
 };
 
-#endif // MAINWINDOW_H
+#endif // BOOKSWINDOW_H

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-#ifndef MAINWINDOW_H
-#define MAINWINDOW_H
+#ifndef PLUGINSWINDOW_H
+#define PLUGINSWINDOW_H
 
 #include "pluginactions.h"
 #include "textplugin.h"
@@ -16,7 +16,7 @@ class QSettings;
 /*!
  * \brief A small editor whose plugins the user switches on and off in the menu "Plugins".
  */
-class MainWindow : public QMainWindow
+class PluginsWindow : public QMainWindow
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ public:
     //!
     //! \param settings the application's settings, which must outlive the window.
     //! \param plugins what is installed this time; it need not be what was installed last time.
-    MainWindow(QSettings *settings, const QList<TextPlugin> &plugins, QWidget *parent = nullptr);
+    PluginsWindow(QSettings *settings, const QList<TextPlugin> &plugins, QWidget *parent = nullptr);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -52,4 +52,4 @@ private:
     QHash<QString, QList<QAction *>> m_running;
 };
 
-#endif // MAINWINDOW_H
+#endif // PLUGINSWINDOW_H

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow.h"
+#include "bookswindow.h"
 
 #include "guardedtree.h"
 #include "treehistory.h"
@@ -14,7 +14,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-MainWindow::MainWindow(QWidget *parent)
+BooksWindow::BooksWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_library(new GuardedTree)
     , m_readingList(new GuardedTree)
@@ -32,7 +32,7 @@ MainWindow::MainWindow(QWidget *parent)
     });
 }
 
-void MainWindow::createTrees()
+void BooksWindow::createTrees()
 {
     m_library->setObjectName(QStringLiteral("library"));
     m_readingList->setObjectName(QStringLiteral("readingList"));
@@ -42,7 +42,7 @@ void MainWindow::createTrees()
     setCentralWidget(splitter);
 }
 
-QWidget *MainWindow::withCaption(const QString &caption, GuardedTree *tree)
+QWidget *BooksWindow::withCaption(const QString &caption, GuardedTree *tree)
 {
     // Alt and the first letter go to the tree. For a screen reader Qt takes no name from a buddy here.
     QLabel *const label = new QLabel(QLatin1Char('&') + caption);
@@ -56,7 +56,7 @@ QWidget *MainWindow::withCaption(const QString &caption, GuardedTree *tree)
     return widget;
 }
 
-void MainWindow::createToolBar()
+void BooksWindow::createToolBar()
 {
     QAction *const undo = m_history->undoStack()->createUndoAction(this, tr("Undo"));
     undo->setObjectName(QStringLiteral("undo"));
@@ -71,7 +71,7 @@ void MainWindow::createToolBar()
     move->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
     move->setToolTip(tr("Move the current item to the other tree (Ctrl+M)"));
     move->setShortcut(Qt::CTRL + Qt::Key_M);
-    connect(move, &QAction::triggered, this, &MainWindow::moveAcross);
+    connect(move, &QAction::triggered, this, &BooksWindow::moveAcross);
 
     QToolBar *const toolBar = addToolBar(tr("Edit"));
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -79,7 +79,7 @@ void MainWindow::createToolBar()
 }
 
 // Whoever cannot drag needs another way.
-void MainWindow::moveAcross()
+void BooksWindow::moveAcross()
 {
     GuardedTree *const from = m_readingList->hasFocus() ? m_readingList : m_library;
     GuardedTree *const to = from == m_library ? m_readingList : m_library;
@@ -93,7 +93,7 @@ void MainWindow::moveAcross()
     m_history->end();
 }
 
-void MainWindow::fill()
+void BooksWindow::fill()
 {
     addFolder(m_library, tr("Novels"),
               {QStringLiteral("Dracula"), QStringLiteral("Emma"), QStringLiteral("Moby-Dick")});
@@ -106,7 +106,7 @@ void MainWindow::fill()
     addFolder(m_readingList, tr("Later"), {});
 }
 
-void MainWindow::addFolder(GuardedTree *tree, const QString &name, const QStringList &books)
+void BooksWindow::addFolder(GuardedTree *tree, const QString &name, const QStringList &books)
 {
     QTreeWidgetItem *const folder = new QTreeWidgetItem(tree, {name});
     folder->setIcon(0, style()->standardIcon(QStyle::SP_DirIcon));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-#ifndef MAINWINDOW_H
-#define MAINWINDOW_H
+#ifndef DRESSEDWINDOW_H
+#define DRESSEDWINDOW_H
 
 #include <RyToolBarManager>
 
@@ -13,12 +13,12 @@ class RyCustomizedDialog;
 /*!
  * \brief A window with some commands that only tell their names, and the dialog in its best dress.
  */
-class MainWindow : public QMainWindow
+class DressedWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    explicit DressedWindow(QWidget *parent = nullptr);
 
 private Q_SLOTS:
     void customizeToolBars();
@@ -37,4 +37,4 @@ private:
     RyToolBarManager m_manager;
 };
 
-#endif // MAINWINDOW_H
+#endif // DRESSEDWINDOW_H
