@@ -19,7 +19,7 @@
 namespace {
 
 // Leaves data that is there alone: each change of a row is a signal to the editor.
-template <typename Item> void setOnce(Item *item, int role, const QString &text)
+void setOnce(QListWidgetItem *item, int role, const QString &text)
 {
     if (item->data(role).toString() != text)
         item->setData(role, text);
