@@ -3,7 +3,37 @@
 #include "actioncatalog.h"
 
 #include <QActionGroup>
+#include <QGuiApplication>
 #include <QIcon>
+#include <QPainter>
+#include <QPalette>
+
+namespace {
+
+QPixmap inColor(QPixmap pixmap, const QColor &color)
+{
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), color);
+    return pixmap;
+}
+
+// A style tints the icons of selected rows in the color that is already behind them, so that little
+// is left to see in the toolbar editor. These icons bring pictures of their own for that.
+QIcon iconNamed(const char *name)
+{
+    const QIcon drawing(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
+    const QColor selected = QGuiApplication::palette().color(QPalette::HighlightedText);
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32}) {
+        const QPixmap pixmap = drawing.pixmap(size);
+        icon.addPixmap(pixmap);
+        icon.addPixmap(inColor(pixmap, selected), QIcon::Selected);
+    }
+    return icon;
+}
+
+} // namespace
 
 ActionCatalog::ActionCatalog(QObject *parent)
     : m_parent(parent)
@@ -158,7 +188,7 @@ QAction *ActionCatalog::add(const char *name, const char *icon, const QString &t
 {
     QAction *const action = new QAction(m_parent);
     action->setObjectName(QLatin1String(name));
-    action->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(icon))));
+    action->setIcon(iconNamed(icon));
     action->setText(text);
     action->setStatusTip(tip);
     action->setToolTip(tip);

@@ -6,6 +6,7 @@
 #include "testcase.h"
 #include "texts.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -21,6 +22,7 @@ class tst_TextEditorActions : public TestCase
 
 private Q_SLOTS:
     void everyActionHasAnIconATextAndATip();
+    void everyIconStandsOutInSelectedRows();
     void everyActionHasANameOfItsOwn();
     void noTextHasAnAmpersand();
     void noTwoActionsShareAShortcut();
@@ -86,6 +88,27 @@ void tst_TextEditorActions::everyActionHasAnIconATextAndATip()
         QVERIFY2(!action->statusTip().isEmpty(), qPrintable(action->objectName()));
         QVERIFY2(action->toolTip().startsWith(action->statusTip()),
                  qPrintable(action->objectName()));
+    }
+}
+
+void tst_TextEditorActions::everyIconStandsOutInSelectedRows()
+{
+    QObject owner;
+    const auto actions = allActions(ActionCatalog(&owner));
+    const QRgb selectedText = QApplication::palette().color(QPalette::HighlightedText).rgb();
+    for (const QAction *action : actions) {
+        const QImage image = action->icon().pixmap(32, 32, QIcon::Selected).toImage();
+        int pixels = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QRgb pixel = image.pixel(x, y);
+                if (qAlpha(pixel) < 255)
+                    continue;
+                ++pixels;
+                QVERIFY2(pixel == selectedText, qPrintable(action->objectName()));
+            }
+        }
+        QVERIFY2(pixels > 0, qPrintable(action->objectName()));
     }
 }
 

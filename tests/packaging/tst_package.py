@@ -31,6 +31,7 @@ VERSION = (SOURCE_DIR / 'VERSION').read_text().strip()
 MAJOR = int(VERSION.split('.')[0])
 FEATURES = f'{LIBDIR}/qt5/mkspecs/features'
 HOST_DIR = SOURCE_DIR / 'tests' / 'packaging' / 'host'
+EXAMPLES = ('dressed', 'minimal', 'plugins', 'texteditor', 'tree')
 
 CLASSES = (
     'RyAbstatcManager',
@@ -271,10 +272,12 @@ class Hosts(unittest.TestCase):
         self.assertNotIn('translationsdir', file.read_text())
 
     def test_examples_build_against_the_package(self):
-        for path in sorted((SOURCE_DIR / 'examples').glob('*/CMakeLists.txt')):
-            name = path.parent.name
+        folders = [path.parent for path in (SOURCE_DIR / 'examples').glob('*/CMakeLists.txt')]
+        self.assertEqual(sorted(folder.name for folder in folders), sorted(EXAMPLES))
+        for folder in folders:
+            name = folder.name
             with self.subTest(name):
-                self.build(path.parent, name, f'-DCMAKE_PREFIX_PATH={prefix}', target='all')
+                self.build(folder, name, f'-DCMAKE_PREFIX_PATH={prefix}', target='all')
                 self.assertTrue(os.access(work / name / name, os.X_OK))
 
     def test_qmake_feature_works_wherever_it_lies(self):

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef DRESSEDWINDOW_H
+#define DRESSEDWINDOW_H
+
+#include <RyToolBarManager>
+
+#include <QMainWindow>
+#include <QStyle>
+
+class RyCustomizedDialog;
+
+/*!
+ * \brief A window with some commands that only tell their names, and the dialog in its best dress.
+ */
+class DressedWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit DressedWindow(QWidget *parent = nullptr);
+
+private Q_SLOTS:
+    void customizeToolBars();
+
+private:
+    struct Command
+    {
+        const char *name;
+        QString text;
+        QStyle::StandardPixmap icon;
+    };
+
+    void addCategory(const char *name, const QString &title, const QList<Command> &commands);
+    void showHelp(RyCustomizedDialog *dialog);
+
+    RyToolBarManager m_manager;
+};
+
+#endif // DRESSEDWINDOW_H

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef PLUGINSWINDOW_H
+#define PLUGINSWINDOW_H
+
+#include "pluginactions.h"
+#include "textplugin.h"
+
+#include <RyToolBarManager>
+
+#include <QMainWindow>
+
+class QPlainTextEdit;
+class QSettings;
+
+/*!
+ * \brief A small editor whose plugins the user switches on and off in the menu "Plugins".
+ */
+class PluginsWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    //! Restores the layout and switches on the plugins that the user had on, all if never asked.
+    //!
+    //! \param settings the application's settings, which must outlive the window.
+    //! \param plugins what is installed this time; it need not be what was installed last time.
+    PluginsWindow(QSettings *settings, const QList<TextPlugin> &plugins, QWidget *parent = nullptr);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private Q_SLOTS:
+    void customizeToolBars();
+    void forgetAbsentPlugins();
+
+private:
+    void createOwnCommands();
+    void createPluginsMenu(const QList<TextPlugin> &plugins);
+    void createSettingsMenu();
+    void restoreLayout();
+    void saveToolBars();
+    void switchPlugin(const TextPlugin &plugin, bool on);
+
+    QSettings *const m_settings;
+    QPlainTextEdit *const m_editor;
+    QMenu *m_pluginsMenu = nullptr;
+    QMenu *m_commandsMenu = nullptr;
+    RyToolBarManager m_manager;
+    PluginActions m_pluginActions;
+    // The actions of each plugin that is on.
+    QHash<QString, QList<QAction *>> m_running;
+};
+
+#endif // PLUGINSWINDOW_H

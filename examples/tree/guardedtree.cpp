@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+
+#include "guardedtree.h"
+
+#include <QDragMoveEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+GuardedTree::GuardedTree(QWidget *parent)
+    : RyTreeWidget(parent)
+{
+}
+
+void GuardedTree::mousePressEvent(QMouseEvent *event)
+{
+    // RyTreeWidget knows Control from key events alone and misses those that come during a drag or go
+    // to another widget. The mouse event knows better.
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        QKeyEvent control(QEvent::KeyPress, Qt::Key_Control, Qt::NoModifier);
+        RyTreeWidget::keyPressEvent(&control);
+    } else {
+        QKeyEvent control(QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier);
+        RyTreeWidget::keyReleaseEvent(&control);
+    }
+    Q_EMIT dragMayBegin();
+    RyTreeWidget::mousePressEvent(event);
+}
+
+// The whole drag runs inside of this.
+void GuardedTree::mouseMoveEvent(QMouseEvent *event)
+{
+    RyTreeWidget::mouseMoveEvent(event);
+    Q_EMIT dragMayHaveEnded();
+}
+
+// RyTreeWidget keeps all keys to itself; without arrow keys nobody can use a tree by keyboard.
+void GuardedTree::keyPressEvent(QKeyEvent *event)
+{
+    RyTreeWidget::keyPressEvent(event);
+    QTreeWidget::keyPressEvent(event);
+}
+
+void GuardedTree::keyReleaseEvent(QKeyEvent *event)
+{
+    RyTreeWidget::keyReleaseEvent(event);
+    QTreeWidget::keyReleaseEvent(event);
+}
+
+// RyTreeWidget lets every item take children. Refusing a place is safe only with a guard: a move that
+// is dropped there deletes the item.
+void GuardedTree::dragMoveEvent(QDragMoveEvent *event)
+{
+    RyTreeWidget::dragMoveEvent(event);
+    const QTreeWidgetItem *const item = itemAt(event->pos());
+    if (item && !item->flags().testFlag(Qt::ItemIsDropEnabled))
+        event->ignore();
+}

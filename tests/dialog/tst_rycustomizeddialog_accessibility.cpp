@@ -1,0 +1,542 @@
+// SPDX-License-Identifier: MIT
+
+#include "editorviews.h"
+#include "host.h"
+#include "rycustomizeddialog.h"
+#include "testcase.h"
+#include "texts.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMetaEnum>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest>
+
+/*
+ * What the dialog tells a screen reader, and what can be done through it. docs/accessibility.md says
+ * the same in words.
+ */
+
+namespace {
+
+QString roleOf(const QAccessibleInterface *interface)
+{
+    return QLatin1String(QMetaEnum::fromType<QAccessible::Role>().valueToKey(interface->role()));
+}
+
+// The states that matter here, by name.
+QStringList statesOf(const QAccessibleInterface *interface)
+{
+    const QAccessible::State state = interface->state();
+    const QList<QPair<quint64, const char *>> all = {
+        {state.invisible, "invisible"},   {state.disabled, "disabled"},
+        {state.focused, "focused"},       {state.selected, "selected"},
+        {state.expandable, "expandable"}, {state.expanded, "expanded"},
+        {state.editable, "editable"},     {state.defaultButton, "default"}};
+    QStringList names;
+    for (const auto &entry : all) {
+        if (entry.first)
+            names << QLatin1String(entry.second);
+    }
+    return names;
+}
+
+QStringList actionsOf(QAccessibleInterface *interface)
+{
+    QAccessibleActionInterface *const actions = interface->actionInterface();
+    return actions ? actions->actionNames() : QStringList();
+}
+
+QAccessibleInterface *told(QObject *object)
+{
+    return QAccessible::queryAccessibleInterface(object);
+}
+
+// "Role 'name' states", for views without their items.
+QString lineOf(const QAccessibleInterface *interface)
+{
+    return QStringLiteral("%1 '%2' %3")
+        .arg(roleOf(interface), interface->text(QAccessible::Name),
+             statesOf(interface).join(QLatin1Char(' ')))
+        .trimmed();
+}
+
+void appendLines(QStringList &lines, const QAccessibleInterface *interface, int depth)
+{
+    lines << QString(2 * depth, QLatin1Char(' ')) + lineOf(interface);
+    if (interface->role() == QAccessible::Tree || interface->role() == QAccessible::List)
+        return;
+    for (int i = 0; i < interface->childCount(); ++i)
+        appendLines(lines, interface->child(i), depth + 1);
+}
+
+// The items of a view: "name states".
+QStringList itemsTold(QAbstractItemView *view)
+{
+    QStringList lines;
+    const QAccessibleInterface *const interface = told(view);
+    for (int i = 0; i < interface->childCount(); ++i) {
+        const QAccessibleInterface *const item = interface->child(i);
+        if (item->role() != QAccessible::ColumnHeader)
+            lines << (item->text(QAccessible::Name) + QLatin1Char(' ')
+                      + statesOf(item).join(QLatin1Char(' ')))
+                         .trimmed();
+    }
+    return lines;
+}
+
+void press(QObject *object)
+{
+    QAccessibleActionInterface *const actions = told(object)->actionInterface();
+    QVERIFY(actions);
+    QVERIFY(actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    actions->doAction(QAccessibleActionInterface::pressAction());
+}
+
+QStringList lines(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char('\n'));
+}
+
+// The dialog of a host with a default and a custom toolbar, which is current; every button can be
+// pressed.
+struct Stage
+{
+    Stage()
+        : dialog({&host.manager, nullptr}, &host.window)
+        , views(&dialog)
+        , tabs(dialog.findChild<QTabWidget *>())
+    {
+        host.defaultToolBar(QStringLiteral("file"), words("open save"), QStringLiteral("File"));
+        for (const QString &name : words("cut copy paste"))
+            host.registered(name, QStringLiteral("Edit"));
+        mine = host.manager.createToolBar(QStringLiteral("Mine"));
+        host.manager.setToolBar(mine, host.list(words("cut | copy")));
+        dialog.show();
+        QApplication::setActiveWindow(&dialog);
+        views.toolBarList->setCurrentItem(itemNamed(views.toolBarList, QStringLiteral("Mine")));
+        views.currentToolBarList->setCurrentRow(1);
+    }
+
+    QStringList rows() const
+    {
+        QStringList rows = rowsOf(views.currentToolBarList);
+        rows.replaceInStrings(QStringLiteral("< S E P A R A T O R >"), QStringLiteral("|"));
+        return rows;
+    }
+
+    QPushButton *boxButton(QDialogButtonBox::StandardButton which) const
+    {
+        return dialog.findChild<QDialogButtonBox *>()->button(which);
+    }
+
+    Host host;
+    RyCustomizedDialog dialog;
+    EditorViews views;
+    QTabWidget *const tabs;
+    QToolBar *mine;
+};
+
+} // namespace
+
+class tst_RyCustomizedDialog_Accessibility : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everythingHasARole();
+    void theViewsHaveNoNames();
+    void toolTipsAreTheDescriptionsOfButtons_data();
+    void toolTipsAreTheDescriptionsOfButtons();
+    void theActionTreeTellsCategoriesAndActions();
+    void theHiddenHeaderIsTold();
+    void theToolBarListTellsRowsButNotWhichAreDefault();
+    void theCurrentToolBarTellsItsActions_data();
+    void theCurrentToolBarTellsItsActions();
+    void disabledButtonsOfferNothing();
+    void pressingAButtonDoesWhatAClickDoes_data();
+    void pressingAButtonDoesWhatAClickDoes();
+    void newAndRenameOpenALineWithTheName_data();
+    void newAndRenameOpenALineWithTheName();
+    void pressingTheButtonsOfTheBox_data();
+    void pressingTheButtonsOfTheBox();
+    void tabsAreToldAndPressed();
+    void theRibbonPageIsToldAsInvisible();
+    void everyButtonTakesTheFocus();
+    void noOtherKeyDoesAnything_data();
+    void noOtherKeyDoesAnything();
+    void captionsAndButtonsHaveNoAccelerators();
+    void mnemonicsAreToldAsTheyStand();
+    void selectingAnItemDoesNotMakeItCurrent_data();
+    void selectingAnItemDoesNotMakeItCurrent();
+};
+
+void tst_RyCustomizedDialog_Accessibility::everythingHasARole()
+{
+    Stage stage;
+    stage.views.newButton->setFocus();
+    QStringList found;
+    appendLines(found, told(&stage.dialog), 0);
+    // The page that is not shown has a test of its own, and the scroll buttons of tabs belong to Qt.
+    // Qt calls the current tab focused, wherever the focus is.
+    const int ribbon = found.indexOf(QStringLiteral("      Client '' invisible"));
+    QVERIFY(ribbon > 0);
+    while (found.at(ribbon).startsWith(QLatin1String("      ")))
+        found.removeAt(ribbon);
+    for (const QString &line : found.filter(QStringLiteral("'Scroll ")))
+        found.removeAll(line);
+    QCOMPARE(found,
+             lines("Dialog 'Options'\n"
+                   "  Client ''\n"
+                   "    LayeredPane ''\n"
+                   "      Client ''\n"
+                   "        StaticText 'Actions'\n"
+                   "        StaticText 'Toolbars'\n"
+                   "        Button 'New' focused\n"
+                   "        Button 'Remove'\n"
+                   "        Button 'Rename'\n"
+                   "        Tree ''\n"
+                   "        List ''\n"
+                   "        StaticText 'Current Toolbar Actions'\n"
+                   "        Button 'Up'\n"
+                   "        Button '<-'\n"
+                   "        Button '->'\n"
+                   "        Button 'Down'\n"
+                   "        List ''\n"
+                   "    PageTabList 'ToolBar'\n"
+                   "      PageTab 'ToolBar' focused\n"
+                   "      PageTab 'Ribbon'\n"
+                   "  Grouping ''\n"
+                   "    Button 'OK' default\n"
+                   "    Button 'Cancel'\n"
+                   "    Button 'Help'\n"
+                   "    Button 'Apply'\n"
+                   "    Button 'Restore Defaults'"));
+}
+
+// The form says nothing of them, and Qt takes no names from the captions beside them.
+void tst_RyCustomizedDialog_Accessibility::theViewsHaveNoNames()
+{
+    Stage stage;
+    for (QWidget *view : QList<QWidget *>{stage.views.actionTree, stage.views.toolBarList,
+                                          stage.views.currentToolBarList}) {
+        QCOMPARE(told(view)->text(QAccessible::Name), QString());
+        QCOMPARE(told(view)->text(QAccessible::Description), QString());
+    }
+}
+
+void tst_RyCustomizedDialog_Accessibility::toolTipsAreTheDescriptionsOfButtons_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("description");
+    QTest::newRow("newButton") << "New"
+                               << "Add new toolbar";
+    QTest::newRow("removeButton") << "Remove"
+                                  << "Remove selected toolbar";
+    QTest::newRow("renameButton") << "Rename"
+                                  << "Rename toolbar";
+    QTest::newRow("upButton") << "Up"
+                              << "Move action up";
+    QTest::newRow("leftButton") << "<-"
+                                << "Remove action from toolbar";
+    QTest::newRow("rightButton") << "->"
+                                 << "Add action to toolbar";
+    QTest::newRow("downButton") << "Down"
+                                << "Move action down";
+}
+
+void tst_RyCustomizedDialog_Accessibility::toolTipsAreTheDescriptionsOfButtons()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, description);
+    Stage stage;
+    QWidget *const button =
+        stage.views.page->findChild<QWidget *>(QLatin1String(QTest::currentDataTag()));
+    QCOMPARE(told(button)->role(), QAccessible::Button);
+    QCOMPARE(told(button)->text(QAccessible::Name), name);
+    QCOMPARE(told(button)->text(QAccessible::Description), description);
+    QCOMPARE(actionsOf(told(button)),
+             QStringList({QAccessibleActionInterface::pressAction(),
+                          QAccessibleActionInterface::setFocusAction()}));
+}
+
+void tst_RyCustomizedDialog_Accessibility::theActionTreeTellsCategoriesAndActions()
+{
+    Stage stage;
+    QCOMPARE(itemsTold(stage.views.actionTree),
+             lines("< S E P A R A T O R > focused selected\nEdit expandable\nFile expandable"));
+    stage.views.actionTree->expandItem(itemNamed(stage.views.actionTree, QStringLiteral("Edit")));
+    stage.views.actionTree->setCurrentItem(
+        itemNamed(stage.views.actionTree, QStringLiteral("Cut")));
+    QCOMPARE(itemsTold(stage.views.actionTree),
+             lines("< S E P A R A T O R >\nEdit expandable expanded\nCopy\nCut focused selected\n"
+                   "Paste\nFile expandable"));
+    const QAccessibleInterface *const tree = told(stage.views.actionTree);
+    for (int i = 1; i < tree->childCount(); ++i)
+        QCOMPARE(tree->child(i)->role(), QAccessible::TreeItem);
+}
+
+// As "1", the text that nobody sees.
+void tst_RyCustomizedDialog_Accessibility::theHiddenHeaderIsTold()
+{
+    Stage stage;
+    const QAccessibleInterface *const header = told(stage.views.actionTree)->child(0);
+    QCOMPARE(header->role(), QAccessible::ColumnHeader);
+    QCOMPARE(lineOf(header), QStringLiteral("ColumnHeader '1' invisible"));
+}
+
+// Only their color tells default toolbars, and nothing tells which rows can be renamed.
+void tst_RyCustomizedDialog_Accessibility::theToolBarListTellsRowsButNotWhichAreDefault()
+{
+    Stage stage;
+    QCOMPARE(itemsTold(stage.views.toolBarList), lines("File\nMine focused selected"));
+    for (int row = 0; row < 2; ++row) {
+        const QAccessibleInterface *const item = told(stage.views.toolBarList)->child(row);
+        QCOMPARE(item->role(), QAccessible::ListItem);
+        QCOMPARE(item->text(QAccessible::Description), QString());
+    }
+}
+
+void tst_RyCustomizedDialog_Accessibility::theCurrentToolBarTellsItsActions_data()
+{
+    QTest::addColumn<QString>("told");
+    QTest::newRow("Mine") << "Cut\n< S E P A R A T O R > focused selected\nCopy";
+    QTest::newRow("File") << "Open focused selected\nSave";
+}
+
+void tst_RyCustomizedDialog_Accessibility::theCurrentToolBarTellsItsActions()
+{
+    QFETCH(QString, told);
+    Stage stage;
+    stage.views.toolBarList->setCurrentItem(
+        itemNamed(stage.views.toolBarList, QLatin1String(QTest::currentDataTag())));
+    QCOMPARE(itemsTold(stage.views.currentToolBarList), told.split(QLatin1Char('\n')));
+}
+
+void tst_RyCustomizedDialog_Accessibility::disabledButtonsOfferNothing()
+{
+    Stage stage;
+    stage.views.toolBarList->setCurrentRow(0);
+    for (QToolButton *button :
+         {stage.views.removeButton, stage.views.renameButton, stage.views.upButton}) {
+        QVERIFY(!button->isEnabled());
+        QVERIFY(told(button)->state().disabled);
+        QCOMPARE(actionsOf(told(button)), QStringList());
+    }
+}
+
+void tst_RyCustomizedDialog_Accessibility::pressingAButtonDoesWhatAClickDoes_data()
+{
+    QTest::addColumn<QString>("rows");
+    QTest::addColumn<QString>("toolBars");
+    QTest::newRow("removeButton") << "Open Save"
+                                  << "File";
+    QTest::newRow("upButton") << "| Cut Copy"
+                              << "File Mine";
+    QTest::newRow("leftButton") << "Cut Copy"
+                                << "File Mine";
+    QTest::newRow("rightButton") << "Cut | | Copy"
+                                 << "File Mine";
+    QTest::newRow("downButton") << "Cut Copy |"
+                                << "File Mine";
+}
+
+void tst_RyCustomizedDialog_Accessibility::pressingAButtonDoesWhatAClickDoes()
+{
+    QFETCH(QString, rows);
+    QFETCH(QString, toolBars);
+    Stage stage;
+    press(stage.views.page->findChild<QWidget *>(QLatin1String(QTest::currentDataTag())));
+    QTRY_COMPARE(stage.rows(), words(qPrintable(rows)));
+    QCOMPARE(rowsOf(stage.views.toolBarList), words(qPrintable(toolBars)));
+}
+
+void tst_RyCustomizedDialog_Accessibility::newAndRenameOpenALineWithTheName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("newButton") << "Custom Toolbar";
+    QTest::newRow("renameButton") << "Mine";
+}
+
+void tst_RyCustomizedDialog_Accessibility::newAndRenameOpenALineWithTheName()
+{
+    QFETCH(QString, name);
+    Stage stage;
+    press(stage.views.page->findChild<QWidget *>(QLatin1String(QTest::currentDataTag())));
+    QTRY_VERIFY(stage.views.renameEditor());
+    QAccessibleInterface *const line = told(stage.views.renameEditor());
+    QCOMPARE(line->role(), QAccessible::EditableText);
+    QCOMPARE(line->text(QAccessible::Name), QString());
+    QCOMPARE(line->text(QAccessible::Value), name);
+    QVERIFY(line->state().focused);
+    line->setText(QAccessible::Value, QStringLiteral("Spoken"));
+    QTest::keyClick(stage.views.renameEditor(), Qt::Key_Return);
+    QTRY_VERIFY(!stage.views.renameEditor());
+    QVERIFY(itemNamed(stage.views.toolBarList, QStringLiteral("Spoken")));
+    QVERIFY(stage.dialog.isVisible());
+}
+
+void tst_RyCustomizedDialog_Accessibility::pressingTheButtonsOfTheBox_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("staysOpen");
+    QTest::addColumn<QString>("inHost");
+    QTest::addColumn<QString>("toolBars");
+    QTest::newRow("OK") << int(QDialogButtonBox::Ok) << false << "| cut copy"
+                        << "";
+    QTest::newRow("Apply") << int(QDialogButtonBox::Apply) << true << "| cut copy"
+                           << "File Mine";
+    QTest::newRow("Cancel") << int(QDialogButtonBox::Cancel) << false << "cut | copy"
+                            << "";
+    QTest::newRow("Restore Defaults")
+        << int(QDialogButtonBox::RestoreDefaults) << true << "cut | copy"
+        << "File";
+}
+
+void tst_RyCustomizedDialog_Accessibility::pressingTheButtonsOfTheBox()
+{
+    QFETCH(int, button);
+    QFETCH(bool, staysOpen);
+    QFETCH(QString, inHost);
+    QFETCH(QString, toolBars);
+    Stage stage;
+    stage.views.click(stage.views.upButton);
+    press(stage.boxButton(QDialogButtonBox::StandardButton(button)));
+    QTRY_COMPARE(rowsOf(stage.views.toolBarList), words(qPrintable(toolBars)));
+    QTRY_COMPARE(stage.dialog.isVisible(), staysOpen);
+    QTRY_COMPARE(standingOn(stage.mine), words(qPrintable(inHost)));
+}
+
+void tst_RyCustomizedDialog_Accessibility::tabsAreToldAndPressed()
+{
+    Stage stage;
+    const QAccessibleInterface *const bar = told(stage.tabs->tabBar());
+    for (const int index : {1, 0}) {
+        QAccessibleInterface *const tab = bar->child(index);
+        QCOMPARE(tab->role(), QAccessible::PageTab);
+        QCOMPARE(tab->text(QAccessible::Name), stage.tabs->tabText(index));
+        tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(stage.tabs->currentIndex(), index);
+        // A tab list has the name of its current tab.
+        QCOMPARE(bar->text(QAccessible::Name), stage.tabs->tabText(index));
+    }
+}
+
+void tst_RyCustomizedDialog_Accessibility::theRibbonPageIsToldAsInvisible()
+{
+    Stage stage;
+    QWidget *const ribbon = stage.dialog.findChild<QWidget *>(QStringLiteral("CRibbonPage"));
+    QWidget *const button = ribbon->findChild<QWidget *>(QStringLiteral("newButton_4"));
+    QCOMPARE(lineOf(told(ribbon)), QStringLiteral("Client '' invisible"));
+    QCOMPARE(lineOf(told(button)), QStringLiteral("Button 'New' invisible"));
+    stage.tabs->setCurrentIndex(1);
+    QCOMPARE(lineOf(told(ribbon)), QStringLiteral("Client ''"));
+    QCOMPARE(lineOf(told(button)), QStringLiteral("Button 'New'"));
+    QCOMPARE(lineOf(told(stage.views.newButton)),
+             QStringLiteral("Button 'New' invisible disabled"));
+}
+
+void tst_RyCustomizedDialog_Accessibility::everyButtonTakesTheFocus()
+{
+    Stage stage;
+    const auto buttons = stage.dialog.findChildren<QAbstractButton *>();
+    int count = 0;
+    for (QAbstractButton *button : buttons) {
+        if (!button->isVisible())
+            continue;
+        ++count;
+        QVERIFY(told(button)->state().focusable);
+        told(button)->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        QCOMPARE(QApplication::focusWidget(), button);
+        QVERIFY(told(button)->state().focused);
+    }
+    QCOMPARE(count, 12);
+}
+
+void tst_RyCustomizedDialog_Accessibility::noOtherKeyDoesAnything_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("alt");
+    QTest::newRow("F1") << int(Qt::Key_F1) << false;
+    QTest::newRow("Insert") << int(Qt::Key_Insert) << false;
+    QTest::newRow("Delete") << int(Qt::Key_Delete) << false;
+    QTest::newRow("Alt+Up") << int(Qt::Key_Up) << true;
+    QTest::newRow("Alt+Down") << int(Qt::Key_Down) << true;
+}
+
+void tst_RyCustomizedDialog_Accessibility::noOtherKeyDoesAnything()
+{
+    QFETCH(int, key);
+    QFETCH(bool, alt);
+    Stage stage;
+    for (QWidget *view : QList<QWidget *>{stage.views.actionTree, stage.views.currentToolBarList,
+                                          stage.views.toolBarList}) {
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key(key), alt ? Qt::AltModifier : Qt::NoModifier);
+        // Arrows move the current row, with Alt too; nothing is changed.
+        stage.views.toolBarList->setCurrentItem(
+            itemNamed(stage.views.toolBarList, QStringLiteral("Mine")));
+        QCOMPARE(stage.rows(), words("Cut | Copy"));
+        QCOMPARE(rowsOf(stage.views.toolBarList), words("File Mine"));
+        QVERIFY(!stage.views.renameEditor());
+    }
+    QVERIFY(stage.dialog.isVisible());
+}
+
+void tst_RyCustomizedDialog_Accessibility::captionsAndButtonsHaveNoAccelerators()
+{
+    Stage stage;
+    const auto parts = stage.views.page->findChildren<QWidget *>(
+        QRegularExpression(QStringLiteral("^label|Button$")));
+    QCOMPARE(parts.size(), 10);
+    for (QWidget *part : parts)
+        QCOMPARE(told(part)->text(QAccessible::Accelerator), QString());
+}
+
+void tst_RyCustomizedDialog_Accessibility::mnemonicsAreToldAsTheyStand()
+{
+    Stage stage;
+    stage.host.action(QStringLiteral("open"))->setText(QStringLiteral("&Open"));
+    stage.views.toolBarList->setCurrentRow(0);
+    QCOMPARE(itemsTold(stage.views.currentToolBarList), lines("&Open focused selected\nSave"));
+}
+
+void tst_RyCustomizedDialog_Accessibility::selectingAnItemDoesNotMakeItCurrent_data()
+{
+    QTest::addColumn<QString>("selected");
+    QTest::addColumn<QString>("current");
+    QTest::newRow("toolBarList") << "File"
+                                 << "Mine";
+    QTest::newRow("currentToolBarList") << "Cut"
+                                        << "< S E P A R A T O R >";
+}
+
+// All that Qt lets a screen reader do to an item is to select it, and the editor works on current
+// items. Arrow keys change both.
+void tst_RyCustomizedDialog_Accessibility::selectingAnItemDoesNotMakeItCurrent()
+{
+    QFETCH(QString, selected);
+    QFETCH(QString, current);
+    Stage stage;
+    QListWidget *const list =
+        stage.views.page->findChild<QListWidget *>(QLatin1String(QTest::currentDataTag()));
+    QAccessibleInterface *const item = told(list)->child(0);
+    QCOMPARE(item->text(QAccessible::Name), selected);
+    QCOMPARE(actionsOf(item), QStringList{QAccessibleActionInterface::toggleAction()});
+    item->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(item->state().selected);
+    QCOMPARE(currentOf(list), current);
+
+    QTest::keyClick(list, Qt::Key_Up);
+    QCOMPARE(currentOf(list), selected);
+    QVERIFY(item->state().selected);
+}
+
+QTEST_MAIN(tst_RyCustomizedDialog_Accessibility)
+
+#include "tst_rycustomizeddialog_accessibility.moc"

@@ -1,0 +1,528 @@
+// SPDX-License-Identifier: MIT
+
+#include "editorviews.h"
+#include "host.h"
+#include "rycustomizeddialog.h"
+#include "testcase.h"
+#include "texts.h"
+#include "userscript.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest>
+
+#include <memory>
+
+/*
+ * Everything in the dialog by keyboard alone: real keys of an X server, and no mouse.
+ * docs/accessibility.md says the same in words.
+ */
+
+namespace {
+
+QString nameOf(const QWidget *widget)
+{
+    if (!widget)
+        return QStringLiteral("nothing");
+    if (const auto button = qobject_cast<const QPushButton *>(widget))
+        return button->text();
+    return widget->objectName();
+}
+
+// A host with one default and one custom toolbar, its dialog, and the user before it.
+struct Stage
+{
+    Stage()
+        : dialog({&host.manager, nullptr}, &host.window)
+        , views(&dialog)
+        , tabs(dialog.findChild<QTabWidget *>())
+        , cancelButton(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel))
+    {
+        host.defaultToolBar(QStringLiteral("file"), words("open save"), QStringLiteral("File"));
+        for (const QString &name : words("cut copy paste"))
+            host.registered(name, QStringLiteral("Edit"));
+        mine = host.manager.createToolBar(QStringLiteral("Mine"));
+        host.manager.setToolBar(mine, host.list(words("cut | copy")));
+        host.window.resize(900, 700);
+        user.waitForWindow(&dialog);
+    }
+
+    // "accepted" or "rejected" is what the dialog returned, anything else tells what went wrong.
+    QString exec()
+    {
+        host.window.show();
+        if (!waitUntilSettled(&host.window))
+            return QStringLiteral("the host has no window");
+        user.start();
+        const int result = dialog.exec();
+        const QString failure = user.finish();
+        if (!failure.isEmpty())
+            return failure;
+        return result == QDialog::Accepted ? QStringLiteral("accepted")
+                                           : QStringLiteral("rejected");
+    }
+
+    // Presses Tab until the widget has the focus, each time after the focus has moved on.
+    void tabTo(QWidget *widget)
+    {
+        const auto last = std::make_shared<QWidget *>(nullptr);
+        user.waitFor(QLatin1String("Tab to ") + nameOf(widget), [this, widget, last] {
+            QWidget *const focus = QApplication::focusWidget();
+            if (focus == widget)
+                return true;
+            if (focus && focus != *last) {
+                *last = focus;
+                user.input.clickKey(Qt::Key_Tab);
+            }
+            return false;
+        });
+    }
+
+    void key(Qt::Key key, const std::function<bool()> &done) { user.clickKey(key, done); }
+
+    void closed(Qt::Key lastKey)
+    {
+        key(lastKey, [this] { return !dialog.isVisible(); });
+    }
+
+    // Tab to a button and Space, after which the current toolbar has these rows.
+    void press(QAbstractButton *button, const char *rows)
+    {
+        tabTo(button);
+        key(Qt::Key_Space, [this, rows] { return currentRows() == words(rows); });
+    }
+
+    void arrowTo(QListWidget *list, Qt::Key arrow, const char *text)
+    {
+        key(arrow, [list, text] { return currentOf(list) == QLatin1String(text); });
+    }
+
+    void arrowTo(QTreeWidget *tree, Qt::Key arrow, const char *text)
+    {
+        key(arrow, [tree, text] { return currentOf(tree) == QLatin1String(text); });
+    }
+
+    void chooseMine()
+    {
+        tabTo(views.toolBarList);
+        arrowTo(views.toolBarList, Qt::Key_Down, "Mine");
+    }
+
+    QStringList currentRows() const
+    {
+        QStringList rows = rowsOf(views.currentToolBarList);
+        rows.replaceInStrings(QStringLiteral("< S E P A R A T O R >"), QStringLiteral("|"));
+        return rows;
+    }
+
+    QLineEdit *nameEditor() const { return qobject_cast<QLineEdit *>(views.renameEditor()); }
+
+    void waitForNameEditor()
+    {
+        user.waitFor(QStringLiteral("editor"), [this] {
+            return nameEditor() && nameEditor()->hasFocus() && nameEditor()->hasSelectedText();
+        });
+    }
+
+    void typeName(const QString &name)
+    {
+        waitForNameEditor();
+        user.type(name, [this, name] { return nameEditor() && nameEditor()->text() == name; });
+        key(Qt::Key_Return, [this] { return !nameEditor(); });
+    }
+
+    QStringList titlesInHost() const
+    {
+        QStringList titles;
+        const auto toolBars = host.window.findChildren<QToolBar *>();
+        for (const QToolBar *toolBar : toolBars)
+            titles << toolBar->windowTitle();
+        titles.sort();
+        return titles;
+    }
+
+    Host host;
+    RyCustomizedDialog dialog;
+    EditorViews views;
+    QTabWidget *const tabs;
+    QPushButton *const cancelButton;
+    QToolBar *mine;
+    UserScript user;
+};
+
+const char *const tabBar = "qt_tabwidget_tabbar";
+
+} // namespace
+
+class tst_RyCustomizedDialog_Keyboard : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tabReachesEveryControl();
+    void shiftTabGoesTheOtherWay();
+    void theFocusBeginsOnTheTabs();
+    void aToolBarIsMadeAndNamed();
+    void anEmptyNameIsTypedToo();
+    void aToolBarIsRenamedByItsButton();
+    void aToolBarIsRenamedWithF2();
+    void escapeInTheNameEditorKeepsTheDialog();
+    void aToolBarIsRemoved();
+    void actionsAreMovedUpAndDown();
+    void theFocusGoesOnFromAButtonThatIsDisabled();
+    void anActionIsAdded();
+    void aSeparatorIsAdded();
+    void typingFindsAnAction();
+    void anActionIsRemoved();
+    void returnPressesOkFromEverywhere_data();
+    void returnPressesOkFromEverywhere();
+    void theButtonsOfTheBoxArePressed_data();
+    void theButtonsOfTheBoxArePressed();
+    void restoreDefaultsIsPressed();
+    void escapeRejects();
+    void helpIsOpenedAndClosed();
+    void arrowsSwitchTheTabs();
+    void controlTabSwitchesTheTabsFromThePage();
+};
+
+void tst_RyCustomizedDialog_Keyboard::tabReachesEveryControl()
+{
+    Stage stage;
+    QStringList passed;
+    stage.chooseMine();
+    stage.tabTo(stage.views.currentToolBarList);
+    stage.arrowTo(stage.views.currentToolBarList, Qt::Key_Down, "< S E P A R A T O R >");
+    for (int i = 0; i < 16; ++i) {
+        stage.user.act([&] { passed << nameOf(QApplication::focusWidget()); });
+        const auto last = std::make_shared<QWidget *>(nullptr);
+        stage.user.step(
+            QStringLiteral("Tab"),
+            [&stage, last] {
+                *last = QApplication::focusWidget();
+                stage.user.input.clickKey(Qt::Key_Tab);
+            },
+            [last] { return QApplication::focusWidget() != *last; });
+    }
+    stage.user.act([&] { passed << nameOf(QApplication::focusWidget()); });
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(passed,
+             QStringList({QStringLiteral("currentToolBarList"), QLatin1String(tabBar),
+                          QStringLiteral("Restore Defaults"), QStringLiteral("OK"),
+                          QStringLiteral("Cancel"), QStringLiteral("Apply"), QStringLiteral("Help"),
+                          QStringLiteral("newButton"), QStringLiteral("removeButton"),
+                          QStringLiteral("renameButton"), QStringLiteral("actionTree"),
+                          QStringLiteral("toolBarList"), QStringLiteral("upButton"),
+                          QStringLiteral("leftButton"), QStringLiteral("rightButton"),
+                          QStringLiteral("downButton"), QStringLiteral("currentToolBarList")}));
+}
+
+void tst_RyCustomizedDialog_Keyboard::shiftTabGoesTheOtherWay()
+{
+    Stage stage;
+    QWidget *before = nullptr;
+    stage.tabTo(stage.views.actionTree);
+    stage.tabTo(stage.views.toolBarList);
+    stage.user.pressKey(Qt::Key_Shift);
+    stage.user.step(
+        QStringLiteral("Shift+Tab"), [&] { stage.user.input.clickKey(Qt::Key_Tab); },
+        [&] { return QApplication::focusWidget() != stage.views.toolBarList; });
+    stage.user.act([&] { before = QApplication::focusWidget(); });
+    stage.user.releaseKey(Qt::Key_Shift);
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(before, stage.views.actionTree);
+}
+
+void tst_RyCustomizedDialog_Keyboard::theFocusBeginsOnTheTabs()
+{
+    Stage stage;
+    QString first;
+    stage.user.act([&] { first = nameOf(QApplication::focusWidget()); });
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(first, QLatin1String(tabBar));
+}
+
+void tst_RyCustomizedDialog_Keyboard::aToolBarIsMadeAndNamed()
+{
+    Stage stage;
+    bool openAfterNaming = false;
+    stage.tabTo(stage.views.newButton);
+    stage.key(Qt::Key_Space, [&] { return stage.nameEditor(); });
+    stage.typeName(QStringLiteral("Tools"));
+    stage.user.act([&] { openAfterNaming = stage.dialog.isVisible(); });
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QVERIFY(openAfterNaming);
+    QCOMPARE(stage.titlesInHost(), words("File Mine Tools"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::anEmptyNameIsTypedToo()
+{
+    Stage stage;
+    stage.tabTo(stage.views.newButton);
+    stage.key(Qt::Key_Space, [&] { return stage.nameEditor(); });
+    stage.waitForNameEditor();
+    stage.key(Qt::Key_Delete, [&] { return stage.nameEditor()->text().isEmpty(); });
+    stage.key(Qt::Key_Return, [&] { return !stage.nameEditor(); });
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.titlesInHost(),
+             (QStringList{QString(), QStringLiteral("File"), QStringLiteral("Mine")}));
+}
+
+void tst_RyCustomizedDialog_Keyboard::aToolBarIsRenamedByItsButton()
+{
+    Stage stage;
+    stage.chooseMine();
+    stage.tabTo(stage.views.renameButton);
+    stage.key(Qt::Key_Space, [&] { return stage.nameEditor(); });
+    stage.typeName(QStringLiteral("Ours"));
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.titlesInHost(), words("File Ours"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::aToolBarIsRenamedWithF2()
+{
+    Stage stage;
+    stage.chooseMine();
+    stage.key(Qt::Key_F2, [&] { return stage.nameEditor(); });
+    stage.typeName(QStringLiteral("Ours"));
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.titlesInHost(), words("File Ours"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::escapeInTheNameEditorKeepsTheDialog()
+{
+    Stage stage;
+    bool openAfterEscape = false;
+    stage.chooseMine();
+    stage.key(Qt::Key_F2, [&] { return stage.nameEditor(); });
+    stage.waitForNameEditor();
+    stage.key(Qt::Key_Escape, [&] { return !stage.nameEditor(); });
+    stage.user.act([&] { openAfterEscape = stage.dialog.isVisible(); });
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QVERIFY(openAfterEscape);
+}
+
+void tst_RyCustomizedDialog_Keyboard::aToolBarIsRemoved()
+{
+    Stage stage;
+    stage.chooseMine();
+    stage.press(stage.views.removeButton, "Open Save");
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.titlesInHost(), words("File"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::actionsAreMovedUpAndDown()
+{
+    Stage stage;
+    stage.chooseMine();
+    stage.tabTo(stage.views.currentToolBarList);
+    stage.arrowTo(stage.views.currentToolBarList, Qt::Key_End, "Copy");
+    stage.press(stage.views.upButton, "Cut Copy |");
+    stage.key(Qt::Key_Space, [&] { return stage.currentRows() == words("Copy Cut |"); });
+    stage.press(stage.views.downButton, "Cut Copy |");
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(standingOn(stage.mine), words("cut copy |"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::theFocusGoesOnFromAButtonThatIsDisabled()
+{
+    Stage stage;
+    QString after;
+    stage.chooseMine();
+    stage.tabTo(stage.views.currentToolBarList);
+    stage.arrowTo(stage.views.currentToolBarList, Qt::Key_Down, "< S E P A R A T O R >");
+    stage.press(stage.views.upButton, "| Cut Copy");
+    stage.user.act([&] { after = nameOf(QApplication::focusWidget()); });
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(after, QStringLiteral("leftButton"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::anActionIsAdded()
+{
+    Stage stage;
+    QTreeWidget *const tree = stage.views.actionTree;
+    stage.chooseMine();
+    stage.tabTo(tree);
+    stage.arrowTo(tree, Qt::Key_Down, "Edit");
+    stage.key(Qt::Key_Right, [tree] { return tree->currentItem()->isExpanded(); });
+    stage.arrowTo(tree, Qt::Key_Down, "Copy");
+    stage.arrowTo(tree, Qt::Key_Down, "Cut");
+    stage.arrowTo(tree, Qt::Key_Down, "Paste");
+    stage.press(stage.views.rightButton, "Cut Paste | Copy");
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(standingOn(stage.mine), words("cut paste | copy"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::aSeparatorIsAdded()
+{
+    Stage stage;
+    stage.chooseMine();
+    stage.press(stage.views.rightButton, "Cut | | Copy");
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(standingOn(stage.mine), words("cut | | copy"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::typingFindsAnAction()
+{
+    Stage stage;
+    QTreeWidget *const tree = stage.views.actionTree;
+    stage.chooseMine();
+    stage.tabTo(tree);
+    stage.arrowTo(tree, Qt::Key_Down, "Edit");
+    stage.key(Qt::Key_Right, [tree] { return tree->currentItem()->isExpanded(); });
+    stage.user.type(QStringLiteral("pas"),
+                    [tree] { return currentOf(tree) == QLatin1String("Paste"); });
+    stage.press(stage.views.rightButton, "Cut Paste | Copy");
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::anActionIsRemoved()
+{
+    Stage stage;
+    stage.chooseMine();
+    stage.press(stage.views.leftButton, "| Copy");
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(standingOn(stage.mine), words("| copy"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::returnPressesOkFromEverywhere_data()
+{
+    QTest::addColumn<QString>("part");
+    for (const char *part : {"actionTree", "toolBarList", "currentToolBarList", "newButton",
+                             "leftButton", "rightButton", "qt_tabwidget_tabbar"})
+        QTest::newRow(part) << QString::fromLatin1(part);
+}
+
+// Also on a tool button and on an action in the tree, which Return does not add.
+void tst_RyCustomizedDialog_Keyboard::returnPressesOkFromEverywhere()
+{
+    QFETCH(QString, part);
+    Stage stage;
+    // The other page has parts of the same names.
+    QWidget *const inPage = stage.views.page->findChild<QWidget *>(part);
+    stage.tabTo(inPage ? inPage : stage.tabs->tabBar());
+    stage.closed(Qt::Key_Return);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+    QCOMPARE(standingOn(stage.mine), words("cut | copy"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::theButtonsOfTheBoxArePressed_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QString>("content");
+    QTest::newRow("OK") << int(QDialogButtonBox::Ok) << int(Qt::Key_Space) << "accepted"
+                        << "| copy";
+    QTest::newRow("Cancel") << int(QDialogButtonBox::Cancel) << int(Qt::Key_Space) << "rejected"
+                            << "cut | copy";
+    QTest::newRow("Cancel by Return")
+        << int(QDialogButtonBox::Cancel) << int(Qt::Key_Return) << "rejected"
+        << "cut | copy";
+    QTest::newRow("Apply") << int(QDialogButtonBox::Apply) << int(Qt::Key_Space) << "rejected"
+                           << "| copy";
+}
+
+void tst_RyCustomizedDialog_Keyboard::theButtonsOfTheBoxArePressed()
+{
+    QFETCH(int, button);
+    QFETCH(int, key);
+    QFETCH(QString, result);
+    QFETCH(QString, content);
+    Stage stage;
+    stage.chooseMine();
+    stage.press(stage.views.leftButton, "| Copy");
+    stage.tabTo(stage.dialog.findChild<QDialogButtonBox *>()->button(
+        QDialogButtonBox::StandardButton(button)));
+    if (button == QDialogButtonBox::Apply) {
+        stage.key(Qt::Key(key), [&] { return standingOn(stage.mine) == words("| copy"); });
+        stage.closed(Qt::Key_Escape);
+    } else {
+        stage.closed(Qt::Key(key));
+    }
+    QCOMPARE(stage.exec(), result);
+    QCOMPARE(standingOn(stage.mine), words(qPrintable(content)));
+}
+
+void tst_RyCustomizedDialog_Keyboard::restoreDefaultsIsPressed()
+{
+    Stage stage;
+    stage.tabTo(stage.dialog.RestoreDefaultButton());
+    stage.key(Qt::Key_Space, [&] { return rowsOf(stage.views.toolBarList) == words("File"); });
+    stage.tabTo(stage.dialog.okButton());
+    stage.closed(Qt::Key_Space);
+    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.titlesInHost(), words("File"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::escapeRejects()
+{
+    Stage stage;
+    stage.tabTo(stage.views.actionTree);
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::helpIsOpenedAndClosed()
+{
+    Stage stage;
+    QString text;
+    bool openAfterHelp = false;
+    const auto box = [] { return qobject_cast<QMessageBox *>(QApplication::activeModalWidget()); };
+    stage.tabTo(stage.dialog.helpButton());
+    stage.key(Qt::Key_Space, [box] { return box() && box()->isActiveWindow(); });
+    stage.user.act([&] { text = box()->text(); });
+    stage.key(Qt::Key_Return, [box] { return !box(); });
+    stage.user.waitForWindow(&stage.dialog);
+    stage.user.act([&] { openAfterHelp = stage.dialog.isVisible(); });
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QVERIFY(!text.isEmpty());
+    QVERIFY(openAfterHelp);
+}
+
+void tst_RyCustomizedDialog_Keyboard::arrowsSwitchTheTabs()
+{
+    Stage stage;
+    stage.tabTo(stage.tabs->tabBar());
+    stage.key(Qt::Key_Right, [&] { return stage.tabs->currentIndex() == 1; });
+    stage.key(Qt::Key_Left, [&] { return stage.tabs->currentIndex() == 0; });
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+}
+
+void tst_RyCustomizedDialog_Keyboard::controlTabSwitchesTheTabsFromThePage()
+{
+    Stage stage;
+    stage.tabTo(stage.views.toolBarList);
+    stage.user.pressKey(Qt::Key_Control);
+    stage.key(Qt::Key_Tab, [&] { return stage.tabs->currentIndex() == 1; });
+    stage.key(Qt::Key_Tab, [&] { return stage.tabs->currentIndex() == 0; });
+    stage.user.releaseKey(Qt::Key_Control);
+    stage.closed(Qt::Key_Escape);
+    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+}
+
+QTEST_MAIN(tst_RyCustomizedDialog_Keyboard)
+
+#include "tst_rycustomizeddialog_keyboard.moc"

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+
+#include "dresseddialog.h"
+#include "testcase.h"
+#include "texts.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QTabWidget>
+#include <QtTest>
+
+/*
+ * The example of the dressed dialog: the filter over the actions.
+ */
+class tst_Dressed_Filter : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void typingLeavesWhatMatches_data();
+    void typingLeavesWhatMatches();
+    void theFirstMatchBecomesCurrent();
+    void aVisibleCurrentItemStaysCurrent();
+    void withoutAMatchNothingCanBeAdded();
+    void clearingShowsEverything();
+    void returnAddsTheMatchAndKeepsTheDialog();
+    void downGoesToTheTree();
+    void escapeClearsFirstAndThenCloses();
+    void leavingTheTabClears();
+    void theCaptionStandsBesideTheFilter();
+    void theFilterIsNamed();
+};
+
+void tst_Dressed_Filter::typingLeavesWhatMatches_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("left");
+    QTest::newRow("nothing") << QString()
+                             << "< S E P A R A T O R >,Edit,Copy,Cut,Paste,File,Open,Save";
+    QTest::newRow("start") << "cu"
+                           << "Edit,Cut";
+    QTest::newRow("other case") << "PASTE"
+                                << "Edit,Paste";
+    QTest::newRow("middle") << "av"
+                            << "File,Save";
+    QTest::newRow("several categories") << "p"
+                                        << "< S E P A R A T O R >,Edit,Copy,Paste,File,Open";
+    QTest::newRow("category") << "edit"
+                              << "Edit,Copy,Cut,Paste";
+    QTest::newRow("separator by its spoken name") << "separator"
+                                                  << "< S E P A R A T O R >";
+    QTest::newRow("no match") << "xyz"
+                              << "";
+}
+
+void tst_Dressed_Filter::typingLeavesWhatMatches()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, left);
+    DressedDialog stage;
+    stage.filter->setFocus();
+    QTest::keyClicks(stage.filter, typed);
+    QCOMPARE(stage.filter->text(), typed);
+    QCOMPARE(stage.visibleItems(), left.split(QLatin1Char(','), Qt::SkipEmptyParts));
+    if (!typed.isEmpty() && itemNamed(stage.views.actionTree, QStringLiteral("Edit")))
+        QVERIFY(itemNamed(stage.views.actionTree, QStringLiteral("Edit"))->isExpanded());
+}
+
+void tst_Dressed_Filter::theFirstMatchBecomesCurrent()
+{
+    DressedDialog stage;
+    QCOMPARE(currentOf(stage.views.actionTree), QStringLiteral("< S E P A R A T O R >"));
+    stage.filter->setText(QStringLiteral("c"));
+    QCOMPARE(currentOf(stage.views.actionTree), QStringLiteral("Copy"));
+    // A category cannot be added.
+    stage.views.actionTree->setCurrentItem(
+        itemNamed(stage.views.actionTree, QStringLiteral("Edit")));
+    stage.filter->setText(QStringLiteral("cut"));
+    QCOMPARE(currentOf(stage.views.actionTree), QStringLiteral("Cut"));
+    QVERIFY(stage.views.rightButton->isEnabled());
+}
+
+void tst_Dressed_Filter::aVisibleCurrentItemStaysCurrent()
+{
+    DressedDialog stage;
+    stage.filter->setText(QStringLiteral("edit"));
+    stage.views.actionTree->setCurrentItem(
+        itemNamed(stage.views.actionTree, QStringLiteral("Cut")));
+    stage.filter->setText(QStringLiteral("c"));
+    QCOMPARE(currentOf(stage.views.actionTree), QStringLiteral("Cut"));
+}
+
+void tst_Dressed_Filter::withoutAMatchNothingCanBeAdded()
+{
+    DressedDialog stage;
+    QVERIFY(stage.views.rightButton->isEnabled());
+    const QStringList before = stage.currentRows();
+    stage.filter->setText(QStringLiteral("xyz"));
+    QVERIFY(!stage.views.actionTree->currentItem());
+    QVERIFY(!stage.views.rightButton->isEnabled());
+    stage.pressKey(stage.filter, Qt::Key_Return);
+    QCOMPARE(stage.currentRows(), before);
+    QVERIFY(stage.dialog.isVisible());
+}
+
+void tst_Dressed_Filter::clearingShowsEverything()
+{
+    DressedDialog stage;
+    const QStringList before = stage.visibleItems();
+    stage.filter->setText(QStringLiteral("xyz"));
+    QVERIFY(stage.visibleItems().isEmpty());
+    stage.filter->clear();
+    QCOMPARE(stage.visibleItems(), before);
+}
+
+void tst_Dressed_Filter::returnAddsTheMatchAndKeepsTheDialog()
+{
+    DressedDialog stage;
+    stage.views.toolBarList->setCurrentItem(
+        itemNamed(stage.views.toolBarList, QStringLiteral("Mine")));
+    stage.filter->setText(QStringLiteral("paste"));
+    stage.pressKey(stage.filter, Qt::Key_Return);
+    QCOMPARE(stage.currentRows(), words("Cut Paste | Copy"));
+    stage.filter->setText(QStringLiteral("open"));
+    stage.pressKey(stage.filter, Qt::Key_Enter);
+    QCOMPARE(stage.currentRows(), words("Cut Paste Open | Copy"));
+    QVERIFY(stage.dialog.isVisible());
+}
+
+void tst_Dressed_Filter::downGoesToTheTree()
+{
+    DressedDialog stage;
+    stage.pressKey(stage.filter, Qt::Key_Down);
+    QCOMPARE(QApplication::focusWidget(), stage.views.actionTree);
+}
+
+void tst_Dressed_Filter::escapeClearsFirstAndThenCloses()
+{
+    DressedDialog stage;
+    stage.filter->setText(QStringLiteral("cut"));
+    stage.pressKey(stage.filter, Qt::Key_Escape);
+    QCOMPARE(stage.filter->text(), QString());
+    QVERIFY(stage.dialog.isVisible());
+    stage.pressKey(stage.filter, Qt::Key_Escape);
+    QVERIFY(!stage.dialog.isVisible());
+}
+
+void tst_Dressed_Filter::leavingTheTabClears()
+{
+    DressedDialog stage;
+    const QStringList before = stage.visibleItems();
+    QTabWidget *const tabs = stage.dialog.findChild<QTabWidget *>();
+    stage.filter->setText(QStringLiteral("cut"));
+    tabs->setCurrentIndex(1);
+    QCOMPARE(stage.filter->text(), QString());
+    tabs->setCurrentIndex(0);
+    QCOMPARE(stage.visibleItems(), before);
+}
+
+void tst_Dressed_Filter::theCaptionStandsBesideTheFilter()
+{
+    DressedDialog stage;
+    const QLabel *const caption = stage.views.page->findChild<QLabel *>(QStringLiteral("label"));
+    QVERIFY(caption->isVisible());
+    QVERIFY(caption->geometry().right() < stage.filter->geometry().left());
+    QVERIFY(stage.filter->geometry().bottom() < stage.views.actionTree->geometry().top());
+    QCOMPARE(stage.filter->geometry().right(), stage.views.actionTree->geometry().right());
+}
+
+void tst_Dressed_Filter::theFilterIsNamed()
+{
+    DressedDialog stage;
+    QCOMPARE(stage.filter->accessibleName(), QStringLiteral("Filter the actions"));
+    QVERIFY(!stage.filter->placeholderText().isEmpty());
+}
+
+QTEST_MAIN(tst_Dressed_Filter)
+
+#include "tst_dressed_filter.moc"
