@@ -2,6 +2,7 @@
 
 #include "rytoolbarmanager.h"
 
+#include "keptactionnames.h"
 #include "namelookup.h"
 #include "registrychanges.h"
 
@@ -12,7 +13,10 @@ RyToolBarManager::RyToolBarManager(QObject *parent)
     Q_UNUSED(parent);
 }
 
-RyToolBarManager::~RyToolBarManager() = default;
+RyToolBarManager::~RyToolBarManager()
+{
+    KeptActionNames::forget(this);
+}
 
 void RyToolBarManager::setMainWindow(QMainWindow *mainWindow)
 {
