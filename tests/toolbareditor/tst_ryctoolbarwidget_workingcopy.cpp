@@ -14,6 +14,8 @@
 #include <QMetaMethod>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace {
 
 const int EntryAlignment = 0x881;
@@ -193,6 +195,8 @@ private Q_SLOTS:
     void aDefaultToolBarIsDarkGreenAndNotEditable();
     void aCustomToolBarIsEditableAndNotColored();
     void theFillChangesEveryRowOnce();
+    void theListIsSortedAfterEachChangeOfTheFill();
+    void aRowChangedWithoutACurrentToolBarIsSortedInLater();
     void aManagerWithoutAnythingGivesTheSeparatorEntryOnly();
     void removeAndRenameActOnNothingWithoutToolBars();
     void withoutAManagerTheEditorStaysEmpty();
@@ -668,6 +672,47 @@ void tst_RyCToolBarWidget_WorkingCopy::theFillChangesEveryRowOnce()
     QCOMPARE(toolBarsOf(host.manager),
              QStringList({QStringLiteral("Empty:"), QStringLiteral("File: open | save"),
                           QStringLiteral("Mine: cut copy paste"), QStringLiteral("Single: |")}));
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::theListIsSortedAfterEachChangeOfTheFill()
+{
+    Host host;
+    for (int i = 0; i < 40; ++i)
+        host.manager.createToolBar(QString::number((i * 17) % 20));
+    RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
+    const EditorViews views(&widget);
+    int changes = 0;
+    int sorted = 0;
+    connect(views.toolBarList, &QListWidget::itemChanged, this, [&] {
+        const QStringList rows = rowsOf(views.toolBarList);
+        ++changes;
+        sorted += rows.size() == changes && std::is_sorted(rows.cbegin(), rows.cend()) ? 1 : 0;
+    });
+    widget.show();
+    QCOMPARE(changes, 40);
+    QCOMPARE(sorted, 40);
+    // The current row is that of the first toolbar, wherever it went.
+    QCOMPARE(currentOf(views.toolBarList), host.manager.toolBars().first()->windowTitle());
+}
+
+// Such a change is not taken over, so that the rows are out of order until the next one.
+void tst_RyCToolBarWidget_WorkingCopy::aRowChangedWithoutACurrentToolBarIsSortedInLater()
+{
+    Host host;
+    for (const char *title : {"b", "c", "d", "e"})
+        host.manager.createToolBar(QLatin1String(title));
+    const ShownEditor editor(&host.manager);
+    QListWidget *const list = editor.views.toolBarList;
+    list->setCurrentItem(nullptr);
+    list->item(2)->setText(QStringLiteral("a"));
+    QCOMPARE(rowsOf(list),
+             QStringList({QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("a"),
+                          QStringLiteral("e")}));
+    list->setCurrentRow(0);
+    list->item(3)->setText(QStringLiteral("f"));
+    QCOMPARE(rowsOf(list),
+             QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
+                          QStringLiteral("f")}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::aManagerWithoutAnythingGivesTheSeparatorEntryOnly()
