@@ -43,11 +43,12 @@ void RyToolBarManager::removeAction(QAction *action)
     if (!m_allActions.contains(action))
         return;
     // Guarded only if it is used: an action that stands nowhere may be gone already.
-    const bool stands = !m_actionToToolBars.value(action).isEmpty();
+    const auto standing = m_actionToToolBars.constFind(action);
+    const bool stands = standing != m_actionToToolBars.constEnd() && !standing.value().isEmpty();
     const QPointer<QAction> alive(stands ? action : nullptr);
     takeOffToolBars(action, alive);
     for (auto it = m_defaultToolBars.begin(); it != m_defaultToolBars.end(); ++it)
-        it.value().removeAll(action);
+        it.value().removeOne(action);
     if (!m_allActions.remove(action))
         return;
     ++RegistryChanges::ofActions;
@@ -64,8 +65,9 @@ void RyToolBarManager::takeOffToolBars(QAction *action, const QPointer<QAction> 
         // The host may have deleted the toolbar when the action was taken off another one.
         if (content == m_toolBars.end())
             continue;
-        content.value().removeAll(action);
-        m_toolBarsWithSeparators[toolBar].removeAll(action);
+        // No content holds an action twice.
+        content.value().removeOne(action);
+        m_toolBarsWithSeparators[toolBar].removeOne(action);
         if (alive)
             toolBar->removeAction(action);
     }
@@ -77,7 +79,7 @@ void RyToolBarManager::forgetCategory(QAction *action)
     const auto category = m_categoryToActions.find(m_actionToCategory.take(action));
     if (category == m_categoryToActions.end())
         return;
-    category.value().removeAll(action);
+    category.value().removeOne(action);
     if (category.value().isEmpty())
         m_categoryToActions.erase(category);
 }
