@@ -11,6 +11,13 @@
 #include <QMainWindow>
 #include <QPointer>
 
+namespace {
+
+// A damaged count must not take more room than this.
+const qint32 UsualEntries = 64;
+
+} // namespace
+
 ToolBarStateRestorer::ToolBarStateRestorer(RyToolBarManager *manager, QDataStream &stream)
     : m_manager(manager)
     , m_stream(stream)
@@ -80,7 +87,9 @@ void ToolBarStateRestorer::restoreCustomToolBar()
 QList<QAction *> ToolBarStateRestorer::readContent()
 {
     QList<QAction *> content;
-    CountedEntries entries(m_stream, readCount());
+    const qint32 count = readCount();
+    content.reserve(qBound(0, count, UsualEntries));
+    CountedEntries entries(m_stream, count);
     while (entries.next()) {
         const QString name = readString();
         if (name.isEmpty())
