@@ -122,7 +122,6 @@ void RyCToolBarWidget::clearOld()
     m_ownedRecords.clear();
     form()->toolBars.clear();
     form()->actions.clear();
-    form()->sortedRows = 0;
     ++form()->discards;
     m_currentRecord = nullptr;
     m_currentActionItem = nullptr;

@@ -196,6 +196,7 @@ private Q_SLOTS:
     void aCustomToolBarIsEditableAndNotColored();
     void theFillChangesEveryRowOnce();
     void theListIsSortedAfterEachChangeOfTheFill();
+    void rowsOfTheSameTextStayInOrder();
     void aRowChangedWithoutACurrentToolBarIsSortedInLater();
     void aManagerWithoutAnythingGivesTheSeparatorEntryOnly();
     void removeAndRenameActOnNothingWithoutToolBars();
@@ -695,24 +696,46 @@ void tst_RyCToolBarWidget_WorkingCopy::theListIsSortedAfterEachChangeOfTheFill()
     QCOMPARE(currentOf(views.toolBarList), host.manager.toolBars().first()->windowTitle());
 }
 
+void tst_RyCToolBarWidget_WorkingCopy::rowsOfTheSameTextStayInOrder()
+{
+    Host host;
+    QStringList expected;
+    for (int i = 0; i < 8; ++i)
+        host.manager.createToolBar(QStringLiteral("Same"));
+    const auto toolBars = host.manager.toolBars();
+    for (int i = 0; i < toolBars.size(); ++i) {
+        expected << QStringLiteral("Action%1").arg(i);
+        QAction *const action = host.registered(QStringLiteral("action%1").arg(i), expected.last());
+        host.manager.setToolBar(toolBars.at(i), {action});
+    }
+    const ShownEditor editor(&host.manager);
+    QStringList shown;
+    for (int i = 0; i < toolBars.size(); ++i) {
+        editor.views.toolBarList->setCurrentRow(i);
+        shown << rowsOf(editor.views.currentToolBarList);
+    }
+    QCOMPARE(shown, expected);
+}
+
 // Such a change is not taken over, so that the rows are out of order until the next one.
 void tst_RyCToolBarWidget_WorkingCopy::aRowChangedWithoutACurrentToolBarIsSortedInLater()
 {
     Host host;
-    for (const char *title : {"b", "c", "d", "e"})
+    for (const char *title : {"A", "B", "C"})
         host.manager.createToolBar(QLatin1String(title));
     const ShownEditor editor(&host.manager);
     QListWidget *const list = editor.views.toolBarList;
+    editor.views.click(editor.views.newButton);
     list->setCurrentItem(nullptr);
-    list->item(2)->setText(QStringLiteral("a"));
+    list->item(0)->setText(QStringLiteral("Z"));
     QCOMPARE(rowsOf(list),
-             QStringList({QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("a"),
-                          QStringLiteral("e")}));
-    list->setCurrentRow(0);
-    list->item(3)->setText(QStringLiteral("f"));
+             QStringList({QStringLiteral("Z"), QStringLiteral("B"), QStringLiteral("C"),
+                          QStringLiteral("Custom Toolbar")}));
+    list->setCurrentRow(1);
+    list->item(3)->setText(QStringLiteral("Y"));
     QCOMPARE(rowsOf(list),
-             QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
-                          QStringLiteral("f")}));
+             QStringList({QStringLiteral("B"), QStringLiteral("C"), QStringLiteral("Y"),
+                          QStringLiteral("Z")}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::aManagerWithoutAnythingGivesTheSeparatorEntryOnly()
