@@ -2,9 +2,9 @@
 
 #include "ryctoolbarwidget.h"
 
+#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
-#include "ui_ctoolbarpage.h"
 
 namespace {
 
@@ -14,6 +14,25 @@ void selectAfterRemoval(QListWidget *list, int removedRow)
     const int row = qMin(removedRow, list->count() - 1);
     if (row >= 0)
         list->setCurrentRow(row);
+}
+
+// Sorts a list that is sorted but for its last row, which many rows that are added one after the
+// other take less time for than sorting all anew. False if this Qt cannot move rows.
+bool sortLastRow(QListWidget *list)
+{
+    const int last = list->count() - 1;
+    const QListWidgetItem *const item = list->item(last);
+    // Behind all that are not greater, where sorting leaves rows of the same text too.
+    int from = 0;
+    int to = last;
+    while (from < to) {
+        const int middle = (from + to) / 2;
+        if (*item < *list->item(middle))
+            to = middle;
+        else
+            from = middle + 1;
+    }
+    return to == last || list->model()->moveRow(QModelIndex(), last, QModelIndex(), to);
 }
 
 } // namespace
@@ -80,13 +99,19 @@ void RyCToolBarWidget::renameClicked()
 void RyCToolBarWidget::toolBarRenamed(QListWidgetItem *item)
 {
     // Without a current toolbar the row's new text is not taken over, on purpose.
-    if (!m_currentRecord)
+    ToolBarItem *const record = m_currentRecord ? m_recordOfListItem.value(item) : nullptr;
+    if (!record) {
+        form()->sortedRows = 0;
         return;
-    ToolBarItem *const record = m_recordOfListItem.value(item);
-    if (!record)
-        return;
+    }
     record->setToolBarName(item->text());
-    ui->toolBarList->sortItems(Qt::AscendingOrder);
+    QListWidget *const list = ui->toolBarList;
+    const int last = list->count() - 1;
+    const bool onlyLast = item == list->item(last) && form()->sortedRows == last;
+    // Before the host hears of the sorting, and may change rows.
+    form()->sortedRows = list->count();
+    if (!onlyLast || !sortLastRow(list))
+        list->sortItems(Qt::AscendingOrder);
 }
 
 void RyCToolBarWidget::upClicked()

@@ -2,6 +2,8 @@
 
 #include "contentchange.h"
 
+#include "registrychanges.h"
+
 namespace {
 
 const int MaximumReplacements = 100;
@@ -16,6 +18,7 @@ ContentChange::ContentChange(const RyToolBarManager *manager, QToolBar *toolBar,
     , m_manager(manager)
     , m_toolBar(toolBar)
     , m_content(content)
+    , m_changesOfActions(RegistryChanges::ofActions)
     , m_takenOff(nullptr)
     , m_replacementsLeft(replacements)
     , m_isReplaced(false)
@@ -88,12 +91,18 @@ QList<QAction *> ContentChange::content() const
     return m_content;
 }
 
+bool ContentChange::isContentRegistered() const
+{
+    return m_changesOfActions == RegistryChanges::ofActions;
+}
+
 void ContentChange::replaceContent(const QList<QAction *> &content)
 {
     if (m_content == content || m_replacementsLeft <= 0)
         return;
     --m_replacementsLeft;
     m_content = content;
+    m_changesOfActions = RegistryChanges::ofActions;
     m_isReplaced = true;
 }
 

@@ -22,7 +22,7 @@ class RyToolBarManager;
 class ContentChange
 {
 public:
-    // Replaces the content by the given one.
+    // Replaces the content by the given one, whose actions are registered.
     ContentChange(const RyToolBarManager *manager, QToolBar *toolBar,
                   const QList<QAction *> &content);
     // Takes everything off for good: no other content is accepted meanwhile.
@@ -44,6 +44,10 @@ public:
     // Null once the toolbar is gone.
     QToolBar *toolBar() const;
     QList<QAction *> content() const;
+
+    // True if no action was registered or removed since the content was asked for: all of it is still
+    // registered then.
+    bool isContentRegistered() const;
 
     // Asks for another content; without effect if it is the one that is being placed.
     void replaceContent(const QList<QAction *> &content);
@@ -69,6 +73,8 @@ private:
     const RyToolBarManager *const m_manager;
     const QPointer<QToolBar> m_toolBar;
     QList<QAction *> m_content;
+    // When the content was asked for.
+    quint64 m_changesOfActions;
     // The action that is being taken off, or null.
     const QAction *m_takenOff;
     // How often the content may still be replaced, so that a host that always wants another one

@@ -2,16 +2,35 @@
 
 #include "customtoolbarnumbers.h"
 
+#include <limits>
+
 namespace {
+
+const int FirstHighNumber = 4096;
+// Numbers begin with 1.
+const int NoNumber = 0;
 
 QLatin1String namePrefix()
 {
     return QLatin1String("_Custom_Toolbar_");
 }
 
-QString generatedName(int number)
+// The number of a generated name. Zero, leading zeros, signs and the like are not generated. By hand,
+// because creating a toolbar asks this of all the others.
+int numberOf(const QString &objectName)
 {
-    return namePrefix() + QString::number(number);
+    if (!objectName.startsWith(namePrefix()))
+        return NoNumber;
+    qint64 number = 0;
+    for (int i = namePrefix().size(); i < objectName.size(); ++i) {
+        const int digit = objectName.at(i).unicode() - '0';
+        if (digit < 0 || digit > 9 || (digit == 0 && number == 0))
+            return NoNumber;
+        number = 10 * number + digit;
+        if (number > std::numeric_limits<int>::max())
+            return NoNumber;
+    }
+    return static_cast<int>(number);
 }
 
 } // namespace
@@ -23,17 +42,34 @@ CustomToolBarNumbers::CustomToolBarNumbers()
 
 void CustomToolBarNumbers::addName(const QString &objectName)
 {
-    if (!objectName.startsWith(namePrefix()))
-        return;
-    const int number = objectName.midRef(namePrefix().size()).toInt();
-    // Leading zeros, signs and the like are not generated and block nothing.
-    if (objectName == generatedName(number))
-        m_taken.insert(number);
+    const int number = numberOf(objectName);
+    if (number != NoNumber)
+        take(number);
 }
 
 QString CustomToolBarNumbers::firstFreeName()
 {
-    while (m_taken.contains(m_firstCandidate))
+    while (isTaken(m_firstCandidate))
         ++m_firstCandidate;
-    return generatedName(m_firstCandidate);
+    return namePrefix() + QString::number(m_firstCandidate);
+}
+
+void CustomToolBarNumbers::take(int number)
+{
+    if (number >= FirstHighNumber) {
+        m_takenHigh.insert(number);
+        return;
+    }
+    const std::size_t place = static_cast<std::size_t>(number);
+    if (place >= m_taken.size())
+        m_taken.resize(2 * place + 64);
+    m_taken[place] = true;
+}
+
+bool CustomToolBarNumbers::isTaken(int number) const
+{
+    if (number >= FirstHighNumber)
+        return m_takenHigh.contains(number);
+    const std::size_t place = static_cast<std::size_t>(number);
+    return place < m_taken.size() && m_taken[place];
 }

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QString>
 
+#include <vector>
+
 /*
  * The numbers that generated objectNames of custom toolbars may still use.
  *
@@ -24,7 +26,12 @@ public:
     QString firstFreeName();
 
 private:
-    QSet<int> m_taken;
+    void take(int number);
+    bool isTaken(int number) const;
+
+    // The usual numbers, at their place; kept small, whatever number a host gives.
+    std::vector<bool> m_taken;
+    QSet<int> m_takenHigh;
     // Every number below it is taken.
     int m_firstCandidate;
 };

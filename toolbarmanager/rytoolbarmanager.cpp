@@ -2,6 +2,7 @@
 
 #include "rytoolbarmanager.h"
 
+#include "keptactionnames.h"
 #include "namelookup.h"
 #include "registrychanges.h"
 
@@ -12,7 +13,10 @@ RyToolBarManager::RyToolBarManager(QObject *parent)
     Q_UNUSED(parent);
 }
 
-RyToolBarManager::~RyToolBarManager() = default;
+RyToolBarManager::~RyToolBarManager()
+{
+    KeptActionNames::forget(this);
+}
 
 void RyToolBarManager::setMainWindow(QMainWindow *mainWindow)
 {
@@ -39,11 +43,12 @@ void RyToolBarManager::removeAction(QAction *action)
     if (!m_allActions.contains(action))
         return;
     // Guarded only if it is used: an action that stands nowhere may be gone already.
-    const bool stands = !m_actionToToolBars.value(action).isEmpty();
+    const auto standing = m_actionToToolBars.constFind(action);
+    const bool stands = standing != m_actionToToolBars.constEnd() && !standing.value().isEmpty();
     const QPointer<QAction> alive(stands ? action : nullptr);
     takeOffToolBars(action, alive);
     for (auto it = m_defaultToolBars.begin(); it != m_defaultToolBars.end(); ++it)
-        it.value().removeAll(action);
+        it.value().removeOne(action);
     if (!m_allActions.remove(action))
         return;
     ++RegistryChanges::ofActions;
@@ -60,8 +65,9 @@ void RyToolBarManager::takeOffToolBars(QAction *action, const QPointer<QAction> 
         // The host may have deleted the toolbar when the action was taken off another one.
         if (content == m_toolBars.end())
             continue;
-        content.value().removeAll(action);
-        m_toolBarsWithSeparators[toolBar].removeAll(action);
+        // No content holds an action twice.
+        content.value().removeOne(action);
+        m_toolBarsWithSeparators[toolBar].removeOne(action);
         if (alive)
             toolBar->removeAction(action);
     }
@@ -73,7 +79,7 @@ void RyToolBarManager::forgetCategory(QAction *action)
     const auto category = m_categoryToActions.find(m_actionToCategory.take(action));
     if (category == m_categoryToActions.end())
         return;
-    category.value().removeAll(action);
+    category.value().removeOne(action);
     if (category.value().isEmpty())
         m_categoryToActions.erase(category);
 }

@@ -329,8 +329,9 @@ public:
      * Custom toolbars that do not exist are created if a main window is set and are skipped
      * otherwise. Toolbars that the bytes do not name keep their content, and none is deleted. Names
      * that nothing bears are skipped with the warnings of findAction() and findDefaultToolBar().
-     * Names are read when restoring begins, and anew after the host has registered or removed actions
-     * or toolbars meanwhile.
+     * Names of toolbars are read when restoring begins, and anew after the host has registered or
+     * removed toolbars meanwhile. An action is found by the objectName that it bears when its entry is
+     * read; one that is given its name while a state is restored may be missed.
      *
      * Damaged bytes are survived, whatever they hold. What lies past their end reads as empty names
      * and zero counts, for at most 1,000 entries of one toolbar and 1,000 toolbars of one section.

@@ -13,24 +13,28 @@ namespace {
 
 QString savedName(const QToolBar *toolBar)
 {
-    if (!toolBar->objectName().isEmpty())
-        return toolBar->objectName();
-    QMessageLogger(nullptr, 0, nullptr)
-        .warning("RyToolBarManager::saveState(): 'objectName' not set for QToolBar %p "
-                 "'%s', using 'windowTitle' instead",
-                 static_cast<const void *>(toolBar), qPrintable(toolBar->windowTitle()));
-    return toolBar->windowTitle();
+    QString name = toolBar->objectName();
+    if (name.isEmpty()) {
+        name = toolBar->windowTitle();
+        QMessageLogger(nullptr, 0, nullptr)
+            .warning("RyToolBarManager::saveState(): 'objectName' not set for QToolBar %p "
+                     "'%s', using 'windowTitle' instead",
+                     static_cast<const void *>(toolBar), qPrintable(name));
+    }
+    return name;
 }
 
 QString savedName(const QAction *action)
 {
-    if (!action->objectName().isEmpty())
-        return action->objectName();
-    QMessageLogger(nullptr, 0, nullptr)
-        .warning("RyToolBarManager::saveState(): 'objectName' not set for QAction %p "
-                 "'%s', using 'text' instead",
-                 static_cast<const void *>(action), qPrintable(action->text()));
-    return action->text();
+    QString name = action->objectName();
+    if (name.isEmpty()) {
+        name = action->text();
+        QMessageLogger(nullptr, 0, nullptr)
+            .warning("RyToolBarManager::saveState(): 'objectName' not set for QAction %p "
+                     "'%s', using 'text' instead",
+                     static_cast<const void *>(action), qPrintable(name));
+    }
+    return name;
 }
 
 void writeMarker(QDataStream &stream, quint8 marker)

@@ -9,6 +9,17 @@
 
 #include <QMainWindow>
 
+namespace {
+
+bool insertNew(QSet<QAction *> &actions, QAction *action)
+{
+    const int size = actions.size();
+    actions.insert(action);
+    return actions.size() > size;
+}
+
+} // namespace
+
 void RyToolBarManager::addDefaultToolBar(QToolBar *toolBar, const QString &category)
 {
     if (!toolBar || m_toolBars.contains(toolBar))
@@ -122,8 +133,11 @@ void RyToolBarManager::setToolBar(QToolBar *toolBar, const QList<QAction *> &act
         takeContent(change);
         placeContent(change);
     } while (change.startAgain());
-    if (!change.isCancelled())
-        m_toolBars.insert(toolBar, placedContent(toolBar));
+    if (change.isCancelled())
+        return;
+    const bool complete = change.isContentRegistered()
+        && m_toolBarsWithSeparators.value(toolBar).size() == change.content().size();
+    m_toolBars.insert(toolBar, complete ? change.content() : placedContent(toolBar));
 }
 
 QList<QAction *> RyToolBarManager::placeableActions(const QList<QAction *> &actions) const
@@ -131,11 +145,10 @@ QList<QAction *> RyToolBarManager::placeableActions(const QList<QAction *> &acti
     QList<QAction *> placeable;
     placeable.reserve(actions.size());
     QSet<QAction *> placed;
+    placed.reserve(actions.size());
     for (QAction *action : actions) {
-        if (action && (!m_allActions.contains(action) || placed.contains(action)))
-            continue;
-        placed.insert(action);
-        placeable.append(action);
+        if (!action || (m_allActions.contains(action) && insertNew(placed, action)))
+            placeable.append(action);
     }
     return placeable;
 }
@@ -180,7 +193,7 @@ void RyToolBarManager::placeContent(const ContentChange &change)
             return;
         if (!action)
             placeSeparator(change);
-        else if (m_allActions.contains(action))
+        else if (change.isContentRegistered() || m_allActions.contains(action))
             placeAction(change, action);
     }
 }
@@ -189,10 +202,13 @@ void RyToolBarManager::placeContent(const ContentChange &change)
 void RyToolBarManager::placeAction(const ContentChange &change, QAction *action)
 {
     const QPointer<QAction> placed(action);
+    const quint64 changesOfActions = RegistryChanges::ofActions;
     change.toolBar()->insertAction(nullptr, action);
     if (!placed)
         return;
-    if (!change.isCancelled() && m_allActions.contains(action)) {
+    const bool registered =
+        changesOfActions == RegistryChanges::ofActions || m_allActions.contains(action);
+    if (!change.isCancelled() && registered) {
         m_actionToToolBars[action].append(change.toolBar());
         m_toolBarsWithSeparators[change.toolBar()].append(action);
     } else if (change.toolBar() && !isRecorded(change.toolBar(), action)) {

@@ -10,14 +10,20 @@
 #include <QDataStream>
 #include <QMainWindow>
 #include <QPointer>
-#include <QScopedPointer>
+
+namespace {
+
+// A damaged count must not take more room than this.
+const qint32 UsualEntries = 64;
+
+} // namespace
 
 ToolBarStateRestorer::ToolBarStateRestorer(RyToolBarManager *manager, QDataStream &stream)
     : m_manager(manager)
     , m_stream(stream)
-    , m_actions(manager->actions().values())
+    , m_actionNames(KeptActionNames::of(manager))
+    , m_hasReadActionNames(false)
     , m_defaultToolBars(manager->defaultToolBars().keys())
-    , m_changesOfActions(RegistryChanges::ofActions)
     , m_changesOfToolBars(RegistryChanges::ofToolBars)
 {
 }
@@ -81,13 +87,14 @@ void ToolBarStateRestorer::restoreCustomToolBar()
 QList<QAction *> ToolBarStateRestorer::readContent()
 {
     QList<QAction *> content;
-    CountedEntries entries(m_stream, readCount());
+    const qint32 count = readCount();
+    content.reserve(qBound(0, count, UsualEntries));
+    CountedEntries entries(m_stream, count);
     while (entries.next()) {
         const QString name = readString();
-        updateActions();
         if (name.isEmpty())
             content.append(nullptr);
-        else if (QAction *const action = m_actions.find(name))
+        else if (QAction *const action = actionNamed(name))
             content.append(action);
     }
     return content;
@@ -107,16 +114,31 @@ qint32 ToolBarStateRestorer::readCount()
     return count;
 }
 
-// An action that the host removed meanwhile may be gone.
-void ToolBarStateRestorer::updateActions()
+QAction *ToolBarStateRestorer::actionNamed(const QString &name)
 {
-    if (m_changesOfActions == RegistryChanges::ofActions)
-        return;
-    m_changesOfActions = RegistryChanges::ofActions;
-    m_actions = NameIndex<QAction>(m_manager->actions().values());
+    if (QAction *const action = m_actionNames.find(name))
+        return action;
+    // It may have been given its name since an earlier restore, or registered during this one.
+    if (!m_hasReadActionNames || !m_actionNames.areOfTheRegistry()) {
+        readActionNames();
+        if (QAction *const action = m_actionNames.find(name))
+            return action;
+    }
+    if (!m_actions)
+        m_actions.reset(new NameIndex<QAction>(m_manager->actions().values()));
+    return m_actions->find(name);
 }
 
-// So may a toolbar that the host deleted.
+void ToolBarStateRestorer::readActionNames()
+{
+    m_actionNames = KeptActionNames(m_manager->actions());
+    m_actionNames.keepFor(m_manager);
+    m_hasReadActionNames = true;
+    // An action that the host removed meanwhile may be gone.
+    m_actions.reset();
+}
+
+// A toolbar that the host deleted meanwhile is gone.
 void ToolBarStateRestorer::updateToolBars()
 {
     if (m_changesOfToolBars == RegistryChanges::ofToolBars)

@@ -4,10 +4,12 @@
 #define TOOLBARSTATERESTORER_H
 
 #include "customtoolbarnumbers.h"
+#include "keptactionnames.h"
 #include "namelookup.h"
 
 #include <QHash>
 #include <QList>
+#include <QScopedPointer>
 #include <QString>
 
 class QDataStream;
@@ -33,7 +35,8 @@ private:
     QList<QAction *> readContent();
     QString readString();
     qint32 readCount();
-    void updateActions();
+    QAction *actionNamed(const QString &name);
+    void readActionNames();
     void updateToolBars();
     void indexToolBars();
     QToolBar *titledToolBar(const QString &objectName, const QString &title);
@@ -41,13 +44,16 @@ private:
 
     RyToolBarManager *const m_manager;
     QDataStream &m_stream;
-    NameIndex<QAction> m_actions;
+    // Read by an earlier restore, or by this one.
+    KeptActionNames m_actionNames;
+    bool m_hasReadActionNames;
+    // For names that are no objectNames; null until there is one.
+    QScopedPointer<NameIndex<QAction>> m_actions;
     NameIndex<QToolBar> m_defaultToolBars;
     // Every managed toolbar by objectName, the lowest address first; kept up to date.
     QHash<QString, QToolBar *> m_toolBars;
     CustomToolBarNumbers m_numbers;
-    // What the indexes were made from; more means that the host was called and changed it.
-    quint64 m_changesOfActions;
+    // What the indexes of toolbars were made from; more means that the host was called and changed it.
     quint64 m_changesOfToolBars;
 };
 

@@ -14,6 +14,8 @@
 #include <QMetaMethod>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace {
 
 const int EntryAlignment = 0x881;
@@ -193,6 +195,9 @@ private Q_SLOTS:
     void aDefaultToolBarIsDarkGreenAndNotEditable();
     void aCustomToolBarIsEditableAndNotColored();
     void theFillChangesEveryRowOnce();
+    void theListIsSortedAfterEachChangeOfTheFill();
+    void rowsOfTheSameTextStayInOrder();
+    void aRowChangedWithoutACurrentToolBarIsSortedInLater();
     void aManagerWithoutAnythingGivesTheSeparatorEntryOnly();
     void removeAndRenameActOnNothingWithoutToolBars();
     void withoutAManagerTheEditorStaysEmpty();
@@ -668,6 +673,69 @@ void tst_RyCToolBarWidget_WorkingCopy::theFillChangesEveryRowOnce()
     QCOMPARE(toolBarsOf(host.manager),
              QStringList({QStringLiteral("Empty:"), QStringLiteral("File: open | save"),
                           QStringLiteral("Mine: cut copy paste"), QStringLiteral("Single: |")}));
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::theListIsSortedAfterEachChangeOfTheFill()
+{
+    Host host;
+    for (int i = 0; i < 40; ++i)
+        host.manager.createToolBar(QString::number((i * 17) % 20));
+    RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
+    const EditorViews views(&widget);
+    int changes = 0;
+    int sorted = 0;
+    connect(views.toolBarList, &QListWidget::itemChanged, this, [&] {
+        const QStringList rows = rowsOf(views.toolBarList);
+        ++changes;
+        sorted += rows.size() == changes && std::is_sorted(rows.cbegin(), rows.cend()) ? 1 : 0;
+    });
+    widget.show();
+    QCOMPARE(changes, 40);
+    QCOMPARE(sorted, 40);
+    // The current row is that of the first toolbar, wherever it went.
+    QCOMPARE(currentOf(views.toolBarList), host.manager.toolBars().first()->windowTitle());
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::rowsOfTheSameTextStayInOrder()
+{
+    Host host;
+    QStringList expected;
+    for (int i = 0; i < 8; ++i)
+        host.manager.createToolBar(QStringLiteral("Same"));
+    const auto toolBars = host.manager.toolBars();
+    for (int i = 0; i < toolBars.size(); ++i) {
+        expected << QStringLiteral("Action%1").arg(i);
+        QAction *const action = host.registered(QStringLiteral("action%1").arg(i), expected.last());
+        host.manager.setToolBar(toolBars.at(i), {action});
+    }
+    const ShownEditor editor(&host.manager);
+    QStringList shown;
+    for (int i = 0; i < toolBars.size(); ++i) {
+        editor.views.toolBarList->setCurrentRow(i);
+        shown << rowsOf(editor.views.currentToolBarList);
+    }
+    QCOMPARE(shown, expected);
+}
+
+// Such a change is not taken over, so that the rows are out of order until the next one.
+void tst_RyCToolBarWidget_WorkingCopy::aRowChangedWithoutACurrentToolBarIsSortedInLater()
+{
+    Host host;
+    for (const char *title : {"A", "B", "C"})
+        host.manager.createToolBar(QLatin1String(title));
+    const ShownEditor editor(&host.manager);
+    QListWidget *const list = editor.views.toolBarList;
+    editor.views.click(editor.views.newButton);
+    list->setCurrentItem(nullptr);
+    list->item(0)->setText(QStringLiteral("Z"));
+    QCOMPARE(rowsOf(list),
+             QStringList({QStringLiteral("Z"), QStringLiteral("B"), QStringLiteral("C"),
+                          QStringLiteral("Custom Toolbar")}));
+    list->setCurrentRow(1);
+    list->item(3)->setText(QStringLiteral("Y"));
+    QCOMPARE(rowsOf(list),
+             QStringList({QStringLiteral("B"), QStringLiteral("C"), QStringLiteral("Y"),
+                          QStringLiteral("Z")}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::aManagerWithoutAnythingGivesTheSeparatorEntryOnly()

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void otherNamesBlockNothing();
     void namesMayBeAddedBetweenQuestions();
     void manyNamesAreFreeInTurn();
+    void highNumbersAreRemembered();
 };
 
 void tst_CustomToolBarNumbers::theFirstNumberIsOne()
@@ -80,12 +81,14 @@ void tst_CustomToolBarNumbers::otherNamesBlockNothing_data()
     QTest::newRow("number alone") << QStringLiteral("1");
     QTest::newRow("other case") << QStringLiteral("_custom_toolbar_1");
     QTest::newRow("longer prefix") << QStringLiteral("x_Custom_Toolbar_1");
-    const QStringList numbers{
-        QStringLiteral(""),    QStringLiteral("0"),          QStringLiteral("01"),
-        QStringLiteral("+1"),  QStringLiteral("-1"),         QStringLiteral(" 1"),
-        QStringLiteral("1 "),  QStringLiteral("1.0"),        QStringLiteral("1a"),
-        QStringLiteral("0x1"), QStringLiteral("4294967297"), QStringLiteral("99999999999999999999"),
-        QStringLiteral("%1")};
+    const QStringList numbers{QStringLiteral(""),           QStringLiteral("0"),
+                              QStringLiteral("01"),         QStringLiteral("+1"),
+                              QStringLiteral("-1"),         QStringLiteral(" 1"),
+                              QStringLiteral("1 "),         QStringLiteral("1.0"),
+                              QStringLiteral("1a"),         QStringLiteral("0x1"),
+                              QStringLiteral("4294967297"), QStringLiteral("2147483648"),
+                              QStringLiteral("\u0661"),     QStringLiteral("99999999999999999999"),
+                              QStringLiteral("%1")};
     for (const QString &number : numbers)
         QTest::newRow(qPrintable(numbered(number))) << numbered(number);
 }
@@ -111,17 +114,28 @@ void tst_CustomToolBarNumbers::namesMayBeAddedBetweenQuestions()
 void tst_CustomToolBarNumbers::manyNamesAreFreeInTurn()
 {
     CustomToolBarNumbers numbers;
-    for (int i = 1; i <= 3000; ++i) {
+    for (int i = 1; i <= 6000; ++i) {
         if (i % 3 == 0)
             numbers.addName(numbered(i));
     }
-    for (int i = 1; i <= 3000; ++i) {
+    for (int i = 1; i <= 6000; ++i) {
         if (i % 3 == 0)
             continue;
         QCOMPARE(numbers.firstFreeName(), numbered(i));
         numbers.addName(numbered(i));
     }
-    QCOMPARE(numbers.firstFreeName(), numbered(3001));
+    QCOMPARE(numbers.firstFreeName(), numbered(6001));
+}
+
+// They are kept in another way than the low ones.
+void tst_CustomToolBarNumbers::highNumbersAreRemembered()
+{
+    CustomToolBarNumbers numbers;
+    for (int i = 5000; i >= 4000; --i)
+        numbers.addName(numbered(i));
+    for (int i = 1; i < 4000; ++i)
+        numbers.addName(numbered(i));
+    QCOMPARE(numbers.firstFreeName(), numbered(5001));
 }
 
 QTEST_APPLESS_MAIN(tst_CustomToolBarNumbers)

@@ -272,6 +272,7 @@ private Q_SLOTS:
     void anActionRemovedWhileItIsPlacedIsNotPlaced();
     void anActionRemovedMeanwhileIsNotPlaced_data();
     void anActionRemovedMeanwhileIsNotPlaced();
+    void anActionRemovedWhileItIsPlacedIsNotPlacedByTheNextList();
     void anActionDeletedMeanwhileIsNotTouched();
     void anActionPlacedAnewWhileItIsRemovedIsTakenOff();
     void aToolBarDeletedWhileAnActionIsRemovedIsNotTouched();
@@ -645,6 +646,25 @@ void tst_RyToolBarManager_reentry::anActionRemovedMeanwhileIsNotPlaced()
     host.watch(&calls);
     host.manager.setToolBar(host.file, host.list(words("paste | open")));
     QCOMPARE(contentOf(host.manager.actions(host.file)), words(expected.toLatin1().constData()));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+// Its list is the one that counts, and was asked for after the removal.
+void tst_RyToolBarManager_reentry::anActionRemovedWhileItIsPlacedIsNotPlacedByTheNextList()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] {
+        QAction *const action = host.action(name("cut"));
+        host.manager.removeAction(action);
+        host.manager.setToolBar(host.file, host.list(words("save | open")));
+    });
+    host.watch(&calls);
+    host.manager.setToolBar(host.file, host.list(words("cut paste")));
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("save | open"));
+    QCOMPARE(standingOn(host.file), words("save | open"));
+    host.manager.addAction(host.action(name("cut")), A);
+    host.manager.setToolBar(host.file, host.list(words("cut")));
+    QCOMPARE(standingOn(host.file), words("cut"));
     QCOMPARE(inconsistencyOf(host.manager), QString());
 }
 

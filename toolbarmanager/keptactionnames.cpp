@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+
+#include "keptactionnames.h"
+
+#include "registrychanges.h"
+
+#include <QAction>
+#include <QGlobalStatic>
+#include <QHash>
+
+namespace {
+
+using NamesOfManagers = QHash<const RyToolBarManager *, KeptActionNames>;
+
+// A static manager of the host may outlive it.
+Q_GLOBAL_STATIC(NamesOfManagers, namesOfManagers)
+
+// At most half of the places are taken, so that few actions stand far from the place of their hash.
+int sizeFor(int count)
+{
+    int size = 2;
+    while (size < 2 * count)
+        size *= 2;
+    return size;
+}
+
+} // namespace
+
+KeptActionNames::KeptActionNames()
+    : KeptActionNames(QSet<QAction *>())
+{
+}
+
+KeptActionNames::KeptActionNames(const QSet<QAction *> &actions)
+    : m_places(sizeFor(actions.size()), Place{0, nullptr})
+    , m_changesOfActions(RegistryChanges::ofActions)
+{
+    for (QAction *action : actions) {
+        const QString name = action->objectName();
+        const uint hash = qHash(name);
+        const Place &place = placeOf(name, hash);
+        if (!name.isEmpty() && !place.action)
+            m_places[static_cast<int>(&place - m_places.constData())] = Place{hash, action};
+    }
+}
+
+KeptActionNames KeptActionNames::of(const RyToolBarManager *manager)
+{
+    return namesOfManagers.exists() ? namesOfManagers->value(manager) : KeptActionNames();
+}
+
+void KeptActionNames::keepFor(const RyToolBarManager *manager) const
+{
+    if (!namesOfManagers.isDestroyed())
+        namesOfManagers->insert(manager, *this);
+}
+
+void KeptActionNames::forget(const RyToolBarManager *manager)
+{
+    if (namesOfManagers.exists())
+        namesOfManagers->remove(manager);
+}
+
+bool KeptActionNames::areOfTheRegistry() const
+{
+    return m_changesOfActions == RegistryChanges::ofActions;
+}
+
+QAction *KeptActionNames::find(const QString &name) const
+{
+    return areOfTheRegistry() ? placeOf(name, qHash(name)).action : nullptr;
+}
+
+// The place of the action that bears the name, or else the free one where it would stand.
+const KeptActionNames::Place &KeptActionNames::placeOf(const QString &name, uint hash) const
+{
+    const uint last = static_cast<uint>(m_places.size()) - 1;
+    for (uint i = hash & last;; i = (i + 1) & last) {
+        const Place &place = m_places.at(static_cast<int>(i));
+        if (!place.action || (place.hash == hash && place.action->objectName() == name))
+            return place;
+    }
+}
