@@ -135,7 +135,7 @@ class Chart:
     """One operation: time against a number, both logarithmic, ours beside bare Qt."""
 
     WIDTH, HEIGHT = 400, 290
-    LEFT, RIGHT, TOP, BOTTOM = 62, 14, 30, 44
+    LEFT, RIGHT, TOP, BOTTOM = 68, 26, 30, 44
 
     def __init__(self, curve):
         self.curve = curve

@@ -202,6 +202,8 @@ int main(int argc, char *argv[])
         QStringLiteral("check"), QStringLiteral("Compare what both sides give; measure nothing."));
     const QCommandLineOption listOption(QStringLiteral("list"),
                                         QStringLiteral("Print the names of the operations."));
+    const QCommandLineOption aboutOption(QStringLiteral("about"),
+                                         QStringLiteral("Print the versions of Qt and compiler."));
     const QCommandLineOption countOption(
         QStringLiteral("count"),
         QStringLiteral("Do one operation of the library once, in a function of its own."),
@@ -216,12 +218,16 @@ int main(int argc, char *argv[])
                                         QStringLiteral("Write all figures to a file."),
                                         QStringLiteral("file"));
     parser.addOptions(
-        {checkOption, listOption, countOption, onlyOption, secondsOption, jsonOption});
+        {checkOption, listOption, aboutOption, countOption, onlyOption, secondsOption, jsonOption});
     parser.process(application);
 
     if (parser.isSet(listOption)) {
         for (const Family &family : families())
             out() << family.id << Qt::endl;
+        return 0;
+    }
+    if (parser.isSet(aboutOption)) {
+        out() << "qt " << qVersion() << "\ncompiler " << RY_COMPILER << Qt::endl;
         return 0;
     }
     if (parser.isSet(checkOption))
