@@ -70,10 +70,7 @@ def verdict(met, title, reasons):
 
 
 def time_line(row, reasons):
-    ours, bare = milliseconds(row['ours']), milliseconds(row['bare'])
-    if 'ours before' in row:
-        ours = f'{milliseconds(row["ours before"])} → {ours}'
-        bare = f'{milliseconds(row["bare before"])} → {bare}'
+    ours, bare = (' → '.join(map(milliseconds, row[side])) for side in ('ours', 'bare'))
     value, target = f'{row["value"]:.2f}', f'{row["target"]:.2f}'
     if row['kind'] == 'milliseconds':
         value, target = '', f'{row["target"]:g} ms'
@@ -91,7 +88,7 @@ def memory_line(row, reasons):
 
 
 def figure_line(row):
-    return [row['title'], milliseconds(row['ours']), milliseconds(row['bare']),
+    return [row['title'], milliseconds(row['ours'][0]), milliseconds(row['bare'][0]),
             f'{row["value"]:.2f}']
 
 

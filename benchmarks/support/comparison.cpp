@@ -3,11 +3,11 @@
 #include "comparison.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <ctime>
 
 namespace {
 
-const int MinimumRounds = 5;
 const int MaximumRounds = 2000;
 // Long enough for the clock.
 const double MinimumTime = 0.0005;
@@ -18,6 +18,15 @@ double secondsOn(clockid_t clock)
     timespec time{};
     clock_gettime(clock, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+// What rounds have freed is sorted by the next large allocation, which takes milliseconds; here it is
+// nobody's time.
+void tidyHeap()
+{
+    // Below the size that would be returned to the system.
+    void *volatile const large = std::malloc(100000);
+    std::free(large);
 }
 
 double median(std::vector<double> values)
@@ -40,7 +49,7 @@ Comparison::Comparison(const Family &family, const QList<Size> &sizes)
     }
 }
 
-void Comparison::measure(double seconds)
+void Comparison::measure(double seconds, int minimumRounds)
 {
     // The first round fills caches and says how often the short ones are to be repeated.
     round(false);
@@ -55,7 +64,7 @@ void Comparison::measure(double seconds)
     do {
         round(m_rounds % 2 == 1);
         ++m_rounds;
-    } while (m_rounds < MinimumRounds
+    } while (m_rounds < minimumRounds
              || (m_rounds < MaximumRounds && secondsOn(CLOCK_MONOTONIC) < end));
 }
 
@@ -70,6 +79,7 @@ void Comparison::round(bool backwards)
 double Comparison::timeOf(Measured &measured)
 {
     measured.side->prepare();
+    tidyHeap();
     const double begin = secondsOn(CLOCK_THREAD_CPUTIME_ID);
     for (int i = 0; i < measured.repetitions; ++i)
         measured.side->run();
@@ -78,17 +88,21 @@ double Comparison::timeOf(Measured &measured)
     return (end - begin) / measured.repetitions;
 }
 
-double Comparison::medianOf(const Measured &measured)
+const std::vector<double> &Comparison::times(Which which, int size) const
 {
-    return median(measured.times);
+    return m_measured[static_cast<std::size_t>(2 * size + which)].times;
 }
 
-double Comparison::ours(int size) const
+double Comparison::time(Which which, int size) const
 {
-    return medianOf(m_measured[static_cast<std::size_t>(2 * size)]);
+    return median(times(which, size));
 }
 
-double Comparison::bare(int size) const
+double Comparison::ratio(Which which, int size, Which otherWhich, int otherSize) const
 {
-    return medianOf(m_measured[static_cast<std::size_t>(2 * size + 1)]);
+    std::vector<double> ratios = times(which, size);
+    const std::vector<double> &others = times(otherWhich, otherSize);
+    for (std::size_t i = 0; i < ratios.size(); ++i)
+        ratios[i] /= others[i];
+    return median(ratios);
 }

@@ -8,22 +8,25 @@
 #include <vector>
 
 /*
- * The medians of many rounds of the sides of one operation, in seconds of processor time.
+ * Many rounds of the sides of one operation, in seconds of processor time.
  *
  * All sides take part in each round, one after the other, so that whatever slows the machine down
- * meets all of them; every second round goes through them backwards.
+ * meets all of them; every second round goes through them backwards. Of times, and of the ratios
+ * that each round gives, the median counts.
  */
 class Comparison
 {
 public:
-    // Both sides for each size: ours, bare, ours, bare.
+    enum Which { Ours, Bare };
+
+    // Both sides for each size.
     Comparison(const Family &family, const QList<Size> &sizes);
 
-    // At least five rounds, and as many as fit into the time.
-    void measure(double seconds);
+    // At least as many rounds as are asked for, and as many more as fit into the time.
+    void measure(double seconds, int minimumRounds);
 
-    double ours(int size) const;
-    double bare(int size) const;
+    double time(Which which, int size) const;
+    double ratio(Which which, int size, Which otherWhich, int otherSize) const;
     int rounds() const { return m_rounds; }
 
 private:
@@ -35,9 +38,9 @@ private:
         std::vector<double> times;
     };
 
+    const std::vector<double> &times(Which which, int size) const;
     void round(bool backwards);
     static double timeOf(Measured &measured);
-    static double medianOf(const Measured &measured);
 
     std::vector<Measured> m_measured;
     const bool m_idempotent;

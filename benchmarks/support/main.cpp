@@ -13,8 +13,12 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <malloc.h>
 
 namespace {
+
+const int RoundsOfRow = 11;
+const int RoundsOfPoint = 5;
 
 QTextStream &out()
 {
@@ -51,38 +55,45 @@ double valueOf(const Row &row, const Comparison &comparison)
     switch (row.kind) {
     case Row::Ratio:
     case Row::Figure:
-        return comparison.ours(0) / comparison.bare(0);
+        return comparison.ratio(Comparison::Ours, 0, Comparison::Bare, 0);
     case Row::Growth:
-        return comparison.ours(1) / comparison.ours(0);
+        return comparison.ratio(Comparison::Ours, 1, Comparison::Ours, 0);
     case Row::GrowthByBare:
-        return comparison.ours(1) / comparison.ours(0) * comparison.bare(0) / comparison.bare(1);
+        return comparison.ratio(Comparison::Ours, 1, Comparison::Ours, 0)
+            / comparison.ratio(Comparison::Bare, 1, Comparison::Bare, 0);
     case Row::Milliseconds:
         break;
     }
-    return comparison.ours(0) * 1000;
+    return comparison.time(Comparison::Ours, 0) * 1000;
 }
 
-QJsonObject measureRow(const Row &row, double seconds)
+QJsonArray milliseconds(const Comparison &comparison, Comparison::Which which, int sizes)
 {
-    Comparison comparison(*familyOf(QLatin1String(row.family)), row.sizes);
-    comparison.measure(seconds);
-    const int last = row.sizes.size() - 1;
-    QJsonObject object{{QStringLiteral("family"), QLatin1String(row.family)},
-                       {QStringLiteral("title"), row.title},
-                       {QStringLiteral("kind"), QLatin1String(nameOf(row.kind))},
-                       {QStringLiteral("target"), row.target},
-                       {QStringLiteral("value"), valueOf(row, comparison)},
-                       {QStringLiteral("ours"), comparison.ours(last) * 1000},
-                       {QStringLiteral("bare"), comparison.bare(last) * 1000},
-                       {QStringLiteral("rounds"), comparison.rounds()}};
-    if (last > 0) {
-        object.insert(QStringLiteral("ours before"), comparison.ours(0) * 1000);
-        object.insert(QStringLiteral("bare before"), comparison.bare(0) * 1000);
-    }
-    return object;
+    QJsonArray times;
+    for (int i = 0; i < sizes; ++i)
+        times.append(comparison.time(which, i) * 1000);
+    return times;
 }
 
-QJsonArray measureRows(double seconds, const QString &only)
+QJsonObject measureRow(const Row &row, double seconds, bool bareOnly)
+{
+    Family family = *familyOf(QLatin1String(row.family));
+    if (bareOnly)
+        family.ours = family.bare;
+    Comparison comparison(family, row.sizes);
+    comparison.measure(seconds, RoundsOfRow);
+    const int sizes = row.sizes.size();
+    return {{QStringLiteral("family"), QLatin1String(row.family)},
+            {QStringLiteral("title"), row.title},
+            {QStringLiteral("kind"), QLatin1String(nameOf(row.kind))},
+            {QStringLiteral("target"), row.target},
+            {QStringLiteral("value"), valueOf(row, comparison)},
+            {QStringLiteral("ours"), milliseconds(comparison, Comparison::Ours, sizes)},
+            {QStringLiteral("bare"), milliseconds(comparison, Comparison::Bare, sizes)},
+            {QStringLiteral("rounds"), comparison.rounds()}};
+}
+
+QJsonArray measureRows(double seconds, const QString &only, bool bareOnly)
 {
     QJsonArray array;
     const auto all = rows();
@@ -90,15 +101,17 @@ QJsonArray measureRows(double seconds, const QString &only)
         const Row &row = all.at(i);
         if (!only.isEmpty() && only != QLatin1String(row.family))
             continue;
-        const QJsonObject object = measureRow(row, seconds);
+        const QJsonObject object = measureRow(row, seconds, bareOnly);
         array.append(object);
         out() << QStringLiteral("[%1/%2] %3: %4 (%5 ms, bare Qt %6 ms, %7 rounds)")
                      .arg(i + 1, 2)
                      .arg(all.size())
                      .arg(row.title)
                      .arg(object.value(QStringLiteral("value")).toDouble(), 0, 'f', 2)
-                     .arg(object.value(QStringLiteral("ours")).toDouble(), 0, 'g', 3)
-                     .arg(object.value(QStringLiteral("bare")).toDouble(), 0, 'g', 3)
+                     .arg(object.value(QStringLiteral("ours")).toArray().last().toDouble(), 0, 'g',
+                          3)
+                     .arg(object.value(QStringLiteral("bare")).toArray().last().toDouble(), 0, 'g',
+                          3)
                      .arg(object.value(QStringLiteral("rounds")).toInt())
               << Qt::endl;
     }
@@ -112,8 +125,9 @@ QJsonObject measureCurve(const Curve &curve, double seconds)
         if (n > curve.greatest)
             break;
         Comparison comparison(*familyOf(QLatin1String(curve.family)), {curve.size(n)});
-        comparison.measure(seconds);
-        points.append(QJsonArray{n, comparison.ours(0) * 1000, comparison.bare(0) * 1000});
+        comparison.measure(seconds, RoundsOfPoint);
+        points.append(QJsonArray{n, comparison.time(Comparison::Ours, 0) * 1000,
+                                 comparison.time(Comparison::Bare, 0) * 1000});
     }
     return {{QStringLiteral("title"), curve.title},
             {QStringLiteral("axis"), curve.axis},
@@ -185,10 +199,18 @@ bool check()
     return same;
 }
 
+// What is freed is kept, so that no round waits for the system to give memory.
+void keepMemory()
+{
+    mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+    mallopt(M_TRIM_THRESHOLD, 1024 * 1024 * 1024);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    keepMemory();
     // The same everywhere, whatever the desktop.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_STYLE_OVERRIDE", "fusion");
@@ -211,14 +233,17 @@ int main(int argc, char *argv[])
     const QCommandLineOption onlyOption(
         QStringLiteral("only"), QStringLiteral("Measure the lines of one operation, no curves."),
         QStringLiteral("operation"));
+    const QCommandLineOption bareOption(
+        QStringLiteral("bare"),
+        QStringLiteral("Measure bare Qt beside itself, to see how exact the ratios are."));
     const QCommandLineOption secondsOption(QStringLiteral("seconds"),
                                            QStringLiteral("Seconds for each line; 3 if not given."),
                                            QStringLiteral("seconds"), QStringLiteral("3"));
     const QCommandLineOption jsonOption(QStringLiteral("json"),
                                         QStringLiteral("Write all figures to a file."),
                                         QStringLiteral("file"));
-    parser.addOptions(
-        {checkOption, listOption, aboutOption, countOption, onlyOption, secondsOption, jsonOption});
+    parser.addOptions({checkOption, listOption, aboutOption, countOption, onlyOption, bareOption,
+                       secondsOption, jsonOption});
     parser.process(application);
 
     if (parser.isSet(listOption)) {
@@ -235,12 +260,13 @@ int main(int argc, char *argv[])
     if (parser.isSet(countOption))
         return countOnce(parser.value(countOption)) ? 0 : 1;
 
+    const bool bareOnly = parser.isSet(bareOption);
     const QString only = parser.value(onlyOption);
     const double seconds = parser.value(secondsOption).toDouble();
     QJsonObject figures{{QStringLiteral("qt"), QLatin1String(qVersion())},
                         {QStringLiteral("compiler"), QStringLiteral(RY_COMPILER)},
-                        {QStringLiteral("rows"), measureRows(seconds, only)}};
-    if (only.isEmpty()) {
+                        {QStringLiteral("rows"), measureRows(seconds, only, bareOnly)}};
+    if (only.isEmpty() && !bareOnly) {
         figures.insert(QStringLiteral("memory"), memoryRows());
         figures.insert(QStringLiteral("curves"), measureCurves(seconds / 5));
     }

@@ -144,8 +144,8 @@ RestoreOtherOurs::RestoreOtherOurs(const Size &size)
         for (int i = 0; i < m_scene.toolBars().size(); ++i)
             m_scene.manager()->setToolBar(m_scene.toolBars().at(i), m_scene.content(i, variant));
         m_states[variant] = m_scene.manager()->saveState(Version);
+        settle();
     }
-    settle();
 }
 
 void RestoreOtherOurs::prepare()
