@@ -80,8 +80,8 @@ class Files(unittest.TestCase):
 
     def test_headers_define_one_class_and_are_named_after_it(self):
         wrong = {}
-        # Helpers of tests may keep functions beside a class.
-        for path in tracked('*.h', ':!tests/'):
+        # Helpers of tests may keep functions beside a class, and benchmarks both sides together.
+        for path in tracked('*.h', ':!tests/', ':!benchmarks/'):
             if in_repository(path) in NAMED_AFTER_FUNCTIONS:
                 continue
             classes = re.findall(r'^(?:template <.*>\s)?class (?:\w+_EXPORT )?(\w+)[^;{]*\{',

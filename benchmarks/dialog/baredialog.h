@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef BAREDIALOG_H
+#define BAREDIALOG_H
+
+#include "scene.h"
+
+#include "ui_cribbonpage.h"
+#include "ui_ctoolbarpage.h"
+#include "ui_customizeddialog.h"
+
+#include <QDialog>
+
+/*
+ * What the bare dialog shows of one toolbar.
+ */
+struct BareToolBar
+{
+    QString title;
+    bool isDefault;
+    QList<QAction *> content;
+};
+
+/*
+ * The dialog as a host would write it by itself: the same forms, filled in bulk before it is shown.
+ * It keeps no more than it needs to answer the buttons that are measured: the action of each tree
+ * item in the item, and the content of each toolbar by the number in its row.
+ */
+class BareDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    BareDialog(const QList<Scene::Category> &categories, const QList<BareToolBar> &toolBars,
+               QWidget *parent);
+
+private Q_SLOTS:
+    void showToolBar(QListWidgetItem *row);
+    void add();
+    void remove();
+    void updateButtons();
+
+private:
+    void setUp();
+    void setIcons();
+    void makeConnections();
+    void fillActionTree(const QList<Scene::Category> &categories);
+    void fillToolBarList();
+
+    Ui::CustomizedDialog m_form;
+    Ui::CToolBarPage m_page;
+    Ui::CRibbonPage m_ribbon;
+    QList<BareToolBar> m_toolBars;
+    // The number of the toolbar whose content is shown, or -1.
+    int m_current = -1;
+};
+
+#endif // BAREDIALOG_H

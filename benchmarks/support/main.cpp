@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: MIT
+
+#include "comparison.h"
+#include "counted.h"
+#include "memory.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+
+#include <cstdio>
+#include <malloc.h>
+
+namespace {
+
+const int RoundsOfRow = 11;
+const int RoundsOfPoint = 5;
+
+QTextStream &out()
+{
+    static QTextStream stream(stdout);
+    return stream;
+}
+
+// The platform plugin says so at each new window.
+void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.contains(QLatin1String("propagateSizeHints")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+const char *nameOf(Row::Kind kind)
+{
+    switch (kind) {
+    case Row::Ratio:
+        return "ratio";
+    case Row::Growth:
+        return "growth";
+    case Row::GrowthByBare:
+        return "growth by bare";
+    case Row::Milliseconds:
+        return "milliseconds";
+    case Row::Figure:
+        break;
+    }
+    return "figure";
+}
+
+double valueOf(const Row &row, const Comparison &comparison)
+{
+    switch (row.kind) {
+    case Row::Ratio:
+    case Row::Figure:
+        return comparison.ratio(Comparison::Ours, 0, Comparison::Bare, 0);
+    case Row::Growth:
+        return comparison.ratio(Comparison::Ours, 1, Comparison::Ours, 0);
+    case Row::GrowthByBare:
+        return comparison.ratio(Comparison::Ours, 1, Comparison::Ours, 0)
+            / comparison.ratio(Comparison::Bare, 1, Comparison::Bare, 0);
+    case Row::Milliseconds:
+        break;
+    }
+    return comparison.time(Comparison::Ours, 0) * 1000;
+}
+
+QJsonArray milliseconds(const Comparison &comparison, Comparison::Which which, int sizes)
+{
+    QJsonArray times;
+    for (int i = 0; i < sizes; ++i)
+        times.append(comparison.time(which, i) * 1000);
+    return times;
+}
+
+QJsonObject measureRow(const Row &row, double seconds, bool bareOnly)
+{
+    Family family = *familyOf(QLatin1String(row.family));
+    if (bareOnly)
+        family.ours = family.bare;
+    Comparison comparison(family, row.sizes);
+    comparison.measure(seconds, RoundsOfRow);
+    const int sizes = row.sizes.size();
+    return {{QStringLiteral("family"), QLatin1String(row.family)},
+            {QStringLiteral("title"), row.title},
+            {QStringLiteral("kind"), QLatin1String(nameOf(row.kind))},
+            {QStringLiteral("target"), row.target},
+            {QStringLiteral("value"), valueOf(row, comparison)},
+            {QStringLiteral("ours"), milliseconds(comparison, Comparison::Ours, sizes)},
+            {QStringLiteral("bare"), milliseconds(comparison, Comparison::Bare, sizes)},
+            {QStringLiteral("rounds"), comparison.rounds()}};
+}
+
+QJsonArray measureRows(double seconds, const QString &only, bool bareOnly)
+{
+    QJsonArray array;
+    const auto all = rows();
+    for (int i = 0; i < all.size(); ++i) {
+        const Row &row = all.at(i);
+        if (!only.isEmpty() && only != QLatin1String(row.family))
+            continue;
+        const QJsonObject object = measureRow(row, seconds, bareOnly);
+        array.append(object);
+        out() << QStringLiteral("[%1/%2] %3: %4 (%5 ms, bare Qt %6 ms, %7 rounds)")
+                     .arg(i + 1, 2)
+                     .arg(all.size())
+                     .arg(row.title)
+                     .arg(object.value(QStringLiteral("value")).toDouble(), 0, 'f', 2)
+                     .arg(object.value(QStringLiteral("ours")).toArray().last().toDouble(), 0, 'g',
+                          3)
+                     .arg(object.value(QStringLiteral("bare")).toArray().last().toDouble(), 0, 'g',
+                          3)
+                     .arg(object.value(QStringLiteral("rounds")).toInt())
+              << Qt::endl;
+    }
+    return array;
+}
+
+QJsonObject measureCurve(const Curve &curve, double seconds)
+{
+    QJsonArray points;
+    for (const int n : {10, 30, 100, 300, 1000, 3000, 10000}) {
+        if (n > curve.greatest)
+            break;
+        Comparison comparison(*familyOf(QLatin1String(curve.family)), {curve.size(n)});
+        comparison.measure(seconds, RoundsOfPoint);
+        points.append(QJsonArray{n, comparison.time(Comparison::Ours, 0) * 1000,
+                                 comparison.time(Comparison::Bare, 0) * 1000});
+    }
+    return {{QStringLiteral("title"), curve.title},
+            {QStringLiteral("axis"), curve.axis},
+            {QStringLiteral("points"), points}};
+}
+
+QJsonArray measureCurves(double seconds)
+{
+    QJsonArray array;
+    const auto all = curves();
+    for (const Curve &curve : all) {
+        out() << QStringLiteral("Curve of %1 by %2").arg(curve.title, curve.axis) << Qt::endl;
+        array.append(measureCurve(curve, seconds));
+    }
+    return array;
+}
+
+QJsonArray memoryRows()
+{
+    QJsonArray array;
+    const auto figures = measureMemory();
+    for (const MemoryFigure &figure : figures) {
+        out() << QStringLiteral("%1: %2 (bare Qt %3)")
+                     .arg(figure.title)
+                     .arg(figure.ours, 0, 'f', 0)
+                     .arg(figure.bare, 0, 'f', 0)
+              << Qt::endl;
+        array.append(QJsonObject{{QStringLiteral("title"), figure.title},
+                                 {QStringLiteral("ours"), figure.ours},
+                                 {QStringLiteral("bare"), figure.bare},
+                                 {QStringLiteral("target"), figure.target}});
+    }
+    return array;
+}
+
+bool write(const QString &fileName, const QJsonObject &object)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) > 0;
+}
+
+// Both sides of each operation give the same, twice.
+bool check()
+{
+    bool same = true;
+    for (const Family &family : families()) {
+        const auto ours = family.ours(family.small);
+        const auto bare = family.bare(family.small);
+        QStringList differences;
+        for (int i = 0; i < 2; ++i) {
+            QStringList results[2];
+            for (Side *const side : {ours.get(), bare.get()}) {
+                side->prepare();
+                side->run();
+                results[side == bare.get()] = side->result();
+                side->finish();
+            }
+            for (int line = 0; line < qMax(results[0].size(), results[1].size()); ++line) {
+                if (results[0].value(line) != results[1].value(line))
+                    differences << results[0].value(line) << results[1].value(line);
+            }
+        }
+        out() << family.id << (differences.isEmpty() ? ": both the same" : ": DIFFERENT")
+              << Qt::endl;
+        for (const QString &line : qAsConst(differences))
+            out() << "  " << line.left(1000) << Qt::endl;
+        same = same && differences.isEmpty();
+    }
+    return same;
+}
+
+// What is freed is kept, so that no round waits for the system to give memory.
+void keepMemory()
+{
+    mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+    mallopt(M_TRIM_THRESHOLD, 1024 * 1024 * 1024);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    keepMemory();
+    // The same everywhere, whatever the desktop.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_STYLE_OVERRIDE", "fusion");
+    qInstallMessageHandler(&printMessage);
+    QApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Measures the library beside bare Qt that does the same."));
+    parser.addHelpOption();
+    const QCommandLineOption checkOption(
+        QStringLiteral("check"), QStringLiteral("Compare what both sides give; measure nothing."));
+    const QCommandLineOption listOption(QStringLiteral("list"),
+                                        QStringLiteral("Print the names of the operations."));
+    const QCommandLineOption aboutOption(QStringLiteral("about"),
+                                         QStringLiteral("Print the versions of Qt and compiler."));
+    const QCommandLineOption countOption(
+        QStringLiteral("count"),
+        QStringLiteral("Do one operation of the library once, in a function of its own."),
+        QStringLiteral("operation"));
+    const QCommandLineOption onlyOption(
+        QStringLiteral("only"), QStringLiteral("Measure the lines of one operation, no curves."),
+        QStringLiteral("operation"));
+    const QCommandLineOption bareOption(
+        QStringLiteral("bare"),
+        QStringLiteral("Measure bare Qt beside itself, to see how exact the ratios are."));
+    const QCommandLineOption secondsOption(QStringLiteral("seconds"),
+                                           QStringLiteral("Seconds for each line; 3 if not given."),
+                                           QStringLiteral("seconds"), QStringLiteral("3"));
+    const QCommandLineOption jsonOption(QStringLiteral("json"),
+                                        QStringLiteral("Write all figures to a file."),
+                                        QStringLiteral("file"));
+    parser.addOptions({checkOption, listOption, aboutOption, countOption, onlyOption, bareOption,
+                       secondsOption, jsonOption});
+    parser.process(application);
+
+    if (parser.isSet(listOption)) {
+        for (const Family &family : families())
+            out() << family.id << Qt::endl;
+        return 0;
+    }
+    if (parser.isSet(aboutOption)) {
+        out() << "qt " << qVersion() << "\ncompiler " << RY_COMPILER << Qt::endl;
+        return 0;
+    }
+    if (parser.isSet(checkOption))
+        return check() ? 0 : 1;
+    if (parser.isSet(countOption))
+        return countOnce(parser.value(countOption)) ? 0 : 1;
+
+    const bool bareOnly = parser.isSet(bareOption);
+    const QString only = parser.value(onlyOption);
+    const double seconds = parser.value(secondsOption).toDouble();
+    QJsonObject figures{{QStringLiteral("qt"), QLatin1String(qVersion())},
+                        {QStringLiteral("compiler"), QStringLiteral(RY_COMPILER)},
+                        {QStringLiteral("rows"), measureRows(seconds, only, bareOnly)}};
+    if (only.isEmpty() && !bareOnly) {
+        figures.insert(QStringLiteral("memory"), memoryRows());
+        figures.insert(QStringLiteral("curves"), measureCurves(seconds / 5));
+    }
+    if (parser.isSet(jsonOption) && !write(parser.value(jsonOption), figures)) {
+        std::fputs("The file cannot be written.\n", stderr);
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef MANAGEDSCENE_H
+#define MANAGEDSCENE_H
+
+#include "scene.h"
+
+#include "rytoolbarmanager.h"
+
+/*
+ * The same host with the library: every action is registered, and every toolbar as a default one
+ * that holds its first content.
+ */
+class ManagedScene : public Scene
+{
+public:
+    explicit ManagedScene(const Size &size);
+
+    RyToolBarManager *manager() { return &m_manager; }
+
+private:
+    RyToolBarManager m_manager;
+};
+
+#endif // MANAGEDSCENE_H

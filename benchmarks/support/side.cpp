@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+
+#include "side.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+Side::~Side() = default;
+
+void Side::prepare()
+{
+}
+
+void Side::finish()
+{
+}
+
+void settle()
+{
+    // What is done first may put off something more, as a layout does with painting.
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef SIDE_H
+#define SIDE_H
+
+#include <QStringList>
+
+#include <memory>
+
+/*
+ * How large the host is that is measured.
+ */
+struct Size
+{
+    // Registered with the manager.
+    int actions = 0;
+    int toolBars = 0;
+    // Of each toolbar; every tenth is a separator.
+    int entries = 0;
+    // So many of the actions stand on toolbars; 0 for all of them.
+    int placed = 0;
+};
+
+/*
+ * One side of a comparison: the library, or bare Qt doing the same.
+ *
+ * A round calls prepare(), run() and finish(); only run() is timed.
+ */
+class Side
+{
+public:
+    Side() = default;
+    virtual ~Side();
+
+    virtual void prepare();
+    virtual void run() = 0;
+    virtual void finish();
+
+    // What a user or host finds between run() and finish(), to compare both sides.
+    virtual QStringList result() = 0;
+
+private:
+    Q_DISABLE_COPY(Side)
+};
+
+using MakeSide = std::unique_ptr<Side> (*)(const Size &size);
+
+template <typename T> std::unique_ptr<Side> makeSide(const Size &size)
+{
+    return std::make_unique<T>(size);
+}
+
+/*
+ * Lets Qt do all that it has put off: layouts, painting, deleting.
+ */
+void settle();
+
+/*
+ * The same until the window is laid out and painted.
+ */
+template <typename Operation> class UntilPainted : public Operation
+{
+public:
+    using Operation::Operation;
+
+    void run() override
+    {
+        Operation::run();
+        settle();
+    }
+};
+
+#endif // SIDE_H

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef APPLY_H
+#define APPLY_H
+
+#include "dialogscene.h"
+
+class QAbstractButton;
+
+/*
+ * A click on Apply with nothing edited.
+ */
+class ApplySameOurs : public Side
+{
+public:
+    explicit ApplySameOurs(const Size &size);
+
+    void run() override;
+    // Tells every event of a toolbar or of the window that a click makes, too.
+    QStringList result() override;
+
+protected:
+    DialogScene m_scene;
+
+private:
+    std::unique_ptr<QDialog> m_dialog;
+    QAbstractButton *m_button;
+};
+
+/*
+ * Bare Qt compares each list with the one that it would set.
+ */
+class ApplySameBare : public Side
+{
+public:
+    explicit ApplySameBare(const Size &size);
+
+    void run() override;
+    QStringList result() override;
+
+private:
+    Scene m_scene;
+    QList<QList<QAction *>> m_contents;
+    QList<QList<QAction *>> m_wanted;
+};
+
+/*
+ * A click on Apply that exchanges every entry of every toolbar, with the window shown. So that all
+ * of them differ, the host sets the other content behind the open dialog's back before each round.
+ */
+class ApplyOtherOurs : public ApplySameOurs
+{
+public:
+    explicit ApplyOtherOurs(const Size &size);
+
+    void prepare() override;
+    void finish() override;
+    QStringList result() override;
+};
+
+/*
+ * The widget work alone, from the second content to the first.
+ */
+class ApplyOtherBare : public Side
+{
+public:
+    explicit ApplyOtherBare(const Size &size);
+
+    void prepare() override;
+    void run() override;
+    void finish() override;
+    QStringList result() override;
+
+private:
+    Scene m_scene;
+    QList<QList<QAction *>> m_contents[2];
+};
+
+#endif // APPLY_H

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef CREATETOOLBAR_H
+#define CREATETOOLBAR_H
+
+#include "managedscene.h"
+
+/*
+ * createToolBar() for as many toolbars as the size says; there is none before.
+ */
+class CreateToolBarOurs : public Side
+{
+public:
+    explicit CreateToolBarOurs(const Size &size);
+
+    void run() override;
+    void finish() override;
+    QStringList result() override;
+
+private:
+    const int m_count;
+    ManagedScene m_scene;
+    const QString m_title = QStringLiteral("Custom Toolbar");
+};
+
+/*
+ * Bare Qt counts for itself: it makes each toolbar, names it with the next number and adds it to
+ * the window.
+ */
+class CreateToolBarBare : public Side
+{
+public:
+    explicit CreateToolBarBare(const Size &size);
+
+    void run() override;
+    void finish() override;
+    QStringList result() override;
+
+private:
+    const int m_count;
+    Scene m_scene;
+    const QString m_title = QStringLiteral("Custom Toolbar");
+    QList<QToolBar *> m_created;
+};
+
+#endif // CREATETOOLBAR_H

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef SETTOOLBAR_H
+#define SETTOOLBAR_H
+
+#include "managedscene.h"
+
+/*
+ * All entries of every toolbar are exchanged for others, with the toolbars hidden.
+ */
+class SetToolBarOurs : public Side
+{
+public:
+    explicit SetToolBarOurs(const Size &size);
+
+    void prepare() override;
+    void run() override;
+    void finish() override;
+    QStringList result() override;
+
+protected:
+    ManagedScene m_scene;
+
+private:
+    int m_variant = 0;
+    QList<QList<QAction *>> m_contents;
+};
+
+/*
+ * Bare Qt takes the old actions off from the front, deletes the old separators and appends the new
+ * content.
+ */
+class SetToolBarBare : public Side
+{
+public:
+    explicit SetToolBarBare(const Size &size);
+
+    void prepare() override;
+    void run() override;
+    void finish() override;
+    QStringList result() override;
+
+protected:
+    Scene m_scene;
+
+private:
+    int m_variant = 0;
+    QList<QList<QAction *>> m_contents;
+};
+
+/*
+ * The same with the window shown.
+ */
+template <typename Hidden> class Shown : public Hidden
+{
+public:
+    explicit Shown(const Size &size)
+        : Hidden(size)
+    {
+        this->m_scene.show();
+    }
+};
+
+#endif // SETTOOLBAR_H

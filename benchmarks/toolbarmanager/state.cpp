@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+
+#include "state.h"
+
+#include <QDataStream>
+#include <QHash>
+
+namespace {
+
+const int Version = 1;
+
+void writeBare(QDataStream &stream, const QList<QAction *> &content)
+{
+    stream << static_cast<qint32>(content.size());
+    for (const QAction *action : content)
+        stream << (action ? action->objectName() : QString());
+}
+
+QByteArray saveBare(const Scene &scene, const QList<QList<QAction *>> &contents)
+{
+    QByteArray state;
+    QDataStream stream(&state, QIODevice::WriteOnly);
+    stream << qint32(255) << qint32(Version) << qint8(-2) << qint32(contents.size());
+    for (int i = 0; i < contents.size(); ++i) {
+        stream << scene.toolBars().at(i)->objectName();
+        writeBare(stream, contents.at(i));
+    }
+    stream << qint8(-3) << qint32(0);
+    return state;
+}
+
+QList<QList<QAction *>> firstContents(const Scene &scene)
+{
+    QList<QList<QAction *>> contents;
+    for (int i = 0; i < scene.toolBars().size(); ++i)
+        contents.append(scene.content(i, 0));
+    return contents;
+}
+
+template <typename T> QHash<QString, T *> tableOf(const QList<T *> &objects)
+{
+    QHash<QString, T *> table;
+    table.reserve(objects.size());
+    for (T *object : objects)
+        table.insert(object->objectName(), object);
+    return table;
+}
+
+} // namespace
+
+SaveOurs::SaveOurs(const Size &size)
+    : m_scene(size)
+{
+}
+
+void SaveOurs::run()
+{
+    m_state = m_scene.manager()->saveState(Version);
+}
+
+QStringList SaveOurs::result()
+{
+    return {QString::fromLatin1(m_state.toHex())};
+}
+
+SaveBare::SaveBare(const Size &size)
+    : m_scene(size)
+    , m_contents(firstContents(m_scene))
+{
+}
+
+void SaveBare::run()
+{
+    m_state = saveBare(m_scene, m_contents);
+}
+
+QStringList SaveBare::result()
+{
+    return {QString::fromLatin1(m_state.toHex())};
+}
+
+RestoreSameOurs::RestoreSameOurs(const Size &size)
+    : m_scene(size)
+    , m_state(m_scene.manager()->saveState(Version))
+{
+}
+
+void RestoreSameOurs::run()
+{
+    m_restored = m_scene.manager()->restoreState(m_state, Version);
+}
+
+QStringList RestoreSameOurs::result()
+{
+    return describeToolBars(m_scene.window()) << QString::number(m_restored);
+}
+
+RestoreSameBare::RestoreSameBare(const Size &size)
+    : m_scene(size)
+{
+    m_scene.fillToolBars();
+    const auto contents = firstContents(m_scene);
+    for (int i = 0; i < contents.size(); ++i)
+        m_contents.insert(m_scene.toolBars().at(i), contents.at(i));
+    m_state = saveBare(m_scene, contents);
+}
+
+void RestoreSameBare::run()
+{
+    const auto actions = tableOf(m_scene.actions());
+    const auto toolBars = tableOf(m_scene.toolBars());
+    QDataStream stream(m_state);
+    qint32 marker = 0;
+    qint32 version = 0;
+    qint8 section = 0;
+    qint32 records = 0;
+    stream >> marker >> version >> section >> records;
+    m_restored = true;
+    QString name;
+    for (qint32 i = 0; i < records; ++i) {
+        QString toolBar;
+        qint32 entries = 0;
+        stream >> toolBar >> entries;
+        QList<QAction *> content;
+        content.reserve(entries);
+        for (qint32 j = 0; j < entries; ++j) {
+            stream >> name;
+            content.append(name.isEmpty() ? nullptr : actions.value(name));
+        }
+        m_restored = m_restored && m_contents.value(toolBars.value(toolBar)) == content;
+    }
+    stream >> section >> records;
+}
+
+QStringList RestoreSameBare::result()
+{
+    return describeToolBars(m_scene.window()) << QString::number(m_restored);
+}
+
+RestoreOtherOurs::RestoreOtherOurs(const Size &size)
+    : m_scene(size)
+{
+    for (const int variant : {1, 0}) {
+        for (int i = 0; i < m_scene.toolBars().size(); ++i)
+            m_scene.manager()->setToolBar(m_scene.toolBars().at(i), m_scene.content(i, variant));
+        m_states[variant] = m_scene.manager()->saveState(Version);
+        settle();
+    }
+}
+
+void RestoreOtherOurs::prepare()
+{
+    m_variant = 1 - m_variant;
+}
+
+void RestoreOtherOurs::run()
+{
+    m_scene.manager()->restoreState(m_states[m_variant], Version);
+}
+
+void RestoreOtherOurs::finish()
+{
+    settle();
+}
+
+QStringList RestoreOtherOurs::result()
+{
+    return describeToolBars(m_scene.window());
+}

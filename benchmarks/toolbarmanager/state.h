@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef STATE_H
+#define STATE_H
+
+#include "managedscene.h"
+
+#include <QByteArray>
+
+/*
+ * saveState().
+ */
+class SaveOurs : public Side
+{
+public:
+    explicit SaveOurs(const Size &size);
+
+    void run() override;
+    QStringList result() override;
+
+private:
+    ManagedScene m_scene;
+    QByteArray m_state;
+};
+
+/*
+ * Bare Qt knows the content of each toolbar and writes the same fields with QDataStream into an
+ * empty QByteArray.
+ */
+class SaveBare : public Side
+{
+public:
+    explicit SaveBare(const Size &size);
+
+    void run() override;
+    QStringList result() override;
+
+private:
+    Scene m_scene;
+    QList<QList<QAction *>> m_contents;
+    QByteArray m_state;
+};
+
+/*
+ * restoreState() with the state as it is.
+ */
+class RestoreSameOurs : public Side
+{
+public:
+    explicit RestoreSameOurs(const Size &size);
+
+    void run() override;
+    QStringList result() override;
+
+private:
+    ManagedScene m_scene;
+    QByteArray m_state;
+    bool m_restored = false;
+};
+
+/*
+ * Bare Qt makes a table of the objectNames of all actions and one of those of all toolbars, reads
+ * the same bytes, finds every name, and compares each list with what the toolbar holds.
+ */
+class RestoreSameBare : public Side
+{
+public:
+    explicit RestoreSameBare(const Size &size);
+
+    void run() override;
+    QStringList result() override;
+
+private:
+    Scene m_scene;
+    QHash<QToolBar *, QList<QAction *>> m_contents;
+    QByteArray m_state;
+    bool m_restored = false;
+};
+
+/*
+ * restoreState() with bytes that change every entry of every toolbar; bare Qt's side is
+ * SetToolBarBare, which does nothing but the widget work.
+ */
+class RestoreOtherOurs : public Side
+{
+public:
+    explicit RestoreOtherOurs(const Size &size);
+
+    void prepare() override;
+    void run() override;
+    void finish() override;
+    QStringList result() override;
+
+private:
+    ManagedScene m_scene;
+    int m_variant = 0;
+    QByteArray m_states[2];
+};
+
+#endif // STATE_H
