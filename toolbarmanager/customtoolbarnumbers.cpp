@@ -60,16 +60,14 @@ void CustomToolBarNumbers::take(int number)
         m_takenHigh.insert(number);
         return;
     }
-    const std::size_t place = static_cast<std::size_t>(number);
-    if (place >= m_taken.size())
-        m_taken.resize(2 * place + 64);
-    m_taken[place] = true;
+    if (number >= m_taken.size())
+        m_taken.resize(2 * number + 64);
+    m_taken[number] = true;
 }
 
 bool CustomToolBarNumbers::isTaken(int number) const
 {
     if (number >= FirstHighNumber)
         return m_takenHigh.contains(number);
-    const std::size_t place = static_cast<std::size_t>(number);
-    return place < m_taken.size() && m_taken[place];
+    return number < m_taken.size() && m_taken.at(number);
 }

@@ -5,8 +5,7 @@
 
 #include <QSet>
 #include <QString>
-
-#include <vector>
+#include <QVector>
 
 /*
  * The numbers that generated objectNames of custom toolbars may still use.
@@ -30,7 +29,7 @@ private:
     bool isTaken(int number) const;
 
     // The usual numbers, at their place; kept small, whatever number a host gives.
-    std::vector<bool> m_taken;
+    QVector<bool> m_taken;
     QSet<int> m_takenHigh;
     // Every number below it is taken.
     int m_firstCandidate;

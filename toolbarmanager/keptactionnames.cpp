@@ -5,15 +5,15 @@
 #include "registrychanges.h"
 
 #include <QAction>
-#include <QGlobalStatic>
 #include <QHash>
 
 namespace {
 
 using NamesOfManagers = QHash<const RyToolBarManager *, KeptActionNames>;
 
-// A static manager of the host may outlive it.
-Q_GLOBAL_STATIC(NamesOfManagers, namesOfManagers)
+// Null while nothing is kept: a static manager of the host may be destroyed later than any static
+// object of the library.
+NamesOfManagers *namesOfManagers = nullptr;
 
 // At most half of the places are taken, so that few actions stand far from the place of their hash.
 int sizeFor(int count)
@@ -46,19 +46,25 @@ KeptActionNames::KeptActionNames(const QSet<QAction *> &actions)
 
 KeptActionNames KeptActionNames::of(const RyToolBarManager *manager)
 {
-    return namesOfManagers.exists() ? namesOfManagers->value(manager) : KeptActionNames();
+    return namesOfManagers ? namesOfManagers->value(manager) : KeptActionNames();
 }
 
 void KeptActionNames::keepFor(const RyToolBarManager *manager) const
 {
-    if (!namesOfManagers.isDestroyed())
-        namesOfManagers->insert(manager, *this);
+    if (!namesOfManagers)
+        namesOfManagers = new NamesOfManagers;
+    namesOfManagers->insert(manager, *this);
 }
 
 void KeptActionNames::forget(const RyToolBarManager *manager)
 {
-    if (namesOfManagers.exists())
-        namesOfManagers->remove(manager);
+    if (!namesOfManagers)
+        return;
+    namesOfManagers->remove(manager);
+    if (namesOfManagers->isEmpty()) {
+        delete namesOfManagers;
+        namesOfManagers = nullptr;
+    }
 }
 
 bool KeptActionNames::areOfTheRegistry() const
