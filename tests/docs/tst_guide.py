@@ -92,7 +92,8 @@ class Pages(unittest.TestCase):
     HEADING = re.compile(r'^#+ +(.+?) *#*$', re.MULTILINE)
 
     def pages(self):
-        return [SOURCE_DIR / 'README.md', SOURCE_DIR / 'CONTRIBUTING.md', *sorted(DOCS.rglob('*.md'))]
+        return [SOURCE_DIR / 'README.md', SOURCE_DIR / 'CONTRIBUTING.md', *sorted(DOCS.rglob('*.md')),
+                *sorted((SOURCE_DIR / 'examples').rglob('*.md'))]
 
     def anchors(self, page):
         """The anchors of the headings, as GitHub makes them."""
