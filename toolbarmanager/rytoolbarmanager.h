@@ -245,9 +245,10 @@ public:
      * separator entry as a fresh separator action. An action may stand on several toolbars.
      *
      * Adding and removing actions makes Qt call event filters and slots of the host, which may call
-     * the manager; it still reports the old content then. A list that is set for the same toolbar
-     * from there counts instead of this one, but is placed only when they have returned: of several
-     * the last one, and at most a hundred times, so that a host that always wants another list comes
+     * the manager; it still reports the old content then, and setting that very list changes
+     * nothing. Any other list that is set for the same toolbar from there counts instead of this
+     * one, but is placed only when they have returned: of several the last one, and at most a
+     * hundred times, so that a host that always wants another list comes
      * to an end.
      *
      * \param toolBar a managed toolbar, default or custom; null and unmanaged ones are ignored.
