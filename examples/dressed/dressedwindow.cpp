@@ -87,7 +87,7 @@ void DressedWindow::customizeToolBars()
 {
     RyCustomizedDialog dialog({&m_manager, nullptr}, this);
     const Dressing *const dressing = new Dressing(&dialog);
-    connect(dressing, &Dressing::helpRequested, this, [&] { showHelp(&dialog); });
+    connect(dressing, &Dressing::helpRequested, this, [this, shown = &dialog] { showHelp(shown); });
     dialog.exec();
 }
 

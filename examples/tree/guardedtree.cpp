@@ -37,13 +37,15 @@ void GuardedTree::mouseMoveEvent(QMouseEvent *event)
 void GuardedTree::keyPressEvent(QKeyEvent *event)
 {
     RyTreeWidget::keyPressEvent(event);
-    QTreeWidget::keyPressEvent(event);
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the base class, which ignores it
+    QTreeWidget::keyPressEvent(event); // clazy:exclude=skipped-base-method
 }
 
 void GuardedTree::keyReleaseEvent(QKeyEvent *event)
 {
     RyTreeWidget::keyReleaseEvent(event);
-    QTreeWidget::keyReleaseEvent(event);
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): the same
+    QTreeWidget::keyReleaseEvent(event); // clazy:exclude=skipped-base-method
 }
 
 // RyTreeWidget lets every item take children. Refusing a place is safe only with a guard: a move that
