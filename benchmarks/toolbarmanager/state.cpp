@@ -87,6 +87,29 @@ QStringList RestoreSameOurs::result()
     return SceneSide::result() << QString::number(m_restored);
 }
 
+RestoreFirstOurs::RestoreFirstOurs(const Size &size)
+    : SceneSide(size)
+{
+    m_scene.fillToolBars();
+    m_state = saveBare(m_scene, contents(0));
+}
+
+void RestoreFirstOurs::prepare()
+{
+    m_manager = std::make_unique<RyToolBarManager>();
+    registerAll(m_scene, *m_manager);
+}
+
+void RestoreFirstOurs::run()
+{
+    m_restored = m_manager->restoreState(m_state, Version);
+}
+
+QStringList RestoreFirstOurs::result()
+{
+    return SceneSide::result() << QString::number(m_restored);
+}
+
 RestoreSameBare::RestoreSameBare(const Size &size)
     : SceneSide(size)
 {

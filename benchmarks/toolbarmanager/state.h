@@ -57,6 +57,24 @@ private:
 };
 
 /*
+ * The same with a manager that is new in each round, as when a host starts.
+ */
+class RestoreFirstOurs : public SceneSide<Scene>
+{
+public:
+    explicit RestoreFirstOurs(const Size &size);
+
+    void prepare() override;
+    void run() override;
+    QStringList result() override;
+
+private:
+    std::unique_ptr<RyToolBarManager> m_manager;
+    QByteArray m_state;
+    bool m_restored = false;
+};
+
+/*
  * Bare Qt makes a table of the objectNames of all actions and one of those of all toolbars, reads
  * the same bytes, finds every name, and compares each list with what the toolbar holds.
  */
