@@ -59,6 +59,7 @@ SaveBare::SaveBare(const Size &size)
     : SceneSide(size)
     , m_contents(contents(0))
 {
+    m_scene.fillToolBars();
 }
 
 void SaveBare::run()
