@@ -21,10 +21,12 @@ HEAD = '''# SPDX-License-Identifier: MIT
 # Instructions of each operation: in all, and in the library's own code. Written by
 # tools/check-counts.sh --update; they hold for one version of Qt and of the compiler.
 '''
-OPERATIONS = ('setToolBar', 'saveState', 'restoreState-unchanged', 'restoreState-changed',
-              'createToolBar', 'removeAction', 'openDialog', 'addAndRemoveEntry',
+OPERATIONS = ('setToolBar', 'saveState', 'restoreState-first', 'restoreState-unchanged',
+              'restoreState-changed', 'createToolBar', 'removeAction', 'openDialog', 'addAndRemoveEntry',
               'apply-unchanged', 'apply-changed')
 GROWTH = 1.10
+# Of the library's own code, so few more or less do not count: they depend on addresses.
+SLACK = 1000
 # The same for everybody: nothing of the user's, and the same order of all hashes.
 ENVIRONMENT = {'PATH': os.environ['PATH'], 'HOME': '/nonexistent', 'LC_ALL': 'C.UTF-8',
                'QT_HASH_SEED': '0'}
@@ -101,7 +103,7 @@ def compare(counts, record):
               f'{own:14,}{change(own, before[1]):>10}')
         if not before[0]:
             grown.append(f'{operation} (not recorded)')
-        elif total > before[0] * GROWTH or own > before[1] * GROWTH:
+        elif total > before[0] * GROWTH or own > before[1] * GROWTH + SLACK:
             grown.append(operation)
     return grown
 

@@ -3,7 +3,6 @@
 #include "comparison.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <ctime>
 
 namespace {
@@ -18,15 +17,6 @@ double secondsOn(clockid_t clock)
     timespec time{};
     clock_gettime(clock, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
-// What rounds have freed is sorted by the next large allocation, which takes milliseconds; here it is
-// nobody's time.
-void tidyHeap()
-{
-    // Below the size that would be returned to the system.
-    void *volatile const large = std::malloc(100000);
-    std::free(large);
 }
 
 double median(std::vector<double> values)

@@ -24,6 +24,7 @@ bool countOnce(const QString &id)
     side->finish();
 
     side->prepare();
+    tidyHeap();
     ry_counted_operation(side.get());
     side->finish();
     return true;

@@ -85,6 +85,7 @@ const QList<Family> &families()
                                                                  oneToolBar(50)),
         family<SaveOurs, SaveBare>("saveState", toolBarsOfFifty(20), true),
         family<RestoreSameOurs, RestoreSameBare>("restoreState-unchanged", {1000, 20, 50, 0}, true),
+        family<RestoreFirstOurs, RestoreSameBare>("restoreState-first", {1000, 20, 50, 0}),
         family<RestoreOtherOurs, SetToolBarBare>("restoreState-changed", {1000, 4, 50, 0}),
         family<CreateToolBarOurs, CreateToolBarBare>("createToolBar", created(50)),
         family<RemoveActionOurs, RemoveActionBare>("removeAction", removed(200)),
@@ -113,6 +114,7 @@ QList<Row> rows()
     const char *const shown = "setToolBar-shown";
     const char *const painted = "setToolBar-painted";
     const char *const same = "restoreState-unchanged";
+    const char *const first = "restoreState-first";
     const char *const other = "restoreState-changed";
     const QList<Size> grown{registered(2000), registered(4000)};
     return {
@@ -153,6 +155,11 @@ QList<Row> rows()
          {toolBarsOfFifty(100)}},
         {same,
          text("restoreState, nothing changes, 4,000 actions"),
+         Row::Ratio,
+         1.50,
+         {registered(4000)}},
+        {first,
+         text("restoreState, nothing changes, 4,000 actions, for the first time"),
          Row::Ratio,
          1.50,
          {registered(4000)}},
@@ -211,6 +218,11 @@ QList<Row> rows()
          {{10000, 200, 50, 0}}},
         {same,
          text("10,000 actions on 200 toolbars: restoreState, nothing changes"),
+         Row::Figure,
+         0,
+         {{10000, 200, 50, 0}}},
+        {first,
+         text("10,000 actions on 200 toolbars: restoreState, nothing changes, for the first time"),
          Row::Figure,
          0,
          {{10000, 200, 50, 0}}},

@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QTextStream>
 
 #include <cstdio>
@@ -93,7 +94,20 @@ QJsonObject measureRow(const Row &row, double seconds, bool bareOnly)
             {QStringLiteral("rounds"), comparison.rounds()}};
 }
 
-QJsonArray measureRows(double seconds, const QString &only, bool bareOnly)
+// A process of its own for each figure: the heap that others leave behind would make the side that is
+// built first the slower one.
+QJsonDocument inOwnProcess(const QStringList &arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QCoreApplication::applicationFilePath(), arguments);
+    process.waitForFinished(-1);
+    if (process.exitCode() != 0 || process.exitStatus() != QProcess::NormalExit)
+        qFatal("%s failed", qPrintable(arguments.join(QLatin1Char(' '))));
+    return QJsonDocument::fromJson(process.readAllStandardOutput());
+}
+
+QJsonArray measureRows(const QString &seconds, const QString &only, bool bareOnly)
 {
     QJsonArray array;
     const auto all = rows();
@@ -101,7 +115,11 @@ QJsonArray measureRows(double seconds, const QString &only, bool bareOnly)
         const Row &row = all.at(i);
         if (!only.isEmpty() && only != QLatin1String(row.family))
             continue;
-        const QJsonObject object = measureRow(row, seconds, bareOnly);
+        QStringList arguments{QStringLiteral("--row"), QString::number(i),
+                              QStringLiteral("--seconds"), seconds};
+        if (bareOnly)
+            arguments.append(QStringLiteral("--bare"));
+        const QJsonObject object = inOwnProcess(arguments).object();
         array.append(object);
         out() << QStringLiteral("[%1/%2] %3: %4 (%5 ms, bare Qt %6 ms, %7 rounds)")
                      .arg(i + 1, 2)
@@ -118,29 +136,33 @@ QJsonArray measureRows(double seconds, const QString &only, bool bareOnly)
     return array;
 }
 
-QJsonObject measureCurve(const Curve &curve, double seconds)
+QJsonArray measurePoint(const Curve &curve, int number, double seconds)
 {
-    QJsonArray points;
-    for (const int n : {10, 30, 100, 300, 1000, 3000, 10000}) {
-        if (n > curve.greatest)
-            break;
-        Comparison comparison(*familyOf(QLatin1String(curve.family)), {curve.size(n)});
-        comparison.measure(seconds, RoundsOfPoint);
-        points.append(QJsonArray{n, comparison.time(Comparison::Ours, 0) * 1000,
-                                 comparison.time(Comparison::Bare, 0) * 1000});
-    }
-    return {{QStringLiteral("title"), curve.title},
-            {QStringLiteral("axis"), curve.axis},
-            {QStringLiteral("points"), points}};
+    Comparison comparison(*familyOf(QLatin1String(curve.family)), {curve.size(number)});
+    comparison.measure(seconds, RoundsOfPoint);
+    return {number, comparison.time(Comparison::Ours, 0) * 1000,
+            comparison.time(Comparison::Bare, 0) * 1000};
 }
 
-QJsonArray measureCurves(double seconds)
+QJsonArray measureCurves(const QString &seconds)
 {
     QJsonArray array;
     const auto all = curves();
-    for (const Curve &curve : all) {
+    for (int i = 0; i < all.size(); ++i) {
+        const Curve &curve = all.at(i);
         out() << QStringLiteral("Curve of %1 by %2").arg(curve.title, curve.axis) << Qt::endl;
-        array.append(measureCurve(curve, seconds));
+        QJsonArray points;
+        for (const int n : {10, 30, 100, 300, 1000, 3000, 10000}) {
+            if (n <= curve.greatest) {
+                points.append(inOwnProcess({QStringLiteral("--curve"), QString::number(i),
+                                            QStringLiteral("--number"), QString::number(n),
+                                            QStringLiteral("--seconds"), seconds})
+                                  .array());
+            }
+        }
+        array.append(QJsonObject{{QStringLiteral("title"), curve.title},
+                                 {QStringLiteral("axis"), curve.axis},
+                                 {QStringLiteral("points"), points}});
     }
     return array;
 }
@@ -236,6 +258,16 @@ int main(int argc, char *argv[])
     const QCommandLineOption bareOption(
         QStringLiteral("bare"),
         QStringLiteral("Measure bare Qt beside itself, to see how exact the ratios are."));
+    const QCommandLineOption rowOption(QStringLiteral("row"),
+                                       QStringLiteral("Measure one line and print it as JSON."),
+                                       QStringLiteral("number"));
+    const QCommandLineOption curveOption(
+        QStringLiteral("curve"),
+        QStringLiteral("Measure one point of a curve and print it as JSON."),
+        QStringLiteral("number"));
+    const QCommandLineOption numberOption(QStringLiteral("number"),
+                                          QStringLiteral("Where on the curve the point is."),
+                                          QStringLiteral("number"));
     const QCommandLineOption secondsOption(QStringLiteral("seconds"),
                                            QStringLiteral("Seconds for each line; 3 if not given."),
                                            QStringLiteral("seconds"), QStringLiteral("3"));
@@ -243,7 +275,7 @@ int main(int argc, char *argv[])
                                         QStringLiteral("Write all figures to a file."),
                                         QStringLiteral("file"));
     parser.addOptions({checkOption, listOption, aboutOption, countOption, onlyOption, bareOption,
-                       secondsOption, jsonOption});
+                       rowOption, curveOption, numberOption, secondsOption, jsonOption});
     parser.process(application);
 
     if (parser.isSet(listOption)) {
@@ -263,12 +295,24 @@ int main(int argc, char *argv[])
     const bool bareOnly = parser.isSet(bareOption);
     const QString only = parser.value(onlyOption);
     const double seconds = parser.value(secondsOption).toDouble();
-    QJsonObject figures{{QStringLiteral("qt"), QLatin1String(qVersion())},
-                        {QStringLiteral("compiler"), QStringLiteral(RY_COMPILER)},
-                        {QStringLiteral("rows"), measureRows(seconds, only, bareOnly)}};
+    if (parser.isSet(rowOption)) {
+        const Row row = rows().value(parser.value(rowOption).toInt());
+        out() << QJsonDocument(measureRow(row, seconds, bareOnly)).toJson() << Qt::flush;
+        return 0;
+    }
+    if (parser.isSet(curveOption)) {
+        const Curve curve = curves().value(parser.value(curveOption).toInt());
+        const int number = parser.value(numberOption).toInt();
+        out() << QJsonDocument(measurePoint(curve, number, seconds)).toJson() << Qt::flush;
+        return 0;
+    }
+    QJsonObject figures{
+        {QStringLiteral("qt"), QLatin1String(qVersion())},
+        {QStringLiteral("compiler"), QStringLiteral(RY_COMPILER)},
+        {QStringLiteral("rows"), measureRows(parser.value(secondsOption), only, bareOnly)}};
     if (only.isEmpty() && !bareOnly) {
         figures.insert(QStringLiteral("memory"), memoryRows());
-        figures.insert(QStringLiteral("curves"), measureCurves(seconds / 5));
+        figures.insert(QStringLiteral("curves"), measureCurves(QString::number(seconds / 5)));
     }
     if (parser.isSet(jsonOption) && !write(parser.value(jsonOption), figures)) {
         std::fputs("The file cannot be written.\n", stderr);

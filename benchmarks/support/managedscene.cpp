@@ -5,13 +5,18 @@
 ManagedScene::ManagedScene(const Size &size)
     : Scene(size)
 {
-    m_manager.setMainWindow(window());
-    const auto all = categories();
-    for (const Category &category : all) {
-        for (QAction *action : category.actions)
-            m_manager.addAction(action, category.name);
-    }
     fillToolBars();
-    for (QToolBar *toolBar : toolBars())
-        m_manager.addDefaultToolBar(toolBar, QStringLiteral("Toolbars"));
+    registerAll(*this, m_manager);
+}
+
+void registerAll(Scene &scene, RyToolBarManager &manager)
+{
+    manager.setMainWindow(scene.window());
+    const auto categories = scene.categories();
+    for (const Scene::Category &category : categories) {
+        for (QAction *action : category.actions)
+            manager.addAction(action, category.name);
+    }
+    for (QToolBar *toolBar : scene.toolBars())
+        manager.addDefaultToolBar(toolBar, QStringLiteral("Toolbars"));
 }

@@ -22,4 +22,9 @@ private:
     RyToolBarManager m_manager;
 };
 
+/*
+ * Registers every action, and every toolbar as a default one.
+ */
+void registerAll(Scene &scene, RyToolBarManager &manager);
+
 #endif // MANAGEDSCENE_H

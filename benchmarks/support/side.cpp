@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <cstdlib>
+
 Side::~Side() = default;
 
 void Side::prepare()
@@ -22,4 +24,11 @@ void settle()
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+}
+
+void tidyHeap()
+{
+    // Below the size that would be returned to the system.
+    void *volatile const large = std::malloc(100000);
+    std::free(large);
 }

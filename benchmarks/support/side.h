@@ -56,6 +56,12 @@ template <typename T> std::unique_ptr<Side> makeSide(const Size &size)
 void settle();
 
 /*
+ * What has been freed is sorted by the next large allocation, which takes milliseconds; after this,
+ * that is nobody's time.
+ */
+void tidyHeap();
+
+/*
  * The same until the window is laid out and painted.
  */
 template <typename Operation> class UntilPainted : public Operation

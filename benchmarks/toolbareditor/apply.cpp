@@ -25,7 +25,7 @@ public:
 } // namespace
 
 ApplySameOurs::ApplySameOurs(const Size &size)
-    : m_scene(size)
+    : SceneSide(size)
 {
     m_scene.show();
     m_dialog = m_scene.createOurs();
@@ -47,17 +47,15 @@ QStringList ApplySameOurs::result()
     for (QToolBar *toolBar : m_scene.toolBars())
         toolBar->installEventFilter(&counter);
     m_button->click();
-    return describeToolBars(m_scene.window()) << QStringLiteral("%1 events").arg(counter.events);
+    return SceneSide::result() << QStringLiteral("%1 events").arg(counter.events);
 }
 
 ApplySameBare::ApplySameBare(const Size &size)
-    : m_scene(size)
+    : SceneSide(size)
+    , m_contents(contents(0))
+    , m_wanted(contents(0))
 {
     m_scene.fillToolBars();
-    for (int i = 0; i < m_scene.toolBars().size(); ++i) {
-        m_contents.append(m_scene.content(i, 0));
-        m_wanted.append(m_scene.content(i, 0));
-    }
     m_scene.show();
 }
 
@@ -71,7 +69,7 @@ void ApplySameBare::run()
 
 QStringList ApplySameBare::result()
 {
-    return describeToolBars(m_scene.window()) << QStringLiteral("0 events");
+    return SceneSide::result() << QStringLiteral("0 events");
 }
 
 ApplyOtherOurs::ApplyOtherOurs(const Size &size)
@@ -86,24 +84,16 @@ void ApplyOtherOurs::prepare()
     settle();
 }
 
-void ApplyOtherOurs::finish()
-{
-    settle();
-}
-
 QStringList ApplyOtherOurs::result()
 {
-    return describeToolBars(m_scene.window());
+    return SceneSide::result();
 }
 
 ApplyOtherBare::ApplyOtherBare(const Size &size)
-    : m_scene(size)
+    : SceneSide(size)
+    , m_contents{contents(0), contents(1)}
 {
     m_scene.fillToolBars();
-    for (const int variant : {0, 1}) {
-        for (int i = 0; i < m_scene.toolBars().size(); ++i)
-            m_contents[variant].append(m_scene.content(i, variant));
-    }
     m_scene.show();
 }
 
@@ -118,14 +108,4 @@ void ApplyOtherBare::run()
 {
     for (int i = 0; i < m_scene.toolBars().size(); ++i)
         bare::setContent(m_scene.toolBars().at(i), m_contents[0].at(i));
-}
-
-void ApplyOtherBare::finish()
-{
-    settle();
-}
-
-QStringList ApplyOtherBare::result()
-{
-    return describeToolBars(m_scene.window());
 }

@@ -4,13 +4,14 @@
 #define APPLY_H
 
 #include "dialogscene.h"
+#include "sceneside.h"
 
 class QAbstractButton;
 
 /*
  * A click on Apply with nothing edited.
  */
-class ApplySameOurs : public Side
+class ApplySameOurs : public SceneSide<DialogScene>
 {
 public:
     explicit ApplySameOurs(const Size &size);
@@ -18,9 +19,6 @@ public:
     void run() override;
     // Tells every event of a toolbar or of the window that a click makes, too.
     QStringList result() override;
-
-protected:
-    DialogScene m_scene;
 
 private:
     std::unique_ptr<QDialog> m_dialog;
@@ -30,7 +28,7 @@ private:
 /*
  * Bare Qt compares each list with the one that it would set.
  */
-class ApplySameBare : public Side
+class ApplySameBare : public SceneSide<Scene>
 {
 public:
     explicit ApplySameBare(const Size &size);
@@ -39,7 +37,6 @@ public:
     QStringList result() override;
 
 private:
-    Scene m_scene;
     QList<QList<QAction *>> m_contents;
     QList<QList<QAction *>> m_wanted;
 };
@@ -54,25 +51,21 @@ public:
     explicit ApplyOtherOurs(const Size &size);
 
     void prepare() override;
-    void finish() override;
     QStringList result() override;
 };
 
 /*
  * The widget work alone, from the second content to the first.
  */
-class ApplyOtherBare : public Side
+class ApplyOtherBare : public SceneSide<Scene>
 {
 public:
     explicit ApplyOtherBare(const Size &size);
 
     void prepare() override;
     void run() override;
-    void finish() override;
-    QStringList result() override;
 
 private:
-    Scene m_scene;
     QList<QList<QAction *>> m_contents[2];
 };
 

@@ -12,8 +12,8 @@ Size withoutToolBars(const Size &size)
 } // namespace
 
 CreateToolBarOurs::CreateToolBarOurs(const Size &size)
-    : m_count(size.toolBars)
-    , m_scene(withoutToolBars(size))
+    : SceneSide(withoutToolBars(size))
+    , m_count(size.toolBars)
 {
 }
 
@@ -28,17 +28,12 @@ void CreateToolBarOurs::finish()
     const auto toolBars = m_scene.manager()->toolBars();
     for (QToolBar *toolBar : toolBars)
         m_scene.manager()->deleteToolBar(toolBar);
-    settle();
-}
-
-QStringList CreateToolBarOurs::result()
-{
-    return describeToolBars(m_scene.window());
+    SceneSide::finish();
 }
 
 CreateToolBarBare::CreateToolBarBare(const Size &size)
-    : m_count(size.toolBars)
-    , m_scene(withoutToolBars(size))
+    : SceneSide(withoutToolBars(size))
+    , m_count(size.toolBars)
 {
 }
 
@@ -57,10 +52,5 @@ void CreateToolBarBare::finish()
 {
     qDeleteAll(m_created);
     m_created.clear();
-    settle();
-}
-
-QStringList CreateToolBarBare::result()
-{
-    return describeToolBars(m_scene.window());
+    SceneSide::finish();
 }

@@ -4,22 +4,21 @@
 #define CREATETOOLBAR_H
 
 #include "managedscene.h"
+#include "sceneside.h"
 
 /*
  * createToolBar() for as many toolbars as the size says; there is none before.
  */
-class CreateToolBarOurs : public Side
+class CreateToolBarOurs : public SceneSide<ManagedScene>
 {
 public:
     explicit CreateToolBarOurs(const Size &size);
 
     void run() override;
     void finish() override;
-    QStringList result() override;
 
 private:
     const int m_count;
-    ManagedScene m_scene;
     const QString m_title = QStringLiteral("Custom Toolbar");
 };
 
@@ -27,18 +26,16 @@ private:
  * Bare Qt counts for itself: it makes each toolbar, names it with the next number and adds it to
  * the window.
  */
-class CreateToolBarBare : public Side
+class CreateToolBarBare : public SceneSide<Scene>
 {
 public:
     explicit CreateToolBarBare(const Size &size);
 
     void run() override;
     void finish() override;
-    QStringList result() override;
 
 private:
     const int m_count;
-    Scene m_scene;
     const QString m_title = QStringLiteral("Custom Toolbar");
     QList<QToolBar *> m_created;
 };

@@ -12,7 +12,7 @@ Size withOneEmptyToolBar(const Size &size)
 } // namespace
 
 RemoveActionOurs::RemoveActionOurs(const Size &size)
-    : m_scene(withOneEmptyToolBar(size))
+    : SceneSide(withOneEmptyToolBar(size))
 {
 }
 
@@ -31,18 +31,8 @@ void RemoveActionOurs::run()
         m_manager->removeAction(action);
 }
 
-void RemoveActionOurs::finish()
-{
-    settle();
-}
-
-QStringList RemoveActionOurs::result()
-{
-    return describeToolBars(m_scene.window());
-}
-
 RemoveActionBare::RemoveActionBare(const Size &size)
-    : m_scene(withOneEmptyToolBar(size))
+    : SceneSide(withOneEmptyToolBar(size))
 {
 }
 
@@ -56,14 +46,4 @@ void RemoveActionBare::run()
     QToolBar *const toolBar = m_scene.toolBars().first();
     for (QAction *action : m_scene.actions())
         toolBar->removeAction(action);
-}
-
-void RemoveActionBare::finish()
-{
-    settle();
-}
-
-QStringList RemoveActionBare::result()
-{
-    return describeToolBars(m_scene.window());
 }

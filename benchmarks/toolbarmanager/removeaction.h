@@ -3,25 +3,22 @@
 #ifndef REMOVEACTION_H
 #define REMOVEACTION_H
 
-#include "scene.h"
+#include "sceneside.h"
 
 #include "rytoolbarmanager.h"
 
 /*
  * removeAction() for every action of a default toolbar that holds all of them, in their order.
  */
-class RemoveActionOurs : public Side
+class RemoveActionOurs : public SceneSide<Scene>
 {
 public:
     explicit RemoveActionOurs(const Size &size);
 
     void prepare() override;
     void run() override;
-    void finish() override;
-    QStringList result() override;
 
 private:
-    Scene m_scene;
     // A new one for each round, because a default toolbar cannot be registered twice.
     std::unique_ptr<RyToolBarManager> m_manager;
 };
@@ -29,18 +26,13 @@ private:
 /*
  * Bare Qt takes the same actions off in the same order.
  */
-class RemoveActionBare : public Side
+class RemoveActionBare : public SceneSide<Scene>
 {
 public:
     explicit RemoveActionBare(const Size &size);
 
     void prepare() override;
     void run() override;
-    void finish() override;
-    QStringList result() override;
-
-private:
-    Scene m_scene;
 };
 
 #endif // REMOVEACTION_H

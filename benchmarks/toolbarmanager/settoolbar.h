@@ -4,22 +4,18 @@
 #define SETTOOLBAR_H
 
 #include "managedscene.h"
+#include "sceneside.h"
 
 /*
  * All entries of every toolbar are exchanged for others, with the toolbars hidden.
  */
-class SetToolBarOurs : public Side
+class SetToolBarOurs : public SceneSide<ManagedScene>
 {
 public:
     explicit SetToolBarOurs(const Size &size);
 
     void prepare() override;
     void run() override;
-    void finish() override;
-    QStringList result() override;
-
-protected:
-    ManagedScene m_scene;
 
 private:
     int m_variant = 0;
@@ -30,18 +26,13 @@ private:
  * Bare Qt takes the old actions off from the front, deletes the old separators and appends the new
  * content.
  */
-class SetToolBarBare : public Side
+class SetToolBarBare : public SceneSide<Scene>
 {
 public:
     explicit SetToolBarBare(const Size &size);
 
     void prepare() override;
     void run() override;
-    void finish() override;
-    QStringList result() override;
-
-protected:
-    Scene m_scene;
 
 private:
     int m_variant = 0;

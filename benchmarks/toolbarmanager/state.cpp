@@ -29,14 +29,6 @@ QByteArray saveBare(const Scene &scene, const QList<QList<QAction *>> &contents)
     return state;
 }
 
-QList<QList<QAction *>> firstContents(const Scene &scene)
-{
-    QList<QList<QAction *>> contents;
-    for (int i = 0; i < scene.toolBars().size(); ++i)
-        contents.append(scene.content(i, 0));
-    return contents;
-}
-
 template <typename T> QHash<QString, T *> tableOf(const QList<T *> &objects)
 {
     QHash<QString, T *> table;
@@ -49,7 +41,7 @@ template <typename T> QHash<QString, T *> tableOf(const QList<T *> &objects)
 } // namespace
 
 SaveOurs::SaveOurs(const Size &size)
-    : m_scene(size)
+    : SceneSide(size)
 {
 }
 
@@ -64,9 +56,10 @@ QStringList SaveOurs::result()
 }
 
 SaveBare::SaveBare(const Size &size)
-    : m_scene(size)
-    , m_contents(firstContents(m_scene))
+    : SceneSide(size)
+    , m_contents(contents(0))
 {
+    m_scene.fillToolBars();
 }
 
 void SaveBare::run()
@@ -80,7 +73,7 @@ QStringList SaveBare::result()
 }
 
 RestoreSameOurs::RestoreSameOurs(const Size &size)
-    : m_scene(size)
+    : SceneSide(size)
     , m_state(m_scene.manager()->saveState(Version))
 {
 }
@@ -92,17 +85,40 @@ void RestoreSameOurs::run()
 
 QStringList RestoreSameOurs::result()
 {
-    return describeToolBars(m_scene.window()) << QString::number(m_restored);
+    return SceneSide::result() << QString::number(m_restored);
+}
+
+RestoreFirstOurs::RestoreFirstOurs(const Size &size)
+    : SceneSide(size)
+{
+    m_scene.fillToolBars();
+    m_state = saveBare(m_scene, contents(0));
+}
+
+void RestoreFirstOurs::prepare()
+{
+    m_manager = std::make_unique<RyToolBarManager>();
+    registerAll(m_scene, *m_manager);
+}
+
+void RestoreFirstOurs::run()
+{
+    m_restored = m_manager->restoreState(m_state, Version);
+}
+
+QStringList RestoreFirstOurs::result()
+{
+    return SceneSide::result() << QString::number(m_restored);
 }
 
 RestoreSameBare::RestoreSameBare(const Size &size)
-    : m_scene(size)
+    : SceneSide(size)
 {
     m_scene.fillToolBars();
-    const auto contents = firstContents(m_scene);
-    for (int i = 0; i < contents.size(); ++i)
-        m_contents.insert(m_scene.toolBars().at(i), contents.at(i));
-    m_state = saveBare(m_scene, contents);
+    const auto first = contents(0);
+    for (int i = 0; i < first.size(); ++i)
+        m_contents.insert(m_scene.toolBars().at(i), first.at(i));
+    m_state = saveBare(m_scene, first);
 }
 
 void RestoreSameBare::run()
@@ -134,11 +150,11 @@ void RestoreSameBare::run()
 
 QStringList RestoreSameBare::result()
 {
-    return describeToolBars(m_scene.window()) << QString::number(m_restored);
+    return SceneSide::result() << QString::number(m_restored);
 }
 
 RestoreOtherOurs::RestoreOtherOurs(const Size &size)
-    : m_scene(size)
+    : SceneSide(size)
 {
     for (const int variant : {1, 0}) {
         for (int i = 0; i < m_scene.toolBars().size(); ++i)
@@ -156,14 +172,4 @@ void RestoreOtherOurs::prepare()
 void RestoreOtherOurs::run()
 {
     m_scene.manager()->restoreState(m_states[m_variant], Version);
-}
-
-void RestoreOtherOurs::finish()
-{
-    settle();
-}
-
-QStringList RestoreOtherOurs::result()
-{
-    return describeToolBars(m_scene.window());
 }

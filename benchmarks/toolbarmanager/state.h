@@ -4,13 +4,14 @@
 #define STATE_H
 
 #include "managedscene.h"
+#include "sceneside.h"
 
 #include <QByteArray>
 
 /*
  * saveState().
  */
-class SaveOurs : public Side
+class SaveOurs : public SceneSide<ManagedScene>
 {
 public:
     explicit SaveOurs(const Size &size);
@@ -19,7 +20,6 @@ public:
     QStringList result() override;
 
 private:
-    ManagedScene m_scene;
     QByteArray m_state;
 };
 
@@ -27,7 +27,7 @@ private:
  * Bare Qt knows the content of each toolbar and writes the same fields with QDataStream into an
  * empty QByteArray.
  */
-class SaveBare : public Side
+class SaveBare : public SceneSide<Scene>
 {
 public:
     explicit SaveBare(const Size &size);
@@ -36,7 +36,6 @@ public:
     QStringList result() override;
 
 private:
-    Scene m_scene;
     QList<QList<QAction *>> m_contents;
     QByteArray m_state;
 };
@@ -44,7 +43,7 @@ private:
 /*
  * restoreState() with the state as it is.
  */
-class RestoreSameOurs : public Side
+class RestoreSameOurs : public SceneSide<ManagedScene>
 {
 public:
     explicit RestoreSameOurs(const Size &size);
@@ -53,7 +52,24 @@ public:
     QStringList result() override;
 
 private:
-    ManagedScene m_scene;
+    QByteArray m_state;
+    bool m_restored = false;
+};
+
+/*
+ * The same with a manager that is new in each round, as when a host starts.
+ */
+class RestoreFirstOurs : public SceneSide<Scene>
+{
+public:
+    explicit RestoreFirstOurs(const Size &size);
+
+    void prepare() override;
+    void run() override;
+    QStringList result() override;
+
+private:
+    std::unique_ptr<RyToolBarManager> m_manager;
     QByteArray m_state;
     bool m_restored = false;
 };
@@ -62,7 +78,7 @@ private:
  * Bare Qt makes a table of the objectNames of all actions and one of those of all toolbars, reads
  * the same bytes, finds every name, and compares each list with what the toolbar holds.
  */
-class RestoreSameBare : public Side
+class RestoreSameBare : public SceneSide<Scene>
 {
 public:
     explicit RestoreSameBare(const Size &size);
@@ -71,7 +87,6 @@ public:
     QStringList result() override;
 
 private:
-    Scene m_scene;
     QHash<QToolBar *, QList<QAction *>> m_contents;
     QByteArray m_state;
     bool m_restored = false;
@@ -81,18 +96,15 @@ private:
  * restoreState() with bytes that change every entry of every toolbar; bare Qt's side is
  * SetToolBarBare, which does nothing but the widget work.
  */
-class RestoreOtherOurs : public Side
+class RestoreOtherOurs : public SceneSide<ManagedScene>
 {
 public:
     explicit RestoreOtherOurs(const Size &size);
 
     void prepare() override;
     void run() override;
-    void finish() override;
-    QStringList result() override;
 
 private:
-    ManagedScene m_scene;
     int m_variant = 0;
     QByteArray m_states[2];
 };
