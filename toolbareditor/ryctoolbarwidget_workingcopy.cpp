@@ -30,6 +30,7 @@ void RyCToolBarWidget::fillActionTree()
     m_treeItemOfAction.insert(nullptr, separator);
     m_actionOfTreeItem.insert(separator, nullptr);
 
+    form()->actions.reserve(m_manager->actions().size());
     QList<QTreeWidgetItem *> categoryItems;
     const auto categories = m_manager->categories();
     for (const QString &category : categories)
@@ -56,8 +57,9 @@ QTreeWidgetItem *RyCToolBarWidget::createActionItem(QAction *action)
     item->setIcon(0, action->icon());
     item->setTextAlignment(0, EntryAlignment);
     item->setFlags(item->flags() | Qt::ItemIsDragEnabled);
-    m_treeItemOfAction.insert(action, item);
-    m_actionOfTreeItem.insert(item, action);
+    // Most of them come in the order of their addresses.
+    m_treeItemOfAction.insert(m_treeItemOfAction.constEnd(), action, item);
+    m_actionOfTreeItem.insert(m_actionOfTreeItem.constEnd(), item, action);
     return item;
 }
 

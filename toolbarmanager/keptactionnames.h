@@ -3,6 +3,7 @@
 #ifndef KEPTACTIONNAMES_H
 #define KEPTACTIONNAMES_H
 
+#include <QList>
 #include <QSet>
 #include <QVector>
 
@@ -23,8 +24,9 @@ class KeptActionNames
 public:
     // No names at all.
     KeptActionNames();
-    // Reads the names. Of several actions with one name the first counts.
-    explicit KeptActionNames(const QSet<QAction *> &actions);
+    // Reads the names of the actions, which are also given in the order of their addresses. Of several
+    // with one name the first of the set counts, as for RyToolBarManager::findAction().
+    KeptActionNames(const QSet<QAction *> &actions, const QList<QAction *> &byAddress);
 
     // What was kept for the manager.
     static KeptActionNames of(const RyToolBarManager *manager);
@@ -44,6 +46,7 @@ private:
         QAction *action;
     };
 
+    bool read(const QList<QAction *> &actions);
     const Place &placeOf(const QString &name, uint hash) const;
 
     // A hash table, whose size is a power of two, with one free place at least. An action stands in

@@ -131,7 +131,7 @@ QAction *ToolBarStateRestorer::actionNamed(const QString &name)
 
 void ToolBarStateRestorer::readActionNames()
 {
-    m_actionNames = KeptActionNames(m_manager->actions());
+    m_actionNames = KeptActionNames(m_manager->actions(), m_manager->m_actionToCategory.keys());
     m_actionNames.keepFor(m_manager);
     m_hasReadActionNames = true;
     // An action that the host removed meanwhile may be gone.
