@@ -7,6 +7,7 @@
 #include "testcase.h"
 #include "texts.h"
 
+#include <QActionEvent>
 #include <QLayout>
 #include <QMap>
 #include <QMessageBox>
@@ -274,6 +275,7 @@ private Q_SLOTS:
     void anActionRemovedMeanwhileIsNotPlaced();
     void anActionRemovedWhileItIsPlacedIsNotPlacedByTheNextList();
     void anActionDeletedMeanwhileIsNotTouched();
+    void anActionDeletedWhileItIsPlacedIsNotTouched();
     void anActionPlacedAnewWhileItIsRemovedIsTakenOff();
     void aToolBarDeletedWhileAnActionIsRemovedIsNotTouched();
     void anActionDeletedWhileItIsRemovedIsNotTouched();
@@ -681,6 +683,42 @@ void tst_RyToolBarManager_reentry::anActionDeletedMeanwhileIsNotTouched()
     host.watch(&calls);
     host.manager.setToolBar(host.file, host.list(words("open | cut copy save")));
     QCOMPARE(contentOf(host.manager.actions(host.file)), words("open |"));
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::anActionDeletedWhileItIsPlacedIsNotTouched()
+{
+    // Keeps the toolbar, which would use the action, from hearing that it came.
+    class Thief : public QObject
+    {
+    public:
+        Thief(RyToolBarManager *manager, QAction *action)
+            : m_manager(manager)
+            , m_action(action)
+        {
+        }
+
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            if (event->type() != QEvent::ActionAdded
+                || static_cast<QActionEvent *>(event)->action() != m_action)
+                return false;
+            m_manager->removeAction(m_action);
+            delete m_action;
+            return true;
+        }
+
+    private:
+        RyToolBarManager *const m_manager;
+        const QPointer<QAction> m_action;
+    };
+
+    BusyHost host;
+    Thief thief(&host.manager, host.action(name("save")));
+    host.file->installEventFilter(&thief);
+    host.manager.setToolBar(host.file, host.list(words("open save cut")));
+    host.file->removeEventFilter(&thief);
+    QCOMPARE(contentOf(host.manager.actions(host.file)), words("open cut"));
     QCOMPARE(inconsistencyOf(host.manager), QString());
 }
 
