@@ -99,14 +99,21 @@ ry_add_package(Development librycustomizeddialog-dev
     SUGGESTS "librycustomizeddialog-doc, librycustomizeddialog-examples")
 
 ry_add_package(Documentation librycustomizeddialog-doc
-    "Qt 5 dialog in which users customize toolbars - reference"
-    "This package contains the reference of the classes, for browsers and for\nQt Assistant."
+    "Qt 5 dialog in which users customize toolbars - documentation"
+    "This package contains the guide, and the reference of the classes for\nbrowsers and for Qt Assistant."
     SECTION "doc\nMulti-Arch: foreign"
     SUGGESTS "qttools5-dev-tools")
 install(DIRECTORY "${RY_DOCS_DIR}/html"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/librycustomizeddialog-doc"
     COMPONENT RyCustomizedDialog_Documentation
     PATTERN index.qhp EXCLUDE)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/librycustomizeddialog-doc/guide"
+    COMPONENT RyCustomizedDialog_Documentation
+    FILES_MATCHING PATTERN "*.md" PATTERN "images/*"
+    PATTERN reference.md EXCLUDE
+    PATTERN snippets EXCLUDE
+    PATTERN pictures EXCLUDE)
 install(FILES "${RY_DOCS_DIR}/RyCustomizedDialog.qch"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/qt5/doc"
     COMPONENT RyCustomizedDialog_Documentation)
