@@ -3,6 +3,7 @@
 #include "nextmodal.h"
 
 #include <QApplication>
+#include <QWindow>
 #include <QtTest>
 
 NextModal::NextModal(const std::function<void(QWidget *)> &deal)
@@ -22,6 +23,9 @@ void NextModal::look()
 {
     const QPointer<QWidget> modal = QApplication::activeModalWidget();
     if (!modal || modal == m_before || !modal->isVisible())
+        return;
+    // A window that is closed before the X server has mapped it cannot be shown anew in peace.
+    if (!modal->windowHandle() || !modal->windowHandle()->isExposed())
         return;
     m_timer.stop();
     m_shown = true;
