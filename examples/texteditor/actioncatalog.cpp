@@ -18,6 +18,19 @@ QPixmap inColor(QPixmap pixmap, const QColor &color)
     return pixmap;
 }
 
+// The color shines around the drawing, which so stands out on dark and on light backgrounds.
+QPixmap withHalo(const QPixmap &drawing, const QColor &color)
+{
+    const QPixmap shape = inColor(drawing, color);
+    QPixmap result(drawing);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    for (const QPointF offset : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)})
+        painter.drawPixmap(offset, shape);
+    painter.drawPixmap(0, 0, drawing);
+    return result;
+}
+
 // A style tints the icons of selected rows in the color that is already behind them, so that little
 // is left to see in the toolbar editor. These icons bring pictures of their own for that.
 QIcon iconNamed(const char *name)
@@ -28,7 +41,7 @@ QIcon iconNamed(const char *name)
     for (const int size : {16, 22, 24, 32}) {
         const QPixmap pixmap = drawing.pixmap(size);
         icon.addPixmap(pixmap);
-        icon.addPixmap(inColor(pixmap, selected), QIcon::Selected);
+        icon.addPixmap(withHalo(pixmap, selected), QIcon::Selected);
     }
     return icon;
 }
