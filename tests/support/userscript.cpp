@@ -32,6 +32,7 @@ bool isSettled(const QWidget *window, const RealInput &input)
 UserScript::UserScript()
     : m_index(-1)
     , m_loopLevel(0)
+    , m_hasMoved(false)
 {
     qApp->installEventFilter(this);
     m_timer.setInterval(1);
@@ -61,9 +62,26 @@ void UserScript::moveTo(const std::function<QWidget *()> &widget,
                         const std::function<QPoint()> &place)
 {
     const auto target = [=] { return widget()->mapToGlobal(place()); };
+    if (!m_hasMoved)
+        moveBeside(widget, target);
+    m_hasMoved = true;
     step(
         QStringLiteral("move"), [=] { movePointer(target()); },
         [=] { return m_pointer == target(); });
+}
+
+// Qt makes no move to the place where it saw the pointer last, which may be the target, before the
+// pointer left for where the script starts. From beside it, it does.
+void UserScript::moveBeside(const std::function<QWidget *()> &widget,
+                            const std::function<QPoint()> &target)
+{
+    const auto beside = [=] {
+        const bool isRight = target().x() > widget()->mapToGlobal(widget()->rect().center()).x();
+        return target() + QPoint(isRight ? -1 : 1, 0);
+    };
+    step(
+        QStringLiteral("move beside"), [=] { movePointer(beside()); },
+        [=] { return m_pointer == beside(); });
 }
 
 void UserScript::moveTo(QWidget *widget, const QPoint &place)
@@ -254,6 +272,7 @@ void UserScript::end()
 {
     m_timer.stop();
     m_steps.clear();
+    m_hasMoved = false;
     m_loop.quit();
 }
 

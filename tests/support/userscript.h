@@ -86,6 +86,8 @@ private:
         std::function<bool()> done;
     };
 
+    void moveBeside(const std::function<QWidget *()> &widget,
+                    const std::function<QPoint()> &target);
     void movePointer(const QPoint &position);
     bool inNestedLoop() const;
     void giveUp();
@@ -100,6 +102,8 @@ private:
     QString m_failure;
     // How deep the event loop of the test itself is; below it runs a drag or a modal dialog.
     int m_loopLevel;
+    // Whether a step so far moves the pointer.
+    bool m_hasMoved;
     // Where a window of ours had the pointer, or what it drags, since the last step that moves it.
     QPoint m_pointer;
     // The keys that our windows know to be held.
