@@ -102,7 +102,7 @@ ry_add_package(Documentation librycustomizeddialog-doc
     "Qt 5 dialog in which users customize toolbars - documentation"
     "This package contains the guide, and the reference of the classes for\nbrowsers and for Qt Assistant."
     SECTION "doc\nMulti-Arch: foreign"
-    SUGGESTS "qttools5-dev-tools")
+    SUGGESTS "librycustomizeddialog-examples, qttools5-dev-tools")
 install(DIRECTORY "${RY_DOCS_DIR}/html"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/librycustomizeddialog-doc"
     COMPONENT RyCustomizedDialog_Documentation
@@ -110,10 +110,18 @@ install(DIRECTORY "${RY_DOCS_DIR}/html"
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/librycustomizeddialog-doc/guide"
     COMPONENT RyCustomizedDialog_Documentation
-    FILES_MATCHING PATTERN "*.md" PATTERN "images/*"
-    PATTERN reference.md EXCLUDE
-    PATTERN snippets EXCLUDE
+    FILES_MATCHING PATTERN "*.md" PATTERN "images/*" PATTERN "icons/*" PATTERN "*.qrc"
     PATTERN pictures EXCLUDE)
+# The guide's links lead to ../examples, and those of the examples to ../../docs: each is a package.
+file(MAKE_DIRECTORY "${RY_DEBIAN_BUILD_DIR}")
+file(CREATE_LINK ../librycustomizeddialog-examples/examples "${RY_DEBIAN_BUILD_DIR}/examples" SYMBOLIC)
+file(CREATE_LINK ../librycustomizeddialog-doc/guide "${RY_DEBIAN_BUILD_DIR}/docs" SYMBOLIC)
+install(FILES "${RY_DEBIAN_BUILD_DIR}/examples"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/librycustomizeddialog-doc"
+    COMPONENT RyCustomizedDialog_Documentation)
+install(FILES "${RY_DEBIAN_BUILD_DIR}/docs"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/librycustomizeddialog-examples"
+    COMPONENT RyCustomizedDialog_Examples)
 install(FILES "${RY_DOCS_DIR}/RyCustomizedDialog.qch"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/qt5/doc"
     COMPONENT RyCustomizedDialog_Documentation)
@@ -127,7 +135,7 @@ ry_add_package(Examples librycustomizeddialog-examples
     "This package contains the sources of applications that use the library."
     SECTION "doc\nMulti-Arch: foreign"
     RECOMMENDS "librycustomizeddialog-dev"
-    SUGGESTS "libqt5svg5-dev")
+    SUGGESTS "libqt5svg5-dev, librycustomizeddialog-doc")
 file(GLOB RY_EXAMPLES CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/examples/*/CMakeLists.txt")
 foreach(example IN LISTS RY_EXAMPLES)
     get_filename_component(example "${example}" DIRECTORY)

@@ -16,7 +16,10 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSettings>
+#include <QSlider>
 #include <QTemporaryDir>
+#include <QToolButton>
+#include <QWidgetAction>
 #include <QtTest>
 
 namespace {
@@ -114,6 +117,27 @@ void Window::closeEvent(QCloseEvent *event)
 }
 //! [customize]
 
+//! [widget]
+class ZoomAction : public QWidgetAction
+{
+public:
+    explicit ZoomAction(QObject *parent)
+        : QWidgetAction(parent)
+    {
+        setObjectName(QStringLiteral("view_zoom"));
+        setText(QCoreApplication::translate("Actions", "Zoom"));
+    }
+
+protected:
+    QWidget *createWidget(QWidget *parent) override
+    {
+        QSlider *const slider = new QSlider(Qt::Horizontal, parent);
+        connect(slider, &QSlider::valueChanged, this, &QAction::setData);
+        return slider;
+    }
+};
+//! [widget]
+
 QToolBar *toolBarTitled(const QMainWindow &window, const QString &title)
 {
     const auto toolBars = window.findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
@@ -133,6 +157,9 @@ class tst_guide_getting_started : public TestCase
 private Q_SLOTS:
     void whatTheUserMadeIsThereAtTheNextStart();
     void theMenuOpensTheDialog();
+    void aWidgetStandsOnEachToolBar();
+    void aDefaultWidgetStandsOnOneToolBar();
+    void aMenuStandsOnEachToolBar();
 };
 
 void tst_guide_getting_started::whatTheUserMadeIsThereAtTheNextStart()
@@ -175,6 +202,65 @@ void tst_guide_getting_started::theMenuOpensTheDialog()
     const NextModal dialog([](QWidget *shown) { shown->close(); });
     window.menuBar()->actions().at(0)->menu()->actions().at(0)->trigger();
     QVERIFY(dialog.wasShown());
+}
+
+void tst_guide_getting_started::aWidgetStandsOnEachToolBar()
+{
+    QMainWindow window;
+    RyToolBarManager manager;
+    manager.setMainWindow(&window);
+    ZoomAction zoom(&window);
+    manager.addAction(&zoom, QStringLiteral("View"));
+    QToolBar *const first = manager.createToolBar(QStringLiteral("First"));
+    QToolBar *const second = manager.createToolBar(QStringLiteral("Second"));
+    manager.setToolBar(first, {&zoom});
+    manager.setToolBar(second, {&zoom});
+    const QByteArray state = manager.saveState(1);
+    for (int time = 0; time < 2; ++time) {
+        QTRY_COMPARE(first->findChildren<QSlider *>().size(), 1); // Qt deletes old ones later
+        QTRY_COMPARE(second->findChildren<QSlider *>().size(), 1); // Qt deletes old ones later
+        manager.setToolBar(first, {});
+        manager.setToolBar(second, {});
+        QVERIFY(manager.restoreState(state, 1));
+    }
+    second->findChild<QSlider *>()->setValue(30);
+    QCOMPARE(zoom.data().toInt(), 30);
+}
+
+void tst_guide_getting_started::aDefaultWidgetStandsOnOneToolBar()
+{
+    QMainWindow window;
+    RyToolBarManager manager;
+    manager.setMainWindow(&window);
+    QWidgetAction action(&window);
+    action.setObjectName(QStringLiteral("view_zoom"));
+    action.setDefaultWidget(new QSlider);
+    manager.addAction(&action, QStringLiteral("View"));
+    QToolBar *const first = manager.createToolBar(QStringLiteral("First"));
+    QToolBar *const second = manager.createToolBar(QStringLiteral("Second"));
+    manager.setToolBar(first, {&action});
+    manager.setToolBar(second, {&action});
+    QCOMPARE(window.findChildren<QSlider *>().size(), 1);
+    QCOMPARE(manager.actions(first), manager.actions(second));
+}
+
+void tst_guide_getting_started::aMenuStandsOnEachToolBar()
+{
+    QMainWindow window;
+    RyToolBarManager manager;
+    manager.setMainWindow(&window);
+    QMenu menu;
+    QAction action(QStringLiteral("Background"), &window);
+    action.setMenu(&menu);
+    manager.addAction(&action, QStringLiteral("View"));
+    for (const char *title : {"First", "Second"}) {
+        QToolBar *const toolBar = manager.createToolBar(QLatin1String(title));
+        manager.setToolBar(toolBar, {&action});
+        const auto *const button = qobject_cast<QToolButton *>(toolBar->widgetForAction(&action));
+        QVERIFY(button);
+        QCOMPARE(button->defaultAction()->menu(), &menu);
+        QCOMPARE(button->popupMode(), QToolButton::MenuButtonPopup);
+    }
 }
 
 QTEST_MAIN(tst_guide_getting_started)

@@ -153,8 +153,16 @@ void restoreWithNewDefaults(RyToolBarManager *manager, QSettings *settings)
     //! [new-defaults-at-start]
     restoreAnyVersion(manager, state);
     addNewDefaults(manager, settings->value(QStringLiteral("layout/known")).toStringList());
-    settings->setValue(QStringLiteral("layout/known"), placesOfDefaults(*manager));
     //! [new-defaults-at-start]
+}
+
+void saveWithNewDefaults(const QMainWindow &window, const RyToolBarManager &manager,
+                         QSettings *settings)
+{
+    //! [new-defaults-at-save]
+    saveLayout(window, manager, settings);
+    settings->setValue(QStringLiteral("layout/known"), placesOfDefaults(manager));
+    //! [new-defaults-at-save]
 }
 
 //! [seal]
@@ -205,14 +213,37 @@ bool restorePacked(QMainWindow *window, RyToolBarManager *manager, const QByteAr
 }
 //! [pack]
 
+//! [whole]
+QByteArray wholeLayout(const QMainWindow &window, const RyToolBarManager &manager)
+{
+    QByteArray whole;
+    QDataStream stream(&whole, QIODevice::WriteOnly);
+    stream << packedLayout(window, manager) << placesOfDefaults(manager) << window.saveGeometry();
+    return sealed(whole);
+}
+
+bool restoreWhole(QMainWindow *window, RyToolBarManager *manager, const QByteArray &whole)
+{
+    QByteArray packed;
+    QStringList known;
+    QByteArray geometry;
+    QDataStream stream(unsealed(whole));
+    stream >> packed >> known >> geometry;
+    window->restoreGeometry(geometry);
+    const bool restored = restorePacked(window, manager, packed);
+    addNewDefaults(manager, known); // where nothing was restored, nothing is missing
+    return restored;
+}
+//! [whole]
+
 //! [trial]
 void startWithLayout(QMainWindow *window, RyToolBarManager *manager, QSettings *settings)
 {
-    const QString key = QStringLiteral("layout");
+    const QString key = QStringLiteral("wholeLayout"); // remove() takes the keys below it too
     const QByteArray kept = settings->value(key).toByteArray();
     settings->remove(key); // if this start ends in a crash, the next one begins without
     settings->sync();
-    restorePacked(window, manager, unsealed(kept));
+    restoreWhole(window, manager, kept);
     window->show();
     QTimer::singleShot(0, window, [=] { settings->setValue(key, kept); });
 }
@@ -324,10 +355,13 @@ private Q_SLOTS:
     void unknownVersionsChangeNothing();
     void aNewDefaultAppearsAndARemovedOneDoesNot();
     void aNewDefaultAppearsOnce();
+    void aNewDefaultStaysUntilTheLayoutIsSaved();
     void aNewToolBarShowsItsDefaults();
     void theFirstStartShowsTheDefaults();
     void everyDamageIsSeen();
     void whatIsWholeComesBack();
+    void theWholeLayoutComesBackWithNewDefaults();
+    void aDamagedWholeLayoutShowsTheDefaults();
     void aStartThatEndsWellKeepsTheLayout();
     void aStartThatCrashesDropsTheLayout();
     void profilesReplaceEachOther();
@@ -483,7 +517,7 @@ void tst_guide_saving::saveWithoutCut()
     EditHost host;
     restoreWithNewDefaults(&host.manager, m_settings.data());
     host.manager.setToolBar(host.edit, host.list(words("edit_copy")));
-    saveLayout(host.window, host.manager, m_settings.data());
+    saveWithNewDefaults(host.window, host.manager, m_settings.data());
 }
 
 void tst_guide_saving::aNewDefaultAppearsAndARemovedOneDoesNot()
@@ -501,11 +535,21 @@ void tst_guide_saving::aNewDefaultAppearsOnce()
     NextEditHost next;
     restoreWithNewDefaults(&next.manager, m_settings.data());
     next.manager.setToolBar(next.edit, next.list(words("edit_find"))); // the user removes Paste
-    saveLayout(next.window, next.manager, m_settings.data());
+    saveWithNewDefaults(next.window, next.manager, m_settings.data());
 
     NextEditHost again;
     restoreWithNewDefaults(&again.manager, m_settings.data());
     QCOMPARE(standingOn(again.edit), words("edit_find"));
+}
+
+void tst_guide_saving::aNewDefaultStaysUntilTheLayoutIsSaved()
+{
+    saveWithoutCut();
+    for (int start = 1; start <= 2; ++start) {
+        NextEditHost next;
+        restoreWithNewDefaults(&next.manager, m_settings.data());
+        QCOMPARE(standingOn(next.edit), words("edit_copy edit_paste edit_find"));
+    }
 }
 
 void tst_guide_saving::aNewToolBarShowsItsDefaults()
@@ -525,6 +569,8 @@ void tst_guide_saving::theFirstStartShowsTheDefaults()
     NextEditHost host;
     restoreWithNewDefaults(&host.manager, m_settings.data());
     QCOMPARE(standingOn(host.edit), words("edit_cut edit_copy edit_paste | edit_find"));
+    QVERIFY(m_settings->allKeys().isEmpty());
+    saveWithNewDefaults(host.window, host.manager, m_settings.data());
     QCOMPARE(m_settings->value(QStringLiteral("layout/known")).toStringList(),
              words("edit/edit_cut edit/edit_copy edit/edit_paste edit/edit_find"));
 }
@@ -558,24 +604,54 @@ void tst_guide_saving::whatIsWholeComesBack()
     QVERIFY(!restorePacked(&next.window, &next.manager, QByteArray()));
 }
 
+void tst_guide_saving::theWholeLayoutComesBackWithNewDefaults()
+{
+    EditHost host;
+    host.window.resize(300, 200);
+    host.window.show();
+    host.window.addToolBar(Qt::LeftToolBarArea, host.addCustomToolBar());
+    host.manager.setToolBar(host.edit, host.list(words("edit_copy"))); // without Cut
+    const QByteArray whole = wholeLayout(host.window, host.manager);
+
+    NextEditHost next;
+    QVERIFY(restoreWhole(&next.window, &next.manager, whole));
+    QCOMPARE(standingOn(next.edit), words("edit_copy edit_paste edit_find"));
+    QToolBar *const custom = next.manager.toolBarByName(QStringLiteral("_Custom_Toolbar_1"));
+    QCOMPARE(standingOn(custom), words("edit_copy"));
+    QCOMPARE(next.window.toolBarArea(custom), Qt::LeftToolBarArea);
+    QCOMPARE(next.window.size(), QSize(300, 200));
+}
+
+void tst_guide_saving::aDamagedWholeLayoutShowsTheDefaults()
+{
+    EditHost host;
+    host.manager.setToolBar(host.edit, {});
+    QByteArray whole = wholeLayout(host.window, host.manager);
+    whole[whole.size() / 2] = char(whole.at(whole.size() / 2) ^ 1);
+
+    NextEditHost next;
+    QVERIFY(!restoreWhole(&next.window, &next.manager, whole));
+    QCOMPARE(standingOn(next.edit), words("edit_cut edit_copy edit_paste | edit_find"));
+}
+
 void tst_guide_saving::aStartThatEndsWellKeepsTheLayout()
 {
     EditHost host;
     host.manager.setToolBar(host.edit, {});
-    const QByteArray layout = sealed(packedLayout(host.window, host.manager));
-    m_settings->setValue(QStringLiteral("layout"), layout);
+    const QByteArray layout = wholeLayout(host.window, host.manager);
+    m_settings->setValue(QStringLiteral("wholeLayout"), layout);
 
     EditHost next;
     startWithLayout(&next.window, &next.manager, m_settings.data());
     QCOMPARE(standingOn(next.edit), QStringList());
-    QTRY_COMPARE(m_settings->value(QStringLiteral("layout")).toByteArray(), layout);
+    QTRY_COMPARE(m_settings->value(QStringLiteral("wholeLayout")).toByteArray(), layout);
 }
 
 void tst_guide_saving::aStartThatCrashesDropsTheLayout()
 {
     EditHost host;
     m_settings->setValue(QStringLiteral("other"), 1);
-    m_settings->setValue(QStringLiteral("layout"), sealed(packedLayout(host.window, host.manager)));
+    m_settings->setValue(QStringLiteral("wholeLayout"), wholeLayout(host.window, host.manager));
     m_settings->sync();
     {
         EditHost next;
@@ -587,7 +663,7 @@ void tst_guide_saving::aStartThatCrashesDropsTheLayout()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray text = file.readAll();
     QVERIFY(text.contains("other"));
-    QVERIFY(!text.contains("layout"));
+    QVERIFY(!text.contains("wholeLayout"));
 }
 
 void tst_guide_saving::profilesReplaceEachOther()

@@ -131,6 +131,23 @@ class Pages(unittest.TestCase):
         self.assertEqual(wrong, [])
         self.assertGreater(links, 50)
 
+    def test_links_of_the_guide_lead_to_what_is_installed_with_it(self):
+        # The packages have docs/, without the code and the pages' tools, and beside it examples/.
+        wrong = []
+        links = 0
+        for page in sorted(DOCS.rglob('*.md')):
+            for link in self.LINK.findall(self.CODE.sub('', page.read_text())):
+                if re.match(r'[a-z]+:|#', link):
+                    continue
+                links += 1
+                target = (page.parent / unquote(link).partition('#')[0]).resolve()
+                if (SOURCE_DIR / 'examples') in target.parents:
+                    continue
+                if DOCS not in target.parents or target.suffix == '.cpp':
+                    wrong.append(f'{page.relative_to(SOURCE_DIR)}: {link}')
+        self.assertEqual(wrong, [])
+        self.assertGreater(links, 50)
+
     def test_wrong_links_are_told(self):
         page = DOCS / 'README.md'
         self.assertIsNone(self.problem(page, 'names.md'))
