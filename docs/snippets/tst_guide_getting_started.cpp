@@ -210,6 +210,7 @@ void tst_guide_getting_started::aWidgetStandsOnEachToolBar()
     RyToolBarManager manager;
     manager.setMainWindow(&window);
     ZoomAction zoom(&window);
+    QCOMPARE(zoom.text(), QStringLiteral("Zoom"));
     manager.addAction(&zoom, QStringLiteral("View"));
     QToolBar *const first = manager.createToolBar(QStringLiteral("First"));
     QToolBar *const second = manager.createToolBar(QStringLiteral("Second"));
