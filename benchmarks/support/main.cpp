@@ -185,10 +185,36 @@ QJsonArray memoryRows()
     return array;
 }
 
+void print(const QJsonDocument &document)
+{
+    out() << document.toJson() << Qt::flush;
+}
+
 bool write(const QString &fileName, const QJsonObject &object)
 {
     QFile file(fileName);
     return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) > 0;
+}
+
+QStringList resultOf(Side *side)
+{
+    side->prepare();
+    side->run();
+    const QStringList result = side->result();
+    side->finish();
+    return result;
+}
+
+QStringList differencesOf(Side *ours, Side *bare)
+{
+    const QStringList one = resultOf(ours);
+    const QStringList other = resultOf(bare);
+    QStringList differences;
+    for (int line = 0; line < qMax(one.size(), other.size()); ++line) {
+        if (one.value(line) != other.value(line))
+            differences << one.value(line) << other.value(line);
+    }
+    return differences;
 }
 
 // Both sides of each operation give the same, twice.
@@ -198,23 +224,11 @@ bool check()
     for (const Family &family : families()) {
         const auto ours = family.ours(family.small);
         const auto bare = family.bare(family.small);
-        QStringList differences;
-        for (int i = 0; i < 2; ++i) {
-            QStringList results[2];
-            for (Side *const side : {ours.get(), bare.get()}) {
-                side->prepare();
-                side->run();
-                results[side == bare.get()] = side->result();
-                side->finish();
-            }
-            for (int line = 0; line < qMax(results[0].size(), results[1].size()); ++line) {
-                if (results[0].value(line) != results[1].value(line))
-                    differences << results[0].value(line) << results[1].value(line);
-            }
-        }
+        const QStringList differences =
+            differencesOf(ours.get(), bare.get()) + differencesOf(ours.get(), bare.get());
         out() << family.id << (differences.isEmpty() ? ": both the same" : ": DIFFERENT")
               << Qt::endl;
-        for (const QString &line : qAsConst(differences))
+        for (const QString &line : differences)
             out() << "  " << line.left(1000) << Qt::endl;
         same = same && differences.isEmpty();
     }
@@ -226,6 +240,77 @@ void keepMemory()
 {
     mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
     mallopt(M_TRIM_THRESHOLD, 1024 * 1024 * 1024);
+}
+
+void list()
+{
+    for (const Family &family : families())
+        out() << family.id << Qt::endl;
+}
+
+void about()
+{
+    out() << "qt " << qVersion() << "\ncompiler " << RY_COMPILER << Qt::endl;
+}
+
+void addOptions(QCommandLineParser *parser)
+{
+    const auto add = [parser](const char *name, const char *description, const char *value = "",
+                              const char *usual = "") {
+        parser->addOption({QString::fromLatin1(name), QString::fromLatin1(description),
+                           QString::fromLatin1(value), QString::fromLatin1(usual)});
+    };
+    add("check", "Compare what both sides give; measure nothing.");
+    add("list", "Print the names of the operations.");
+    add("about", "Print the versions of Qt and compiler.");
+    add("count", "Do one operation of the library once, in a function of its own.", "operation");
+    add("only", "Measure the lines of one operation, no curves.", "operation");
+    add("bare", "Measure bare Qt beside itself, to see how exact the ratios are.");
+    add("row", "Measure one line and print it as JSON.", "number");
+    add("curve", "Measure one point of a curve and print it as JSON.", "number");
+    add("number", "Where on the curve the point is.", "number");
+    add("seconds", "Seconds for each line; 3 if not given.", "seconds", "3");
+    add("json", "Write all figures to a file.", "file");
+}
+
+bool measureAll(const QString &seconds, const QString &only, bool bareOnly, const QString &file)
+{
+    QJsonObject figures{{QStringLiteral("qt"), QLatin1String(qVersion())},
+                        {QStringLiteral("compiler"), QStringLiteral(RY_COMPILER)},
+                        {QStringLiteral("rows"), measureRows(seconds, only, bareOnly)}};
+    if (only.isEmpty() && !bareOnly) {
+        figures.insert(QStringLiteral("memory"), memoryRows());
+        figures.insert(QStringLiteral("curves"),
+                       measureCurves(QString::number(seconds.toDouble() / 5)));
+    }
+    if (file.isEmpty() || write(file, figures))
+        return true;
+    std::fputs("The file cannot be written.\n", stderr);
+    return false;
+}
+
+bool doWhatIsAsked(const QCommandLineParser &parser)
+{
+    const auto isSet = [&](const char *name) { return parser.isSet(QLatin1String(name)); };
+    const auto value = [&](const char *name) { return parser.value(QLatin1String(name)); };
+    const double seconds = value("seconds").toDouble();
+    if (isSet("check"))
+        return check();
+    if (isSet("count"))
+        return countOnce(value("count"));
+    if (isSet("list"))
+        list();
+    else if (isSet("about"))
+        about();
+    else if (isSet("row"))
+        print(
+            QJsonDocument(measureRow(rows().value(value("row").toInt()), seconds, isSet("bare"))));
+    else if (isSet("curve"))
+        print(QJsonDocument(measurePoint(curves().value(value("curve").toInt()),
+                                         value("number").toInt(), seconds)));
+    else
+        return measureAll(value("seconds"), value("only"), isSet("bare"), value("json"));
+    return true;
 }
 
 } // namespace
@@ -242,81 +327,7 @@ int main(int argc, char *argv[])
     parser.setApplicationDescription(
         QStringLiteral("Measures the library beside bare Qt that does the same."));
     parser.addHelpOption();
-    const QCommandLineOption checkOption(
-        QStringLiteral("check"), QStringLiteral("Compare what both sides give; measure nothing."));
-    const QCommandLineOption listOption(QStringLiteral("list"),
-                                        QStringLiteral("Print the names of the operations."));
-    const QCommandLineOption aboutOption(QStringLiteral("about"),
-                                         QStringLiteral("Print the versions of Qt and compiler."));
-    const QCommandLineOption countOption(
-        QStringLiteral("count"),
-        QStringLiteral("Do one operation of the library once, in a function of its own."),
-        QStringLiteral("operation"));
-    const QCommandLineOption onlyOption(
-        QStringLiteral("only"), QStringLiteral("Measure the lines of one operation, no curves."),
-        QStringLiteral("operation"));
-    const QCommandLineOption bareOption(
-        QStringLiteral("bare"),
-        QStringLiteral("Measure bare Qt beside itself, to see how exact the ratios are."));
-    const QCommandLineOption rowOption(QStringLiteral("row"),
-                                       QStringLiteral("Measure one line and print it as JSON."),
-                                       QStringLiteral("number"));
-    const QCommandLineOption curveOption(
-        QStringLiteral("curve"),
-        QStringLiteral("Measure one point of a curve and print it as JSON."),
-        QStringLiteral("number"));
-    const QCommandLineOption numberOption(QStringLiteral("number"),
-                                          QStringLiteral("Where on the curve the point is."),
-                                          QStringLiteral("number"));
-    const QCommandLineOption secondsOption(QStringLiteral("seconds"),
-                                           QStringLiteral("Seconds for each line; 3 if not given."),
-                                           QStringLiteral("seconds"), QStringLiteral("3"));
-    const QCommandLineOption jsonOption(QStringLiteral("json"),
-                                        QStringLiteral("Write all figures to a file."),
-                                        QStringLiteral("file"));
-    parser.addOptions({checkOption, listOption, aboutOption, countOption, onlyOption, bareOption,
-                       rowOption, curveOption, numberOption, secondsOption, jsonOption});
+    addOptions(&parser);
     parser.process(application);
-
-    if (parser.isSet(listOption)) {
-        for (const Family &family : families())
-            out() << family.id << Qt::endl;
-        return 0;
-    }
-    if (parser.isSet(aboutOption)) {
-        out() << "qt " << qVersion() << "\ncompiler " << RY_COMPILER << Qt::endl;
-        return 0;
-    }
-    if (parser.isSet(checkOption))
-        return check() ? 0 : 1;
-    if (parser.isSet(countOption))
-        return countOnce(parser.value(countOption)) ? 0 : 1;
-
-    const bool bareOnly = parser.isSet(bareOption);
-    const QString only = parser.value(onlyOption);
-    const double seconds = parser.value(secondsOption).toDouble();
-    if (parser.isSet(rowOption)) {
-        const Row row = rows().value(parser.value(rowOption).toInt());
-        out() << QJsonDocument(measureRow(row, seconds, bareOnly)).toJson() << Qt::flush;
-        return 0;
-    }
-    if (parser.isSet(curveOption)) {
-        const Curve curve = curves().value(parser.value(curveOption).toInt());
-        const int number = parser.value(numberOption).toInt();
-        out() << QJsonDocument(measurePoint(curve, number, seconds)).toJson() << Qt::flush;
-        return 0;
-    }
-    QJsonObject figures{
-        {QStringLiteral("qt"), QLatin1String(qVersion())},
-        {QStringLiteral("compiler"), QStringLiteral(RY_COMPILER)},
-        {QStringLiteral("rows"), measureRows(parser.value(secondsOption), only, bareOnly)}};
-    if (only.isEmpty() && !bareOnly) {
-        figures.insert(QStringLiteral("memory"), memoryRows());
-        figures.insert(QStringLiteral("curves"), measureCurves(QString::number(seconds / 5)));
-    }
-    if (parser.isSet(jsonOption) && !write(parser.value(jsonOption), figures)) {
-        std::fputs("The file cannot be written.\n", stderr);
-        return 1;
-    }
-    return 0;
+    return doWhatIsAsked(parser) ? 0 : 1;
 }
