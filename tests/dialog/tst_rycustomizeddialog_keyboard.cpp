@@ -136,16 +136,6 @@ struct Stage
         key(Qt::Key_Return, [this] { return !nameEditor(); });
     }
 
-    QStringList titlesInHost() const
-    {
-        QStringList titles;
-        const auto toolBars = host.window.findChildren<QToolBar *>();
-        for (const QToolBar *toolBar : toolBars)
-            titles << toolBar->windowTitle();
-        titles.sort();
-        return titles;
-    }
-
     Host host;
     RyCustomizedDialog dialog;
     EditorViews views;
@@ -260,7 +250,7 @@ void tst_RyCustomizedDialog_Keyboard::aToolBarIsMadeAndNamed()
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QVERIFY(openAfterNaming);
-    QCOMPARE(stage.titlesInHost(), words("File Mine Tools"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine Tools"));
 }
 
 void tst_RyCustomizedDialog_Keyboard::anEmptyNameIsTypedToo()
@@ -273,7 +263,7 @@ void tst_RyCustomizedDialog_Keyboard::anEmptyNameIsTypedToo()
     stage.key(Qt::Key_Return, [&] { return !stage.nameEditor(); });
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(stage.titlesInHost(),
+    QCOMPARE(toolBarTitlesIn(stage.host.window),
              (QStringList{QString(), QStringLiteral("File"), QStringLiteral("Mine")}));
 }
 
@@ -286,7 +276,7 @@ void tst_RyCustomizedDialog_Keyboard::aToolBarIsRenamedByItsButton()
     stage.typeName(QStringLiteral("Ours"));
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(stage.titlesInHost(), words("File Ours"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Ours"));
 }
 
 void tst_RyCustomizedDialog_Keyboard::aToolBarIsRenamedWithF2()
@@ -297,7 +287,7 @@ void tst_RyCustomizedDialog_Keyboard::aToolBarIsRenamedWithF2()
     stage.typeName(QStringLiteral("Ours"));
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(stage.titlesInHost(), words("File Ours"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Ours"));
 }
 
 void tst_RyCustomizedDialog_Keyboard::escapeInTheNameEditorKeepsTheDialog()
@@ -321,7 +311,7 @@ void tst_RyCustomizedDialog_Keyboard::aToolBarIsRemoved()
     stage.press(stage.views.removeButton, "Open Save");
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(stage.titlesInHost(), words("File"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File"));
 }
 
 void tst_RyCustomizedDialog_Keyboard::actionsAreMovedUpAndDown()
@@ -422,7 +412,7 @@ void tst_RyCustomizedDialog_Keyboard::returnPressesOkFromEverywhere()
     stage.tabTo(inPage ? inPage : stage.tabs->tabBar());
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
     QCOMPARE(standingOn(stage.mine), words("cut | copy"));
 }
 
@@ -472,7 +462,7 @@ void tst_RyCustomizedDialog_Keyboard::restoreDefaultsIsPressed()
     stage.tabTo(stage.dialog.okButton());
     stage.closed(Qt::Key_Space);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(stage.titlesInHost(), words("File"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File"));
 }
 
 void tst_RyCustomizedDialog_Keyboard::escapeRejects()

@@ -134,16 +134,6 @@ struct Stage
         user.clickKey(Qt::Key_Return, [this] { return !nameEditor(); });
     }
 
-    QStringList titlesInHost() const
-    {
-        QStringList titles;
-        const auto toolBars = host.window.findChildren<QToolBar *>();
-        for (const QToolBar *toolBar : toolBars)
-            titles << toolBar->windowTitle();
-        titles.sort();
-        return titles;
-    }
-
     Host host;
     RyCustomizedDialog dialog;
     EditorViews editor;
@@ -187,7 +177,7 @@ void tst_RyCustomizedDialog_Window::okAccepts()
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QVERIFY(!stage.dialog.isVisible());
-    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
     QCOMPARE(standingOn(stage.mine), words("cut"));
 }
 
@@ -302,7 +292,7 @@ void tst_RyCustomizedDialog_Window::cancelDropsWhatTheUserMade()
     stage.newToolBar(QStringLiteral("My Tools"));
     stage.user.click(stage.cancelButton);
     QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
 }
 
 void tst_RyCustomizedDialog_Window::closingTheWindowDropsWhatTheUserMade()
@@ -315,7 +305,7 @@ void tst_RyCustomizedDialog_Window::closingTheWindowDropsWhatTheUserMade()
         [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
         [&] { return !stage.dialog.isVisible(); });
     QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
 }
 
 void tst_RyCustomizedDialog_Window::applyShowsItAndKeepsTheDialog()
@@ -325,14 +315,15 @@ void tst_RyCustomizedDialog_Window::applyShowsItAndKeepsTheDialog()
     stage.waitForDialog();
     stage.newToolBar(QStringLiteral("Tools"));
     stage.user.click(stage.dialog.applyButton());
-    stage.user.waitFor(QStringLiteral("toolbar"),
-                       [&] { return stage.titlesInHost() == words("File Mine Tools"); });
+    stage.user.waitFor(QStringLiteral("toolbar"), [&] {
+        return toolBarTitlesIn(stage.host.window) == words("File Mine Tools");
+    });
     stage.user.act([&] { openAfterApply = stage.dialog.isVisible(); });
     stage.newToolBar(QStringLiteral("Dropped"));
     stage.user.click(stage.cancelButton);
     QCOMPARE(stage.exec(), QStringLiteral("rejected"));
     QVERIFY(openAfterApply);
-    QCOMPARE(stage.titlesInHost(), words("File Mine Tools"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine Tools"));
 }
 
 void tst_RyCustomizedDialog_Window::escapeInTheNameEditorKeepsTheDialogAndTheName()
@@ -347,7 +338,7 @@ void tst_RyCustomizedDialog_Window::escapeInTheNameEditorKeepsTheDialogAndTheNam
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QVERIFY(openAfterEscape);
-    QCOMPARE(stage.titlesInHost(),
+    QCOMPARE(toolBarTitlesIn(stage.host.window),
              (QStringList{QStringLiteral("Custom Toolbar"), QStringLiteral("File"),
                           QStringLiteral("Mine")}));
 }
@@ -381,7 +372,7 @@ void tst_RyCustomizedDialog_Window::theUserRemovesAToolBar()
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QTRY_VERIFY(!mine);
-    QCOMPARE(stage.titlesInHost(), words("File"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File"));
 }
 
 void tst_RyCustomizedDialog_Window::theUserReordersAndRemovesActions()
@@ -412,7 +403,7 @@ void tst_RyCustomizedDialog_Window::switchingTabsDiscardsTheEdits()
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QCOMPARE(rows, words("File Mine"));
-    QCOMPARE(stage.titlesInHost(), words("File Mine"));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
 }
 
 void tst_RyCustomizedDialog_Window::restoreDefaultsRemovesCustomToolBars()
@@ -423,11 +414,11 @@ void tst_RyCustomizedDialog_Window::restoreDefaultsRemovesCustomToolBars()
     stage.user.click(stage.dialog.RestoreDefaultButton());
     stage.user.waitFor(QStringLiteral("row gone"),
                        [&] { return rowsOf(stage.editor.toolBarList) == words("File"); });
-    stage.user.act([&] { titlesBeforeOk = stage.titlesInHost(); });
+    stage.user.act([&] { titlesBeforeOk = toolBarTitlesIn(stage.host.window); });
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QCOMPARE(titlesBeforeOk, words("File Mine"));
-    QTRY_COMPARE(stage.titlesInHost(), words("File"));
+    QTRY_COMPARE(toolBarTitlesIn(stage.host.window), words("File"));
 }
 
 void tst_RyCustomizedDialog_Window::helpShowsItsMessage()

@@ -3,6 +3,7 @@
 #include "editorsession.h"
 
 #include "editorviews.h"
+#include "texts.h"
 
 #include <RyCustomizedDialog>
 
@@ -48,12 +49,7 @@ QToolBar *EditorSession::toolBar(const QString &title) const
 
 QStringList EditorSession::toolBarTitles() const
 {
-    QStringList titles;
-    const auto all = window.findChildren<QToolBar *>();
-    for (const QToolBar *toolBar : all)
-        titles << toolBar->windowTitle();
-    titles.sort();
-    return titles;
+    return toolBarTitlesIn(window);
 }
 
 void EditorSession::customize(

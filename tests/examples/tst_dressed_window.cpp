@@ -4,13 +4,12 @@
 #include "dressedwindow.h"
 #include "nextmodal.h"
 #include "testcase.h"
+#include "texts.h"
 
 #include <RyCustomizedDialog>
 
 #include <QAction>
 #include <QApplication>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTextBrowser>
@@ -37,19 +36,6 @@ protected:
 
 namespace {
 
-QAction *entry(const DressedWindow &window, const QString &text)
-{
-    const auto menus = window.menuBar()->actions();
-    for (const QAction *menu : menus) {
-        const auto entries = menu->menu()->actions();
-        for (QAction *action : entries) {
-            if (action->text() == text)
-                return action;
-        }
-    }
-    return nullptr;
-}
-
 void customize(const DressedWindow &window, const std::function<void(RyCustomizedDialog *)> &steps)
 {
     const NextModal next([&steps](QWidget *modal) {
@@ -58,7 +44,7 @@ void customize(const DressedWindow &window, const std::function<void(RyCustomize
         steps(dialog);
         dialog->reject();
     });
-    entry(window, QStringLiteral("Customize Toolbars…"))->trigger();
+    menuEntry(window, QStringLiteral("Customize Toolbars…"))->trigger();
     QVERIFY(next.wasOpened());
 }
 
@@ -68,7 +54,7 @@ void tst_Dressed_Window::commandsTellTheirNames()
 {
     DressedWindow window;
     window.show();
-    entry(window, QStringLiteral("Pause"))->trigger();
+    menuEntry(window, QStringLiteral("Pause"))->trigger();
     QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("Pause"));
     QCOMPARE(window.findChildren<QToolBar *>().size(), 3);
 }
@@ -76,7 +62,7 @@ void tst_Dressed_Window::commandsTellTheirNames()
 void tst_Dressed_Window::iconsKeepTheirColorsInSelectedRows()
 {
     const DressedWindow window;
-    const QIcon icon = entry(window, QStringLiteral("Open"))->icon();
+    const QIcon icon = menuEntry(window, QStringLiteral("Open"))->icon();
     QVERIFY(!icon.availableSizes().isEmpty());
     for (const int size : {16, 22, 32})
         QCOMPARE(icon.pixmap(size, QIcon::Selected).toImage(), icon.pixmap(size).toImage());
@@ -114,7 +100,7 @@ void tst_Dressed_Window::helpIsAWindowOfTheDialog()
 void tst_Dressed_Window::theDirectionIsSwitched()
 {
     DressedWindow window;
-    QAction *const direction = entry(window, QStringLiteral("Right to Left"));
+    QAction *const direction = menuEntry(window, QStringLiteral("Right to Left"));
     direction->trigger();
     QVERIFY(window.isRightToLeft());
     direction->trigger();

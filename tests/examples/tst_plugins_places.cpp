@@ -8,8 +8,6 @@
 
 #include <RyCustomizedDialog>
 
-#include <QMenu>
-#include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
 #include <QSettings>
@@ -60,18 +58,7 @@ struct Run
         window.show();
     }
 
-    QAction *entry(const QString &text) const
-    {
-        const auto menus = window.menuBar()->actions();
-        for (const QAction *menu : menus) {
-            const auto entries = menu->menu()->actions();
-            for (QAction *action : entries) {
-                if (action->text() == text)
-                    return action;
-            }
-        }
-        return nullptr;
-    }
+    QAction *entry(const QString &text) const { return menuEntry(window, text); }
 
     void switchPlugin(const char *title) { entry(QLatin1String(title))->trigger(); }
 

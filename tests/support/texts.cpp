@@ -2,6 +2,10 @@
 
 #include "texts.h"
 
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
 namespace {
 
 QString nameOf(const QAction *action)
@@ -76,4 +80,27 @@ QTreeWidgetItem *itemNamed(const QTreeWidget *tree, const QString &text)
 QListWidgetItem *itemNamed(const QListWidget *list, const QString &text)
 {
     return list->findItems(text, Qt::MatchExactly).value(0);
+}
+
+QStringList toolBarTitlesIn(const QMainWindow &window)
+{
+    QStringList titles;
+    const auto toolBars = window.findChildren<QToolBar *>();
+    for (const QToolBar *toolBar : toolBars)
+        titles << toolBar->windowTitle();
+    titles.sort();
+    return titles;
+}
+
+QAction *menuEntry(const QMainWindow &window, const QString &text)
+{
+    const auto menus = window.menuBar()->actions();
+    for (const QAction *menu : menus) {
+        const auto entries = menu->menu()->actions();
+        for (QAction *entry : entries) {
+            if (entry->text() == text)
+                return entry;
+        }
+    }
+    return nullptr;
 }

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QList>
 #include <QListWidget>
+#include <QMainWindow>
 #include <QStringList>
 #include <QTreeWidget>
 
@@ -35,5 +36,11 @@ QString currentOf(const QTreeWidget *tree);
 // The first item of the text, or null.
 QTreeWidgetItem *itemNamed(const QTreeWidget *tree, const QString &text);
 QListWidgetItem *itemNamed(const QListWidget *list, const QString &text);
+
+// The titles of the toolbars in the window, sorted.
+QStringList toolBarTitlesIn(const QMainWindow &window);
+
+// The first entry of that text in the menus of the menu bar, or null.
+QAction *menuEntry(const QMainWindow &window, const QString &text);
 
 #endif // TEXTS_H
