@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-#include "editorviews.h"
-#include "host.h"
-#include "rycustomizeddialog.h"
+#include "dialogstage.h"
 #include "testcase.h"
 #include "texts.h"
-#include "userscript.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -34,14 +31,10 @@ QString nameOf(const QWidget *widget)
     return widget->objectName();
 }
 
-// A host with one default and one custom toolbar, its dialog, and the user before it.
-struct Stage
+// The host has one default and one custom toolbar.
+struct Stage : DialogStage
 {
     Stage()
-        : dialog({&host.manager, nullptr}, &host.window)
-        , views(&dialog)
-        , tabs(dialog.findChild<QTabWidget *>())
-        , cancelButton(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel))
     {
         host.defaultToolBar(QStringLiteral("file"), words("open save"), QStringLiteral("File"));
         for (const QString &name : words("cut copy paste"))
@@ -50,21 +43,6 @@ struct Stage
         host.manager.setToolBar(mine, host.list(words("cut | copy")));
         host.window.resize(900, 700);
         user.waitForWindow(&dialog);
-    }
-
-    // "accepted" or "rejected" is what the dialog returned, anything else tells what went wrong.
-    QString exec()
-    {
-        host.window.show();
-        if (!waitUntilSettled(&host.window))
-            return QStringLiteral("the host has no window");
-        user.start();
-        const int result = dialog.exec();
-        const QString failure = user.finish();
-        if (!failure.isEmpty())
-            return failure;
-        return result == QDialog::Accepted ? QStringLiteral("accepted")
-                                           : QStringLiteral("rejected");
     }
 
     // Presses Tab until the widget has the focus, each time after the focus has moved on.
@@ -94,7 +72,7 @@ struct Stage
     void press(QAbstractButton *button, const char *rows)
     {
         tabTo(button);
-        key(Qt::Key_Space, [this, rows] { return currentRows() == words(rows); });
+        key(Qt::Key_Space, [this, rows] { return views.currentRows() == words(rows); });
     }
 
     void arrowTo(QListWidget *list, Qt::Key arrow, const char *text)
@@ -113,36 +91,13 @@ struct Stage
         arrowTo(views.toolBarList, Qt::Key_Down, "Mine");
     }
 
-    QStringList currentRows() const
+    void giveName(const QString &name)
     {
-        QStringList rows = rowsOf(views.currentToolBarList);
-        rows.replaceInStrings(QStringLiteral("< S E P A R A T O R >"), QStringLiteral("|"));
-        return rows;
-    }
-
-    QLineEdit *nameEditor() const { return qobject_cast<QLineEdit *>(views.renameEditor()); }
-
-    void waitForNameEditor()
-    {
-        user.waitFor(QStringLiteral("editor"), [this] {
-            return nameEditor() && nameEditor()->hasFocus() && nameEditor()->hasSelectedText();
-        });
-    }
-
-    void typeName(const QString &name)
-    {
-        waitForNameEditor();
-        user.type(name, [this, name] { return nameEditor() && nameEditor()->text() == name; });
+        typeName(name);
         key(Qt::Key_Return, [this] { return !nameEditor(); });
     }
 
-    Host host;
-    RyCustomizedDialog dialog;
-    EditorViews views;
-    QTabWidget *const tabs;
-    QPushButton *const cancelButton;
     QToolBar *mine;
-    UserScript user;
 };
 
 const char *const tabBar = "qt_tabwidget_tabbar";
@@ -245,7 +200,7 @@ void tst_RyCustomizedDialog_Keyboard::aToolBarIsMadeAndNamed()
     bool openAfterNaming = false;
     stage.tabTo(stage.views.newButton);
     stage.key(Qt::Key_Space, [&] { return stage.nameEditor(); });
-    stage.typeName(QStringLiteral("Tools"));
+    stage.giveName(QStringLiteral("Tools"));
     stage.user.act([&] { openAfterNaming = stage.dialog.isVisible(); });
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
@@ -273,7 +228,7 @@ void tst_RyCustomizedDialog_Keyboard::aToolBarIsRenamedByItsButton()
     stage.chooseMine();
     stage.tabTo(stage.views.renameButton);
     stage.key(Qt::Key_Space, [&] { return stage.nameEditor(); });
-    stage.typeName(QStringLiteral("Ours"));
+    stage.giveName(QStringLiteral("Ours"));
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Ours"));
@@ -284,7 +239,7 @@ void tst_RyCustomizedDialog_Keyboard::aToolBarIsRenamedWithF2()
     Stage stage;
     stage.chooseMine();
     stage.key(Qt::Key_F2, [&] { return stage.nameEditor(); });
-    stage.typeName(QStringLiteral("Ours"));
+    stage.giveName(QStringLiteral("Ours"));
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Ours"));
@@ -321,7 +276,7 @@ void tst_RyCustomizedDialog_Keyboard::actionsAreMovedUpAndDown()
     stage.tabTo(stage.views.currentToolBarList);
     stage.arrowTo(stage.views.currentToolBarList, Qt::Key_End, "Copy");
     stage.press(stage.views.upButton, "Cut Copy |");
-    stage.key(Qt::Key_Space, [&] { return stage.currentRows() == words("Copy Cut |"); });
+    stage.key(Qt::Key_Space, [&] { return stage.views.currentRows() == words("Copy Cut |"); });
     stage.press(stage.views.downButton, "Cut Copy |");
     stage.closed(Qt::Key_Return);
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));

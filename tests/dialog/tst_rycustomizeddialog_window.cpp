@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-#include "editorviews.h"
-#include "host.h"
-#include "rycustomizeddialog.h"
+#include "dialogstage.h"
 #include "testcase.h"
 #include "texts.h"
-#include "userscript.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -23,14 +19,10 @@
 
 namespace {
 
-// A host with one default and one custom toolbar, its dialog, and the user before it.
-struct Stage
+// The host has one default and one custom toolbar.
+struct Stage : DialogStage
 {
     Stage()
-        : dialog({&host.manager, nullptr}, &host.window)
-        , editor(&dialog)
-        , tabs(dialog.findChild<QTabWidget *>())
-        , cancelButton(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel))
     {
         host.defaultToolBar(QStringLiteral("file"), words("open | save"), QStringLiteral("File"));
         host.registered(QStringLiteral("cut"), QStringLiteral("Edit"));
@@ -38,22 +30,6 @@ struct Stage
         mine = host.manager.createToolBar(QStringLiteral("Mine"));
         host.manager.setToolBar(mine, host.list(words("cut")));
         host.window.resize(1000, 800);
-    }
-
-    // Shows the host and runs the dialog through the user's steps; "accepted" or "rejected" is what
-    // the dialog returned, anything else tells what went wrong before.
-    QString exec()
-    {
-        host.window.show();
-        if (!waitUntilSettled(&host.window))
-            return QStringLiteral("the host has no window");
-        user.start();
-        const int result = dialog.exec();
-        const QString failure = user.finish();
-        if (!failure.isEmpty())
-            return failure;
-        return result == QDialog::Accepted ? QStringLiteral("accepted")
-                                           : QStringLiteral("rejected");
     }
 
     void waitForDialog() { user.waitForWindow(&dialog); }
@@ -87,60 +63,32 @@ struct Stage
     // Opens the category; a double click on it adds nothing.
     void openCategory(const QString &category)
     {
-        QTreeWidget *const tree = editor.actionTree;
+        QTreeWidget *const tree = views.actionTree;
         moveTo(tree, category);
         user.doubleClick([=] { return itemNamed(tree, category)->isExpanded(); });
     }
 
     void addByDoubleClick(const QString &action, const char *rows)
     {
-        moveTo(editor.actionTree, action);
-        user.doubleClick([this, rows] { return currentRows() == words(rows); });
+        moveTo(views.actionTree, action);
+        user.doubleClick([this, rows] { return views.currentRows() == words(rows); });
     }
 
     void pressButton(QToolButton *button, const char *rows)
     {
         user.click(button);
-        user.waitFor(QLatin1String(rows), [this, rows] { return currentRows() == words(rows); });
-    }
-
-    QStringList currentRows() const
-    {
-        QStringList rows = rowsOf(editor.currentToolBarList);
-        rows.replaceInStrings(QStringLiteral("< S E P A R A T O R >"), QStringLiteral("|"));
-        return rows;
-    }
-
-    QLineEdit *nameEditor() const { return qobject_cast<QLineEdit *>(editor.renameEditor()); }
-
-    // Types into the in-place editor, which has opened with its text selected.
-    void typeName(const QString &name)
-    {
-        waitForNameEditor();
-        user.type(name, [this, name] { return nameEditor() && nameEditor()->text() == name; });
-    }
-
-    void waitForNameEditor()
-    {
-        user.waitFor(QStringLiteral("editor"), [this] {
-            return nameEditor() && nameEditor()->hasFocus() && nameEditor()->hasSelectedText();
-        });
+        user.waitFor(QLatin1String(rows),
+                     [this, rows] { return views.currentRows() == words(rows); });
     }
 
     void newToolBar(const QString &name)
     {
-        user.click(editor.newButton);
+        user.click(views.newButton);
         typeName(name);
         user.clickKey(Qt::Key_Return, [this] { return !nameEditor(); });
     }
 
-    Host host;
-    RyCustomizedDialog dialog;
-    EditorViews editor;
-    QTabWidget *const tabs;
-    QPushButton *const cancelButton;
     QToolBar *mine;
-    UserScript user;
 };
 
 } // namespace
@@ -212,8 +160,8 @@ void tst_RyCustomizedDialog_Window::returnPressesOk()
 {
     Stage stage;
     stage.waitForDialog();
-    stage.click(stage.editor.toolBarList, QStringLiteral("Mine"));
-    stage.user.click(stage.editor.leftButton);
+    stage.click(stage.views.toolBarList, QStringLiteral("Mine"));
+    stage.user.click(stage.views.leftButton);
     stage.user.clickKey(Qt::Key_Return, [&] { return !stage.dialog.isVisible(); });
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QCOMPARE(standingOn(stage.mine), QStringList());
@@ -264,9 +212,9 @@ void tst_RyCustomizedDialog_Window::theUserMakesAToolBar()
     stage.addByDoubleClick(QStringLiteral("Cut"), "Cut");
     stage.addByDoubleClick(QStringLiteral("< S E P A R A T O R >"), "Cut |");
     stage.addByDoubleClick(QStringLiteral("Paste"), "Cut | Paste");
-    stage.pressButton(stage.editor.upButton, "Cut Paste |");
-    stage.pressButton(stage.editor.upButton, "Paste Cut |");
-    stage.pressButton(stage.editor.downButton, "Cut Paste |");
+    stage.pressButton(stage.views.upButton, "Cut Paste |");
+    stage.pressButton(stage.views.upButton, "Paste Cut |");
+    stage.pressButton(stage.views.downButton, "Cut Paste |");
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QToolBar *const made = stage.host.manager.toolBarByName(QStringLiteral("_Custom_Toolbar_2"));
@@ -331,7 +279,7 @@ void tst_RyCustomizedDialog_Window::escapeInTheNameEditorKeepsTheDialogAndTheNam
     Stage stage;
     bool openAfterEscape = false;
     stage.waitForDialog();
-    stage.user.click(stage.editor.newButton);
+    stage.user.click(stage.views.newButton);
     stage.typeName(QStringLiteral("Other"));
     stage.user.clickKey(Qt::Key_Escape, [&] { return !stage.nameEditor(); });
     stage.user.act([&] { openAfterEscape = stage.dialog.isVisible(); });
@@ -348,11 +296,11 @@ void tst_RyCustomizedDialog_Window::theUserRenamesAToolBar()
     Stage stage;
     QStringList rows;
     stage.waitForDialog();
-    stage.click(stage.editor.toolBarList, QStringLiteral("Mine"));
-    stage.user.click(stage.editor.renameButton);
+    stage.click(stage.views.toolBarList, QStringLiteral("Mine"));
+    stage.user.click(stage.views.renameButton);
     stage.typeName(QStringLiteral("Afterwards"));
     stage.user.clickKey(Qt::Key_Return, [&] { return !stage.nameEditor(); });
-    stage.user.act([&] { rows = rowsOf(stage.editor.toolBarList); });
+    stage.user.act([&] { rows = rowsOf(stage.views.toolBarList); });
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QCOMPARE(rows, words("Afterwards File"));
@@ -365,10 +313,10 @@ void tst_RyCustomizedDialog_Window::theUserRemovesAToolBar()
     Stage stage;
     const QPointer<QToolBar> mine = stage.mine;
     stage.waitForDialog();
-    stage.click(stage.editor.toolBarList, QStringLiteral("Mine"));
-    stage.user.click(stage.editor.removeButton);
+    stage.click(stage.views.toolBarList, QStringLiteral("Mine"));
+    stage.user.click(stage.views.removeButton);
     stage.user.waitFor(QStringLiteral("row gone"),
-                       [&] { return rowsOf(stage.editor.toolBarList) == words("File"); });
+                       [&] { return rowsOf(stage.views.toolBarList) == words("File"); });
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QTRY_VERIFY(!mine);
@@ -379,12 +327,12 @@ void tst_RyCustomizedDialog_Window::theUserReordersAndRemovesActions()
 {
     Stage stage;
     stage.waitForDialog();
-    stage.click(stage.editor.toolBarList, QStringLiteral("File"));
-    stage.click(stage.editor.currentToolBarList, QStringLiteral("Save"));
-    stage.pressButton(stage.editor.upButton, "Open Save |");
-    stage.pressButton(stage.editor.upButton, "Save Open |");
-    stage.moveTo(stage.editor.currentToolBarList, QStringLiteral("Open"));
-    stage.user.doubleClick([&] { return stage.currentRows() == words("Save |"); });
+    stage.click(stage.views.toolBarList, QStringLiteral("File"));
+    stage.click(stage.views.currentToolBarList, QStringLiteral("Save"));
+    stage.pressButton(stage.views.upButton, "Open Save |");
+    stage.pressButton(stage.views.upButton, "Save Open |");
+    stage.moveTo(stage.views.currentToolBarList, QStringLiteral("Open"));
+    stage.user.doubleClick([&] { return stage.views.currentRows() == words("Save |"); });
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QCOMPARE(standingOn(stage.host.window.findChild<QToolBar *>(QStringLiteral("file"))),
@@ -399,7 +347,7 @@ void tst_RyCustomizedDialog_Window::switchingTabsDiscardsTheEdits()
     stage.newToolBar(QStringLiteral("Lost"));
     stage.clickTab(1);
     stage.clickTab(0);
-    stage.user.act([&] { rows = rowsOf(stage.editor.toolBarList); });
+    stage.user.act([&] { rows = rowsOf(stage.views.toolBarList); });
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));
     QCOMPARE(rows, words("File Mine"));
@@ -413,7 +361,7 @@ void tst_RyCustomizedDialog_Window::restoreDefaultsRemovesCustomToolBars()
     stage.waitForDialog();
     stage.user.click(stage.dialog.RestoreDefaultButton());
     stage.user.waitFor(QStringLiteral("row gone"),
-                       [&] { return rowsOf(stage.editor.toolBarList) == words("File"); });
+                       [&] { return rowsOf(stage.views.toolBarList) == words("File"); });
     stage.user.act([&] { titlesBeforeOk = toolBarTitlesIn(stage.host.window); });
     stage.user.click(stage.dialog.okButton());
     QCOMPARE(stage.exec(), QStringLiteral("accepted"));

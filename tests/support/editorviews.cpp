@@ -63,6 +63,13 @@ QStringList EditorViews::enabledButtons() const
     return names;
 }
 
+QStringList EditorViews::currentRows() const
+{
+    QStringList rows = rowsOf(currentToolBarList);
+    rows.replaceInStrings(QStringLiteral("< S E P A R A T O R >"), QStringLiteral("|"));
+    return rows;
+}
+
 void EditorViews::click(QToolButton *button) const
 {
     QTest::mouseClick(button, Qt::LeftButton);

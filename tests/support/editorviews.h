@@ -21,6 +21,9 @@ public:
     // The names of the enabled buttons of the seven, in the order of the form.
     QStringList enabledButtons() const;
 
+    // The rows of the current toolbar, "|" for a separator.
+    QStringList currentRows() const;
+
     // Real left clicks and double clicks; an item is scrolled to first.
     void click(QToolButton *button) const;
     void click(QListWidget *list, const QString &text) const;

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+
+#include "dialogstage.h"
+
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+
+DialogStage::DialogStage()
+    : dialog({&host.manager, nullptr}, &host.window)
+    , views(&dialog)
+    , tabs(dialog.findChild<QTabWidget *>())
+    , cancelButton(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel))
+{
+}
+
+QString DialogStage::exec()
+{
+    host.window.show();
+    if (!waitUntilSettled(&host.window))
+        return QStringLiteral("the host has no window");
+    user.start();
+    const int result = dialog.exec();
+    const QString failure = user.finish();
+    if (!failure.isEmpty())
+        return failure;
+    return result == QDialog::Accepted ? QStringLiteral("accepted") : QStringLiteral("rejected");
+}
+
+void DialogStage::typeName(const QString &name)
+{
+    waitForNameEditor();
+    user.type(name, [this, name] { return nameEditor() && nameEditor()->text() == name; });
+}
+
+void DialogStage::waitForNameEditor()
+{
+    user.waitFor(QStringLiteral("editor"), [this] {
+        return nameEditor() && nameEditor()->hasFocus() && nameEditor()->hasSelectedText();
+    });
+}
+
+QLineEdit *DialogStage::nameEditor() const
+{
+    return qobject_cast<QLineEdit *>(views.renameEditor());
+}
