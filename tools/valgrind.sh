@@ -11,8 +11,10 @@ start_log build/valgrind.log
 # Left out: what needs a display, and the damaged states by the hundred thousand, which take hours
 # here; those run under the sanitizers, and their boundary cases stand in the other tests too.
 find_programs() {
-    find build/dev/tests/{dialog,toolbarmanager,toolbareditor,ribbon} -maxdepth 1 -type f \
-        -executable -name 'tst_*' ! -name '*_window' ! -name '*_titlebar' ! -name '*_damage' | sort
+    ctest --preset dev -N -LE window -E _damage |
+        sed -nE 's/^ *Test +#[0-9]+: (tst_\w+)$/\1/p' >build/valgrind/tests
+    find build/dev/tests/{dialog,toolbarmanager,toolbareditor,ribbon} -maxdepth 1 -type f -executable |
+        grep --extended-regexp "/($(paste --serial --delimiters='|' build/valgrind/tests))$" | sort
 }
 
 step 'Packages' tools/install-packages.sh tools/packages-test.txt tools/packages-proofs.txt
