@@ -254,14 +254,17 @@ void tst_RyCToolBarWidget_Hosts::aToolBarDeletedByItsOwnWindowIsLeftAlone()
 void tst_RyCToolBarWidget_Hosts::aDeletedActionIsShownAsBefore()
 {
     FilledHost host;
+    QAction *const cut = host.action(QStringLiteral("cut"));
+    const QIcon icon(QPixmap(16, 16));
+    cut->setIcon(icon);
     ShownEditor editor(&host.manager);
     editor.selectToolBar(QStringLiteral("File"));
-    QAction *const cut = host.action(QStringLiteral("cut"));
     host.manager.removeAction(cut);
     delete cut;
     editor.selectToolBar(QStringLiteral("Mine"));
     QCOMPARE(rowsOf(editor.views.currentToolBarList),
              lines({"Cut", "< S E P A R A T O R >", "Copy"}));
+    QCOMPARE(editor.views.currentToolBarList->item(0)->icon().cacheKey(), icon.cacheKey());
     editor.selectToolBar(QStringLiteral("Yours"));
     editor.selectAction(QStringLiteral("Cut"));
     editor.call("rightClicked");

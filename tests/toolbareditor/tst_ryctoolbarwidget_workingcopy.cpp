@@ -198,6 +198,7 @@ private Q_SLOTS:
     void theListIsSortedAfterEachChangeOfTheFill();
     void rowsOfTheSameTextStayInOrder();
     void aRowChangedWithoutACurrentToolBarIsSortedInLater();
+    void aRowThatTheHostAddedIsSortedInLater();
     void aManagerWithoutAnythingGivesTheSeparatorEntryOnly();
     void removeAndRenameActOnNothingWithoutToolBars();
     void withoutAManagerTheEditorStaysEmpty();
@@ -735,6 +736,20 @@ void tst_RyCToolBarWidget_WorkingCopy::aRowChangedWithoutACurrentToolBarIsSorted
     list->item(3)->setText(QStringLiteral("Y"));
     QCOMPARE(rowsOf(list),
              QStringList({QStringLiteral("B"), QStringLiteral("C"), QStringLiteral("Y"),
+                          QStringLiteral("Z")}));
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::aRowThatTheHostAddedIsSortedInLater()
+{
+    Host host;
+    for (const char *title : {"A", "B", "C"})
+        host.manager.createToolBar(QLatin1String(title));
+    const ShownEditor editor(&host.manager);
+    QListWidget *const list = editor.views.toolBarList;
+    list->addItem(QStringLiteral("A of the host"));
+    list->item(0)->setText(QStringLiteral("Z"));
+    QCOMPARE(rowsOf(list),
+             QStringList({QStringLiteral("A of the host"), QStringLiteral("B"), QStringLiteral("C"),
                           QStringLiteral("Z")}));
 }
 
