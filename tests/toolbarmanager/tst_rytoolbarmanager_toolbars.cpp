@@ -131,6 +131,7 @@ private Q_SLOTS:
     void deleteToolBarLeavesTheActionsAndOtherToolBars();
     void deleteToolBarLeavesWhatTheHostPlaced();
     void theWidgetOfADeletedToolBarReturns();
+    void widgetsOfADeletedToolBarReturnToTheirOwnToolBars();
     void aWidgetActionOutlivesItsToolBars();
     void deleteToolBarIgnoresOtherToolBars_data();
     void deleteToolBarIgnoresOtherToolBars();
@@ -916,6 +917,26 @@ void tst_RyToolBarManager_toolbars::theWidgetOfADeletedToolBarReturns()
     host.manager.resetToolBar(file);
     QCOMPARE(file->widgetForAction(boxAction), box.data());
     QTRY_VERIFY(box->isVisible());
+}
+
+void tst_RyToolBarManager_toolbars::widgetsOfADeletedToolBarReturnToTheirOwnToolBars()
+{
+    Host host;
+    QList<QObject *> toolBars;
+    QList<QAction *> boxes;
+    for (const char *title : {"File", "Edit", "View"}) {
+        QToolBar *const toolBar = host.toolBar(name(title));
+        toolBars << toolBar;
+        boxes << toolBar->addWidget(new QLineEdit);
+        host.manager.addDefaultToolBar(toolBar, A);
+    }
+    QToolBar *const mine = host.manager.createToolBar(name("Mine"));
+    host.manager.setToolBar(mine, boxes);
+    host.manager.deleteToolBar(mine);
+    QList<QObject *> owners;
+    for (const QAction *box : qAsConst(boxes))
+        owners << box->parent();
+    QCOMPARE(owners, toolBars);
 }
 
 void tst_RyToolBarManager_toolbars::aWidgetActionOutlivesItsToolBars()
