@@ -349,8 +349,8 @@ def main():
     elif not arguments.all:
         mutants = sample(mutants, arguments.count)
     known = read_equivalent()
-    explained = [m for m in mutants
-                 if (str(m.path), squeezed(m.old), squeezed(m.new)) in known]
+    explained = {m for m in mutants
+                 if (str(m.path), squeezed(m.old), squeezed(m.new)) in known}
     if not arguments.explained:
         mutants = [m for m in mutants if m not in explained]
     if arguments.list:
