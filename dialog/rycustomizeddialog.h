@@ -33,9 +33,9 @@ class Ui_CustomizedDialog;
  * The host owns the dialog (it does not delete itself on close) and the managers, which must
  * outlive it. The dialog owns its pages; the page widgets belong to its widget tree.
  *
- * The host may close or delete the dialog at any time, also from what is called while it applies: the
- * edits are written to the end. A second exec() while the first one runs returns -1 at once, as with
- * every QDialog.
+ * The host may close or delete the dialog at any time, also from what is called while it applies:
+ * the edits are written to the end. A second exec() while the first one runs returns -1 at once, as
+ * with every QDialog.
  *
  * Quirks a host must know, all deliberate:
  * - Escape and the window's close button go straight to QDialog::reject(); no page is given

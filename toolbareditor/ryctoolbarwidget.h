@@ -26,15 +26,15 @@ struct EditorForm;
  *
  * When it is shown it copies the manager's categories, actions and toolbars into a private working
  * copy, which is all that the user edits. applyClicked() writes the copy to the manager. When it is
- * hidden, edits that were not applied are thrown away; showing it again reads the manager anew. Show
- * and hide events of the window system (minimising and restoring) change nothing.
+ * hidden, edits that were not applied are thrown away; showing it again reads the manager anew.
+ * Show and hide events of the window system (minimising and restoring) change nothing.
  *
  * RyCToolBarPage creates it; use that page rather than this class.
  *
  * Quirks a host must know, all deliberate:
  * - Without a current toolbar the Remove and Rename buttons are enabled; they act on nothing.
- * - Every new toolbar is named "Custom Toolbar", and any new name is accepted as it is: an empty one
- *   and one that another toolbar bears included.
+ * - Every new toolbar is named "Custom Toolbar", and any new name is accepted as it is: an empty
+ * one and one that another toolbar bears included.
  * - The texts of actions are shown as they are, with the "&" of a mnemonic.
  * - The separator entry is sorted among the categories by its text.
  *
@@ -42,12 +42,12 @@ struct EditorForm;
  * - Register actions and toolbars; they appear when it is shown next.
  * - Delete custom toolbars with RyToolBarManager::deleteToolBar(). Their rows stay, and the editor
  *   leaves alone whatever may get their address.
- * - Remove actions with RyToolBarManager::removeAction() and delete them afterwards. They are shown as
- *   before and are left out by applyClicked().
+ * - Remove actions with RyToolBarManager::removeAction() and delete them afterwards. They are shown
+ * as before and are left out by applyClicked().
  * - Change actions. Rows show the text and icon of the moment when they were made.
- * - Change the style, the palette, the font, the direction or the language. The edits stay, and so do
- *   the texts that are shown. Changing the window flags or the parent hides the editor, and with that
- *   discards the edits.
+ * - Change the style, the palette, the font, the direction or the language. The edits stay, and so
+ * do the texts that are shown. Changing the window flags or the parent hides the editor, and with
+ * that discards the edits.
  * - Show a second editor of the same manager. Each writes everything as it shows it; the last
  *   applyClicked() counts.
  *
@@ -86,9 +86,9 @@ public Q_SLOTS:
      *
      * While the editor is hidden the working copy is empty, and nothing is written.
      *
-     * The working copy is read first. Event filters and slots of the host, which are called while the
-     * toolbars change, may hide or delete the editor: everything is written all the same. What they
-     * edit meanwhile is written by the next call.
+     * The working copy is read first. Event filters and slots of the host, which are called while
+     * the toolbars change, may hide or delete the editor: everything is written all the same. What
+     * they edit meanwhile is written by the next call.
      */
     void applyClicked();
 

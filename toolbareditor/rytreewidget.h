@@ -13,8 +13,8 @@
  *        kind.
  *
  * Press an item and drag it to move it; hold Control before the drag starts to copy it. The item
- * lands, with everything below it, as the last child of the item under the pointer, or at the end of
- * the top level over empty space. Only the current item is dragged, whatever else is selected.
+ * lands, with everything below it, as the last child of the item under the pointer, or at the end
+ * of the top level over empty space. Only the current item is dragged, whatever else is selected.
  *
  * Use it where a user arranges a tree of the host's own. The pages of RyCustomizedDialog do not use
  * it, and it tells nobody of a drop.

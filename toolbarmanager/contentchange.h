@@ -45,8 +45,8 @@ public:
     QToolBar *toolBar() const;
     QList<QAction *> content() const;
 
-    // True if no action was registered or removed since the content was asked for: all of it is still
-    // registered then.
+    // True if no action was registered or removed since the content was asked for: all of it is
+    // still registered then.
     bool isContentRegistered() const;
 
     // Asks for another content; without effect if it is the one that is being placed.

@@ -15,8 +15,8 @@ QLatin1String namePrefix()
     return QLatin1String("_Custom_Toolbar_");
 }
 
-// The number of a generated name. Zero, leading zeros, signs and the like are not generated. By hand,
-// because creating a toolbar asks this of all the others.
+// The number of a generated name. Zero, leading zeros, signs and the like are not generated. By
+// hand, because creating a toolbar asks this of all the others.
 int numberOf(const QString &objectName)
 {
     if (!objectName.startsWith(namePrefix()))

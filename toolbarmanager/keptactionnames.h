@@ -12,8 +12,8 @@ class QString;
 class RyToolBarManager;
 
 /*
- * The actions of a manager by the objectNames that they had when these were last read, kept from one
- * restore to the next: reading thousands of names takes longer than reading most states.
+ * The actions of a manager by the objectNames that they had when these were last read, kept from
+ * one restore to the next: reading thousands of names takes longer than reading most states.
  *
  * Nobody tells when an action gets another name. An action counts only as long as it bears the name
  * that it is looked for by. One that is not found may have been given its name since, so that the
@@ -24,8 +24,8 @@ class KeptActionNames
 public:
     // No names at all.
     KeptActionNames();
-    // Reads the names of the actions, which are also given in the order of their addresses. Of several
-    // with one name the first of the set counts, as for RyToolBarManager::findAction().
+    // Reads the names of the actions, which are also given in the order of their addresses. Of
+    // several with one name the first of the set counts, as for RyToolBarManager::findAction().
     KeptActionNames(const QSet<QAction *> &actions, const QList<QAction *> &byAddress);
 
     // What was kept for the manager.

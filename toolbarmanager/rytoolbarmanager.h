@@ -175,11 +175,11 @@ public:
      * \brief Returns the registered action whose objectName() is \a name or, if there is none, the
      *        one whose text() is \a name.
      *
-     * An objectName counts more than a text, whichever would be met first. If several actions match,
-     * which of them is returned is not defined.
+     * An objectName counts more than a text, whichever would be met first. If several actions
+     * match, which of them is returned is not defined.
      *
-     * Prints a warning when no objectName matches and a second one when no text matches either; both
-     * begin with "RyToolBarManager::restoreState(): ".
+     * Prints a warning when no objectName matches and a second one when no text matches either;
+     * both begin with "RyToolBarManager::restoreState(): ".
      *
      * \return the action, which stays the host's, or null.
      */
@@ -219,8 +219,8 @@ public:
      *
      * \param toolBarName the window title; it may be empty and need not be unique.
      * \return the toolbar, owned by the main window and managed until deleteToolBar() or
-     *         removeDefaultToolBar(); null, and nothing created, if no main window is set. Null as well
-     *         if the host deletes the toolbar when it hears of it.
+     *         removeDefaultToolBar(); null, and nothing created, if no main window is set. Null as
+     * well if the host deletes the toolbar when it hears of it.
      */
     QToolBar *createToolBar(const QString &toolBarName);
 
@@ -302,8 +302,8 @@ public:
     QToolBar *toolBarByName(const QString &name) const;
 
     /*!
-     * \brief Returns the default toolbar whose objectName() is \a name or, if there is none, the one
-     *        whose windowTitle() is \a name.
+     * \brief Returns the default toolbar whose objectName() is \a name or, if there is none, the
+     * one whose windowTitle() is \a name.
      *
      * Prints a warning when no objectName matches and a second one when no title matches either;
      * both begin with "RyToolBarManager::restoreState(): ".
@@ -331,8 +331,8 @@ public:
      * otherwise. Toolbars that the bytes do not name keep their content, and none is deleted. Names
      * that nothing bears are skipped with the warnings of findAction() and findDefaultToolBar().
      * Names of toolbars are read when restoring begins, and anew after the host has registered or
-     * removed toolbars meanwhile. An action is found by the objectName that it bears when its entry is
-     * read; one that is given its name while a state is restored may be missed.
+     * removed toolbars meanwhile. An action is found by the objectName that it bears when its entry
+     * is read; one that is given its name while a state is restored may be missed.
      *
      * Damaged bytes are survived, whatever they hold. What lies past their end reads as empty names
      * and zero counts, for at most 1,000 entries of one toolbar and 1,000 toolbars of one section.
@@ -351,8 +351,8 @@ public:
      * \brief Writes the sections that follow marker and version to \a stream, with the warnings of
      *        saveState().
      *
-     * For hosts that keep the layout inside a stream of their own. The stream's settings are used as
-     * they are, and its status is not looked at.
+     * For hosts that keep the layout inside a stream of their own. The stream's settings are used
+     * as they are, and its status is not looked at.
      */
     void saveStateData(QDataStream &stream) const;
 

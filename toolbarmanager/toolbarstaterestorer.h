@@ -53,7 +53,8 @@ private:
     // Every managed toolbar by objectName, the lowest address first; kept up to date.
     QHash<QString, QToolBar *> m_toolBars;
     CustomToolBarNumbers m_numbers;
-    // What the indexes of toolbars were made from; more means that the host was called and changed it.
+    // What the indexes of toolbars were made from; more means that the host was called and changed
+    // it.
     quint64 m_changesOfToolBars;
 };
 

@@ -94,8 +94,8 @@ QJsonObject measureRow(const Row &row, double seconds, bool bareOnly)
             {QStringLiteral("rounds"), comparison.rounds()}};
 }
 
-// A process of its own for each figure: the heap that others leave behind would make the side that is
-// built first the slower one.
+// A process of its own for each figure: the heap that others leave behind would make the side that
+// is built first the slower one.
 QJsonDocument inOwnProcess(const QStringList &arguments)
 {
     QProcess process;

@@ -13,8 +13,8 @@ class QTreeWidget;
 class RyCustomizedDialog;
 
 /*!
- * \brief What a host can add to RyCustomizedDialog from outside: a filter for the actions, names for
- *        screen readers, keyboard shortcuts, help of its own, and arrows that mind the direction of
+ * \brief What a host can add to RyCustomizedDialog from outside: a filter for the actions, names
+ * for screen readers, keyboard shortcuts, help of its own, and arrows that mind the direction of
  *        reading.
  *
  * It finds the dialog's parts by their objectNames, which never change.

@@ -79,8 +79,8 @@ QString ToolBarLayout::save()
     return storingProblem();
 }
 
-// Qt shows a toolbar that the dialog has just created only when the event loop runs next. Until then
-// QMainWindow::saveState() would store it as hidden.
+// Qt shows a toolbar that the dialog has just created only when the event loop runs next. Until
+// then QMainWindow::saveState() would store it as hidden.
 void ToolBarLayout::showNewToolBars()
 {
     const auto toolBars = m_manager->toolBars();

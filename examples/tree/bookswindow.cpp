@@ -44,7 +44,8 @@ void BooksWindow::createTrees()
 
 QWidget *BooksWindow::withCaption(const QString &caption, GuardedTree *tree)
 {
-    // Alt and the first letter go to the tree. For a screen reader Qt takes no name from a buddy here.
+    // Alt and the first letter go to the tree. For a screen reader Qt takes no name from a buddy
+    // here.
     QLabel *const label = new QLabel(QLatin1Char('&') + caption);
     label->setBuddy(tree);
     tree->setAccessibleName(caption);

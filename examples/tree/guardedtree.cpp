@@ -13,8 +13,8 @@ GuardedTree::GuardedTree(QWidget *parent)
 
 void GuardedTree::mousePressEvent(QMouseEvent *event)
 {
-    // RyTreeWidget knows Control from key events alone and misses those that come during a drag or go
-    // to another widget. The mouse event knows better.
+    // RyTreeWidget knows Control from key events alone and misses those that come during a drag or
+    // go to another widget. The mouse event knows better.
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
         QKeyEvent control(QEvent::KeyPress, Qt::Key_Control, Qt::NoModifier);
         RyTreeWidget::keyPressEvent(&control);
@@ -48,8 +48,8 @@ void GuardedTree::keyReleaseEvent(QKeyEvent *event)
     QTreeWidget::keyReleaseEvent(event); // clazy:exclude=skipped-base-method
 }
 
-// RyTreeWidget lets every item take children. Refusing a place is safe only with a guard: a move that
-// is dropped there deletes the item.
+// RyTreeWidget lets every item take children. Refusing a place is safe only with a guard: a move
+// that is dropped there deletes the item.
 void GuardedTree::dragMoveEvent(QDragMoveEvent *event)
 {
     RyTreeWidget::dragMoveEvent(event);

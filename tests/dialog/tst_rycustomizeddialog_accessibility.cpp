@@ -18,8 +18,8 @@
 #include <QtTest>
 
 /*
- * What the dialog tells a screen reader, and what can be done through it. docs/accessibility.md says
- * the same in words.
+ * What the dialog tells a screen reader, and what can be done through it. docs/accessibility.md
+ * says the same in words.
  */
 
 namespace {
@@ -175,8 +175,8 @@ void tst_RyCustomizedDialog_Accessibility::everythingHasARole()
     stage.views.newButton->setFocus();
     QStringList found;
     appendLines(found, told(&stage.dialog), 0);
-    // The page that is not shown has a test of its own, and the scroll buttons of tabs belong to Qt.
-    // Qt calls the current tab focused, wherever the focus is.
+    // The page that is not shown has a test of its own, and the scroll buttons of tabs belong to
+    // Qt. Qt calls the current tab focused, wherever the focus is.
     const int ribbon = found.indexOf(QStringLiteral("      Client '' invisible"));
     QVERIFY(ribbon > 0);
     while (found.at(ribbon).startsWith(QLatin1String("      ")))

@@ -348,7 +348,8 @@ void DialogSteps::pressCancel()
 void DialogSteps::pressDefaults()
 {
     QPushButton *const button = m_real->dialog.RestoreDefaultButton();
-    // The press takes the focus from an open editor; where its row goes must be seen before rows go.
+    // The press takes the focus from an open editor; where its row goes must be seen before rows
+    // go.
     QTest::mousePress(button, Qt::LeftButton);
     learnOrder();
     m_model.commitEditing();

@@ -48,7 +48,8 @@ quint32 symbolOf(Qt::Key key)
         {Qt::Key_Up, 0xff52},        {Qt::Key_Right, 0xff53}, {Qt::Key_Down, 0xff54},
         {Qt::Key_End, 0xff57},       {Qt::Key_F2, 0xffbf},    {Qt::Key_Shift, 0xffe1},
         {Qt::Key_Control, 0xffe3},   {Qt::Key_Delete, 0xffff}};
-    // Qt and X both number the other characters of Latin 1 by their code, letters as capitals in Qt.
+    // Qt and X both number the other characters of Latin 1 by their code, letters as capitals in
+    // Qt.
     const int code = key >= Qt::Key_A && key <= Qt::Key_Z ? key - Qt::Key_A + 'a' : int(key);
     return symbols.value(key, quint32(code));
 }

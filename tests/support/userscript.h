@@ -36,8 +36,8 @@ public:
     void waitFor(const QString &name, const std::function<bool()> &done);
     void act(const std::function<void()> &action);
 
-    // Moves the pointer to a place in a widget, and waits until a window of ours has the pointer, or
-    // what it drags, exactly there. The place is worked out when the step's turn has come.
+    // Moves the pointer to a place in a widget, and waits until a window of ours has the pointer,
+    // or what it drags, exactly there. The place is worked out when the step's turn has come.
     void moveTo(const std::function<QWidget *()> &widget, const std::function<QPoint()> &place);
     void moveTo(QWidget *widget, const QPoint &place);
 
@@ -58,14 +58,14 @@ public:
     // Waits until a window is active and stands where Qt believes it to stand.
     void waitForWindow(QWidget *window);
 
-    // Inside a drag, which takes all input for itself: moves off our windows, and two ways to end it,
-    // which wait until every drag has ended.
+    // Inside a drag, which takes all input for itself: moves off our windows, and two ways to end
+    // it, which wait until every drag has ended.
     void dragOut();
     void drop(Qt::MouseButton button = Qt::LeftButton);
     void cancelDrag();
 
-    // Takes the steps, each once: run(), or start(), what blocks, and finish(). The texts tell which
-    // step was never done, and are empty if all were.
+    // Takes the steps, each once: run(), or start(), what blocks, and finish(). The texts tell
+    // which step was never done, and are empty if all were.
     void start();
     QString finish();
     QString run();

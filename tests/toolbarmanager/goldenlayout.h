@@ -17,9 +17,9 @@
  *     default toolbar "file", titled "File": "open", separator, "save"
  *     custom toolbar without a name, titled "Mine": the text "Say"
  *
- * Empty lines and lines that begin with "#" say nothing. An entry is the objectName of an action or,
- * for an action without one, its text; "nothing" is an empty toolbar. Quotes, backslashes and line
- * ends inside quotes are written \", \\ and \n.
+ * Empty lines and lines that begin with "#" say nothing. An entry is the objectName of an action
+ * or, for an action without one, its text; "nothing" is an empty toolbar. Quotes, backslashes and
+ * line ends inside quotes are written \", \\ and \n.
  */
 class GoldenLayout
 {

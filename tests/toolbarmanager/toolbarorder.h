@@ -8,7 +8,8 @@
 #include <QList>
 #include <QStringList>
 
-// Unmanaged toolbars of the host that are named "t0", "t1" and so on and listed by ascending address.
+// Unmanaged toolbars of the host that are named "t0", "t1" and so on and listed by ascending
+// address.
 QList<QToolBar *> toolBarsByAddress(Host &host, int count);
 
 // The objectNames.

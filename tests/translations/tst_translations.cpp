@@ -45,8 +45,8 @@ bool endsLikeEllipsis(const QString &text)
     return text.endsWith(QLatin1String("...")) || text.endsWith(QChar(0x2026));
 }
 
-// No stray blanks, and as many accelerators and placeholders as the source, and an ellipsis if it has
-// one.
+// No stray blanks, and as many accelerators and placeholders as the source, and an ellipsis if it
+// has one.
 bool hasFormOfSource(const TranslationFile::Message &message)
 {
     const QString text = message.translation;

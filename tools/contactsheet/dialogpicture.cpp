@@ -3,8 +3,8 @@
 /*
  * dialogpicture STYLE light|dark ltr|rtl FILE
  *
- * Opens the dialog of the text editor in a style, a palette and a direction, and writes a picture of
- * it to a PNG file. QT_SCALE_FACTOR sets the size, as for every Qt program.
+ * Opens the dialog of the text editor in a style, a palette and a direction, and writes a picture
+ * of it to a PNG file. QT_SCALE_FACTOR sets the size, as for every Qt program.
  */
 
 #include "mainwindow.h"

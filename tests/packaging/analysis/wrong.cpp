@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 /*
- * Wrong on purpose and built by nobody: tools/analyze.sh shows with it that its tools find mistakes.
- * Each comment names what has to be found in its line.
+ * Wrong on purpose and built by nobody: tools/analyze.sh shows with it that its tools find
+ * mistakes. Each comment names what has to be found in its line.
  */
 
 #include <QDialog>

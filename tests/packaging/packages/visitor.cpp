@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-// A user of the minimal example, to be preloaded into the finished program: looks at the window, opens
-// the dialog, presses OK and closes the window. The program ends with 1 if anything is not there.
+// A user of the minimal example, to be preloaded into the finished program: looks at the window,
+// opens the dialog, presses OK and closes the window. The program ends with 1 if anything is not
+// there.
 
 #include <QAction>
 #include <QApplication>

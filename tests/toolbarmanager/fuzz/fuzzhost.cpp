@@ -195,9 +195,9 @@ void FuzzHost::makeNameless()
     manager.setToolBar(manager.toolBarByName(name("f")), list("S | T b"));
 }
 
-// Names that several things bear, that are empty or that are the titles and texts of others. What is
-// saved of the toolbar without name and title goes to the one that has only a title, what is saved
-// of that one to the second "o", and what is saved of that one to the first.
+// Names that several things bear, that are empty or that are the titles and texts of others. What
+// is saved of the toolbar without name and title goes to the one that has only a title, what is
+// saved of that one to the second "o", and what is saved of that one to the first.
 void FuzzHost::makeDoubles()
 {
     QAction *const second = registered(name("a"), name("T"));

@@ -373,8 +373,8 @@ void RestoreCheck::checkSaving()
     checkHost("after saving and restoring");
 }
 
-// In a new run of the host, what was saved gives the same layout. Only the titles of default toolbars
-// are not saved.
+// In a new run of the host, what was saved gives the same layout. Only the titles of default
+// toolbars are not saved.
 void RestoreCheck::checkNextRun(const QByteArray &saved)
 {
     LiteralReader next(m_untouched);
