@@ -373,11 +373,9 @@ void HostSteps::find(const Step &step)
     m_differences->compare("toolBarByName()", m_stage->managerModel.toolBarByName(name),
                            m_stage->manager.toolBarByName(name));
     const QString actionName = Stage::anyActionName(step.number(0));
-    // Several actions may be without an objectName.
-    if (!actionName.isEmpty()) {
-        m_differences->compare("findAction()", m_stage->managerModel.findAction(actionName),
-                               m_stage->manager.findAction(actionName));
-    }
+    m_stage->managerModel.searchOrder = m_stage->manager.actions().values();
+    m_differences->compare("findAction()", m_stage->managerModel.findAction(actionName),
+                           m_stage->manager.findAction(actionName));
 }
 
 void HostSteps::save(const Step &step)
@@ -428,6 +426,7 @@ void HostSteps::restore(const QByteArray &bytes, const SavedLayout &layout, int 
 {
     if (m_stage->toolBars.size() >= 12)
         return;
+    m_stage->managerModel.searchOrder = m_stage->manager.actions().values();
     const bool done = m_stage->manager.restoreState(bytes, version);
     std::deque<QToolBar *> made = m_stage->unknownToolBars();
     m_differences->compare("restoreState()",

@@ -83,17 +83,16 @@ void ManagerModel::addCategory(const QString &category)
     categories[category].clear();
 }
 
-// The host of these tests gives no two actions the same name.
 QAction *ManagerModel::findAction(const QString &name)
 {
-    for (const auto &entry : registered) {
-        if (m_world->actions[entry.first].objectName == name)
-            return entry.first;
+    for (QAction *action : searchOrder) {
+        if (m_world->actions[action].objectName == name)
+            return action;
     }
     m_warnings << notFound("QAction", "text", name);
-    for (const auto &entry : registered) {
-        if (m_world->actions[entry.first].text == name)
-            return entry.first;
+    for (QAction *action : searchOrder) {
+        if (m_world->actions[action].text == name)
+            return action;
     }
     m_warnings << notFoundAtAll("QAction", "text", name);
     return nullptr;

@@ -11,7 +11,7 @@
 #include <deque>
 
 /*
- * What a toolbar manager must do, told in the plainest way. Maps that are keyed by a pointer are
+ * What a toolbar manager must do, written in the plainest way. Maps that are keyed by a pointer are
  * ordered by its value, as the manager promises.
  *
  * Which address a new toolbar gets cannot be foretold: the model is told what was made.
@@ -58,6 +58,9 @@ public:
     QStringList takeWarnings();
 
     QMainWindow *mainWindow = nullptr;
+    // The registered actions in the order in which names are looked up, which the manager chooses.
+    // To be set before a name is looked up.
+    QList<QAction *> searchOrder;
     std::map<QString, Content> categories;
     std::map<QAction *, QString> registered;
     std::map<QToolBar *, ToolBar> toolBars;

@@ -113,12 +113,11 @@ QString Stage::anyToolBarName(int number)
                            : QStringLiteral("_Custom_Toolbar_%1").arg(1 + number / 3 % 5);
 }
 
-// No two actions ever share a name or a text, lest it is undefined which one a name means.
+// Several actions may have the name "same".
 QString Stage::actionName(int slot, int number)
 {
-    static const char *const names[] = {"act%1", "new%1", ""};
-    const QString name = pick(names, number);
-    return name.isEmpty() ? name : name.arg(slot);
+    static const char *const names[] = {"act%1", "new%1", "", "same"};
+    return pick(names, number).replace(QLatin1String("%1"), QString::number(slot));
 }
 
 QString Stage::actionText(int slot, int number)
