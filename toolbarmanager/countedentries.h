@@ -10,9 +10,8 @@ class QDataStream;
 /*
  * Counts off the entries of one list or section while they are read from a stream.
  *
- * A damaged count may promise two thousand million entries that the bytes do not hold. Those that
- * lie past the end of the data still count, because reading there gives empty names, but only the
- * first thousand of them.
+ * A damaged count may promise two thousand million entries that the bytes do not hold. Entries that
+ * read nothing count too, because they give empty names, but only the first thousand of them.
  */
 class CountedEntries
 {
@@ -23,9 +22,14 @@ public:
     bool next();
 
 private:
+    bool hasReadNothing() const;
+    qint64 position() const;
+
     const QDataStream &m_stream;
     qint32 m_remaining;
-    int m_remainingPastEnd;
+    int m_remainingThatReadNothing;
+    // Where the entry began that is being read; negative before the first one.
+    qint64 m_position;
 };
 
 #endif // COUNTEDENTRIES_H

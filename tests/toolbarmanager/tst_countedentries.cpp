@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "countedentries.h"
+#include "pipe.h"
 #include "testcase.h"
 
 #include <QDataStream>
@@ -34,6 +35,10 @@ private Q_SLOTS:
     void entriesAreCountedOff();
     void anEndedListStaysEnded();
     void entriesThatAreNotReadCountToo();
+    void aSequentialDeviceIsReadToItsEnd_data();
+    void aSequentialDeviceIsReadToItsEnd();
+    void anEarlierErrorCutsNothing();
+    void aFailedTransactionEnds();
     void eachListMayGoAsFarPastTheEnd();
 };
 
@@ -81,8 +86,11 @@ void tst_CountedEntries::anEndedListStaysEnded()
 
     QDataStream empty((QByteArray()));
     CountedEntries cut(empty, 5000);
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         QVERIFY(cut.next());
+        qint8 byte = 0;
+        empty >> byte;
+    }
     for (int i = 0; i < 1000; ++i)
         QVERIFY(!cut.next());
 }
@@ -95,6 +103,44 @@ void tst_CountedEntries::entriesThatAreNotReadCountToo()
     QVERIFY(counted.next());
     QVERIFY(counted.next());
     QVERIFY(!counted.next());
+}
+
+void tst_CountedEntries::aSequentialDeviceIsReadToItsEnd_data()
+{
+    QTest::addColumn<bool>("buffered");
+    QTest::newRow("buffered") << true;
+    // Has nothing available and is at its end at all times.
+    QTest::newRow("unbuffered") << false;
+}
+
+void tst_CountedEntries::aSequentialDeviceIsReadToItsEnd()
+{
+    QFETCH(bool, buffered);
+    Pipe pipe(QByteArray(5000, '\0'));
+    QVERIFY(
+        pipe.open(buffered ? QIODevice::ReadOnly : QIODevice::ReadOnly | QIODevice::Unbuffered));
+    QDataStream stream(&pipe);
+    QCOMPARE(entriesOf(stream, 3000), 3000);
+    QCOMPARE(entriesOf(stream, std::numeric_limits<qint32>::max()), 3000);
+}
+
+void tst_CountedEntries::anEarlierErrorCutsNothing()
+{
+    QDataStream stream(QByteArray(5000, '\0'));
+    stream.setStatus(QDataStream::ReadCorruptData);
+    QCOMPARE(entriesOf(stream, 3000), 3000);
+    QCOMPARE(entriesOf(stream, std::numeric_limits<qint32>::max()), 3000);
+    QCOMPARE(stream.status(), QDataStream::ReadCorruptData);
+}
+
+// Qt reads nothing more from it, though the device is not at its end.
+void tst_CountedEntries::aFailedTransactionEnds()
+{
+    QDataStream stream(QByteArray(5000, '\0'));
+    stream.startTransaction();
+    QCOMPARE(entriesOf(stream, 10), 10);
+    stream.setStatus(QDataStream::ReadCorruptData);
+    QCOMPARE(entriesOf(stream, std::numeric_limits<qint32>::max()), 1000);
 }
 
 void tst_CountedEntries::eachListMayGoAsFarPastTheEnd()
