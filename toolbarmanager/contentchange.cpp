@@ -2,7 +2,7 @@
 
 #include "contentchange.h"
 
-#include "registrychanges.h"
+#include "rytoolbarmanager.h"
 
 namespace {
 
@@ -10,115 +10,142 @@ const int MaximumReplacements = 100;
 
 } // namespace
 
-ContentChange *ContentChange::s_innermost = nullptr;
-
-ContentChange::ContentChange(const RyToolBarManager *manager, QToolBar *toolBar,
-                             const QList<QAction *> &content, int replacements)
-    : m_outer(s_innermost)
-    , m_manager(manager)
+ContentChange::ContentChange(RyToolBarManager *manager, QToolBar *toolBar)
+    : m_manager(manager)
     , m_toolBar(toolBar)
-    , m_content(content)
-    , m_changesOfActions(RegistryChanges::ofActions)
-    , m_takenOff(nullptr)
-    , m_replacementsLeft(replacements)
+    , m_outer(manager->m_innermostChange)
+    , m_replacementsLeft(0)
     , m_isReplaced(false)
-    , m_isCancelled(false)
 {
-    s_innermost = this;
-}
-
-ContentChange::ContentChange(const RyToolBarManager *manager, QToolBar *toolBar,
-                             const QList<QAction *> &content)
-    : ContentChange(manager, toolBar, content, MaximumReplacements)
-{
-}
-
-ContentChange::ContentChange(const RyToolBarManager *manager, QToolBar *toolBar)
-    : ContentChange(manager, toolBar, QList<QAction *>(), 0)
-{
+    manager->m_innermostChange = this;
 }
 
 ContentChange::~ContentChange()
 {
-    s_innermost = m_outer;
+    m_manager->m_innermostChange = m_outer;
 }
 
 ContentChange *ContentChange::running(const RyToolBarManager *manager, const QToolBar *toolBar)
 {
-    for (ContentChange *change = s_innermost; change; change = change->m_outer) {
-        if (change->concerns(manager, toolBar))
-            return change;
+    ContentChange *change = manager->m_innermostChange;
+    while (change && change->m_toolBar != toolBar)
+        change = change->m_outer;
+    return change;
+}
+
+void ContentChange::run(const QList<QAction *> &content)
+{
+    m_content = content;
+    m_replacementsLeft = MaximumReplacements;
+    do {
+        m_isReplaced = false;
+        takeAllOff();
+        placeContent();
+    } while (m_isReplaced && !isOver());
+    if (!isOver())
+        m_manager->m_toolBars.insert(m_toolBar, placedContent());
+}
+
+bool ContentChange::empty()
+{
+    takeAllOff();
+    return !isOver();
+}
+
+void ContentChange::replace(const QList<QAction *> &content)
+{
+    if (m_replacementsLeft == 0 || m_content == content)
+        return;
+    --m_replacementsLeft;
+    m_content = content;
+    m_isReplaced = true;
+}
+
+bool ContentChange::isOver() const
+{
+    return !m_toolBar || !m_manager->m_toolBars.contains(m_toolBar);
+}
+
+void ContentChange::takeAllOff()
+{
+    while (!m_isReplaced && !isOver()) {
+        QList<QAction *> &placed = m_manager->m_toolBarsWithSeparators[m_toolBar];
+        if (placed.isEmpty())
+            return;
+        takeOff(placed.takeFirst());
     }
-    return nullptr;
 }
 
-void ContentChange::cancel(const RyToolBarManager *manager, const QToolBar *toolBar)
+void ContentChange::takeOff(QAction *action)
 {
-    for (ContentChange *change = s_innermost; change; change = change->m_outer) {
-        if (change->concerns(manager, toolBar))
-            change->m_isCancelled = true;
-    }
+    const auto toolBars = m_manager->m_actionToToolBars.find(action);
+    if (toolBars != m_manager->m_actionToToolBars.end())
+        toolBars.value().removeAll(m_toolBar);
+    const bool isRegistered = m_manager->m_allActions.contains(action);
+    // One that the host deleted has left its widgets.
+    if (isRegistered && !m_toolBar->actions().contains(action))
+        return;
+    // A registered action that became a separator later is still the host's.
+    const QPointer<QAction> separator(!isRegistered && action->isSeparator() ? action : nullptr);
+    m_toolBar->removeAction(action);
+    if (separator && !isShared(separator))
+        delete separator;
 }
 
-bool ContentChange::concerns(const RyToolBarManager *manager, const QToolBar *toolBar) const
+// A separator action of the host may be on several default toolbars; the last one deletes it.
+bool ContentChange::isShared(QAction *separator) const
 {
-    return m_manager == manager && m_toolBar == toolBar && !m_isCancelled;
-}
-
-bool ContentChange::isTakingOff(const QAction *action)
-{
-    for (const ContentChange *change = s_innermost; change; change = change->m_outer) {
-        if (change->m_takenOff == action)
+    const auto widgets = separator->associatedWidgets();
+    for (QWidget *widget : widgets) {
+        QToolBar *const toolBar = qobject_cast<QToolBar *>(widget);
+        if (m_manager->m_toolBarsWithSeparators.value(toolBar).contains(separator))
             return true;
     }
     return false;
 }
 
-void ContentChange::takeOff(QAction *action)
+void ContentChange::placeContent()
 {
-    m_takenOff = action;
-    m_toolBar->removeAction(action);
-    m_takenOff = nullptr;
+    const QList<QAction *> content = m_content;
+    for (QAction *action : content) {
+        if (m_isReplaced || isOver())
+            return;
+        if (!action)
+            placeSeparator();
+        else if (m_manager->m_allActions.contains(action))
+            placeAction(action);
+    }
 }
 
-QToolBar *ContentChange::toolBar() const
+void ContentChange::placeAction(QAction *action)
 {
-    return m_toolBar;
+    const QPointer<QAction> placed(action);
+    m_toolBar->insertAction(nullptr, action);
+    if (!isOver() && m_manager->m_allActions.contains(action)) {
+        m_manager->m_actionToToolBars[action].append(m_toolBar);
+        m_manager->m_toolBarsWithSeparators[m_toolBar].append(action);
+    } else if (m_toolBar && placed) {
+        m_toolBar->removeAction(action);
+    }
 }
 
-QList<QAction *> ContentChange::content() const
+void ContentChange::placeSeparator()
 {
-    return m_content;
+    QAction *const separator = m_toolBar->insertSeparator(nullptr);
+    // It goes with a toolbar that is gone.
+    if (!isOver())
+        m_manager->m_toolBarsWithSeparators[m_toolBar].append(separator);
+    else if (m_toolBar)
+        delete separator;
 }
 
-bool ContentChange::isContentRegistered() const
+// What was placed: registered actions, and separators that this class made.
+QList<QAction *> ContentChange::placedContent() const
 {
-    return m_changesOfActions == RegistryChanges::ofActions;
-}
-
-void ContentChange::replaceContent(const QList<QAction *> &content)
-{
-    if (m_content == content || m_replacementsLeft <= 0)
-        return;
-    --m_replacementsLeft;
-    m_content = content;
-    m_changesOfActions = RegistryChanges::ofActions;
-    m_isReplaced = true;
-}
-
-bool ContentChange::isCancelled() const
-{
-    return m_isCancelled || !m_toolBar;
-}
-
-bool ContentChange::isInterrupted() const
-{
-    return m_isReplaced || isCancelled();
-}
-
-bool ContentChange::startAgain()
-{
-    const bool again = m_isReplaced && !isCancelled();
-    m_isReplaced = false;
-    return again;
+    QList<QAction *> content = m_manager->m_toolBarsWithSeparators.value(m_toolBar);
+    for (QAction *&entry : content) {
+        if (!m_manager->m_allActions.contains(entry))
+            entry = nullptr;
+    }
+    return content;
 }

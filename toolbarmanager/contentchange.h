@@ -11,77 +11,57 @@ class QAction;
 class RyToolBarManager;
 
 /*
- * The change of one toolbar's content while it runs.
+ * The change of one toolbar's content, while it runs.
  *
- * Every action that is put on a widget or taken off it makes Qt call the host, and what it calls
- * may be the manager, for the same toolbar. The second call finds the change here and tells it what
- * is wanted instead of starting one of its own: Qt would be left with two half-done changes of one
- * widget. The running changes form a stack on the GUI thread's stack; the manager has no field for
- * them, because its fields are fixed.
+ * Every action that is put on a widget or taken off it makes Qt call the host, which may call the
+ * manager again, for the same toolbar too. Everything that this takes is in this class:
+ * - The manager reports the old content until the change is over.
+ * - A list that is set for the same toolbar in between waits. The last one wins.
+ * - What is on the widget is looked up again at every step. It is recorded once it is there and
+ *   leaves the record before it leaves the widget, so that a host never finds a record of what is
+ *   not there.
+ * - The change ends early if the toolbar is gone or no longer managed.
  */
 class ContentChange
 {
 public:
-    // Replaces the content by the given one, whose actions are registered.
-    ContentChange(const RyToolBarManager *manager, QToolBar *toolBar,
-                  const QList<QAction *> &content);
-    // Takes everything off for good: no other content is accepted meanwhile.
-    ContentChange(const RyToolBarManager *manager, QToolBar *toolBar);
+    ContentChange(RyToolBarManager *manager, QToolBar *toolBar);
     ~ContentChange();
 
-    // The running change of the toolbar, or null.
+    // The innermost running change of the toolbar, or null.
     static ContentChange *running(const RyToolBarManager *manager, const QToolBar *toolBar);
 
-    // Ends every running change of a toolbar that the manager has forgotten.
-    static void cancel(const RyToolBarManager *manager, const QToolBar *toolBar);
+    // Gives the toolbar a content, whose actions are registered.
+    void run(const QList<QAction *> &content);
 
-    // True while any running change takes the action off its toolbar: Qt still uses it then.
-    static bool isTakingOff(const QAction *action);
+    // Takes everything off and accepts no other content. False if the toolbar is gone or no longer
+    // managed then.
+    bool empty();
 
-    // Takes the action off the toolbar, and the host is called.
-    void takeOff(QAction *action);
-
-    // Null once the toolbar is gone.
-    QToolBar *toolBar() const;
-    QList<QAction *> content() const;
-
-    // True if no action was registered or removed since the content was asked for: all of it is
-    // still registered then.
-    bool isContentRegistered() const;
-
-    // Asks for another content; without effect if it is the one that is being placed.
-    void replaceContent(const QList<QAction *> &content);
-
-    bool isCancelled() const;
-
-    // Cancelled, or to be started again with another content.
-    bool isInterrupted() const;
-
-    // True if the content was replaced since the last call.
-    bool startAgain();
+    // Asks for another content, without effect if it is the one that is being placed.
+    void replace(const QList<QAction *> &content);
 
 private:
     Q_DISABLE_COPY(ContentChange)
 
-    ContentChange(const RyToolBarManager *manager, QToolBar *toolBar,
-                  const QList<QAction *> &content, int replacements);
-    bool concerns(const RyToolBarManager *manager, const QToolBar *toolBar) const;
+    bool isOver() const;
+    void takeAllOff();
+    void takeOff(QAction *action);
+    bool isShared(QAction *separator) const;
+    void placeContent();
+    void placeAction(QAction *action);
+    void placeSeparator();
+    QList<QAction *> placedContent() const;
 
-    static ContentChange *s_innermost;
-
-    ContentChange *const m_outer;
-    const RyToolBarManager *const m_manager;
+    RyToolBarManager *const m_manager;
     const QPointer<QToolBar> m_toolBar;
+    // The running change that this one interrupts, or null.
+    ContentChange *const m_outer;
     QList<QAction *> m_content;
-    // When the content was asked for.
-    quint64 m_changesOfActions;
-    // The action that is being taken off, or null.
-    const QAction *m_takenOff;
     // How often the content may still be replaced, so that a host that always wants another one
     // comes to an end.
     int m_replacementsLeft;
     bool m_isReplaced;
-    bool m_isCancelled;
 };
 
 #endif // CONTENTCHANGE_H

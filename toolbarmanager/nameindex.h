@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-#ifndef NAMELOOKUP_H
-#define NAMELOOKUP_H
+#ifndef NAMEINDEX_H
+#define NAMEINDEX_H
 
 #include <QAction>
 #include <QHash>
@@ -9,67 +9,28 @@
 #include <QMessageLogger>
 #include <QToolBar>
 
-/*
- * Finding actions and toolbars by name: by objectName first, then by the property that stands in
- * for it, each miss with its warning. The first match in the order of the container counts.
- */
+// What the warnings call an object, and the name that stands in for a missing objectName.
+template <typename Object> struct NamedObject;
 
-template <typename Object> struct StandInName;
-
-template <> struct StandInName<QAction>
+template <> struct NamedObject<QAction>
 {
     static const char *className() { return "QAction"; }
-    static const char *property() { return "text"; }
-    static QString of(const QAction *action) { return action->text(); }
+    static const char *standInProperty() { return "text"; }
+    static QString standInName(const QAction *action) { return action->text(); }
 };
 
-template <> struct StandInName<QToolBar>
+template <> struct NamedObject<QToolBar>
 {
     static const char *className() { return "QToolBar"; }
-    static const char *property() { return "windowTitle"; }
-    static QString of(const QToolBar *toolBar) { return toolBar->windowTitle(); }
+    static const char *standInProperty() { return "windowTitle"; }
+    static QString standInName(const QToolBar *toolBar) { return toolBar->windowTitle(); }
 };
 
-template <typename Object> void warnAboutObjectName(const QString &name)
-{
-    QMessageLogger(nullptr, 0, nullptr)
-        .warning("RyToolBarManager::restoreState(): cannot find a %s named '%s', "
-                 "trying to match using '%s' instead.",
-                 StandInName<Object>::className(), qPrintable(name),
-                 StandInName<Object>::property());
-}
-
-template <typename Object> void warnAboutStandInName(const QString &name)
-{
-    QMessageLogger(nullptr, 0, nullptr)
-        .warning("RyToolBarManager::restoreState(): cannot find a %s with matching "
-                 "'%s' (looking for '%s').",
-                 StandInName<Object>::className(), StandInName<Object>::property(),
-                 qPrintable(name));
-}
-
 /*
- * Finds one name by walking the objects.
- */
-template <typename Object, typename Objects>
-Object *findNamed(const Objects &objects, const QString &name)
-{
-    for (Object *object : objects) {
-        if (object->objectName() == name)
-            return object;
-    }
-    warnAboutObjectName<Object>(name);
-    for (Object *object : objects) {
-        if (StandInName<Object>::of(object) == name)
-            return object;
-    }
-    warnAboutStandInName<Object>(name);
-    return nullptr;
-}
-
-/*
- * Finds many names among the same objects, with the same results and warnings as findNamed(), but
- * reads each name only once.
+ * Finds actions or toolbars by name.
+ *
+ * The names are read when the index is made, and are not followed from then on. Of several objects
+ * with one name the first of the list is found.
  */
 template <typename Object> class NameIndex
 {
@@ -82,19 +43,24 @@ public:
             insertFirst(m_byObjectName, object->objectName(), object);
     }
 
+    // Null if there is none. Prints nothing.
+    Object *findByObjectName(const QString &name) const { return m_byObjectName.value(name); }
+
+    // By objectName or else by the name that stands in for it, each miss with its warning.
     Object *find(const QString &name)
     {
-        if (Object *const object = m_byObjectName.value(name))
+        if (Object *const object = findByObjectName(name))
             return object;
         // Before the warning, whose handler may be the host's and delete objects.
         Object *const object = byStandInName().value(name);
-        warnAboutObjectName<Object>(name);
+        warnAboutObjectName(name);
         if (!object)
-            warnAboutStandInName<Object>(name);
+            warnAboutStandInName(name);
         return object;
     }
 
 private:
+    using Named = NamedObject<Object>;
     using Index = QHash<QString, Object *>;
 
     static void insertFirst(Index &index, const QString &name, Object *object)
@@ -104,14 +70,30 @@ private:
             first = object;
     }
 
-    // Most layouts never need it, so that it is built when it is first asked for.
+    // Most layouts never need it, so that it is made when it is first asked for.
     const Index &byStandInName()
     {
         if (m_byStandInName.isEmpty()) {
             for (Object *object : m_objects)
-                insertFirst(m_byStandInName, StandInName<Object>::of(object), object);
+                insertFirst(m_byStandInName, Named::standInName(object), object);
         }
         return m_byStandInName;
+    }
+
+    static void warnAboutObjectName(const QString &name)
+    {
+        QMessageLogger(nullptr, 0, nullptr)
+            .warning("RyToolBarManager::restoreState(): cannot find a %s named '%s', "
+                     "trying to match using '%s' instead.",
+                     Named::className(), qPrintable(name), Named::standInProperty());
+    }
+
+    static void warnAboutStandInName(const QString &name)
+    {
+        QMessageLogger(nullptr, 0, nullptr)
+            .warning("RyToolBarManager::restoreState(): cannot find a %s with matching "
+                     "'%s' (looking for '%s').",
+                     Named::className(), Named::standInProperty(), qPrintable(name));
     }
 
     QList<Object *> m_objects;
@@ -119,4 +101,4 @@ private:
     Index m_byStandInName;
 };
 
-#endif // NAMELOOKUP_H
+#endif // NAMEINDEX_H

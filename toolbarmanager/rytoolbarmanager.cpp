@@ -2,21 +2,19 @@
 
 #include "rytoolbarmanager.h"
 
-#include "keptactionnames.h"
-#include "namelookup.h"
-#include "registrychanges.h"
+#include "nameindex.h"
 
 RyToolBarManager::RyToolBarManager(QObject *parent)
     : m_mainWindow(nullptr)
+    , m_innermostChange(nullptr)
+    , m_changesOfActions(0)
+    , m_changesOfToolBars(0)
 {
     // Ignored on purpose: the manager belongs to whoever creates it.
     Q_UNUSED(parent);
 }
 
-RyToolBarManager::~RyToolBarManager()
-{
-    KeptActionNames::forget(this);
-}
+RyToolBarManager::~RyToolBarManager() = default;
 
 void RyToolBarManager::setMainWindow(QMainWindow *mainWindow)
 {
@@ -35,29 +33,25 @@ void RyToolBarManager::addAction(QAction *action, const QString &category)
     m_allActions.insert(action);
     m_categoryToActions[category].append(action);
     m_actionToCategory.insert(action, category);
-    ++RegistryChanges::ofActions;
+    ++m_changesOfActions;
 }
 
 void RyToolBarManager::removeAction(QAction *action)
 {
     if (!m_allActions.contains(action))
         return;
-    // Guarded only if it is used: an action that stands nowhere may be gone already.
-    const auto standing = m_actionToToolBars.constFind(action);
-    const bool stands = standing != m_actionToToolBars.constEnd() && !standing.value().isEmpty();
-    const QPointer<QAction> alive(stands ? action : nullptr);
-    takeOffToolBars(action, alive);
+    takeOffToolBars(action);
     for (auto it = m_defaultToolBars.begin(); it != m_defaultToolBars.end(); ++it)
-        it.value().removeOne(action);
+        it.value().removeAll(action);
     if (!m_allActions.remove(action))
         return;
-    ++RegistryChanges::ofActions;
-    // The host may have placed it anew meanwhile; from now on it cannot.
-    takeOffToolBars(action, alive);
+    ++m_changesOfActions;
+    // The host may have placed it again when it was taken off; from now on it cannot.
+    takeOffToolBars(action);
     forgetCategory(action);
 }
 
-void RyToolBarManager::takeOffToolBars(QAction *action, const QPointer<QAction> &alive)
+void RyToolBarManager::takeOffToolBars(QAction *action)
 {
     const auto toolBars = m_actionToToolBars.take(action);
     for (QToolBar *toolBar : toolBars) {
@@ -65,10 +59,10 @@ void RyToolBarManager::takeOffToolBars(QAction *action, const QPointer<QAction> 
         // The host may have deleted the toolbar when the action was taken off another one.
         if (content == m_toolBars.end())
             continue;
-        // No content holds an action twice.
-        content.value().removeOne(action);
-        m_toolBarsWithSeparators[toolBar].removeOne(action);
-        if (alive)
+        content.value().removeAll(action);
+        m_toolBarsWithSeparators[toolBar].removeAll(action);
+        // An action that was deleted has left its widgets.
+        if (toolBar->actions().contains(action))
             toolBar->removeAction(action);
     }
 }
@@ -79,7 +73,7 @@ void RyToolBarManager::forgetCategory(QAction *action)
     const auto category = m_categoryToActions.find(m_actionToCategory.take(action));
     if (category == m_categoryToActions.end())
         return;
-    category.value().removeOne(action);
+    category.value().removeAll(action);
     if (category.value().isEmpty())
         m_categoryToActions.erase(category);
 }
@@ -117,5 +111,5 @@ QSet<QAction *> RyToolBarManager::actions() const
 
 QAction *RyToolBarManager::findAction(const QString &name) const
 {
-    return findNamed<QAction>(m_allActions, name);
+    return NameIndex<QAction>(m_allActions.values()).find(name);
 }

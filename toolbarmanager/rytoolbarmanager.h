@@ -8,7 +8,6 @@
 #include <QAction>
 #include <QList>
 #include <QMap>
-#include <QPointer>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -43,26 +42,30 @@ class QMainWindow;
  * the host registered with addDefaultToolBar(); its content at that moment is its default content.
  * A custom toolbar is any other managed toolbar. For persistence an action is known by its
  * objectName() or, if that is empty, by its text(); a toolbar by its objectName() or, if that is
- * empty, by its windowTitle(). Names are compared exactly. Where several objects share a name,
- * which one is meant is not defined for actions, and is the one of the lowest address for
- * toolbars: give every action and every toolbar an objectName of its own.
+ * empty, by its windowTitle(). Names are compared exactly. Of several toolbars with one name the
+ * one with the lowest address is found. Of several actions with one name any may be found, but
+ * findAction() and restoreState() find the same one. Give every action and every toolbar a unique
+ * objectName.
  *
  * \par Ownership
  * The manager owns no action, no toolbar and no window, with two exceptions: setToolBar() deletes
- * the separator actions of the content that it replaces (those that stood on a default toolbar when
+ * the separator actions of the content that it replaces (those that were on a default toolbar when
  * it was registered included), and deleteToolBar() deletes a custom toolbar. It does not watch for
  * the destruction of anything: take an action out with removeAction() before you delete it, and
  * keep default toolbars alive as long as the manager is used. The host deletes the manager;
  * custom toolbars stay in the main window then.
  *
- * \par Calls of the host meanwhile
+ * \par Re-entrant calls
  * Every change of a toolbar or window makes Qt call event filters and slots of the host. They may
- * call any operation of the manager in turn: toolbars and actions that are removed then are left
- * alone from then on, and records and widgets agree in the end. They must not delete the manager,
- * nor a managed toolbar otherwise than with deleteToolBar(), nor, as Qt asks, the action of the
- * event that they filter; and a filter that deletes the toolbar that it filters returns true, and
- * does not delete it at a change of its title, which Qt does not survive. A message handler that
- * the warnings of saveState() reach must not change the manager.
+ * call any operation of the manager: toolbars and actions that they remove are left alone from then
+ * on, and records and widgets agree in the end. They must not
+ * - delete the manager;
+ * - delete a managed toolbar except with deleteToolBar();
+ * - delete the action of the event that they filter, as Qt asks;
+ * - change the manager from a message handler that the warnings of saveState() reach.
+ *
+ * An event filter that deletes the toolbar that it filters returns true. It must not do so when the
+ * toolbar's title changes: Qt does not survive that.
  *
  * \par Arguments
  * Null, unknown and repeated arguments are ignored without a message. Only restoring, saving,
@@ -175,8 +178,8 @@ public:
      * \brief Returns the registered action whose objectName() is \a name or, if there is none, the
      *        one whose text() is \a name.
      *
-     * An objectName counts more than a text, whichever would be met first. If several actions
-     * match, which of them is returned is not defined.
+     * An objectName match always wins over a text match. If several actions match, which of them is
+     * returned is not defined.
      *
      * Prints a warning when no objectName matches and a second one when no text matches either;
      * both begin with "RyToolBarManager::restoreState(): ".
@@ -214,13 +217,12 @@ public:
      * \brief Creates an empty custom toolbar in the top area of the main window.
      *
      * Its objectName is "_Custom_Toolbar_%1" with the first number from 1 on that no managed
-     * toolbar bears, so that the numbers of deleted toolbars are used again. Toolbars of the window
-     * that are not managed are not looked at.
+     * toolbar has, so that the numbers of deleted toolbars are used again. Toolbars of the window
+     * that are not managed are not looked at. The toolbar is managed once it is in the window.
      *
      * \param toolBarName the window title; it may be empty and need not be unique.
      * \return the toolbar, owned by the main window and managed until deleteToolBar() or
-     *         removeDefaultToolBar(); null, and nothing created, if no main window is set. Null as
-     * well if the host deletes the toolbar when it hears of it.
+     *         removeDefaultToolBar(); null, and nothing created, if no main window is set.
      */
     QToolBar *createToolBar(const QString &toolBarName);
 
@@ -229,8 +231,8 @@ public:
      *
      * Registered actions survive, those of QToolBar::addWidget() included, which Qt makes children
      * of the toolbar that they are placed on: they become children of the default toolbar that they
-     * came with or else of the toolbar's parent. Lists that the host sets for the toolbar meanwhile
-     * are ignored.
+     * came with or else of the toolbar's parent. Lists that the host sets for the toolbar while it
+     * is being deleted are ignored.
      *
      * \param toolBar a custom toolbar; the pointer dangles afterwards. Null, unmanaged and default
      *        toolbars are ignored.
@@ -245,11 +247,10 @@ public:
      * separator entry as a fresh separator action. An action may stand on several toolbars.
      *
      * Adding and removing actions makes Qt call event filters and slots of the host, which may call
-     * the manager; it still reports the old content then, and setting that very list changes
-     * nothing. Any other list that is set for the same toolbar from there counts instead of this
-     * one, but is placed only when they have returned: of several the last one, and at most a
-     * hundred times, so that a host that always wants another list comes
-     * to an end.
+     * the manager. It reports the old content until this call ends; setting that very list changes
+     * nothing. If such a call sets a different list for the same toolbar, the last one wins and is
+     * applied once the call returns. That happens at most a hundred times, so that a host that
+     * always wants another list comes to an end.
      *
      * \param toolBar a managed toolbar, default or custom; null and unmanaged ones are ignored.
      * \param actions the new content, with null for a separator. Every separator is kept, adjacent
@@ -329,19 +330,19 @@ public:
      *
      * Custom toolbars that do not exist are created if a main window is set and are skipped
      * otherwise. Toolbars that the bytes do not name keep their content, and none is deleted. Names
-     * that nothing bears are skipped with the warnings of findAction() and findDefaultToolBar().
-     * Names of toolbars are read when restoring begins, and anew after the host has registered or
-     * removed toolbars meanwhile. An action is found by the objectName that it bears when its entry
-     * is read; one that is given its name while a state is restored may be missed.
+     * that no action or toolbar has are skipped with the warnings of findAction() and
+     * findDefaultToolBar(). All names are read when restoring begins, and again after the host has
+     * registered or removed anything while a toolbar was restored; a name that changes in between
+     * is not followed.
      *
-     * Damaged bytes are survived, whatever they hold. What lies past their end reads as empty names
-     * and zero counts, for at most 1,000 entries of one toolbar and 1,000 toolbars of one section.
+     * Damaged bytes do no harm, whatever they hold. Where nothing can be read, names are empty and
+     * counts are zero, for at most 1,000 entries of one toolbar and 1,000 toolbars of one section.
      *
      * \param state bytes from saveState(), as they were; an empty array is refused like any other
      *        that is not a state.
      * \param version the number that saveState() was given.
      * \return true if both sections were read. False without any change if the bytes are no state,
-     *         or bear another version: a host can try its older numbers in turn. False with the
+     *         or have another version: a host can try its older numbers in turn. False with the
      *         default toolbars changed if the section of the custom toolbars does not follow:
      *         restoring is deliberately not atomic.
      */
@@ -376,38 +377,32 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     /*!
-     * \brief For other code to tell that \a toolBar was created; the manager never emits it.
+     * \brief For other code to report that \a toolBar was created; the manager never emits it.
      */
     void toolBarCreated(QToolBar *toolBar);
 
     /*!
-     * \brief For other code to tell that \a toolBar was removed; the manager never emits it.
+     * \brief For other code to report that \a toolBar was removed; the manager never emits it.
      */
     void toolBarRemoved(QToolBar *toolBar);
 
     /*!
-     * \brief For other code to tell that \a toolBar now holds \a actions; the manager never emits
+     * \brief For other code to report that \a toolBar now holds \a actions; the manager never emits
      *        it.
      */
     void toolBarChanged(QToolBar *toolBar, const QList<QAction *> &actions);
 
 private:
+    friend class ContentChange;
     friend class ToolBarStateRestorer;
 
-    void forgetCategory(QAction *action);
-    QList<QAction *> placeableActions(const QList<QAction *> &actions) const;
-    void takeOffToolBars(QAction *action, const QPointer<QAction> &alive);
-    void takeContent(ContentChange &change);
-    void deleteSeparator(QAction *separator);
-    void placeContent(const ContentChange &change);
-    void placeAction(const ContentChange &change, QAction *action);
-    void placeSeparator(const ContentChange &change);
-    bool isRecorded(QToolBar *toolBar, QAction *action) const;
-    QList<QAction *> placedContent(QToolBar *toolBar) const;
-    QToolBar *addCustomToolBar(QToolBar *toolBar, const QString &objectName);
-    QToolBar *forgetToolBar(QToolBar *toolBar);
-    void keepActions(QToolBar *toolBar) const;
-    QObject *ownerOf(QAction *action, QObject *otherwise) const;
+    Q_DECL_HIDDEN void takeOffToolBars(QAction *action);
+    Q_DECL_HIDDEN void forgetCategory(QAction *action);
+    Q_DECL_HIDDEN bool isCustomToolBar(QToolBar *toolBar) const;
+    Q_DECL_HIDDEN QList<QAction *> placeableActions(const QList<QAction *> &actions) const;
+    Q_DECL_HIDDEN void forgetToolBar(QToolBar *toolBar);
+    Q_DECL_HIDDEN void keepActions(QToolBar *toolBar) const;
+    Q_DECL_HIDDEN QObject *ownerOf(QAction *action, QObject *otherwise) const;
 
     // Each category with its actions in the order of registration.
     QMap<QString, QList<QAction *>> m_categoryToActions;
@@ -425,6 +420,13 @@ private:
     QMap<QToolBar *, QList<QAction *>> m_defaultToolBars;
     // The host's window, not owned; null until set.
     QMainWindow *m_mainWindow;
+    // The innermost change of a toolbar's content that is running now, or null; it leads to those
+    // that it interrupts.
+    ContentChange *m_innermostChange;
+    // How often actions and toolbars were registered and forgotten. Whoever keeps pointers to them
+    // while the host may be called sees by it that they may be out of date.
+    quint64 m_changesOfActions;
+    quint64 m_changesOfToolBars;
 };
 
 #endif // RYTOOLBARMANAGER_H

@@ -3,13 +3,43 @@
 #include "rytoolbarmanager.h"
 
 #include "contentchange.h"
-#include "customtoolbarnumbers.h"
-#include "namelookup.h"
-#include "registrychanges.h"
+#include "nameindex.h"
 
 #include <QMainWindow>
+#include <QVector>
 
 namespace {
+
+const QLatin1String CustomToolBarPrefix("_Custom_Toolbar_");
+
+// The number of a generated name if it is at most the given one, or else 0. Leading zeros, signs
+// and the like are not generated.
+int numberOf(const QString &objectName, int maximum)
+{
+    if (!objectName.startsWith(CustomToolBarPrefix))
+        return 0;
+    int number = 0;
+    for (int i = CustomToolBarPrefix.size(); i < objectName.size(); ++i) {
+        const int digit = objectName.at(i).unicode() - '0';
+        if (digit < 0 || digit > 9 || (digit == 0 && number == 0))
+            return 0;
+        number = 10 * number + digit;
+        if (number > maximum)
+            return 0;
+    }
+    return number;
+}
+
+// The first generated name that none of the toolbars has.
+QString freeObjectName(const QList<QToolBar *> &toolBars)
+{
+    // Of one number more than there are toolbars at least one is free.
+    const int maximum = toolBars.size() + 1;
+    QVector<bool> taken(maximum + 1);
+    for (const QToolBar *toolBar : toolBars)
+        taken[numberOf(toolBar->objectName(), maximum)] = true;
+    return CustomToolBarPrefix + QString::number(taken.indexOf(false, 1));
+}
 
 bool insertNew(QSet<QAction *> &actions, QAction *action)
 {
@@ -37,13 +67,13 @@ void RyToolBarManager::addDefaultToolBar(QToolBar *toolBar, const QString &categ
     m_defaultToolBars.insert(toolBar, content);
     m_toolBars.insert(toolBar, content);
     m_toolBarsWithSeparators.insert(toolBar, standing);
-    ++RegistryChanges::ofToolBars;
+    ++m_changesOfToolBars;
 }
 
 void RyToolBarManager::removeDefaultToolBar(QToolBar *toolBar)
 {
-    // The inverted test is meant: a default toolbar stays one for the manager's life.
-    if (m_toolBars.contains(toolBar) && !m_defaultToolBars.contains(toolBar))
+    // The inverted test is deliberate: a default toolbar stays one for the manager's life.
+    if (isCustomToolBar(toolBar))
         forgetToolBar(toolBar);
 }
 
@@ -51,50 +81,41 @@ QToolBar *RyToolBarManager::createToolBar(const QString &toolBarName)
 {
     if (!m_mainWindow)
         return nullptr;
-    // Before its number is chosen: the window hears of its new child and may create another one.
-    QToolBar *const toolBar = new QToolBar(toolBarName, m_mainWindow);
-    CustomToolBarNumbers numbers;
-    for (auto it = m_toolBars.cbegin(); it != m_toolBars.cend(); ++it)
-        numbers.addName(it.key()->objectName());
-    return addCustomToolBar(toolBar, numbers.firstFreeName());
-}
-
-// The toolbar is new and a child of its window. It is recorded first, so that its number is taken
-// when the host is called. Null if the host deletes it then.
-QToolBar *RyToolBarManager::addCustomToolBar(QToolBar *toolBar, const QString &objectName)
-{
-    const QPointer<QToolBar> added(toolBar);
-    if (!m_toolBars.contains(toolBar)) {
-        m_toolBars.insert(toolBar, QList<QAction *>());
-        m_toolBarsWithSeparators.insert(toolBar, QList<QAction *>());
-        ++RegistryChanges::ofToolBars;
-    }
-    toolBar->setObjectName(objectName);
-    QMainWindow *const window = added ? qobject_cast<QMainWindow *>(added->parent()) : nullptr;
-    if (window)
-        window->addToolBar(added);
-    return added;
+    // The host sees the new child, and may unset the window.
+    QMainWindow *const window = m_mainWindow;
+    QToolBar *const toolBar = new QToolBar(toolBarName, window);
+    toolBar->setObjectName(freeObjectName(m_toolBars.keys()));
+    window->addToolBar(toolBar);
+    m_toolBars.insert(toolBar, QList<QAction *>());
+    m_toolBarsWithSeparators.insert(toolBar, QList<QAction *>());
+    ++m_changesOfToolBars;
+    return toolBar;
 }
 
 void RyToolBarManager::deleteToolBar(QToolBar *toolBar)
 {
-    if (m_toolBars.contains(toolBar) && !m_defaultToolBars.contains(toolBar))
-        delete forgetToolBar(toolBar);
+    if (!isCustomToolBar(toolBar))
+        return;
+    const QPointer<QToolBar> forgotten(toolBar);
+    forgetToolBar(toolBar);
+    if (!forgotten || m_toolBars.contains(forgotten))
+        return;
+    keepActions(forgotten);
+    delete forgotten;
 }
 
-// Empties a custom toolbar and returns it; null if the host made the manager forget it meanwhile.
-QToolBar *RyToolBarManager::forgetToolBar(QToolBar *toolBar)
+bool RyToolBarManager::isCustomToolBar(QToolBar *toolBar) const
 {
-    ContentChange change(this, toolBar);
-    takeContent(change);
-    if (change.isCancelled())
-        return nullptr;
+    return m_toolBars.contains(toolBar) && !m_defaultToolBars.contains(toolBar);
+}
+
+void RyToolBarManager::forgetToolBar(QToolBar *toolBar)
+{
+    if (!ContentChange(this, toolBar).empty())
+        return;
     m_toolBars.remove(toolBar);
     m_toolBarsWithSeparators.remove(toolBar);
-    ++RegistryChanges::ofToolBars;
-    ContentChange::cancel(this, toolBar);
-    keepActions(toolBar);
-    return toolBar;
+    ++m_changesOfToolBars;
 }
 
 // What QToolBar::addWidget() made becomes the child of each toolbar that it is placed on. It is
@@ -124,20 +145,10 @@ void RyToolBarManager::setToolBar(QToolBar *toolBar, const QList<QAction *> &act
     if (current == m_toolBars.constEnd() || current.value() == actions)
         return;
     const QList<QAction *> content = placeableActions(actions);
-    if (ContentChange *const running = ContentChange::running(this, toolBar)) {
-        running->replaceContent(content);
-        return;
-    }
-    ContentChange change(this, toolBar, content);
-    do {
-        takeContent(change);
-        placeContent(change);
-    } while (change.startAgain());
-    if (change.isCancelled())
-        return;
-    const bool complete = change.isContentRegistered()
-        && m_toolBarsWithSeparators.value(toolBar).size() == change.content().size();
-    m_toolBars.insert(toolBar, complete ? change.content() : placedContent(toolBar));
+    if (ContentChange *const running = ContentChange::running(this, toolBar))
+        running->replace(content);
+    else
+        ContentChange(this, toolBar).run(content);
 }
 
 QList<QAction *> RyToolBarManager::placeableActions(const QList<QAction *> &actions) const
@@ -151,95 +162,6 @@ QList<QAction *> RyToolBarManager::placeableActions(const QList<QAction *> &acti
             placeable.append(action);
     }
     return placeable;
-}
-
-// Each action leaves the records before the widget, so that a host that is called finds no record
-// of what no longer stands there.
-void RyToolBarManager::takeContent(ContentChange &change)
-{
-    while (!change.isInterrupted()) {
-        QList<QAction *> &standing = m_toolBarsWithSeparators[change.toolBar()];
-        if (standing.isEmpty())
-            return;
-        const QPointer<QAction> action(standing.takeFirst());
-        const auto toolBars = m_actionToToolBars.find(action);
-        if (toolBars != m_actionToToolBars.end())
-            toolBars.value().removeAll(change.toolBar());
-        change.takeOff(action);
-        // A registered action that became a separator later is still the host's.
-        if (action && action->isSeparator() && !m_allActions.contains(action))
-            deleteSeparator(action);
-    }
-}
-
-// A separator action of the host may stand on several default toolbars; the last one deletes it.
-void RyToolBarManager::deleteSeparator(QAction *separator)
-{
-    if (ContentChange::isTakingOff(separator))
-        return;
-    const auto widgets = separator->associatedWidgets();
-    for (QWidget *widget : widgets) {
-        if (isRecorded(qobject_cast<QToolBar *>(widget), separator))
-            return;
-    }
-    delete separator;
-}
-
-void RyToolBarManager::placeContent(const ContentChange &change)
-{
-    const QList<QAction *> content = change.content();
-    for (QAction *action : content) {
-        if (change.isInterrupted())
-            return;
-        if (!action)
-            placeSeparator(change);
-        else if (change.isContentRegistered() || m_allActions.contains(action))
-            placeAction(change, action);
-    }
-}
-
-// Recorded only afterwards: what is taken off while Qt puts it on would leave its button behind.
-void RyToolBarManager::placeAction(const ContentChange &change, QAction *action)
-{
-    const QPointer<QAction> placed(action);
-    const quint64 changesOfActions = RegistryChanges::ofActions;
-    change.toolBar()->insertAction(nullptr, action);
-    if (!placed)
-        return;
-    const bool registered =
-        changesOfActions == RegistryChanges::ofActions || m_allActions.contains(action);
-    if (!change.isCancelled() && registered) {
-        m_actionToToolBars[action].append(change.toolBar());
-        m_toolBarsWithSeparators[change.toolBar()].append(action);
-    } else if (change.toolBar() && !isRecorded(change.toolBar(), action)) {
-        change.toolBar()->removeAction(action);
-    }
-}
-
-void RyToolBarManager::placeSeparator(const ContentChange &change)
-{
-    QAction *const separator = change.toolBar()->insertSeparator(nullptr);
-    // It goes with a toolbar that is gone.
-    if (!change.isCancelled())
-        m_toolBarsWithSeparators[change.toolBar()].append(separator);
-    else if (change.toolBar() && !isRecorded(change.toolBar(), separator))
-        delete separator;
-}
-
-bool RyToolBarManager::isRecorded(QToolBar *toolBar, QAction *action) const
-{
-    return m_toolBarsWithSeparators.value(toolBar).contains(action);
-}
-
-// What setToolBar() has placed: registered actions, and separators that it made.
-QList<QAction *> RyToolBarManager::placedContent(QToolBar *toolBar) const
-{
-    QList<QAction *> content = m_toolBarsWithSeparators.value(toolBar);
-    for (QAction *&entry : content) {
-        if (!m_allActions.contains(entry))
-            entry = nullptr;
-    }
-    return content;
 }
 
 void RyToolBarManager::setToolBars(const QMap<QToolBar *, QList<QAction *>> &toolBars)
@@ -290,14 +212,10 @@ QList<QAction *> RyToolBarManager::actions(QToolBar *toolBar) const
 
 QToolBar *RyToolBarManager::toolBarByName(const QString &name) const
 {
-    for (auto it = m_toolBars.cbegin(); it != m_toolBars.cend(); ++it) {
-        if (it.key()->objectName() == name)
-            return it.key();
-    }
-    return nullptr;
+    return NameIndex<QToolBar>(m_toolBars.keys()).findByObjectName(name);
 }
 
 QToolBar *RyToolBarManager::findDefaultToolBar(const QString &name) const
 {
-    return findNamed<QToolBar>(m_defaultToolBars.keys(), name);
+    return NameIndex<QToolBar>(m_defaultToolBars.keys()).find(name);
 }

@@ -3,12 +3,10 @@
 #include "toolbarstaterestorer.h"
 
 #include "countedentries.h"
-#include "registrychanges.h"
 #include "rytoolbarmanager.h"
 #include "toolbarstateformat.h"
 
 #include <QDataStream>
-#include <QMainWindow>
 #include <QPointer>
 
 namespace {
@@ -21,10 +19,11 @@ const qint32 UsualEntries = 64;
 ToolBarStateRestorer::ToolBarStateRestorer(RyToolBarManager *manager, QDataStream &stream)
     : m_manager(manager)
     , m_stream(stream)
-    , m_actionNames(KeptActionNames::of(manager))
-    , m_hasReadActionNames(false)
-    , m_defaultToolBars(manager->defaultToolBars().keys())
-    , m_changesOfToolBars(RegistryChanges::ofToolBars)
+    , m_actions(manager->m_allActions.values())
+    , m_defaultToolBars(manager->m_defaultToolBars.keys())
+    , m_toolBars(manager->m_toolBars.keys())
+    , m_changesOfActions(manager->m_changesOfActions)
+    , m_changesOfToolBars(manager->m_changesOfToolBars)
 {
 }
 
@@ -65,7 +64,6 @@ void ToolBarStateRestorer::restoreDefaultToolBar()
 
 void ToolBarStateRestorer::restoreCustomToolBars()
 {
-    indexToolBars();
     CountedEntries records(m_stream, readCount());
     while (records.next())
         restoreCustomToolBar();
@@ -116,74 +114,29 @@ qint32 ToolBarStateRestorer::readCount()
 
 QAction *ToolBarStateRestorer::actionNamed(const QString &name)
 {
-    if (QAction *const action = m_actionNames.find(name))
-        return action;
-    // It may have been given its name since an earlier restore, or registered during this one.
-    if (!m_hasReadActionNames || !m_actionNames.areOfTheRegistry()) {
-        readActionNames();
-        if (QAction *const action = m_actionNames.find(name))
-            return action;
+    if (m_changesOfActions != m_manager->m_changesOfActions) {
+        m_changesOfActions = m_manager->m_changesOfActions;
+        m_actions = NameIndex<QAction>(m_manager->m_allActions.values());
     }
-    if (!m_actions)
-        m_actions.reset(new NameIndex<QAction>(m_manager->actions().values()));
-    return m_actions->find(name);
+    return m_actions.find(name);
 }
 
-void ToolBarStateRestorer::readActionNames()
-{
-    m_actionNames = KeptActionNames(m_manager->actions(), m_manager->m_actionToCategory.keys());
-    m_actionNames.keepFor(m_manager);
-    m_hasReadActionNames = true;
-    // An action that the host removed meanwhile may be gone.
-    m_actions.reset();
-}
-
-// A toolbar that the host deleted meanwhile is gone.
 void ToolBarStateRestorer::updateToolBars()
 {
-    if (m_changesOfToolBars == RegistryChanges::ofToolBars)
+    if (m_changesOfToolBars == m_manager->m_changesOfToolBars)
         return;
-    m_changesOfToolBars = RegistryChanges::ofToolBars;
-    m_defaultToolBars = NameIndex<QToolBar>(m_manager->defaultToolBars().keys());
-    indexToolBars();
+    m_changesOfToolBars = m_manager->m_changesOfToolBars;
+    m_defaultToolBars = NameIndex<QToolBar>(m_manager->m_defaultToolBars.keys());
+    m_toolBars = NameIndex<QToolBar>(m_manager->m_toolBars.keys());
 }
 
-void ToolBarStateRestorer::indexToolBars()
-{
-    m_toolBars.clear();
-    m_numbers = CustomToolBarNumbers();
-    const auto toolBars = m_manager->toolBars();
-    for (QToolBar *toolBar : toolBars) {
-        const QString objectName = toolBar->objectName();
-        if (!m_toolBars.contains(objectName))
-            m_toolBars.insert(objectName, toolBar);
-        m_numbers.addName(objectName);
-    }
-}
-
-// The toolbar of that objectName, with the title; a new one that still bears its generated name if
-// there is none; null if that takes a main window and there is none.
+// A new one if none has that objectName. Null if that takes a main window and there is none.
 QToolBar *ToolBarStateRestorer::titledToolBar(const QString &objectName, const QString &title)
 {
     updateToolBars();
-    if (const QPointer<QToolBar> toolBar = m_toolBars.value(objectName)) {
-        toolBar->setWindowTitle(title);
-        return toolBar;
-    }
-    return m_manager->mainWindow() ? createdToolBar(objectName, title) : nullptr;
-}
-
-QToolBar *ToolBarStateRestorer::createdToolBar(const QString &objectName, const QString &title)
-{
-    QScopedPointer<QToolBar> toolBar(new QToolBar(title, m_manager->mainWindow()));
-    updateToolBars();
-    // The window heard of its new child, and the host may have restored the same one.
-    if (m_toolBars.contains(objectName))
-        return titledToolBar(objectName, title);
-    QToolBar *const added = m_manager->addCustomToolBar(toolBar.take(), m_numbers.firstFreeName());
-    m_toolBars.insert(objectName, added);
-    m_numbers.addName(objectName);
-    // Its own addition needs no new index; any other one of that moment does.
-    ++m_changesOfToolBars;
-    return added;
+    const QPointer<QToolBar> toolBar(m_toolBars.findByObjectName(objectName));
+    if (!toolBar)
+        return m_manager->createToolBar(title);
+    toolBar->setWindowTitle(title);
+    return toolBar;
 }

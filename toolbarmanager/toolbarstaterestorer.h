@@ -3,13 +3,9 @@
 #ifndef TOOLBARSTATERESTORER_H
 #define TOOLBARSTATERESTORER_H
 
-#include "customtoolbarnumbers.h"
-#include "keptactionnames.h"
-#include "namelookup.h"
+#include "nameindex.h"
 
-#include <QHash>
 #include <QList>
-#include <QScopedPointer>
 #include <QString>
 
 class QDataStream;
@@ -36,25 +32,18 @@ private:
     QString readString();
     qint32 readCount();
     QAction *actionNamed(const QString &name);
-    void readActionNames();
     void updateToolBars();
-    void indexToolBars();
     QToolBar *titledToolBar(const QString &objectName, const QString &title);
-    QToolBar *createdToolBar(const QString &objectName, const QString &title);
 
     RyToolBarManager *const m_manager;
     QDataStream &m_stream;
-    // Read by an earlier restore, or by this one.
-    KeptActionNames m_actionNames;
-    bool m_hasReadActionNames;
-    // For names that are no objectNames; null until there is one.
-    QScopedPointer<NameIndex<QAction>> m_actions;
+    NameIndex<QAction> m_actions;
     NameIndex<QToolBar> m_defaultToolBars;
-    // Every managed toolbar by objectName, the lowest address first; kept up to date.
-    QHash<QString, QToolBar *> m_toolBars;
-    CustomToolBarNumbers m_numbers;
-    // What the indexes of toolbars were made from; more means that the host was called and changed
-    // it.
+    // Default and custom ones.
+    NameIndex<QToolBar> m_toolBars;
+    // What the manager had counted when the names were read. If it has counted more since, the host
+    // was called and changed the registry.
+    quint64 m_changesOfActions;
     quint64 m_changesOfToolBars;
 };
 

@@ -31,7 +31,7 @@ EQUIVALENT = ROOT / "tools" / "mutate-equivalent.txt"
 # Survivors of at most this share are let through; each is printed all the same.
 ALLOWED = 0.03
 TEST_TIMEOUT = 300
-CODE_IN_HEADERS = ("namelookup.h", "toolbarstateformat.h")
+CODE_IN_HEADERS = ("nameindex.h", "toolbarstateformat.h")
 
 Mutant = collections.namedtuple("Mutant", "path line kind old new")
 

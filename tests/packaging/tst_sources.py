@@ -16,7 +16,7 @@ SOURCE_DIR = Path(os.environ['SOURCE_DIR'])
 SUBSYSTEMS = ('dialog', 'toolbarmanager', 'toolbareditor', 'ribbon')
 
 # Headers of functions that share a class.
-NAMED_AFTER_FUNCTIONS = ('toolbarmanager/namelookup.h',)
+NAMED_AFTER_FUNCTIONS = ('toolbarmanager/nameindex.h',)
 
 # What Qt offers since a later version than the first one that the library has to compile with.
 NEWER_THAN_QT_5_6 = {

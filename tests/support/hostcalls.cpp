@@ -33,7 +33,6 @@ bool HostCalls::eventFilter(QObject *watched, QEvent *event)
 
 QString inconsistencyOf(const RyToolBarManager &manager)
 {
-    QStringList names;
     const auto toolBars = manager.toolBars();
     for (QToolBar *toolBar : toolBars) {
         const QStringList recorded = contentOf(manager.actions(toolBar));
@@ -49,9 +48,6 @@ QString inconsistencyOf(const RyToolBarManager &manager)
             if (action && !manager.actions().contains(action))
                 return toolBar->windowTitle() + QLatin1String(" holds an unregistered action");
         }
-        names << toolBar->objectName();
     }
-    if (names.removeDuplicates() > 0)
-        return QStringLiteral("two toolbars of one objectName");
     return QString();
 }

@@ -3,6 +3,7 @@
 #include "host.h"
 #include "layout.h"
 #include "literalreader.h"
+#include "pipe.h"
 #include "processuse.h"
 #include "statewriter.h"
 #include "testcase.h"
@@ -158,6 +159,8 @@ private Q_SLOTS:
     void negativeCountsReadNothing();
     void aListAndItsSectionEachGoAThousandPastTheEnd();
     void entriesThatTheBytesHoldAreNotLimited();
+    void entriesThatASequentialDeviceHoldsAreNotLimited();
+    void aStreamInAFailedTransactionIsReadToAnEnd();
 
     void theStatesAreWhatIsSaved_data();
     void theStatesAreWhatIsSaved();
@@ -349,6 +352,43 @@ void tst_RyToolBarManager_damage::entriesThatTheBytesHoldAreNotLimited()
         writer.defaultToolBar(QString(), {});
     QVERIFY(host.manager.restoreState(writer.customs(0).bytes(), 3));
     QCOMPARE(takeWarnings(), namelessToolBars(1100));
+}
+
+void tst_RyToolBarManager_damage::entriesThatASequentialDeviceHoldsAreNotLimited()
+{
+    Host host;
+    QToolBar *const file = host.defaultToolBar(name("file"), words("open"), A);
+    Pipe pipe(StateWriter()
+                  .defaults(1)
+                  .defaultToolBar(name("file"), separators(1500))
+                  .customs(0)
+                  .bytes());
+    QVERIFY(pipe.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    QVERIFY(pipe.atEnd());
+    QDataStream stream(&pipe);
+    QVERIFY(host.manager.restoreStateData(stream));
+    QCOMPARE(standingOn(file), separators(1500));
+}
+
+// From the first error on nothing more is read, though the device still has bytes.
+void tst_RyToolBarManager_damage::aStreamInAFailedTransactionIsReadToAnEnd()
+{
+    Host host;
+    QToolBar *const file = host.defaultToolBar(name("file"), words("open"), A);
+    // An odd number of bytes is no string.
+    QDataStream stream(StateWriter()
+                           .defaults(Highest)
+                           .text(name("file"))
+                           .number(Highest)
+                           .number(3)
+                           .texts(separators(5000))
+                           .bytes());
+    stream.startTransaction();
+    QVERIFY(!host.manager.restoreStateData(stream));
+    QVERIFY(!stream.commitTransaction());
+    // One for the damaged string, which has bytes.
+    QCOMPARE(standingOn(file), separators(1001));
+    QCOMPARE(takeWarnings(), namelessToolBars(1000));
 }
 
 void tst_RyToolBarManager_damage::theStatesAreWhatIsSaved_data()

@@ -133,6 +133,9 @@ private Q_SLOTS:
     void theWidgetOfADeletedToolBarReturns();
     void widgetsOfADeletedToolBarReturnToTheirOwnToolBars();
     void aWidgetActionOutlivesItsToolBars();
+    void aSeparatorThatTheHostTookOffIsDeleted();
+    void anActionThatWasDeletedIsNotTouched();
+    void removeDefaultToolBarLeavesWidgetActionsToTheirToolBar();
     void deleteToolBarIgnoresOtherToolBars_data();
     void deleteToolBarIgnoresOtherToolBars();
 
@@ -949,10 +952,48 @@ void tst_RyToolBarManager_toolbars::aWidgetActionOutlivesItsToolBars()
     QToolBar *const mine = host.manager.createToolBar(name("Mine"));
     host.manager.setToolBar(mine, {box});
     other.reset();
-    host.manager.removeDefaultToolBar(mine);
-    QCOMPARE(box->parent(), &host.window);
-    delete mine;
+    host.manager.deleteToolBar(mine);
     QVERIFY(box);
+    QCOMPARE(box->parent(), &host.window);
+    host.manager.removeAction(box);
+}
+
+void tst_RyToolBarManager_toolbars::aSeparatorThatTheHostTookOffIsDeleted()
+{
+    Host host;
+    QToolBar *const file = host.defaultToolBar(name("file"), words("open | save"), A);
+    const QPointer<QAction> separator = file->actions().at(1);
+    file->removeAction(separator);
+    host.manager.setToolBar(file, {});
+    QVERIFY(!separator);
+}
+
+// Not promised, but a host that deletes an action too early should not crash.
+void tst_RyToolBarManager_toolbars::anActionThatWasDeletedIsNotTouched()
+{
+    Host host;
+    QToolBar *const file = host.defaultToolBar(name("file"), words("open | save cut"), A);
+    QAction *const open = host.action(name("open"));
+    QAction *const save = host.action(name("save"));
+    delete open;
+    delete save;
+    host.manager.removeAction(open);
+    host.manager.setToolBar(file, host.list(words("cut")));
+    host.manager.removeAction(save);
+    QCOMPARE(standingOn(file), words("cut"));
+    QCOMPARE(contentOf(host.manager.actions(file)), words("cut"));
+}
+
+void tst_RyToolBarManager_toolbars::removeDefaultToolBarLeavesWidgetActionsToTheirToolBar()
+{
+    Host host;
+    QToolBar *const mine = host.manager.createToolBar(name("Mine"));
+    QAction *const box = mine->addWidget(new QLineEdit);
+    box->setObjectName(name("box"));
+    host.manager.addAction(box, A);
+    host.manager.setToolBar(mine, {box});
+    host.manager.removeDefaultToolBar(mine);
+    QCOMPARE(box->parent(), mine);
     host.manager.removeAction(box);
 }
 
