@@ -17,8 +17,8 @@
 
 namespace {
 
-// A style tints the icons of selected rows in the color that is already behind them. An icon that
-// brings pixmaps of its own for them is left alone.
+// A style tints the icons of selected rows with the color of their background. It does not change
+// icons that have their own pixmaps for selected rows.
 QIcon visibleWhenSelected(QIcon icon)
 {
     const auto sizes = icon.availableSizes();
@@ -91,7 +91,7 @@ void DressedWindow::customizeToolBars()
     dialog.exec();
 }
 
-// A child of the modal dialog, or the user could not even scroll in it.
+// A child of the modal dialog. Otherwise the user could not even scroll in it.
 void DressedWindow::showHelp(RyCustomizedDialog *dialog)
 {
     QDialog *window = dialog->findChild<QDialog *>(QStringLiteral("help"));

@@ -18,7 +18,7 @@ QPixmap inColor(QPixmap pixmap, const QColor &color)
     return pixmap;
 }
 
-// The color shines around the drawing, which so stands out on dark and on light backgrounds.
+// The glow around the drawing makes it visible on dark and on light backgrounds.
 QPixmap withHalo(const QPixmap &drawing, const QColor &color)
 {
     const QPixmap shape = inColor(drawing, color);
@@ -31,8 +31,8 @@ QPixmap withHalo(const QPixmap &drawing, const QColor &color)
     return result;
 }
 
-// A style tints the icons of selected rows in the color that is already behind them, so that little
-// is left to see in the toolbar editor. These icons bring pictures of their own for that.
+// A style tints the icons of selected rows with the color of their background, so they can hardly
+// be seen in the toolbar editor. These icons have their own pixmaps for selected rows.
 QIcon iconNamed(const char *name)
 {
     const QIcon drawing(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
@@ -188,7 +188,7 @@ void ActionCatalog::addHelpActions()
     startCategory(tr("Help"));
     add("help_tour", "help", tr("Toolbar Tour"), tr("Open a page about the toolbars"),
         QKeySequence::HelpContents);
-    add("help_about", "about", tr("About Text Editor"), tr("Tell what this application is"));
+    add("help_about", "about", tr("About Text Editor"), tr("Show what this application is"));
 }
 
 void ActionCatalog::startCategory(const QString &title)
