@@ -100,12 +100,11 @@ void DressedWindow::showHelp(RyCustomizedDialog *dialog)
         window->setObjectName(QStringLiteral("help"));
         window->setWindowTitle(tr("Toolbars"));
         QTextBrowser *const text = new QTextBrowser;
-        text->setHtml(
-            tr("<h2>Your toolbars</h2>"
-               "<p>To the left are all actions, to the right the toolbars and what stands "
-               "on the current one.</p>"
-               "<p>Insert adds the current action. Alt+Up and Alt+Down move it, Delete "
-               "removes it. Nothing changes before OK or Apply.</p>"));
+        text->setHtml(tr("<h2>Your toolbars</h2>"
+                         "<p>On the left are all actions. On the right are the toolbars, and the "
+                         "content of the current one.</p>"
+                         "<p>Insert adds the current action. Alt+Up and Alt+Down move it, Delete "
+                         "removes it. Nothing changes before OK or Apply.</p>"));
         QVBoxLayout *const layout = new QVBoxLayout(window);
         layout->addWidget(text);
     }

@@ -163,7 +163,7 @@ def toolbar_in_window(tour):
     tour.expect_tool_bars({**tour.shipped, NAME: CONTENT})
     window = tour.editor.main_window
     tour.desktop.picture_of_window(window.rect, tour.output_file("window.png"))
-    return f'The toolbar "{NAME}" stands in the window: {listed(CONTENT)}'
+    return f'The toolbar "{NAME}" is in the window: {listed(CONTENT)}'
 
 
 def toolbar_moved(tour):
@@ -171,7 +171,7 @@ def toolbar_moved(tour):
     before = tour.editor.place_of(NAME)
     left_edge = Point(window.x + 8, window.center.y)
     tour.desktop.drag(tour.editor.handle_of(NAME), left_edge)
-    wait_for(f'"{NAME}" does not stand upright at the left edge', lambda: is_at_the_left(tour))
+    wait_for(f'"{NAME}" is not upright at the left edge', lambda: is_at_the_left(tour))
     tour.expect_tool_bars({**tour.shipped, NAME: CONTENT})
     tour.place = settled(f'the place of "{NAME}"', lambda: tour.editor.place_of(NAME))
     return f'Dragged to the left edge, "{NAME}" moves from {at(before)} to {at(tour.place)}'
