@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Measures the library beside bare Qt that does the same, from nothing but this folder on a Debian
-# or Ubuntu system, in less than five minutes. What is missing is installed with apt; everything
-# else stays in build/: the table as CSV and JSON, the curves as a picture.
+# Compares the library with bare Qt code that does the same, in less than five minutes. Needs nothing
+# but this folder on a Debian or Ubuntu system. Installs missing packages with apt; everything else
+# stays in build/: the table as CSV and JSON, the curves as a picture.
 #
 # usage: bench.sh [--update]
-#   --update  writes table and curves into docs/ as well
+#   --update  also writes the table and the curves into docs/
 
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit
 . tools/steps.sh
@@ -17,7 +17,7 @@ program=build/benchmark/benchmarks/benchmarks
 step 'Packages' tools/install-packages.sh tools/packages-benchmark.txt
 step 'Configure' cmake --preset benchmark
 step 'Build' cmake --build --preset benchmark --parallel "$(nproc)"
-step 'Both sides give the same' "$program" --check
+step 'Both sides have the same results' "$program" --check
 step 'Measure' "$program" --seconds 2 --json build/bench.json
 try 'Targets' benchmarks/report.py build/bench.json build/bench "$@"
 finish 'all targets are met, or a miss is explained; see build/bench.csv, .json and .svg'

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Shows the dialog at work in the text editor example: in a window where there is a display, and as
-# a tour that looks at its own steps and leaves pictures of them where there is none. What is missing
-# is installed with apt; everything else stays in build/.
+# Shows the dialog in the text editor example. With a display, it opens a window. Without one, it runs
+# a tour that checks each step and takes pictures. Installs missing packages with apt; everything else
+# stays in build/.
 
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit
 . tools/steps.sh
@@ -15,7 +15,7 @@ packages=(tools/packages-demo.txt)
 [ -n "$has_display" ] || packages+=("$tour/packages.txt")
 step 'Packages' tools/install-packages.sh "${packages[@]}"
 
-# A folder of its own, because the tests need more packages.
+# A separate build, because the tests need more packages.
 build=build/demo-release
 step 'Configure' cmake --preset release -B "$build" -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF
 step 'Build' cmake --build "$build" --parallel "$(nproc)"
@@ -25,5 +25,5 @@ if [ -n "$has_display" ]; then
     finish 'the text editor was closed'
 else
     step 'Tour' "$tour/run.sh" "$build" build/demo
-    finish 'every step of the tour held; its pictures and tour.gif are in build/demo'
+    finish 'every step of the tour passed; its pictures and tour.gif are in build/demo'
 fi

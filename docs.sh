@@ -3,7 +3,7 @@
 #
 # Writes the reference of the public headers: build/docs/docs/html, for browsers, and
 # build/docs/docs/RyCustomizedDialog.qch, for Qt Assistant and Qt Creator. Fails if a public name has no
-# comment, and if Qt's help viewers do not find every class. What is missing is installed with apt.
+# comment, and if Qt's help viewers do not find every class. Installs missing packages with apt.
 
 # shellcheck disable=SC2317 # the steps are functions
 
@@ -28,14 +28,14 @@ read_help() {
         "$build/readhelp" "$PWD/$help_file" "$PWD/$build/reader.qhc" "${names[@]}"
 }
 
-# The viewer itself, with settings of its own. It forgets only what it knows.
+# Qt Assistant itself, with separate settings. It can unregister only a file that it has registered.
 register_help() {
     local file home
     file=$PWD/$help_file home=$PWD/$build/home
     rm -rf "$home" && mkdir "$home" &&
         HOME=$home assistant -register "$file" -quiet &&
         HOME=$home assistant -unregister "$file" -quiet &&
-        echo 'Qt Assistant has registered the help file and forgotten it again.'
+        echo 'Qt Assistant has registered and unregistered the help file.'
 }
 
 step 'Packages' tools/install-packages.sh tools/packages-docs.txt

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Builds the library and the examples and runs all tests, from nothing but this folder on a Debian
-# or Ubuntu system. What is missing is installed with apt; everything else stays in build/.
+# Builds the library and the examples and runs all tests. Needs nothing but this folder on a Debian or
+# Ubuntu system. Installs missing packages with apt; everything else stays in build/.
 
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit
 . tools/steps.sh

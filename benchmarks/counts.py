@@ -4,8 +4,9 @@
 
 usage: counts.py PROGRAM OUTPUT [--update]
 
-OUTPUT is the folder for callgrind's files. The counts are those of the library with all that it
-calls, and of the library's own code alone. Fails if one of them has grown by more than a tenth.
+OUTPUT is the folder for callgrind's files. There are two counts: the library together with
+everything that it calls, and the library's own code alone. Fails if one of them has grown by more
+than a tenth.
 """
 
 import os
@@ -25,39 +26,39 @@ OPERATIONS = ('setToolBar', 'saveState', 'restoreState-first', 'restoreState-unc
               'restoreState-changed', 'createToolBar', 'removeAction', 'openDialog', 'addAndRemoveEntry',
               'apply-unchanged', 'apply-changed')
 GROWTH = 1.10
-# Of the library's own code, so few more or less do not count: they depend on addresses.
+# Smaller differences in the library's own code are ignored: they depend on addresses.
 SLACK = 1000
-# The same for everybody: nothing of the user's, and the same order of all hashes.
+# The same everywhere: no settings of the user, and the same order in all hashes.
 ENVIRONMENT = {'PATH': os.environ['PATH'], 'HOME': '/nonexistent', 'LC_ALL': 'C.UTF-8',
                'QT_HASH_SEED': '0'}
 
 
 def versions(program):
-    """What the counts depend on."""
+    """The versions that the counts depend on."""
     said = subprocess.run([program, '--about'], check=True, capture_output=True, text=True).stdout
     return dict(line.split(' ', 1) for line in said.splitlines())
 
 
 def run(program, operation, output):
-    """Counts one operation; returns the counts in all and in the library."""
+    """Counts one operation; returns the total and the count of the library."""
     file = Path(output) / f'{operation}.callgrind'
     command = ['valgrind', '--tool=callgrind', '--toggle-collect=ry_counted_operation',
                f'--callgrind-out-file={file}', program, '--count', operation]
     process = subprocess.run(command, env=ENVIRONMENT, capture_output=True, text=True, check=False)
     if process.returncode != 0:
-        sys.exit(f'{operation} cannot be counted:\n{process.stderr}')
+        sys.exit(f'cannot count {operation}:\n{process.stderr}')
     return counts_of(file)
 
 
 def counts_of(file):
-    """Sums what callgrind wrote."""
+    """Adds up the counts in a file of callgrind."""
     names = {}
     total = own = 0
     in_library = call_follows = False
     for line in file.read_text(errors='replace').splitlines():
         found = re.match(r'(c?ob)=\((\d+)\)(?: (.*))?', line)
         if found:
-            # Each name stands only where its number is first used.
+            # A name is only given where its number is first used.
             if found[3]:
                 names[found[2]] = found[3]
             if found[1] == 'ob':
@@ -67,7 +68,7 @@ def counts_of(file):
         elif line.startswith('calls='):
             call_follows = True
         elif re.match(r'[+*\-]?\d* ?\d+$', line):
-            # What a call costs is counted where it is spent.
+            # The cost of a call is counted in the called function.
             if in_library and not call_follows:
                 own += int(line.split()[-1])
             call_follows = False
@@ -116,7 +117,7 @@ def main():
     others = [f'{key} {value} instead of {record.get(key)}' for key, value in about.items()
               if record.get(key) != value]
     if others and not update:
-        print(f'Nothing is compared, because the counts were made with another Qt or compiler: '
+        print(f'Nothing is compared, because the record is for another Qt or compiler: '
               f'{", ".join(others)}.')
         return
     Path(output).mkdir(parents=True, exist_ok=True)

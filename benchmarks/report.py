@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Prints what the benchmarks measured as a table and writes it as CSV, and the curves as SVG.
+"""Prints the results of the benchmarks as a table, and writes them as CSV and the curves as SVG.
 
 usage: report.py FIGURES.json OUTPUT [--update]
 
-OUTPUT is the path of the files to write, without suffix. Fails if a target is missed that
-explained.txt does not list.
+OUTPUT is the path of the files to write, without suffix. Fails if a target is missed and
+explained.txt does not give the reason.
 """
 
 import csv
@@ -26,7 +26,7 @@ PICTURE = SOURCE_DIR / 'docs' / 'images' / 'performance-curves.svg'
 
 
 def machine(figures):
-    """What was measured where, in one sentence."""
+    """Date and machine of the measurement, in one sentence."""
     model = platform.processor() or platform.machine()
     for line in Path('/proc/cpuinfo').read_text().splitlines():
         if line.startswith('model name'):
@@ -54,7 +54,7 @@ def number(value):
 
 
 def explained():
-    """The titles of the lines whose miss is explained, each with the reason."""
+    """The titles of the lines that may miss their target, each with the reason."""
     reasons = {}
     for line in EXPLAINED.read_text().splitlines():
         if line and not line.startswith('#'):
@@ -129,7 +129,7 @@ def write_csv(path, parts):
 
 
 class Chart:
-    """One operation: time against a number, both logarithmic, ours beside bare Qt."""
+    """One operation: time against a number, both logarithmic, for the library and for bare Qt."""
 
     WIDTH, HEIGHT = 400, 290
     LEFT, RIGHT, TOP, BOTTOM = 68, 26, 30, 44
@@ -174,7 +174,7 @@ class Chart:
         yield f'<g transform="translate({left} {top})">'
         yield f'<text x="{self.LEFT}" y="18" class="title">{escape(self.curve["title"])}</text>'
         yield from self.grid()
-        # Bare Qt first, so that ours is seen where both are the same.
+        # Bare Qt first, so that ours is on top where both are the same.
         yield from self.line(2, 'bare')
         yield from self.line(1, 'ours')
         middle = (self.LEFT + self.WIDTH - self.RIGHT) / 2

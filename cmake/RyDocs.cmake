@@ -3,7 +3,7 @@
 include_guard()
 
 # The target RyCustomizedDialogDocs: the reference of the public headers, as HTML and as a help
-# collection for Qt's tools, in the folder docs of the build tree. A name without a comment fails it.
+# collection for Qt's tools, in the folder docs of the build tree. Fails if a name has no comment.
 
 find_package(Doxygen 1.9 REQUIRED)
 get_target_property(RY_QMAKE Qt5::qmake IMPORTED_LOCATION)
@@ -11,7 +11,7 @@ execute_process(COMMAND "${RY_QMAKE}" -query QT_INSTALL_BINS
     OUTPUT_VARIABLE RY_QT_BINDIR OUTPUT_STRIP_TRAILING_WHITESPACE)
 find_program(RY_QHELPGENERATOR qhelpgenerator HINTS "${RY_QT_BINDIR}")
 if(NOT RY_QHELPGENERATOR)
-    message(FATAL_ERROR "The reference takes qhelpgenerator, one of Qt's tools.")
+    message(FATAL_ERROR "The reference needs qhelpgenerator, one of Qt's tools.")
 endif()
 
 set(RY_DOCS_DIR "${PROJECT_BINARY_DIR}/docs")
@@ -20,8 +20,8 @@ string(REPLACE "${PROJECT_SOURCE_DIR}/" "" RY_DOCS_INPUT "${RY_DOCS_DEPENDS}")
 string(REPLACE ";" " " RY_DOCS_INPUT "${RY_DOCS_INPUT}")
 configure_file(docs/Doxyfile.in "${RY_DOCS_DIR}/Doxyfile" @ONLY)
 
-# Doxygen's pages ask for scripts, even where they use none, and it adds a number to each identifier,
-# by which Qt's tools would look up a name.
+# Doxygen's pages load scripts even if they use none. It also adds a number to each identifier, and
+# Qt's tools look up names by these identifiers.
 set(RY_SCRIPTS "rm html/*.js && sed -i '/<script /d' html/*.html && sed -i '/\\.js</d' html/index.qhp")
 set(RY_IDENTIFIERS "sed -i 's/ id=\"\\([^\"]*\\)_[0-9a-f]*\"/ id=\"\\1\"/' html/index.qhp")
 add_custom_command(OUTPUT "${RY_DOCS_DIR}/RyCustomizedDialog.qch"

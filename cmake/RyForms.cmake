@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# The headers of the forms. A rule of their own, and not AUTOUIC, whose rule Ninja runs too late to
-# see in the same build that a form has changed.
+# The headers of the forms. Not with AUTOUIC: Ninja would run its rule too late to notice a changed
+# form in the same build.
 qt5_wrap_ui(RY_FORM_HEADERS
     dialog/customizeddialog.ui
     ribbon/cribbonpage.ui

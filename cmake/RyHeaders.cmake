@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
 
-# The public headers, and one forwarding header for each exported class: a file named like the class
-# that includes the header named like it in lower case. The build tree holds the folder that is
-# installed, with the public headers as links, so that a host that adds this project as a
-# subdirectory includes what an installed one does.
+# The public headers, and one forwarding header for each exported class: a file with the name of the
+# class that includes the header with the same name in lower case. The build tree has the same folder
+# as an installation, with links to the public headers. So a host that adds this project as a
+# subdirectory includes the same files.
 
 set(RY_PUBLIC_CLASSES
     dialog/RyAbstatcManager
@@ -41,7 +41,7 @@ foreach(folder IN ITEMS dialog ribbon toolbareditor toolbarmanager)
     target_include_directories(RyCustomizedDialog PUBLIC
         "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/${folder}>")
 endforeach()
-# The inner folder comes first: beside it stands a folder that is named like one of the headers.
+# The inner folder comes first: beside it is a folder with the name of one of the headers.
 target_include_directories(RyCustomizedDialog PUBLIC
     "$<BUILD_INTERFACE:${RY_BUILD_INCLUDEDIR}/RyCustomizedDialog>"
     "$<BUILD_INTERFACE:${RY_BUILD_INCLUDEDIR}>"

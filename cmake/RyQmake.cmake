@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# What qmake needs for `CONFIG += rycustomizeddialog`. It lies where qmake looks if the prefix is Qt's
-# own; elsewhere a host names the folder in QMAKEFEATURES.
+# The file that qmake needs for `CONFIG += rycustomizeddialog`. With Qt's own prefix, qmake finds it.
+# With another prefix, a host sets QMAKEFEATURES to its folder.
 
 set(RY_QMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/features")
 
@@ -9,7 +9,7 @@ if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDE
     set(RY_QMAKE_LIBDIR "${CMAKE_INSTALL_FULL_LIBDIR}")
     set(RY_QMAKE_INCLUDEDIR "${CMAKE_INSTALL_FULL_INCLUDEDIR}")
 else()
-    # Found from where the file lies, so that the installed tree can be moved.
+    # Relative to the file, so that the installed tree can be moved.
     foreach(folder IN ITEMS LIBDIR INCLUDEDIR)
         file(RELATIVE_PATH RY_FROM_QMAKE "${CMAKE_INSTALL_PREFIX}/${RY_QMAKE_DIR}"
             "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_${folder}}")

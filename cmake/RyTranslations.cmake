@@ -2,11 +2,11 @@
 
 # The translations of the library's own texts: translations/*.ts compiled for QTranslator.
 
-# English is untranslated. Its file is the list of all texts, and what a user who prefers English to
-# another of these languages gets.
+# English is untranslated. Its file is the list of all texts. It also keeps Qt from trying another
+# language for users who prefer English.
 set(RY_LANGUAGES ar de en es fr he it ja ko pl pt_BR ru tr uk zh_CN)
 
-# Sets RY_LRELEASE to an lrelease that runs, of Qt 5 or 6: both write what Qt 5 reads.
+# Sets RY_LRELEASE to a working lrelease of Qt 5 or 6. Qt 5 can read the files of both.
 function(ry_find_lrelease)
     if(EXISTS "${RY_LRELEASE}")
         return()
@@ -22,7 +22,7 @@ function(ry_find_lrelease)
             else()
                 find_program(RY_LRELEASE_CANDIDATE ${name})
             endif()
-            # The one in Debian's path calls that of a Qt which need not be installed.
+            # On Debian, lrelease in the path may call that of a Qt that is not installed.
             if(RY_LRELEASE_CANDIDATE AND NOT found)
                 execute_process(COMMAND "${RY_LRELEASE_CANDIDATE}" -version
                     RESULT_VARIABLE failed OUTPUT_QUIET ERROR_QUIET)
@@ -43,7 +43,7 @@ elseif(RYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS)
     message(FATAL_ERROR "The translations need lrelease: install qt6-l10n-tools or "
         "qttools5-dev-tools, or set RYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS to OFF.")
 else()
-    # Not in the cache, so that they are built once there is one.
+    # Not in the cache, so that translations are built as soon as lrelease is installed.
     set(RYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS OFF)
     message(STATUS "RyCustomizedDialog: there is no lrelease, so no translations are built")
 endif()
@@ -63,7 +63,7 @@ if(RYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS)
         list(APPEND RY_TRANSLATIONS "${translation}")
     endforeach()
     add_custom_target(RyCustomizedDialogTranslations DEPENDS ${RY_TRANSLATIONS})
-    # So that whoever builds the library has them beside it.
+    # So that a build of the library includes the translations.
     add_dependencies(RyCustomizedDialog RyCustomizedDialogTranslations)
 endif()
 # For hosts that have this as a subdirectory; an installed package sets the same variable.

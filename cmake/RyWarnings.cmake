@@ -2,8 +2,8 @@
 
 # ry_enable_warnings(target)
 #
-# Turns on the warnings that our own builds fail on. Without the option, as in a build by somebody
-# else, it changes nothing.
+# Turns on the warnings that make our own builds fail. Without the option, as in builds by others, it
+# changes nothing.
 function(ry_enable_warnings target)
     if(NOT RYCUSTOMIZEDDIALOG_WARNINGS_AS_ERRORS)
         return()
@@ -28,7 +28,7 @@ function(ry_enable_warnings target)
         target_compile_options(${target} PRIVATE -Wsuggest-override)
     endif()
     target_link_options(${target} PRIVATE -Wl,--fatal-warnings)
-    # Clang leaves the calls into its sanitizers to the program.
+    # With Clang, the program provides the functions of the sanitizers.
     if(NOT RYCUSTOMIZEDDIALOG_BUILD_FUZZERS)
         target_link_options(${target} PRIVATE -Wl,--no-undefined)
     endif()

@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 # Renders vector/*.svg to the images that are compiled into the library: 22 x 22 pixels, the four
 # arrows as 8-bit RGBA, plus and minus as an 8-bit palette with a transparency chunk.
-# Needs rsvg-convert, ImageMagick's convert and pngquant. Running it again with the same versions of
-# these tools gives the same bytes.
+# Needs rsvg-convert, ImageMagick's convert and pngquant. The same versions of these tools give the
+# same bytes.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")"

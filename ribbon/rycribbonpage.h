@@ -40,7 +40,7 @@ public:
     /*!
      * \brief Creates the placeholder widget and returns it.
      *
-     * \param parent the widget's parent, which owns it; with null the caller does.
+     * \param parent the widget's parent, which owns it; with null, the caller owns the widget.
      */
     QWidget *createPage(QWidget *parent) override;
 
@@ -60,9 +60,9 @@ public:
     void RestorDefaults() override;
 
 private:
-    // The widget made last; null before createPage() and once Qt has deleted it.
+    // The widget created last; null before createPage() and after Qt has deleted it.
     QPointer<RyCRibbonWidget> m_widget;
-    // The host's manager, not owned, perhaps null.
+    // The host's manager, not owned; may be null.
     RyAbstatcManager *m_manager;
 };
 

@@ -24,7 +24,7 @@ public:
     /*!
      * \brief Constructs the placeholder form.
      *
-     * \param parent the widget's parent, which owns it; with null the caller does.
+     * \param parent the widget's parent, which owns it; with null, the caller owns the widget.
      * \param manager ignored; it may be null and is not kept.
      */
     RyCRibbonWidget(QWidget *parent, RyAbstatcManager *manager);

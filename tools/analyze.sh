@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Looks for mistakes without running anything: Clang with all its warnings, clang-tidy, clazy and
-# cppcheck. First it shows with a file full of mistakes that each of them finds some.
+# Looks for mistakes in the sources: Clang with all its warnings, clang-tidy, clazy and cppcheck.
+# First it checks that they find the mistakes in a sample file.
 #
 # usage: analyze.sh [--all]
-#   --all  clang-tidy and clazy read the examples and the tests too, which takes many minutes
+#   --all  clang-tidy and clazy also read the examples and the tests, which takes many minutes
 
 # shellcheck disable=SC2317 # the steps are functions
 
@@ -21,25 +21,24 @@ sample=tests/packaging/analysis/wrong.cpp
 others=OFF
 [ "${1-}" != --all ] || others=ON
 
-# Checks of clazy. old-style-connect reads the signatures of connections that are made by string;
-# that they are made so is the library's choice. Left out:
-#   qmap-with-pointer-key  the order by address is what the editor and the saved state go by
+# Checks of clazy. old-style-connect checks the signatures of connections by string, which the library
+# uses on purpose. Left out:
+#   qmap-with-pointer-key  the editor and the saved state use the order by address
 #   const-signal-or-slot   which functions are slots is part of the binary contract
 clazy_checks=level0,level1,old-style-connect,no-qmap-with-pointer-key,no-const-signal-or-slot
 
-# Warnings of Clang that are not wanted: those about older standards, about gaps in objects, and
+# Warnings of Clang that are left out: those about older standards, about gaps in objects, and
 # about the semicolon after Q_UNUSED().
 all_warnings=(-Weverything -Wno-c++98-compat -Wno-c++98-compat-pedantic -Wno-padded
     -Wno-extra-semi-stmt)
 
-# Prints the findings among what a tool said, each once, and fails if there is one.
+# Prints each finding in the output of a tool once, and fails if there is one.
 findings() {
     ! grep -E '(error|warning|style|performance|portability): ' |
         grep -v ': Old Style Connect \[' | sed "s|$PWD/||g" | sort -u | grep .
 }
 
-# Runs a command for each of many files, several at a time. Fails if it cannot be run or finds
-# something.
+# Runs a command for many files, several at a time. Fails if the command fails or finds something.
 over() {
     local said=$build/said.txt status=0
     xargs -P "$cores" -I{} "$@" >"$said" 2>&1 || status=1
@@ -62,7 +61,7 @@ configure() {
         -DRYCUSTOMIZEDDIALOG_BUILD_TESTS="$others" -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES="$others"
 }
 
-# What moc and uic write; nothing is compiled.
+# Only runs moc and uic; compiles nothing.
 generate() {
     local targets
     mapfile -t targets < <(ninja -C "$build" -t targets all | sed -n 's|^\([^/]*_autogen\): .*|\1|p')
@@ -72,7 +71,7 @@ generate() {
 every_warning() {
     local flags
     read -ra flags < <(qt_flags)
-    # With the headers of the library, whose folders are no system folders.
+    # With -I for the library's folders, so that its headers are checked too.
     sources "${library[@]}" |
         over clang++ -fsyntax-only -std=c++11 -fPIC "${all_warnings[@]}" "${flags[@]}" \
             "${library[@]/#/-I}" -isystem "$build" \
@@ -90,7 +89,7 @@ clazy() {
 }
 
 check_with_cppcheck() {
-    # How tests read is not for cppcheck to judge.
+    # Without style checks for the tests.
     {
         run_cppcheck warning,style,performance,portability "${library[@]}" examples &&
             run_cppcheck warning,performance,portability tests
@@ -102,7 +101,7 @@ run_cppcheck() {
         --suppressions-list=tools/cppcheck-suppressions.txt -i "$sample" "${@:2}"
 }
 
-# Every mistake of the sample is found in its line.
+# Checks that every mistake of the sample is found in its line.
 find_mistakes() {
     local flags said=$build/sample.txt line number wanted missed=0
     read -ra flags < <(qt_flags)

@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 #
-# Runs a command as root: through sudo, unless that is who we are.
+# Runs a command as root, with sudo if necessary.
 #
 # usage: as-root.sh COMMAND...
 

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Compares the binary contract of the library with what is written down in tests/packaging/contract,
-# as GCC and as Clang build it: exported symbols, virtual functions, fields, and the sizes and
+# Builds the library with GCC and with Clang, and compares its binary contract with the record in
+# tests/packaging/contract: exported symbols, virtual functions, fields, and the sizes and
 # meta-objects of the classes.
 #
 # usage: check-abi.sh [--update]
-#   --update  writes it down anew, for a change that is meant
+#   --update  updates the record after an intended change
 
 # shellcheck disable=SC2317 # the steps are functions
 
@@ -35,14 +35,14 @@ build_quietly() {
         cmake --build "build/abi-$1" --target tst_contract --parallel "$cores"
 }
 
-# compare FILE COMMAND...: what the command prints is what the file holds.
+# compare FILE COMMAND...: compares the output of the command with the file.
 compare() {
     local file=$contract/$1 now=build/abi-now.txt
     "${@:2}" >"$now" || return
     if [ "$update" = --update ]; then
         cp "$now" "$file"
     fi
-    diff -u "$file" "$now" && echo "$(wc -l <"$file") lines are as written down."
+    diff -u "$file" "$now" && echo "$(wc -l <"$file") lines are as recorded."
 }
 
 describe() {

@@ -2,11 +2,11 @@
 # SPDX-License-Identifier: MIT
 #
 # Counts the instructions of the operations of the library under callgrind and compares them with
-# benchmarks/instructioncounts.txt. Fails if one takes more than a tenth more. Unlike times, counts
-# are the same on a busy machine; with another Qt or compiler nothing is compared.
+# benchmarks/instructioncounts.txt. Fails if a count has grown by more than a tenth. Unlike times,
+# counts are the same on a busy machine. With another Qt or compiler, nothing is compared.
 #
 # usage: check-counts.sh [--update]
-#   --update  writes down what is counted now
+#   --update  records the present counts
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Checks that the library uses nothing that came after Qt 5.6: lists each class, function, value and
-# macro of Qt that it uses, overloads told apart, and holds it against tests/packaging/oldqt/since.txt.
-# First it shows with a file of newer things that it finds them.
+# Checks that the library uses nothing newer than Qt 5.6: lists each class, function, overload, value
+# and macro of Qt that it uses, and looks up its version in tests/packaging/oldqt/since.txt. First it
+# checks that it finds the newer things in a sample file.
 #
 # usage: check-old-qt.sh [--update]
-#   --update  writes the list anew from Qt's documentation; what that leaves open is marked "?"
+#   --update  writes the list from Qt's documentation; unknown versions are marked "?"
 
 # shellcheck disable=SC2317 # the steps are functions
 
@@ -21,7 +21,7 @@ list=$checks/since.txt
 sample=$checks/newer.cpp
 library=(dialog toolbarmanager toolbareditor ribbon)
 
-# The forms have to be there to be included; they are what uic of the installed Qt writes.
+# Generates the headers of the forms, with uic of the installed Qt, because sources include them.
 generate() {
     cmake --preset release -B "$build" -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF \
         -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES=OFF &&
@@ -32,7 +32,7 @@ generate() {
 uses() {
     local flags
     read -ra flags < <(pkg-config --cflags Qt5Widgets | sed 's/-I/-isystem/g')
-    # The module of libclang belongs to the system's own Python.
+    # The module of libclang is installed for the system's Python.
     /usr/bin/python3 -B "$checks/uses.py" "$@" -- -std=c++11 -fPIC "${flags[@]}" \
         "${library[@]/#/-I}" "-I$build" -DQT_NO_KEYWORDS \
         -DRYCUSTOMIZEDDIALOG_LIBRARY

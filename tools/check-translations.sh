@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Checks that translations/ keeps up with the sources: the English file lists exactly the texts that
-# the sources have, and every language has each of them, translated and finished.
+# Checks that translations/ is up to date: the English file lists exactly the texts of the sources,
+# and every language has a finished translation of each.
 #
 # usage: check-translations.sh [--update]
-#   --update  takes new texts over into all files, drops those that are gone, and makes the files of
-#             languages that are new in cmake/RyTranslations.cmake; new texts are left unfinished
+#   --update  adds new texts to all files, as unfinished, and removes obsolete ones; creates the files
+#             of languages that are new in cmake/RyTranslations.cmake
 
 # shellcheck disable=SC2317 # the steps are functions
 
@@ -19,7 +19,7 @@ read -ra languages < <(sed -n 's/^set(RY_LANGUAGES \(.*\))$/\1/p' cmake/RyTransl
 names=("${languages[@]/#/rycustomizeddialog_}")
 files=("${names[@]/%/.ts}")
 
-# The one in Debian's path calls that of a Qt which need not be installed.
+# On Debian, lupdate in the path may call that of a Qt that is not installed.
 find_lupdate() {
     local program
     for program in /usr/lib/qt6/bin/lupdate /usr/lib/qt5/bin/lupdate lupdate; do
@@ -32,7 +32,7 @@ find_lupdate() {
     return 1
 }
 
-# What the files would be if they were taken from the sources now.
+# Writes the files as lupdate would write them now.
 take_texts() {
     find_lupdate || return
     "$lupdate" -version
@@ -46,7 +46,7 @@ compare() {
     diff -u translations "$fresh" && echo "${#files[@]} files are as lupdate writes them."
 }
 
-# English is the list and stays untranslated.
+# The English file is the list of texts and stays untranslated.
 look_for_gaps() {
     local file name count gaps=0
     for file in "${files[@]}"; do

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Takes a picture of the dialog in each style, light and dark, at three scale factors, and in both
-# directions, and puts them side by side: one sheet for each style below build/contact-sheet.
+# Takes pictures of the dialog in each style, light and dark, at three scale factors, and in both
+# directions. Puts them on one sheet for each style, in build/contact-sheet.
 #
 # shellcheck disable=SC2317 # step calls the functions
 

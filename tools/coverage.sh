@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Counts which lines and branches of the library its own tests take, and fails below 98 % of the
-# lines or 90 % of the branches. Prints the lines that none took; build/coverage/report has the rest.
+# Counts which lines and branches of the library the tests run. Fails below 98 % of the lines or 90 %
+# of the branches. Prints the lines that no test runs; build/coverage/report has the details.
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
 start_log build/coverage.log
 
 cores=$(nproc)
-# Branches that only an exception takes are left out: the library throws none and catches none.
+# Without branches that only an exception takes: the library throws and catches none.
 report=(gcovr --root . --filter '(dialog|toolbarmanager|toolbareditor|ribbon)/'
     --exclude-throw-branches --exclude-unreachable-branches build/coverage)
 

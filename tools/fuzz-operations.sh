@@ -1,13 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Builds the library optimized and runs random operations on it, side by side with a model of what
-# it must do.
+# Builds the library with optimization and runs random operations on it and on a model of it.
 #
 # usage: fuzz-operations.sh [SEQUENCES [JOBS [FIRST_SEED]]]
 #
-# Each sequence has 200 steps. Without a seed other ones are taken each time. A failure prints its
-# seed and the shortest script of steps that shows it.
+# Each sequence has 200 steps. Without FIRST_SEED, each run uses other seeds. A failure prints its seed
+# and the shortest script of steps that shows it.
 #
 # shellcheck disable=SC2317 # steps are functions
 
@@ -21,7 +20,7 @@ steps=200
 program=build/release/tests/model/operations
 logs=build/fuzz-operations
 
-# run_job NUMBER: its share of the sequences, which for the last job is what the division leaves.
+# run_job NUMBER: runs its share of the sequences; the last job also runs the remainder.
 run_job() {
     local share=$((sequences / jobs)) first=$((first_seed + $1 * (sequences / jobs)))
     [ "$1" -lt $((jobs - 1)) ] || share=$((sequences - share * (jobs - 1)))
@@ -43,7 +42,7 @@ run_jobs() {
     return "$status"
 }
 
-# show_sum: what all jobs did together.
+# show_sum: prints the total of all jobs.
 show_sum() {
     awk '/^passed: / { passed += $2 }
          /^FAILED: --seed / { failed += 1; passed += $(NF - 1) }

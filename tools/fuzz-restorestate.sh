@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Feeds RyToolBarManager::restoreState() the kept inputs and then random bytes made from them, with
-# the address and undefined sanitizers, and checks after each what must hold whatever the bytes are.
+# Passes the kept inputs, and then random bytes made from them, to RyToolBarManager::restoreState(),
+# with the address and undefined behaviour sanitizers. After each input, checks what must be true for
+# all bytes.
 #
 # usage: fuzz-restorestate.sh [SECONDS [JOBS]]
 #
-# SECONDS is 60 and JOBS 1 if not given. What reaches new code is kept below build/ for the next
-# run; an input that breaks something is kept there too, and its name is printed.
+# The defaults are 60 SECONDS and 1 job. Inputs that reach new code are kept below build/ for the next
+# run. So is an input that breaks something, and its name is printed.
 #
 # shellcheck disable=SC2317 # step calls the functions
 
@@ -26,8 +27,8 @@ export ASAN_OPTIONS=quarantine_size_mb=32:abort_on_error=1
 export UBSAN_OPTIONS=print_stacktrace=1
 export LSAN_OPTIONS=suppressions=$PWD/tests/support/qt-leaks.supp:print_suppressions=0
 
-# Processor time and memory of each input are measured in the fuzzer; what the wall clock says is
-# only to end an endless loop, however busy the machine is.
+# The fuzzer measures processor time and memory for each input. These limits of real time only end
+# endless loops, even on a busy machine.
 options=(-timeout=300 -report_slow_units=300 -malloc_limit_mb=64 -rss_limit_mb=1024 -max_len=4096 "-artifact_prefix=$found/")
 
 replay() {

@@ -1,15 +1,15 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 #
-# Installs those packages of the lists that are missing, with apt, and says which. Calls apt for
-# nothing else.
+# Installs the missing packages of the lists with apt, and prints which. Does not call apt if none is
+# missing.
 #
 # usage: install-packages.sh LIST...
 
 set -eu
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    echo "This system has no apt. What is needed is listed in: $*"
+    echo "This system has no apt. The needed packages are listed in: $*"
     exit 0
 fi
 
@@ -22,7 +22,7 @@ for package in $wanted; do
     esac
 done
 if [ -z "$missing" ]; then
-    echo 'All packages are there.'
+    echo 'All packages are installed.'
     exit 0
 fi
 echo "Installing:$missing"
@@ -32,7 +32,7 @@ apt_get() {
         apt-get -q -oDPkg::Lock::Timeout=300 -oDpkg::Use-Pty=0 "$@"
 }
 
-# A package source of somebody else's that does not answer must not stop us.
-apt_get update || echo 'Going on with the package lists that are there.'
-# shellcheck disable=SC2086 # several words are meant
+# An unrelated package source that does not answer must not stop us.
+apt_get update || echo 'Continuing with the present package lists.'
+# shellcheck disable=SC2086 # several words on purpose
 apt_get install --yes --no-install-recommends $missing

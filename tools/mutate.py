@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Breaks the library on purpose, one place at a time, and sees whether the tests notice.
+"""Breaks the library on purpose, one place at a time, and checks that the tests notice.
 
 usage: tools/mutate.py [--count N | --all] [--jobs N] [--only FILE[:LINE]] [--explained] [--list]
 
-Each job works in a copy of the sources below build/mutants/, so that these stay as they are. A
-change that does not compile is not counted. What no test catches is printed at the end. The
-changes of which tools/mutate-equivalent.txt says why nobody could see them take the most time,
-because every test runs; they are made with --explained only.
+Each job works in a copy of the sources below build/mutants/, so the sources do not change. Changes
+that do not compile are not counted. Changes that no test catches are printed at the end. The
+changes in tools/mutate-equivalent.txt have no visible effect, each for the reason given there. They
+take the most time, because every test runs, so they are made only with --explained.
 """
 
 import argparse
@@ -28,7 +28,7 @@ ROOT = Path(__file__).resolve().parent.parent
 WORK = ROOT / "build" / "mutants"
 FOLDERS = ("dialog", "toolbarmanager", "toolbareditor", "ribbon", "resources")
 EQUIVALENT = ROOT / "tools" / "mutate-equivalent.txt"
-# Survivors of at most this share are let through; each is printed all the same.
+# The largest accepted share of changes that no test catches; each is printed.
 ALLOWED = 0.03
 TEST_TIMEOUT = 300
 CODE_IN_HEADERS = ("nameindex.h", "toolbarstateformat.h")
@@ -86,7 +86,7 @@ def form_changes(line):
     text = re.search(r"<string>([^<]+)</string>", line)
     if text:
         yield "other text", line.replace(text[1], text[1] + "x")
-    # Of a geometry only the size is used.
+    # Only the size of a geometry is used.
     number = re.search(r"(?<!<x)(?<!<y)>(\d+)<", line)
     if number:
         yield "one more", line.replace(f">{number[1]}<", f">{int(number[1]) + 1}<")
@@ -108,7 +108,7 @@ DECLARATION = re.compile(r"(const )?(auto|int|bool|q?u?int\d*|[A-Z]\w*(<.*>)?)( 
 
 
 def statement_at(lines, index):
-    """The lines of the statement that begins there, or none."""
+    """The lines of the statement that begins here, or none."""
     text = lines[index].strip()
     before = next((l.strip() for l in reversed(lines[:index]) if l.strip()), "")
     if not text or text.startswith(("return", "//", "#", "}", ":", ",", "Q_UNUSED", "if ", "for ")):
@@ -145,8 +145,8 @@ def code_mutants(path, lines):
 
 
 def header_mutants(path, lines):
-    """Of what a header of a class declares, the order can be seen: of slots, signals, virtual
-    functions and, in exported classes, fields."""
+    """Changes of a visible order in the header of a class: of slots, signals, virtual functions and,
+    in exported classes, fields."""
     section = ""
     for number, (line, following) in enumerate(zip(lines, lines[1:])):
         if re.match(r"\w+( \w+)?:$|Q_\w+:$", line):
@@ -185,8 +185,8 @@ def digest(*texts):
 
 
 def sample(mutants, count):
-    """About count mutants, of each file its share, but two at least. They are the same at each
-    run, also when lines elsewhere in the file come and go."""
+    """About count mutants: from each file its share, but at least two. They are the same in each
+    run, even if other lines of the file change."""
     by_path = collections.defaultdict(list)
     for mutant in mutants:
         by_path[mutant.path].append(mutant)
@@ -216,7 +216,7 @@ def squeezed(text):
 
 
 class Tree:
-    """A copy of the sources with a build of its own."""
+    """A copy of the sources with a separate build."""
 
     def __init__(self, number):
         self.source = WORK / f"tree{number}"
@@ -226,7 +226,7 @@ class Tree:
         for name in filter(None, files):
             target = self.source / name
             target.parent.mkdir(parents=True, exist_ok=True)
-            # What is as it was keeps its time, so that only what an ended run left is built anew.
+            # Unchanged files keep their times, so only files that an aborted run changed are rebuilt.
             if (ROOT / name).is_file() and not (target.exists() and
                                                 filecmp.cmp(ROOT / name, target, shallow=False)):
                 shutil.copy(ROOT / name, target)
@@ -259,11 +259,11 @@ class Tree:
         return done.returncode == 0
 
     def rounds(self, path):
-        """The tests in the order in which they are worth their time."""
+        """The tests, the fastest and most likely to fail first."""
         slow = [t for t in self.tests if re.search("_damage|_findings|_window|_titlebar|^operations", t)]
         own = [t for t in self.tests if t not in slow and path.parts[0] == self.folder(t)]
         rest = [t for t in self.tests if t not in slow and t not in own]
-        # The manager knows nothing of windows, and nothing else of saved bytes.
+        # The manager does not use windows, and nothing else uses saved bytes.
         worth = "damage|findings|operations" if path.parts[0] == "toolbarmanager" else "window|operations"
         return own, rest, [t for t in slow if re.search(worth, t)]
 
@@ -313,8 +313,8 @@ def check(mutants, jobs):
 
 
 def report(done, explained):
-    """Prints what came out, and tells whether enough was caught. Explained changes that were made
-    all the same are in done, and count as explained only if nothing caught them."""
+    """Prints the results, and returns whether enough changes were caught. An explained change in
+    done is treated as explained only if no test caught it."""
     counted = [(m, v) for m, v in done if v != "does not compile"]
     survivors = [m for m, v in counted if v == "SURVIVED"]
     missed = [m for m in survivors if m not in explained]
@@ -326,20 +326,20 @@ def report(done, explained):
     print(f"\n{len(counted)} places in {len({m.path for m, _ in counted})} files broken "
           f"({len(done) - len(counted)} more did not compile), {judged - len(missed)} caught, "
           f"{len(missed)} not caught: {100 * share:.1f} % of those that matter were caught. "
-          f"{len(explained)} have no effect that could be seen, "
-          f"{len(survivors) - len(missed)} of them made all the same.")
+          f"{len(explained)} have no visible effect; "
+          f"{len(survivors) - len(missed)} of them were tried.")
     return judged > 0 and 1 - share <= ALLOWED
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
-    parser.add_argument("--count", type=int, default=200, help="about so many places (200)")
-    parser.add_argument("--all", action="store_true", help="all places that are known")
+    parser.add_argument("--count", type=int, default=200, help="number of places, roughly (200)")
+    parser.add_argument("--all", action="store_true", help="all known places")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--only", help="FILE or FILE:LINE")
     parser.add_argument("--explained", action="store_true",
-                        help="make those of tools/mutate-equivalent.txt too")
-    parser.add_argument("--list", action="store_true", help="print the changes only")
+                        help="also make those of tools/mutate-equivalent.txt")
+    parser.add_argument("--list", action="store_true", help="only print the changes")
     arguments = parser.parse_args()
 
     mutants = [m for path in sources() for m in mutants_of(path)]

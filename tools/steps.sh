@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 #
-# For scripts that do one thing after the other: each step prints its title and what it does, all of
-# it goes to a log file too, and the last line says what happened. To be sourced by bash.
+# For scripts with steps: prints the title and the output of each step, also to a log file. The last
+# line shows the result. To be sourced by bash.
 
 # start_log FILE: begins a new log.
 start_log() {

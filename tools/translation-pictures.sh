@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Takes a picture of the dialog in each language, with Qt's own translations beside the library's:
-# both tabs and the box of the Help button. They are in build/translation-pictures.
+# Takes pictures of the dialog in each language, with Qt's own translations: both tabs and the message
+# box of the Help button. They are in build/translation-pictures.
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh

@@ -1,22 +1,23 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Copies the code of the guide from the files that are compiled and tested into its pages.
+"""Copies the code on the pages of the guide from the files that are compiled and tested.
 
     update-snippets.py [--check] [--docs DIR]
 
-A page of docs/ asks for a snippet with a comment, and the code block below it is the copy:
+A page in docs/ requests a snippet with a comment. The code block below it is the copy:
 
     <!-- snippet tst_guide_names.cpp audit -->
     ```cpp
     ...
     ```
 
-The snippet is what stands between two lines "//! [audit]" in docs/snippets/tst_guide_names.cpp,
-moved to the left; in files of other kinds "#! [audit]" or "<!--! [audit] -->". Without a name it is
-the whole file. A page that shows snippets shows no other C++: that is an error, and so is a snippet that no
-page shows.
+The snippet is the text between two lines "//! [audit]" in docs/snippets/tst_guide_names.cpp, without
+the common indentation. In other kinds of files the lines are "#! [audit]" or "<!--! [audit] -->".
+Without a name, the snippet is the whole file. On a page with snippets, other C++ code is an error,
+and so is a snippet that no page shows.
 
-Without --check the pages are rewritten. With it nothing is, and pages that differ are an error.
+Without --check, the pages are rewritten. With --check, nothing is written, and differing pages are an
+error.
 """
 
 import argparse
@@ -34,7 +35,7 @@ REQUEST = re.compile(r'^<!-- snippet .*$', re.MULTILINE)
 
 
 class Wrong(Exception):
-    """A page or a file of snippets that needs a person."""
+    """An error in a page or a file of snippets that a person must fix."""
 
 
 def snippets_of(path):
@@ -76,7 +77,7 @@ class Guide:
         return sorted(self.docs.rglob('*.md'))
 
     def updated(self, page):
-        """The text of a page with its snippets as they are now."""
+        """The text of a page with its current snippets."""
         text = page.read_text(encoding='utf-8')
         blocks = [match for match in BLOCK.finditer(text) if match.group('file')]
         if len(blocks) != len(REQUEST.findall(text)):

@@ -8,8 +8,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
 start_log build/valgrind.log
 
-# Left out: what needs a display, and the damaged states by the hundred thousand, which take hours
-# here; those run under the sanitizers, and their boundary cases stand in the other tests too.
+# Left out: tests that need a display, and the hundreds of thousands of damaged states, which would
+# take hours. Those run under the sanitizers, and other tests have their boundary cases.
 find_programs() {
     ctest --preset dev -N -LE window -E _damage |
         sed -nE 's/^ *Test +#[0-9]+: (tst_\w+)$/\1/p' >build/valgrind/tests

@@ -94,7 +94,7 @@ void BareDialog::makeConnections()
             &BareDialog::updateButtons);
 }
 
-// All items are made before the tree hears of one, and it is sorted once.
+// Creates all items before it adds them to the tree, and sorts once.
 void BareDialog::fillActionTree(const QList<Scene::Category> &categories)
 {
     QList<QTreeWidgetItem *> items;
@@ -157,7 +157,7 @@ void BareDialog::showToolBar(QListWidgetItem *row)
     updateButtons();
 }
 
-// After the current entry, unless the action stands on the toolbar already.
+// Inserts after the current entry, unless the action is already on the toolbar.
 void BareDialog::add()
 {
     const QTreeWidgetItem *const item = m_page.actionTree->currentItem();
@@ -177,7 +177,7 @@ void BareDialog::add()
     updateButtons();
 }
 
-// The next entry becomes current.
+// Makes the next entry current.
 void BareDialog::remove()
 {
     const int row = m_page.currentToolBarList->currentRow();

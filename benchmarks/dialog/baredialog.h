@@ -12,7 +12,7 @@
 #include <QDialog>
 
 /*
- * What the bare dialog shows of one toolbar.
+ * One toolbar, as the bare dialog shows it.
  */
 struct BareToolBar
 {
@@ -22,9 +22,9 @@ struct BareToolBar
 };
 
 /*
- * The dialog as a host would write it by itself: the same forms, filled in bulk before it is shown.
- * It keeps no more than it needs to answer the buttons that are measured: the action of each tree
- * item in the item, and the content of each toolbar by the number in its row.
+ * The dialog as a host would write it: the same forms, filled in bulk before it is shown. It keeps
+ * only the data that the measured buttons need: the action of each tree item in the item, and the
+ * content of each toolbar by the number in its row.
  */
 class BareDialog : public QDialog
 {

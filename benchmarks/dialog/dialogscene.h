@@ -9,7 +9,7 @@
 #include "rycustomizeddialog.h"
 
 /*
- * A host that opens the library's dialog or the bare one. Both show what the manager holds.
+ * A host that opens the library's dialog or the bare one. Both show the content of the manager.
  */
 class DialogScene : public ManagedScene
 {
@@ -25,7 +25,7 @@ private:
 };
 
 /*
- * What a dialog shows: its picture, and all rows, tabs and buttons.
+ * The visible content of a dialog: its picture, and all rows, tabs and buttons.
  */
 QStringList describeDialog(QDialog *dialog);
 

@@ -6,7 +6,7 @@
 #include "dialogscene.h"
 
 /*
- * The dialog is constructed, shown, laid out and painted. Closing it is not timed.
+ * Constructs, shows, lays out and paints the dialog. Closing it is not timed.
  */
 template <std::unique_ptr<QDialog> (DialogScene::*create)()> class OpenDialog : public Side
 {

@@ -8,7 +8,7 @@
 #include <QToolBar>
 
 /*
- * What a host without the library does to its toolbars.
+ * How a host without the library changes its toolbars.
  */
 namespace bare {
 
@@ -23,8 +23,8 @@ inline void appendContent(QToolBar *toolBar, const QList<QAction *> &content)
     }
 }
 
-// Takes the actions off from the front, where Qt finds them at once, and deletes the separators,
-// which takes them off as well.
+// Removes the actions from the front, where Qt finds them at once, and deletes the separators,
+// which also removes them.
 inline void clear(QToolBar *toolBar)
 {
     const auto actions = toolBar->actions();

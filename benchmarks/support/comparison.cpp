@@ -8,7 +8,7 @@
 namespace {
 
 const int MaximumRounds = 2000;
-// Long enough for the clock.
+// Long enough for the clock to measure.
 const double MinimumTime = 0.0005;
 const int MaximumRepetitions = 1000;
 
@@ -41,7 +41,7 @@ Comparison::Comparison(const Family &family, const QList<Size> &sizes)
 
 void Comparison::measure(double seconds, int minimumRounds)
 {
-    // The first round fills caches and says how often the short ones are to be repeated.
+    // The first round fills caches, and shows how often short operations must be repeated.
     round(false);
     for (Measured &measured : m_measured) {
         if (m_idempotent) {

@@ -10,9 +10,9 @@
 /*
  * Many rounds of the sides of one operation, in seconds of processor time.
  *
- * All sides take part in each round, one after the other, so that whatever slows the machine down
- * meets all of them; every second round goes through them backwards. Of times, and of the ratios
- * that each round gives, the median counts.
+ * Each round runs all sides, one after the other, so anything that slows down the machine affects
+ * all of them. Every second round runs them in reverse order. The result is the median of the times
+ * and of the ratios of all rounds.
  */
 class Comparison
 {
@@ -22,7 +22,7 @@ public:
     // Both sides for each size.
     Comparison(const Family &family, const QList<Size> &sizes);
 
-    // At least as many rounds as are asked for, and as many more as fit into the time.
+    // Runs at least the given number of rounds, and more if there is time.
     void measure(double seconds, int minimumRounds);
 
     double time(Which which, int size) const;
@@ -33,7 +33,7 @@ private:
     struct Measured
     {
         std::unique_ptr<Side> side;
-        // How often run() is called for one time.
+        // How often run() is called for one measured time.
         int repetitions = 1;
         std::vector<double> times;
     };

@@ -18,7 +18,7 @@ bool countOnce(const QString &id)
     if (!family)
         return false;
     const auto side = family->ours(family->small);
-    // The first round looks up what is looked up once, as symbols and fonts.
+    // The first round does what is done only once, such as looking up symbols and fonts.
     side->prepare();
     side->run();
     side->finish();

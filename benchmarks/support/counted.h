@@ -6,8 +6,8 @@
 class QString;
 
 /*
- * Does one operation of the library for its small size, inside ry_counted_operation(), by whose
- * name callgrind knows when to count. False if there is no such operation.
+ * Runs one operation of the library with its small size, inside ry_counted_operation(). Callgrind
+ * counts only inside that function. Returns false if there is no such operation.
  */
 bool countOnce(const QString &id);
 

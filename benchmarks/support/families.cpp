@@ -60,7 +60,7 @@ Size dialogOfToolBars(int toolBars)
     return {1000, toolBars, 20, 0};
 }
 
-// One action more than stand on the toolbar.
+// One action more than there are on the toolbar.
 Size listOf(int entries)
 {
     return {entries + 1, 1, entries, 0};

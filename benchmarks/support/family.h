@@ -16,9 +16,9 @@ struct Family
     const char *id;
     MakeSide ours;
     MakeSide bare;
-    // Whether run() may be called many times in one round, because nothing changes.
+    // Whether run() changes nothing and may be called many times in one round.
     bool idempotent;
-    // A small size with which both sides are compared and instructions are counted.
+    // A small size, for comparing the results of both sides and for counting instructions.
     Size small;
 };
 
@@ -28,15 +28,15 @@ struct Family
 struct Row
 {
     enum Kind {
-        // Ours by bare Qt's.
+        // Our time divided by bare Qt's.
         Ratio,
-        // Ours at the second size by ours at the first.
+        // Our time at the second size divided by our time at the first.
         Growth,
-        // Our growth by bare Qt's.
+        // Our growth divided by bare Qt's.
         GrowthByBare,
-        // Ours in milliseconds.
+        // Our time in milliseconds.
         Milliseconds,
-        // Both are told, but nothing is aimed at.
+        // Both times are reported, but there is no target.
         Figure
     };
 
@@ -48,14 +48,14 @@ struct Row
 };
 
 /*
- * Time against a number that grows.
+ * Time against a growing number.
  */
 struct Curve
 {
     const char *family;
     QString title;
     QString axis;
-    // What each number stands for.
+    // The size for each number.
     Size (*size)(int number);
     int greatest;
 };

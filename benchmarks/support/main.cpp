@@ -27,7 +27,7 @@ QTextStream &out()
     return stream;
 }
 
-// The platform plugin says so at each new window.
+// The platform plugin prints this warning for each new window.
 void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     if (!text.contains(QLatin1String("propagateSizeHints")))
@@ -94,8 +94,8 @@ QJsonObject measureRow(const Row &row, double seconds, bool bareOnly)
             {QStringLiteral("rounds"), comparison.rounds()}};
 }
 
-// A process of its own for each figure: the heap that others leave behind would make the side that
-// is built first the slower one.
+// Each figure has a separate process. Otherwise the heap left behind by others would slow down the
+// side that is built first.
 QJsonDocument inOwnProcess(const QStringList &arguments)
 {
     QProcess process;
@@ -217,7 +217,7 @@ QStringList differencesOf(Side *ours, Side *bare)
     return differences;
 }
 
-// Both sides of each operation give the same, twice.
+// Checks that both sides of each operation give the same result, twice.
 bool check()
 {
     bool same = true;
@@ -235,7 +235,7 @@ bool check()
     return same;
 }
 
-// What is freed is kept, so that no round waits for the system to give memory.
+// Keeps freed memory, so that no round waits for the system to provide memory.
 void keepMemory()
 {
     mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
@@ -260,15 +260,15 @@ void addOptions(QCommandLineParser *parser)
         parser->addOption({QString::fromLatin1(name), QString::fromLatin1(description),
                            QString::fromLatin1(value), QString::fromLatin1(usual)});
     };
-    add("check", "Compare what both sides give; measure nothing.");
+    add("check", "Compare the results of both sides; measure nothing.");
     add("list", "Print the names of the operations.");
     add("about", "Print the versions of Qt and compiler.");
-    add("count", "Do one operation of the library once, in a function of its own.", "operation");
+    add("count", "Run one operation of the library once, for callgrind.", "operation");
     add("only", "Measure the lines of one operation, no curves.", "operation");
-    add("bare", "Measure bare Qt beside itself, to see how exact the ratios are.");
+    add("bare", "Compare bare Qt with itself, to see how exact the ratios are.");
     add("row", "Measure one line and print it as JSON.", "number");
     add("curve", "Measure one point of a curve and print it as JSON.", "number");
-    add("number", "Where on the curve the point is.", "number");
+    add("number", "The place of the point on the curve.", "number");
     add("seconds", "Seconds for each line; 3 if not given.", "seconds", "3");
     add("json", "Write all figures to a file.", "file");
 }
@@ -318,14 +318,14 @@ bool doWhatIsAsked(const QCommandLineParser &parser)
 int main(int argc, char *argv[])
 {
     keepMemory();
-    // The same everywhere, whatever the desktop.
+    // The same on every desktop.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_STYLE_OVERRIDE", "fusion");
     qInstallMessageHandler(&printMessage);
     QApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Measures the library beside bare Qt that does the same."));
+        QStringLiteral("Compares the library with bare Qt code that does the same."));
     parser.addHelpOption();
     addOptions(&parser);
     parser.process(application);

@@ -8,8 +8,8 @@
 #include "rytoolbarmanager.h"
 
 /*
- * The same host with the library: every action is registered, and every toolbar as a default one
- * that holds its first content.
+ * The same host with the library. Every action is registered, and every toolbar is a default
+ * toolbar with its first content.
  */
 class ManagedScene : public Scene
 {
@@ -23,7 +23,7 @@ private:
 };
 
 /*
- * Registers every action, and every toolbar as a default one.
+ * Registers every action, and every toolbar as a default toolbar.
  */
 void registerAll(Scene &scene, RyToolBarManager &manager);
 

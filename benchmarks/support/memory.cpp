@@ -23,7 +23,7 @@ template <typename Operation> double bytesOf(Operation operation)
     return usedBytes() - before;
 }
 
-// The action itself is there in any case.
+// The action itself exists anyway.
 MemoryFigure registeredAction()
 {
     const int count = 10000;
@@ -39,7 +39,7 @@ MemoryFigure registeredAction()
     return {QStringLiteral("Bytes per registered action"), bytes / count, 0, 200};
 }
 
-// The content alone; actions and empty toolbars are there and registered before.
+// Only the content; actions and empty toolbars are created and registered before.
 MemoryFigure entry()
 {
     const Size size{5000, 100, 50, 0};
@@ -65,7 +65,7 @@ MemoryFigure dialog()
     DialogScene scene({5000, 10, 20, 0});
     const auto bytesOfDialog = [&](std::unique_ptr<QDialog> (DialogScene::*create)()) {
         double bytes = 0;
-        // What Qt keeps from the first time on is not counted.
+        // Memory that Qt keeps from the first time on is not counted.
         for (int i = 0; i < 2; ++i) {
             std::unique_ptr<QDialog> shown;
             bytes = bytesOf([&] {

@@ -12,10 +12,10 @@
 struct MemoryFigure
 {
     QString title;
-    // What the library needs in all, and what bare Qt needs for the same.
+    // The bytes that the library needs in total, and those that bare Qt needs for the same.
     double ours;
     double bare;
-    // The most that ours may need above bare, or 0 if nothing is aimed at.
+    // The most bytes that the library may need in addition to bare Qt's, or 0 without a target.
     double target;
 };
 

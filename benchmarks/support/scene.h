@@ -23,7 +23,7 @@ public:
     const Size &size() const { return m_size; }
     QMainWindow *window() { return &m_window; }
     const QList<QAction *> &actions() const { return m_actions; }
-    // In the order of their addresses, in which the manager visits them.
+    // In the order of their addresses, like in the manager.
     const QList<QToolBar *> &toolBars() const { return m_toolBars; }
 
     // Each with its actions, all of the same number.
@@ -55,8 +55,8 @@ private:
 };
 
 /*
- * What stands on the toolbars of a window, in the order of their names: title, actions, and how
- * many of these have a widget.
+ * The toolbars of a window in the order of their names: title, actions, and how many of these have
+ * a widget.
  */
 QStringList describeToolBars(const QMainWindow *window);
 

@@ -6,7 +6,7 @@
 #include "scene.h"
 
 /*
- * A side whose result stands on the toolbars of its scene.
+ * A side whose result is the content of the toolbars of its scene.
  */
 template <typename SceneType> class SceneSide : public Side
 {

@@ -19,7 +19,7 @@ void Side::finish()
 
 void settle()
 {
-    // What is done first may put off something more, as a layout does with painting.
+    // Deferred work may defer more work: for example, a layout defers painting.
     for (int i = 0; i < 3; ++i) {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -8,7 +8,7 @@
 #include <memory>
 
 /*
- * How large the host is that is measured.
+ * The size of the measured host.
  */
 struct Size
 {
@@ -17,7 +17,7 @@ struct Size
     int toolBars = 0;
     // Of each toolbar; every tenth is a separator.
     int entries = 0;
-    // So many of the actions stand on toolbars; 0 for all of them.
+    // The number of actions on toolbars; 0 for all of them.
     int placed = 0;
 };
 
@@ -36,7 +36,7 @@ public:
     virtual void run() = 0;
     virtual void finish();
 
-    // What a user or host finds between run() and finish(), to compare both sides.
+    // What a user or host sees between run() and finish(), to compare both sides.
     virtual QStringList result() = 0;
 
 private:
@@ -51,13 +51,13 @@ template <typename T> std::unique_ptr<Side> makeSide(const Size &size)
 }
 
 /*
- * Lets Qt do all that it has put off: layouts, painting, deleting.
+ * Lets Qt do all its deferred work: layouts, painting, deletion.
  */
 void settle();
 
 /*
- * What has been freed is sorted by the next large allocation, which takes milliseconds; after this,
- * that is nobody's time.
+ * The next large allocation sorts the freed memory, which takes milliseconds. This function makes
+ * such an allocation, so that no side has to.
  */
 void tidyHeap();
 

@@ -17,7 +17,7 @@ public:
     explicit ApplySameOurs(const Size &size);
 
     void run() override;
-    // Tells every event of a toolbar or of the window that a click makes, too.
+    // Also lists every event of a toolbar or of the window that a click causes.
     QStringList result() override;
 
 private:
@@ -26,7 +26,7 @@ private:
 };
 
 /*
- * Bare Qt compares each list with the one that it would set.
+ * Bare Qt compares each list with the list that it would set.
  */
 class ApplySameBare : public SceneSide<Scene>
 {
@@ -42,8 +42,8 @@ private:
 };
 
 /*
- * A click on Apply that exchanges every entry of every toolbar, with the window shown. So that all
- * of them differ, the host sets the other content behind the open dialog's back before each round.
+ * A click on Apply that changes every entry of every toolbar, with the window shown. Before each
+ * round, the host sets the other content while the dialog is open, so that all entries differ.
  */
 class ApplyOtherOurs : public ApplySameOurs
 {
@@ -55,7 +55,7 @@ public:
 };
 
 /*
- * The widget work alone, from the second content to the first.
+ * Only the work on the widgets, from the second content to the first.
  */
 class ApplyOtherBare : public SceneSide<Scene>
 {

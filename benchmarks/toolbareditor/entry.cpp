@@ -12,7 +12,7 @@ Entry::Entry(const Size &size, std::unique_ptr<QDialog> (DialogScene::*create)()
     , m_removeButton(m_dialog->findChild<QAbstractButton *>(QStringLiteral("leftButton")))
 {
     m_dialog->show();
-    // The last action stands on no toolbar.
+    // The last action is on no toolbar.
     QTreeWidget *const tree = m_dialog->findChild<QTreeWidget *>();
     const auto found =
         tree->findItems(m_scene.actions().last()->text(), Qt::MatchExactly | Qt::MatchRecursive);
@@ -39,7 +39,7 @@ void Entry::finish()
 
 QStringList Entry::result()
 {
-    // With the entry in the list, too.
+    // Also while the entry is in the list.
     QStringList lines = describeDialog(m_dialog.get());
     m_list->setCurrentRow(m_list->count() / 2);
     m_addButton->click();

@@ -8,7 +8,7 @@
 class QAbstractButton;
 
 /*
- * In the middle of the first toolbar's list an action is added with a click on "->" and taken out
+ * Adds an action in the middle of the first toolbar's list with a click on "->", and removes it
  * again with a click on "<-".
  */
 class Entry : public Side

@@ -7,7 +7,7 @@
 #include "sceneside.h"
 
 /*
- * createToolBar() for as many toolbars as the size says; there is none before.
+ * Calls createToolBar() for the given number of toolbars; there are none before.
  */
 class CreateToolBarOurs : public SceneSide<ManagedScene>
 {
@@ -23,8 +23,8 @@ private:
 };
 
 /*
- * Bare Qt counts for itself: it makes each toolbar, names it with the next number and adds it to
- * the window.
+ * Bare Qt uses a counter: it creates each toolbar, names it with the next number and adds it to the
+ * window.
  */
 class CreateToolBarBare : public SceneSide<Scene>
 {

@@ -8,7 +8,7 @@
 #include "rytoolbarmanager.h"
 
 /*
- * removeAction() for every action of a default toolbar that holds all of them, in their order.
+ * Calls removeAction() for every action of a default toolbar with all actions, in their order.
  */
 class RemoveActionOurs : public SceneSide<Scene>
 {
@@ -24,7 +24,7 @@ private:
 };
 
 /*
- * Bare Qt takes the same actions off in the same order.
+ * Bare Qt removes the same actions in the same order.
  */
 class RemoveActionBare : public SceneSide<Scene>
 {

@@ -7,7 +7,7 @@
 #include "sceneside.h"
 
 /*
- * All entries of every toolbar are exchanged for others, with the toolbars hidden.
+ * Replaces all entries of every toolbar, with the toolbars hidden.
  */
 class SetToolBarOurs : public SceneSide<ManagedScene>
 {
@@ -23,7 +23,7 @@ private:
 };
 
 /*
- * Bare Qt takes the old actions off from the front, deletes the old separators and appends the new
+ * Bare Qt removes the old actions from the front, deletes the old separators and appends the new
  * content.
  */
 class SetToolBarBare : public SceneSide<Scene>

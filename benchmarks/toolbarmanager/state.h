@@ -41,7 +41,7 @@ private:
 };
 
 /*
- * restoreState() with the state as it is.
+ * restoreState() with the current state.
  */
 class RestoreSameOurs : public SceneSide<ManagedScene>
 {
@@ -57,7 +57,7 @@ private:
 };
 
 /*
- * The same with a manager that is new in each round, as when a host starts.
+ * The same with a new manager in each round, as when a host starts.
  */
 class RestoreFirstOurs : public SceneSide<Scene>
 {
@@ -75,8 +75,8 @@ private:
 };
 
 /*
- * Bare Qt makes a table of the objectNames of all actions and one of those of all toolbars, reads
- * the same bytes, finds every name, and compares each list with what the toolbar holds.
+ * Bare Qt makes one table of the objectNames of all actions and one of those of all toolbars. It
+ * reads the same bytes, finds every name, and compares each list with the content of the toolbar.
  */
 class RestoreSameBare : public SceneSide<Scene>
 {
@@ -93,8 +93,8 @@ private:
 };
 
 /*
- * restoreState() with bytes that change every entry of every toolbar; bare Qt's side is
- * SetToolBarBare, which does nothing but the widget work.
+ * restoreState() with bytes that change every entry of every toolbar. Bare Qt's side is
+ * SetToolBarBare, which does only the work on the widgets.
  */
 class RestoreOtherOurs : public SceneSide<ManagedScene>
 {

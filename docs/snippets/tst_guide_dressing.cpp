@@ -32,7 +32,7 @@ namespace {
 struct EditorParts
 {
     explicit EditorParts(const QDialog &dialog)
-        // The "Ribbon" tab has views of the same names, so begin at the page.
+        // The "Ribbon" tab has views with the same names, so search below the page.
         : page(dialog.findChild<RyCToolBarWidget *>())
         , tabs(dialog.findChild<QTabWidget *>(QStringLiteral("m_optionTabWidget")))
         , actionTree(page->findChild<QTreeWidget *>(QStringLiteral("actionTree")))
@@ -58,7 +58,7 @@ struct EditorParts
 void hideRibbonTab(RyCustomizedDialog *dialog)
 {
     QTabWidget *const tabs = EditorParts(*dialog).tabs;
-    // The page is not deleted; it stays a hidden child until the dialog goes.
+    // The page is not deleted: it stays a hidden child of the dialog.
     tabs->removeTab(tabs->indexOf(dialog->findChild<RyCRibbonWidget *>()));
     tabs->setTabBarAutoHide(true);
 }
@@ -90,7 +90,7 @@ bool filterItem(QTreeWidgetItem *item, const QString &wanted, bool isInMatchingC
 void filterActions(QTreeWidget *tree, const QString &wanted)
 {
     filterItem(tree->invisibleRootItem(), wanted, false);
-    // Otherwise "->" would add what nobody sees.
+    // Otherwise "->" would add an action that is not visible.
     if (tree->currentItem() && tree->currentItem()->isHidden())
         tree->setCurrentItem(nullptr);
 }
@@ -100,11 +100,11 @@ QLineEdit *addFilter(RyCustomizedDialog *dialog)
     const EditorParts parts(*dialog);
     QLineEdit *const filter = new QLineEdit(parts.page);
     filter->setPlaceholderText(QCoreApplication::translate("Toolbars", "Search actions"));
-    // Below the tree, whose cells are those of the rows 1 to 3.
+    // Below the tree, which takes rows 1 to 3 of the grid.
     qobject_cast<QGridLayout *>(parts.page->layout())->addWidget(filter, 4, 0);
     QObject::connect(filter, &QLineEdit::textChanged, parts.actionTree,
                      [parts](const QString &text) { filterActions(parts.actionTree, text); });
-    // The tree is filled anew each time that its tab is shown.
+    // The tree is filled again each time its tab is shown.
     QObject::connect(parts.tabs, &QTabWidget::currentChanged, filter, &QLineEdit::clear);
     return filter;
 }
@@ -114,7 +114,7 @@ QLineEdit *addFilter(RyCustomizedDialog *dialog)
 void nameForScreenReaders(RyCustomizedDialog *dialog)
 {
     const EditorParts parts(*dialog);
-    // Their texts are "->" and the like; their tool tips are sentences, translated already.
+    // Their texts are like "->"; their tool tips are already translated sentences.
     const auto buttons = parts.page->findChildren<QToolButton *>();
     for (QToolButton *button : buttons)
         button->setAccessibleName(button->toolTip());
@@ -148,7 +148,7 @@ void addShortcuts(RyCustomizedDialog *dialog)
     for (const auto &each : shortcuts) {
         QToolButton *const button = parts.button(each.button);
         const QKeySequence keys(QLatin1String(each.keys));
-        // Not QToolButton::setShortcut(), which does not follow a key that is held down.
+        // Not QToolButton::setShortcut(), which ignores the repeats of a key that is held down.
         QShortcut *const shortcut = new QShortcut(keys, parts.page);
         QObject::connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
         button->setToolTip(QStringLiteral("%1 (%2)").arg(button->toolTip(),
@@ -182,7 +182,7 @@ public:
         QString text = QStyledItemDelegate::displayText(value, locale);
         for (int i = text.indexOf(QLatin1Char('&')); i >= 0;
              i = text.indexOf(QLatin1Char('&'), i + 1))
-            text.remove(i, 1); // of "&&" the second one stays
+            text.remove(i, 1); // keeps the second one of "&&"
         return text;
     }
 };
@@ -205,7 +205,7 @@ void customizeDressed(RyToolBarManager *manager, QMainWindow *window,
     useOwnHelp(&dialog, showHelp);
     hideMnemonics(&dialog);
     addFilter(&dialog);
-    nameForScreenReaders(&dialog); // before the shortcuts get into the tool tips
+    nameForScreenReaders(&dialog); // before the shortcuts are added to the tool tips
     addShortcuts(&dialog);
     mirrorArrows(&dialog);
     dialog.exec();
@@ -524,14 +524,14 @@ void tst_guide_dressing::arrowsPointToWhereThingsGo()
     const EditorViews editor(&dialog);
     const QIcon right(QStringLiteral(":/RyCustomizedDialog/images/forward.png"));
     const QIcon left(QStringLiteral(":/RyCustomizedDialog/images/back.png"));
-    // The tree is where things come from, the list is where they go.
+    // Actions go from the tree to the list.
     const bool listIsAtTheRight = editor.currentToolBarList->x() > editor.actionTree->x();
     QCOMPARE(listIsAtTheRight, direction == Qt::LeftToRight);
     QCOMPARE(pictureOf(editor.rightButton->icon()), pictureOf(listIsAtTheRight ? right : left));
     QCOMPARE(pictureOf(editor.leftButton->icon()), pictureOf(listIsAtTheRight ? left : right));
 }
 
-// What is shown, compared with what an action without an "&" looks like.
+// Compares the display with that of an action without an "&".
 void tst_guide_dressing::mnemonicsAreHidden()
 {
     EditHost host;

@@ -42,7 +42,7 @@ private:
     void restoreLayout();
 
     QSettings *m_settings;
-    RyToolBarManager m_manager; // not a pointer, so that nobody has to delete it
+    RyToolBarManager m_manager; // a value, so nobody has to delete it
     QAction *m_cut;
     QAction *m_copy;
     QAction *m_paste;
@@ -54,7 +54,7 @@ Window::Window(QSettings *settings)
     createActions();
     createToolBars();
     registerEverything();
-    restoreLayout(); // last, and before anybody calls show()
+    restoreLayout(); // last, and before show()
 }
 //! [window]
 

@@ -64,7 +64,7 @@ void auditInDebugBuilds(const RyToolBarManager &manager)
 QAction *createCommand(const char *name, const QString &text, QObject *parent)
 {
     QAction *const action = new QAction(text, parent);
-    action->setObjectName(QLatin1String(name)); // not translated, unique, the same for ever
+    action->setObjectName(QLatin1String(name)); // unique, never translated, never changed
     return action;
 }
 //! [name]
@@ -97,7 +97,7 @@ void tst_guide_names::theAuditFindsNothingInAGoodHost()
 {
     Host host;
     host.defaultToolBar(QStringLiteral("edit"), words("cut | copy"), QStringLiteral("Edit"));
-    // An action of the name of a toolbar is no problem.
+    // An action may have the same name as a toolbar.
     host.manager.addAction(createCommand("edit", QStringLiteral("Edit"), &host.window),
                            QStringLiteral("Edit"));
     QCOMPARE(nameProblems(host.manager), QStringList());

@@ -28,7 +28,7 @@ public:
 
     void customizeToolBars()
     {
-        // The manager outlives the dialog, the window outlives both.
+        // The manager outlives the dialog, and the window outlives both.
         RyCustomizedDialog dialog({&m_manager, nullptr}, this);
         dialog.exec();
     }
@@ -36,7 +36,7 @@ public:
     RyToolBarManager *manager() { return &m_manager; }
 
 private:
-    // Goes before the toolbars and actions, which are children of the QMainWindow.
+    // Destroyed before the toolbars and actions, which are children of the QMainWindow.
     RyToolBarManager m_manager;
 };
 //! [members]
@@ -44,7 +44,7 @@ private:
 //! [remove-action]
 void deleteCommand(RyToolBarManager *manager, QAction *action)
 {
-    manager->removeAction(action); // off all toolbars, and out of the defaults too
+    manager->removeAction(action); // from all toolbars, and from the default contents
     delete action;
 }
 //! [remove-action]

@@ -9,7 +9,7 @@
 namespace {
 
 //! [layout]
-// The layout that the user wants, with all plugins.
+// The user's layout, with the actions of all plugins.
 class Layout
 {
 public:
@@ -36,10 +36,10 @@ public:
     {
         for (QAction *action : actions)
             m_manager->addAction(action, category);
-        m_manager->restoreState(m_state, 1); // now its actions are found
+        m_manager->restoreState(m_state, 1); // now the names of its actions are known
     }
 
-    // Call it before the plugin deletes its actions.
+    // Call this before the plugin deletes its actions.
     void removePlugin(const QList<QAction *> &actions)
     {
         for (QAction *action : actions)
@@ -53,7 +53,7 @@ private:
 //! [layout]
 
 //! [placeholder]
-// Stands for a command of a plugin that is not loaded: users can place it, but it shows nothing.
+// Replaces a command of a plugin that is not loaded. Users can place it, but it is invisible.
 QAction *createPlaceholder(const QString &objectName, const QString &text, QObject *parent)
 {
     QAction *const action = new QAction(text, parent);
@@ -76,7 +76,7 @@ void connectPlugin(QAction *placeholder, QAction *command)
 QToolBar *toolBarOfPlugin(RyToolBarManager *manager, const QString &objectName,
                           const QString &title, const QList<QAction *> &actions)
 {
-    QToolBar *toolBar = manager->toolBarByName(objectName); // in the user's layout already
+    QToolBar *toolBar = manager->toolBarByName(objectName); // the user's layout may have it already
     if (!toolBar) {
         toolBar = manager->createToolBar(title);
         toolBar->setObjectName(objectName);

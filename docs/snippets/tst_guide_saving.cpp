@@ -21,8 +21,8 @@
 namespace {
 
 //! [restore]
-const int LayoutVersion = 3; // goes up when an action or a toolbar gets another objectName
-const int WindowVersion = 1; // goes up when a toolbar or a dock does
+const int LayoutVersion = 3; // raise it when the objectName of an action or toolbar changes
+const int WindowVersion = 1; // raise it when that of a toolbar or dock widget changes
 
 void restoreLayout(QMainWindow *window, RyToolBarManager *manager, const QSettings &settings)
 {
@@ -60,7 +60,7 @@ void customizeToolBars(QMainWindow *window, RyToolBarManager *manager, QSettings
     // After the dialog's own connection, and so after the toolbars have changed.
     QObject::connect(dialog.applyButton(), &QPushButton::clicked, &dialog,
                      [=] { saveLayout(*window, *manager, settings); });
-    dialog.exec(); // whatever it returns
+    dialog.exec(); // save no matter what it returns
     saveLayout(*window, *manager, settings);
 }
 //! [exec]
@@ -126,8 +126,8 @@ QStringList placesOfDefaults(const RyToolBarManager &manager)
     return names;
 }
 
-// Puts default actions that the saved layout could not know behind the neighbor that they have on
-// the default toolbar, or in front.
+// Inserts default actions that the saved layout could not know after the action that precedes them
+// on the default toolbar, or at the front.
 void addNewDefaults(RyToolBarManager *manager, const QStringList &known)
 {
     const auto defaults = manager->defaultToolBars();
@@ -177,7 +177,7 @@ QByteArray sealed(const QByteArray &bytes)
     return file;
 }
 
-// What was sealed; an empty array if a single bit is different.
+// The bytes that were sealed, or an empty array if a single bit has changed.
 QByteArray unsealed(const QByteArray &file)
 {
     QByteArray magic;
@@ -185,7 +185,7 @@ QByteArray unsealed(const QByteArray &file)
     QByteArray checksum;
     QDataStream stream(file);
     stream >> magic >> bytes >> checksum;
-    // What is missing at the end is read as nothing.
+    // A stream that ends early gives empty arrays.
     if (!stream.atEnd() || magic != Magic
         || checksum != QCryptographicHash::hash(bytes, QCryptographicHash::Sha1))
         return QByteArray();
@@ -231,7 +231,7 @@ bool restoreWhole(QMainWindow *window, RyToolBarManager *manager, const QByteArr
     stream >> packed >> known >> geometry;
     window->restoreGeometry(geometry);
     const bool restored = restorePacked(window, manager, packed);
-    addNewDefaults(manager, known); // where nothing was restored, nothing is missing
+    addNewDefaults(manager, known); // harmless if nothing was restored
     return restored;
 }
 //! [whole]
@@ -239,9 +239,9 @@ bool restoreWhole(QMainWindow *window, RyToolBarManager *manager, const QByteArr
 //! [trial]
 void startWithLayout(QMainWindow *window, RyToolBarManager *manager, QSettings *settings)
 {
-    const QString key = QStringLiteral("wholeLayout"); // remove() takes the keys below it too
+    const QString key = QStringLiteral("wholeLayout"); // remove() also removes keys below it
     const QByteArray kept = settings->value(key).toByteArray();
-    settings->remove(key); // if this start ends in a crash, the next one begins without
+    settings->remove(key); // if this start crashes, the next one uses the defaults
     settings->sync();
     restoreWhole(window, manager, kept);
     window->show();
@@ -420,7 +420,7 @@ void tst_guide_saving::aToolBarOfAMomentAgoIsSavedAsShown()
     EditHost host;
     host.window.show();
     host.addCustomToolBar();
-    QVERIFY(host.custom()->isHidden()); // what showNewToolBars() is for
+    QVERIFY(host.custom()->isHidden()); // so showNewToolBars() is needed
     saveLayout(host.window, host.manager, m_settings.data());
 
     EditHost next;
@@ -457,7 +457,7 @@ void tst_guide_saving::anApplyBeforeACancelIsSaved()
         const EditorViews editor(shown);
         editor.doubleClick(editor.actionTree, QStringLiteral("Edit_cut"));
         QTest::mouseClick(static_cast<RyCustomizedDialog *>(shown)->applyButton(), Qt::LeftButton);
-        m_settings->clear(); // so that only what follows exec() counts
+        m_settings->clear(); // so that only the save after exec() matters
         QTest::mouseClick(shown->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel),
                           Qt::LeftButton);
     });
@@ -658,7 +658,7 @@ void tst_guide_saving::aStartThatCrashesDropsTheLayout()
         startWithLayout(&next.window, &next.manager, m_settings.data());
         // The crash: the event loop does not run again.
     }
-    // Not what the settings know, but what the disk holds.
+    // Read from the disk, not from the settings object.
     QFile file(m_settings->fileName());
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray text = file.readAll();

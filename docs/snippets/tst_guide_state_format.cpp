@@ -71,7 +71,7 @@ QByteArray bytesOnThePage()
 }
 
 //! [peek]
-// The version that a state was saved with; 0 if it is no state.
+// The version that a state was saved with, or 0 if it is not a state.
 int versionOf(const QByteArray &state)
 {
     QDataStream stream(state);
@@ -130,7 +130,7 @@ void tst_guide_state_format::theOffsetsAreRight()
     }
 }
 
-// What stands beside the bytes of a name is that name, and beside a number that number.
+// The text beside the bytes of a name shows that name; beside a number it shows that number.
 void tst_guide_state_format::theTextsAreRight()
 {
     const QRegularExpression quoted(QStringLiteral("^\"(.*)\"$"));

@@ -41,7 +41,7 @@ void disableApplyDuring(Task *task, RyCustomizedDialog *dialog)
 //! [apply-on-leave]
 void applyWhenLeaving(RyCustomizedDialog *dialog)
 {
-    // Sent by a click before the tabs change, when the edits are still there.
+    // Emitted before the tab changes, while the changes still exist.
     QTabWidget *const tabs = dialog->findChild<QTabWidget *>();
     QObject::connect(tabs, &QTabWidget::tabBarClicked, dialog, [=](int index) {
         if (index != tabs->currentIndex())

@@ -9,12 +9,12 @@ namespace {
 
 bool contains(const QTreeWidgetItem *item, const QString &text)
 {
-    // What a screen reader says may be simpler than what is shown.
+    // The text for screen readers may be simpler than the one that is shown.
     return item->text(0).contains(text, Qt::CaseInsensitive)
         || item->data(0, Qt::AccessibleTextRole).toString().contains(text, Qt::CaseInsensitive);
 }
 
-// Hides what does not match and returns the first item without children that stays.
+// Hides items that do not match, and returns the first visible item without children.
 QTreeWidgetItem *filter(QTreeWidgetItem *item, const QString &text, bool parentMatches)
 {
     const bool matches = parentMatches || contains(item, text);
@@ -37,7 +37,7 @@ ActionFilter::ActionFilter(QTreeWidget *tree, QWidget *parent)
     , m_tree(tree)
 {
     connect(this, &QLineEdit::textChanged, this, &ActionFilter::apply);
-    // The editor clears its tree when its tab is left.
+    // The editor clears its tree when the user leaves its tab.
     connect(tree->model(), &QAbstractItemModel::modelReset, this, &QLineEdit::clear);
 }
 
@@ -52,7 +52,7 @@ void ActionFilter::apply(const QString &text)
         if (!text.isEmpty())
             item->setExpanded(true);
     }
-    // A hidden item that stays current could still be added to the toolbar.
+    // If a hidden item stayed current, it could still be added to the toolbar.
     const QTreeWidgetItem *const current = m_tree->currentItem();
     if (!text.isEmpty() && (!current || current->isHidden() || current->childCount() > 0))
         m_tree->setCurrentItem(firstAction);

@@ -9,10 +9,10 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 /*!
- * \brief A line that leaves only those items of a tree visible that contain its text.
+ * \brief A line that hides all items of a tree that do not contain its text.
  *
- * An action stays if its own text or that of its category does. The current item is never hidden:
- * the first visible action takes its place.
+ * An action stays visible if its own text or that of its category matches. If the current item is
+ * hidden, the first visible action becomes current.
  */
 class ActionFilter : public QLineEdit
 {
@@ -23,7 +23,7 @@ public:
     explicit ActionFilter(QTreeWidget *tree, QWidget *parent = nullptr);
 
 Q_SIGNALS:
-    //! Return was pressed, which does not press the default button of the dialog here.
+    //! Return was pressed. In this line, it does not press the dialog's default button.
     void chosen();
 
 protected:

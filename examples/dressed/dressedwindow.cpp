@@ -17,8 +17,8 @@
 
 namespace {
 
-// A style tints the icons of selected rows in the color that is already behind them. An icon that
-// brings pixmaps of its own for them is left alone.
+// A style tints the icons of selected rows with the color of their background. It does not change
+// icons that have their own pixmaps for selected rows.
 QIcon visibleWhenSelected(QIcon icon)
 {
     const auto sizes = icon.availableSizes();
@@ -91,7 +91,7 @@ void DressedWindow::customizeToolBars()
     dialog.exec();
 }
 
-// A child of the modal dialog, or the user could not even scroll in it.
+// A child of the modal dialog. Otherwise the user could not even scroll in it.
 void DressedWindow::showHelp(RyCustomizedDialog *dialog)
 {
     QDialog *window = dialog->findChild<QDialog *>(QStringLiteral("help"));
@@ -100,12 +100,11 @@ void DressedWindow::showHelp(RyCustomizedDialog *dialog)
         window->setObjectName(QStringLiteral("help"));
         window->setWindowTitle(tr("Toolbars"));
         QTextBrowser *const text = new QTextBrowser;
-        text->setHtml(
-            tr("<h2>Your toolbars</h2>"
-               "<p>To the left are all actions, to the right the toolbars and what stands "
-               "on the current one.</p>"
-               "<p>Insert adds the current action. Alt+Up and Alt+Down move it, Delete "
-               "removes it. Nothing changes before OK or Apply.</p>"));
+        text->setHtml(tr("<h2>Your toolbars</h2>"
+                         "<p>On the left are all actions. On the right are the toolbars, and the "
+                         "content of the current one.</p>"
+                         "<p>Insert adds the current action. Alt+Up and Alt+Down move it, Delete "
+                         "removes it. Nothing changes before OK or Apply.</p>"));
         QVBoxLayout *const layout = new QVBoxLayout(window);
         layout->addWidget(text);
     }

@@ -11,7 +11,7 @@
 class RyCustomizedDialog;
 
 /*!
- * \brief A window with some commands that only tell their names, and the dialog in its best dress.
+ * \brief A window with some commands that only show their names, and a dialog with all additions.
  */
 class DressedWindow : public QMainWindow
 {

@@ -18,7 +18,7 @@
 
 namespace {
 
-// Leaves data that is there alone: each change of a row is a signal to the editor.
+// Does not set equal data again, because each change of a row emits a signal to the editor.
 void setOnce(QListWidgetItem *item, int role, const QString &text)
 {
     if (item->data(role).toString() != text)
@@ -27,7 +27,7 @@ void setOnce(QListWidgetItem *item, int role, const QString &text)
 
 } // namespace
 
-// Below the page, because the page "Ribbon" has parts of the same names.
+// Searches below the page, because the "Ribbon" page has parts with the same names.
 template <typename Widget> Widget *Dressing::part(const char *name) const
 {
     return m_page->findChild<Widget *>(QLatin1String(name));
@@ -63,7 +63,7 @@ void Dressing::addFilter()
     filter->setClearButtonEnabled(true);
     connect(filter, &ActionFilter::chosen, m_rightButton, &QAbstractButton::click);
 
-    // Beside the caption, whose cell of the grid the two now share.
+    // Beside the caption, in the same cell of the grid.
     QLabel *const caption = part<QLabel>("label");
     QGridLayout *const grid = qobject_cast<QGridLayout *>(m_page->layout());
     QHBoxLayout *const both = new QHBoxLayout;
@@ -75,10 +75,10 @@ void Dressing::addFilter()
 
 void Dressing::addNames()
 {
-    // Qt takes the names of views from nowhere else, not even from a caption whose buddy they are.
+    // Qt takes the name of a view only from here, not even from a caption whose buddy it is.
     m_actionTree->setAccessibleName(part<QLabel>("label")->text());
     m_actionTree->setHeaderLabel(
-        part<QLabel>("label")->text()); // hidden, and spoken as "1" otherwise
+        part<QLabel>("label")->text()); // hidden, but otherwise spoken as "1"
     m_toolBarList->setAccessibleName(part<QLabel>("label_2")->text());
     m_currentToolBarList->setAccessibleName(part<QLabel>("label_6")->text());
     m_actionTree->setAccessibleDescription(tr("Insert adds the current action to the toolbar"));
@@ -86,12 +86,12 @@ void Dressing::addNames()
         tr("Insert makes a toolbar, F2 renames it, Delete removes it"));
     m_currentToolBarList->setAccessibleDescription(
         tr("Alt+Up and Alt+Down move the current action, Delete removes it"));
-    // Buttons with an icon show no text, but a screen reader says it: "less minus" for "<-".
+    // A button with an icon does not show its text, but a screen reader says "less minus" for "<-".
     const auto buttons = m_page->findChildren<QToolButton *>();
     for (QToolButton *button : buttons)
         button->setAccessibleName(button->toolTip());
 
-    // The items are made each time that the page is shown, and rows whenever a toolbar is chosen.
+    // The items are created each time the page is shown, and rows each time a toolbar is chosen.
     for (const QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_actionTree),
                                           static_cast<QAbstractItemView *>(m_toolBarList),
                                           static_cast<QAbstractItemView *>(m_currentToolBarList)})
@@ -111,7 +111,7 @@ void Dressing::describeItems()
         if (m_currentToolBarList->item(row)->text() == separator)
             setOnce(m_currentToolBarList->item(row), Qt::AccessibleTextRole, tr("Separator"));
     }
-    // Color alone tells default toolbars from others.
+    // Default toolbars differ from others only in color.
     const QString ofApplication =
         tr("Comes with the application and can be neither renamed nor removed");
     for (int row = 0; row < m_toolBarList->count(); ++row) {
@@ -131,13 +131,13 @@ void Dressing::addShortcuts()
     addShortcut(m_currentToolBarList, Qt::ALT + Qt::Key_Up, part<QToolButton>("upButton"));
     addShortcut(m_currentToolBarList, Qt::ALT + Qt::Key_Down, part<QToolButton>("downButton"));
     addShortcut(m_currentToolBarList, Qt::Key_Delete, m_leftButton);
-    // The list itself knows this key.
+    // The list already handles this key.
     QToolButton *const renameButton = part<QToolButton>("renameButton");
     renameButton->setToolTip(tr("%1 (%2)").arg(renameButton->toolTip(), QStringLiteral("F2")));
 }
 
-// In the view alone, so that Delete still deletes characters where a toolbar is named. A disabled
-// button cannot be clicked, so that the shortcut does what the button may do.
+// Only in the view, so that Delete still deletes characters while a toolbar is named. A disabled
+// button ignores click(), so the shortcut does nothing either.
 void Dressing::addShortcut(QWidget *view, const QKeySequence &key, QToolButton *button)
 {
     QShortcut *const shortcut = new QShortcut(key, view);
@@ -155,7 +155,7 @@ void Dressing::replaceHelp()
     connect(shortcut, &QShortcut::activated, m_dialog->helpButton(), &QAbstractButton::click);
 }
 
-// From right to left the tree stands to the right of the list: to add is to go left.
+// In a right-to-left layout the tree is to the right of the list, so "add" must point left.
 void Dressing::pointArrows()
 {
     const bool mirrored = m_page->isRightToLeft();

@@ -13,9 +13,9 @@ class QTreeWidget;
 class RyCustomizedDialog;
 
 /*!
- * \brief What a host can add to RyCustomizedDialog from outside: a filter for the actions, names
- * for screen readers, keyboard shortcuts, help of its own, and arrows that mind the direction of
- *        reading.
+ * \brief Additions that a host can make to RyCustomizedDialog from outside: a filter for the
+ *        actions, names for screen readers, shortcuts, the host's own help, and arrows that follow
+ *        the layout direction.
  *
  * It finds the dialog's parts by their objectNames, which never change.
  *
@@ -30,11 +30,11 @@ class Dressing : public QObject
     Q_OBJECT
 
 public:
-    //! \param dialog what is dressed; it owns the new object.
+    //! \param dialog the dialog to change; it owns the new object.
     explicit Dressing(RyCustomizedDialog *dialog);
 
 Q_SIGNALS:
-    //! The user asks for help, in place of the dialog's own placeholder.
+    //! The user asks for help. The dialog's own placeholder is not shown.
     void helpRequested();
 
 protected:

@@ -7,7 +7,7 @@
 int main(int argc, char *argv[])
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // or no sharp icons
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // needed for sharp icons
     QApplication application(argc, argv);
     DressedWindow window;
     window.show();

@@ -13,9 +13,9 @@ public:
         setCentralWidget(editor);
         QMenu *const menu = menuBar()->addMenu("&Edit");
         QToolBar *const toolBar = addToolBar("Edit");
-        toolBar->setObjectName("edit"); // stored layouts know it by this name
+        toolBar->setObjectName("edit"); // identifies it in stored layouts
 
-        // First register everything: the actions that may stand on a toolbar, and the toolbars ...
+        // First register everything: all actions that may go on a toolbar, and the toolbars ...
         m_manager.setMainWindow(this);
         addCommand(menu, "undo", "Undo", editor, &QTextEdit::undo);
         addCommand(menu, "redo", "Redo", editor, &QTextEdit::redo);
@@ -26,7 +26,7 @@ public:
         m_manager.addDefaultToolBar(toolBar, "Edit");
         menu->addAction("Customize Toolbars…", this, &Window::customizeToolBars);
 
-        // ... then restore what stands on the toolbars, then where each one stands, then show.
+        // ... then restore the contents of the toolbars, then their places, then show.
         m_manager.restoreState(m_settings.value("toolBars").toByteArray(), 1);
         restoreState(m_settings.value("window").toByteArray(), 1);
     }
@@ -36,7 +36,7 @@ private:
     void addCommand(QMenu *menu, const char *name, const char *text, QTextEdit *editor, Slot slot)
     {
         QAction *const action = menu->addAction(text, editor, slot);
-        action->setObjectName(name); // as with the toolbar: unique, and the same for ever
+        action->setObjectName(name); // like the toolbar's: unique, and never changed
         m_manager.addAction(action, "Edit");
     }
     void customizeToolBars()

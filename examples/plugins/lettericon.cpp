@@ -21,7 +21,7 @@ QIcon letterIcon(const QString &letters, const QColor &color)
     painter.setPen(Qt::white);
     painter.drawText(pixmap.rect(), Qt::AlignCenter, letters);
     QIcon icon(pixmap);
-    // A style tints the icons of selected rows in the color that is already behind them.
+    // A style tints the icons of selected rows with the color of their background.
     icon.addPixmap(pixmap, QIcon::Selected);
     return icon;
 }

@@ -6,7 +6,7 @@
 #include <QColor>
 #include <QIcon>
 
-//! White letters on a square of that color, so that a picture shows whose command it is.
+//! White letters on a colored square. The color shows which plugin the command belongs to.
 QIcon letterIcon(const QString &letters, const QColor &color);
 
 #endif // LETTERICON_H

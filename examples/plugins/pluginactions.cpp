@@ -59,7 +59,7 @@ void PluginActions::takeAndDelete(const QList<QAction *> &actions)
     exchange([&] {
         for (QAction *action : actions) {
             const QString category = m_manager->actionCategory(action);
-            // First the manager, which does not notice that an action is gone.
+            // Remove it from the manager first, which does not notice when an action is deleted.
             m_manager->removeAction(action);
             standIn(action->objectName(), action->text(), category);
             delete action;
@@ -76,11 +76,11 @@ void PluginActions::forgetAbsent()
     }
 }
 
-// The whole trick: bytes that were saved before the change put whoever bears a name after it into
-// the place of whoever bore it before.
+// The trick: bytes saved before the change put the action that has a name after it into the place
+// of the action that had the name before.
 void PluginActions::exchange(const std::function<void()> &change)
 {
-    constexpr int version = 0; // these bytes never leave this function
+    constexpr int version = 0; // the bytes are used only in this function
     const QByteArray places = m_manager->saveState(version);
     change();
     m_manager->restoreState(places, version);
@@ -90,7 +90,7 @@ void PluginActions::standIn(const QString &name, const QString &text, const QStr
 {
     QAction *const action = new QAction(tr("%1 (plugin is off)").arg(text), nullptr);
     action->setObjectName(name);
-    action->setVisible(false); // toolbars leave it out, the dialog does not
+    action->setVisible(false); // hidden on toolbars, but not in the dialog
     m_standIns.insert(name, action);
     m_manager->addAction(action, category);
 }

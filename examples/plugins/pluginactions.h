@@ -15,14 +15,14 @@ class QSettings;
 class RyToolBarManager;
 
 /*!
- * \brief Lets actions come and go while the places that the user gave them stay.
+ * \brief Lets actions come and go, and keeps the places that the user gave them.
  *
- * While a plugin is off, a stand-in is registered for each of its actions: an invisible QAction of
- * the same objectName. A saved layout knows actions by objectName only, so that it always names
- * every place, and an action that comes late goes where its stand-in was.
+ * While a plugin is off, a stand-in is registered for each of its actions: an invisible QAction
+ * with the same objectName. A saved layout identifies actions only by objectName, so it always has
+ * every place. An action that is registered later takes the place of its stand-in.
  *
- * Call nothing of this while RyCustomizedDialog is open: its working copy holds the actions of the
- * moment when it was shown, and Apply leaves out those that are gone since.
+ * Do not call this while RyCustomizedDialog is open. Its working copy has the actions of the moment
+ * when it was shown, and Apply leaves out actions that were removed since.
  */
 class PluginActions
 {
@@ -30,22 +30,22 @@ class PluginActions
 
 public:
     //! \param manager where the actions are registered.
-    //! \param settings where the names of all actions that were ever there are kept; both must
-    //!        outlive the object.
+    //! \param settings where the names of all actions that were ever registered are stored. Both
+    //!        must outlive the object.
     PluginActions(RyToolBarManager *manager, QSettings *settings);
     ~PluginActions();
 
-    //! Registers a stand-in for every action that was ever there. Call it before the stored layout
-    //! is restored, or restoring drops the places of those that have not come yet.
+    //! Registers a stand-in for every action that was ever registered. Call this before you restore
+    //! the stored layout, or the places of actions that are not there yet are lost.
     void standInForAll();
 
     //! Registers the actions, each in the place of its stand-in.
     void add(const QList<QAction *> &actions, const QString &category);
 
-    //! Puts stand-ins in the places of the actions and deletes the actions.
+    //! Replaces the actions with stand-ins and deletes the actions.
     void takeAndDelete(const QList<QAction *> &actions);
 
-    //! Forgets the actions that are not there, and their places.
+    //! Forgets all actions of which only the stand-in is registered, and their places.
     void forgetAbsent();
 
 private:

@@ -14,7 +14,7 @@
 
 namespace {
 
-// Goes up when the objectName of an action or a toolbar changes.
+// Raise it when the objectName of an action or a toolbar changes.
 constexpr int LayoutVersion = 1;
 
 const QLatin1String ToolBarsKey("layout/toolBars");
@@ -38,7 +38,7 @@ PluginsWindow::PluginsWindow(QSettings *settings, const QList<TextPlugin> &plugi
     setWindowTitle(tr("Plugins"));
     resize(720, 420);
 
-    // What is always there, stand-ins for what may come, the layout; and only then the plugins.
+    // In this order: permanent actions, stand-ins for plugins, the layout, and finally the plugins.
     m_manager.setMainWindow(this);
     createOwnCommands();
     m_pluginActions.standInForAll();

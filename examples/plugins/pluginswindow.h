@@ -21,10 +21,11 @@ class PluginsWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    //! Restores the layout and switches on the plugins that the user had on, all if never asked.
+    //! Restores the layout and switches on the plugins that the user had on; at first, all of them.
     //!
     //! \param settings the application's settings, which must outlive the window.
-    //! \param plugins what is installed this time; it need not be what was installed last time.
+    //! \param plugins the plugins that are installed now; they may differ from those of the last
+    //! run.
     PluginsWindow(QSettings *settings, const QList<TextPlugin> &plugins, QWidget *parent = nullptr);
 
 protected:

@@ -18,7 +18,7 @@ void changeText(QPlainTextEdit *editor, const std::function<QString(const QStrin
     QTextCursor cursor = editor->textCursor();
     if (!cursor.hasSelection())
         cursor.select(QTextCursor::Document);
-    // Qt has the lines of a selection end with this character.
+    // Qt ends the lines of a selection with this character.
     const QString text =
         cursor.selectedText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
     const int start = cursor.selectionStart();

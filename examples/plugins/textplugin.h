@@ -14,10 +14,10 @@ class QAction;
 class QPlainTextEdit;
 
 /*!
- * \brief A plugin of the example: some commands that change text.
+ * \brief A plugin of the example, with some commands that change text.
  *
- * To keep the example small a plugin is an object of this process. One that QPluginLoader loads
- * differs only in where createActions() comes from.
+ * To keep the example small, a plugin is an object in this process. A plugin from QPluginLoader
+ * would differ only in where createActions() comes from.
  */
 class TextPlugin
 {
@@ -26,7 +26,7 @@ class TextPlugin
 public:
     struct Command
     {
-        const char *name; // the objectName of its action, for ever
+        const char *name; // the objectName of its action; never changes
         QString letters;
         QString text;
         std::function<QString(const QString &)> change;
@@ -41,8 +41,8 @@ public:
     QString name() const { return m_name; }
     QString title() const { return m_title; }
 
-    //! Makes an action for each command. The actions are children of the editor, whose selection
-    //! they change, or its whole text without one; the caller deletes them.
+    //! Creates an action for each command. The actions are children of the editor. They change its
+    //! selection, or its whole text if nothing is selected. The caller deletes them.
     QList<QAction *> createActions(QPlainTextEdit *editor) const;
 
 private:

@@ -18,7 +18,7 @@ QPixmap inColor(QPixmap pixmap, const QColor &color)
     return pixmap;
 }
 
-// The color shines around the drawing, which so stands out on dark and on light backgrounds.
+// The glow around the drawing makes it visible on dark and on light backgrounds.
 QPixmap withHalo(const QPixmap &drawing, const QColor &color)
 {
     const QPixmap shape = inColor(drawing, color);
@@ -31,8 +31,8 @@ QPixmap withHalo(const QPixmap &drawing, const QColor &color)
     return result;
 }
 
-// A style tints the icons of selected rows in the color that is already behind them, so that little
-// is left to see in the toolbar editor. These icons bring pictures of their own for that.
+// A style tints the icons of selected rows with the color of their background, so they can hardly
+// be seen in the toolbar editor. These icons have their own pixmaps for selected rows.
 QIcon iconNamed(const char *name)
 {
     const QIcon drawing(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
@@ -79,38 +79,37 @@ void ActionCatalog::addFileActions()
     add("file_save", "save", tr("Save"), tr("Save the document"), QKeySequence::Save);
     add("file_save_as", "save-as", tr("Save As…"), tr("Save the document under another name"),
         Qt::CTRL + Qt::SHIFT + Qt::Key_S);
-    add("file_quit", "quit", tr("Quit"), tr("Leave the text editor"), Qt::CTRL + Qt::Key_Q);
+    add("file_quit", "quit", tr("Quit"), tr("Quit the text editor"), Qt::CTRL + Qt::Key_Q);
 }
 
 void ActionCatalog::addEditActions()
 {
     startCategory(tr("Edit"));
-    add("edit_undo", "undo", tr("Undo"), tr("Take the last change back"), QKeySequence::Undo);
-    add("edit_redo", "redo", tr("Redo"), tr("Make the change again that was taken back"),
-        QKeySequence::Redo);
+    add("edit_undo", "undo", tr("Undo"), tr("Undo the last change"), QKeySequence::Undo);
+    add("edit_redo", "redo", tr("Redo"), tr("Redo the last undone change"), QKeySequence::Redo);
     add("edit_cut", "cut", tr("Cut"), tr("Move the selection to the clipboard"), QKeySequence::Cut);
     add("edit_copy", "copy", tr("Copy"), tr("Copy the selection to the clipboard"),
         QKeySequence::Copy);
-    add("edit_paste", "paste", tr("Paste"), tr("Insert what is on the clipboard"),
+    add("edit_paste", "paste", tr("Paste"), tr("Insert the content of the clipboard"),
         QKeySequence::Paste);
     add("edit_delete", "delete", tr("Delete"), tr("Delete the selection"));
     add("edit_select_all", "select-all", tr("Select All"), tr("Select the whole text"),
         QKeySequence::SelectAll);
     add("edit_duplicate_line", "duplicate-line", tr("Duplicate Line"),
-        tr("Repeat the current line below itself"), Qt::CTRL + Qt::Key_D);
+        tr("Duplicate the current line"), Qt::CTRL + Qt::Key_D);
     add("edit_upper_case", "upper-case", tr("Upper Case"),
-        tr("Write the selection in capital letters"));
+        tr("Change the selection to capital letters"));
     add("edit_lower_case", "lower-case", tr("Lower Case"),
-        tr("Write the selection in small letters"));
+        tr("Change the selection to small letters"));
 }
 
 void ActionCatalog::addSearchActions()
 {
     add("edit_find", "find", tr("Find…"), tr("Look for a text"), QKeySequence::Find);
     add("edit_find_next", "find-next", tr("Find Next"), tr("Go to the next match"), Qt::Key_F3);
-    add("edit_find_previous", "find-previous", tr("Find Previous"), tr("Go to the match before"),
+    add("edit_find_previous", "find-previous", tr("Find Previous"), tr("Go to the previous match"),
         Qt::SHIFT + Qt::Key_F3);
-    add("edit_replace", "replace", tr("Replace…"), tr("Replace a text by another"),
+    add("edit_replace", "replace", tr("Replace…"), tr("Find and replace a text"),
         Qt::CTRL + Qt::Key_H);
     add("edit_go_to_line", "go-to-line", tr("Go to Line…"), tr("Go to a line by its number"),
         Qt::CTRL + Qt::Key_G);
@@ -122,7 +121,7 @@ void ActionCatalog::addViewActions()
     add("view_zoom_in", "zoom-in", tr("Zoom In"), tr("Show the text larger"), QKeySequence::ZoomIn);
     add("view_zoom_out", "zoom-out", tr("Zoom Out"), tr("Show the text smaller"),
         QKeySequence::ZoomOut);
-    add("view_zoom_reset", "zoom-reset", tr("Reset Zoom"), tr("Show the text in its own size"),
+    add("view_zoom_reset", "zoom-reset", tr("Reset Zoom"), tr("Show the text in its original size"),
         Qt::CTRL + Qt::Key_0);
     addCheckable("view_word_wrap", "word-wrap", tr("Word Wrap"),
                  tr("Break long lines at the window's edge"));
@@ -141,7 +140,7 @@ void ActionCatalog::addFormatActions()
     addCheckable("format_underline", "underline", tr("Underline"), tr("Underline the selection"),
                  QKeySequence::Underline);
     addCheckable("format_strikethrough", "strikethrough", tr("Strikethrough"),
-                 tr("Strike the selection through"));
+                 tr("Strike through the selection"));
     add("format_font", "font", tr("Font…"), tr("Choose the font of the selection"));
     add("format_text_color", "text-color", tr("Text Color…"),
         tr("Choose the color of the selection"));
@@ -173,14 +172,14 @@ void ActionCatalog::addToolActions()
     add("tools_date_time", "date-time", tr("Insert Date and Time"),
         tr("Insert the current date and time"), Qt::Key_F9);
     add("tools_sort_lines", "sort-lines", tr("Sort Lines"),
-        tr("Sort the selected lines, or all without a selection"));
+        tr("Sort the selected lines, or all lines if nothing is selected"));
     add("tools_word_count", "word-count", tr("Word Count"),
         tr("Count lines, words and characters"));
     addCheckable("tools_read_only", "read-only", tr("Read Only"), tr("Protect the text"));
     add("tools_customize_toolbars", "customize-toolbars", tr("Customize Toolbars…"),
-        tr("Choose what stands on the toolbars"));
+        tr("Choose the buttons of the toolbars"));
     add("tools_reset_toolbars", "reset-toolbars", tr("Reset Toolbars"),
-        tr("Give the default toolbars their original content"));
+        tr("Restore the original content of the default toolbars"));
 }
 
 void ActionCatalog::addHelpActions()
@@ -188,7 +187,7 @@ void ActionCatalog::addHelpActions()
     startCategory(tr("Help"));
     add("help_tour", "help", tr("Toolbar Tour"), tr("Open a page about the toolbars"),
         QKeySequence::HelpContents);
-    add("help_about", "about", tr("About Text Editor"), tr("Tell what this application is"));
+    add("help_about", "about", tr("About Text Editor"), tr("Show what this application is"));
 }
 
 void ActionCatalog::startCategory(const QString &title)

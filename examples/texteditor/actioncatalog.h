@@ -10,12 +10,11 @@
 #include <QString>
 
 /*!
- * \brief Every command of the application: its action, made once, and the category it belongs to.
+ * \brief Every command of the application: its action and its category.
  *
  * The menus, the default toolbars and the toolbar manager all take their actions from here. An
- * action's objectName is what a saved toolbar layout knows it by, so names must be unique and must
- * never change; the texts may. The texts have no "&", because the toolbar editor shows them as they
- * are.
+ * saved toolbar layout identifies an action by its objectName, so names must be unique and must
+ * never change. The texts may change. They have no "&", because the toolbar editor would show it.
  */
 class ActionCatalog
 {

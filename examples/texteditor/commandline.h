@@ -9,7 +9,7 @@
 #include <QString>
 
 /*!
- * \brief What the application was started with.
+ * \brief The command-line arguments of the application.
  */
 class CommandLine
 {
@@ -27,7 +27,7 @@ public:
     //! The file for all settings; empty for the one in the user's configuration folder.
     QString settingsFile() const;
 
-    //! Whether the stored toolbar layout is to be forgotten.
+    //! Whether to forget the stored toolbar layout.
     bool resetLayout() const;
 
     //! The document to open, or an empty string.

@@ -10,8 +10,8 @@ class EditorView;
 class FindBar;
 
 /*!
- * \brief Joins the actions of the categories Edit and Tools that change the text to the editor, and
- *        enables those that can do something.
+ * \brief Connects the actions of the categories Edit and Tools that change the text to the editor,
+ *        and enables those that can do something.
  */
 class EditCommands : public QObject
 {

@@ -33,8 +33,8 @@ bool isPlain(const QTextBlock &block)
     return true;
 }
 
-// Makes the selection reach from the start of its first line to the end of its last one. A line of
-// which nothing is selected, as the one after the last line end, does not count.
+// Extends the selection to the start of its first line and to the end of its last line. A line of
+// which nothing is selected, such as the one after the last line end, is not included.
 void selectWholeLines(QTextCursor *cursor)
 {
     const int start = cursor->selectionStart();
@@ -56,7 +56,7 @@ EditorView::EditorView(QWidget *parent)
     setObjectName(QStringLiteral("editor"));
     setAccessibleName(tr("Document"));
     document()->setDocumentMargin(12);
-    setContent(QString(), false); // Qt takes the margin for a change that the user made
+    setContent(QString(), false); // Qt treats the margin as a change by the user
 }
 
 void EditorView::setContent(const QString &text, bool isHtml)
@@ -72,7 +72,7 @@ void EditorView::setContent(const QString &text, bool isHtml)
 
 QString EditorView::plainContent() const
 {
-    // Not toPlainText(), which turns no-break spaces into others.
+    // Not toPlainText(), which replaces no-break spaces.
     QTextCursor cursor(document());
     cursor.select(QTextCursor::Document);
     QString text = cursor.selectedText();
@@ -83,8 +83,8 @@ QString EditorView::plainContent() const
 
 QString EditorView::htmlContent() const
 {
-    // Without the font of the body, which is only the one that the text is shown in here: it would
-    // become a format of all the text when the file is read, and stop the zoom.
+    // Without the font of the body, which is only the display font. When the file is read again, it
+    // would become a format of the whole text, and the zoom would have no effect.
     static const QRegularExpression bodyStyle(QStringLiteral("<body style=\"[^\"]*\">"));
     QString html = document()->toHtml("utf-8");
     return html.replace(bodyStyle, QStringLiteral("<body>"));
@@ -148,7 +148,7 @@ void EditorView::makeLowerCase()
     replaceSelection(QLocale().toLower(textCursor().selectedText()));
 }
 
-// The new text stays selected.
+// Keeps the new text selected.
 void EditorView::replaceSelection(const QString &text)
 {
     QTextCursor cursor = textCursor();

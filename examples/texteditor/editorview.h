@@ -6,9 +6,9 @@
 #include <QTextEdit>
 
 /*!
- * \brief The text, and what can be done to it beyond what QTextEdit offers.
+ * \brief The text, with operations that QTextEdit does not have.
  *
- * Each operation that changes the text is one step for undo.
+ * Each operation that changes the text is one undo step.
  */
 class EditorView : public QTextEdit
 {
@@ -17,7 +17,7 @@ class EditorView : public QTextEdit
 public:
     explicit EditorView(QWidget *parent = nullptr);
 
-    //! Replaces everything, formats of the text typed before included; unmodified afterwards.
+    //! Replaces everything, including the format for typed text. The document is then unmodified.
     void setContent(const QString &text, bool isHtml);
 
     //! The text without its formats, lines separated by "\n".

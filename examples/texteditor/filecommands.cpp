@@ -124,7 +124,7 @@ bool FileCommands::writeTo(const QString &path)
     return true;
 }
 
-// Asks once for each document.
+// Asks only once for each document.
 bool FileCommands::mayLoseFormats(const QString &path)
 {
     if (m_savesPlain || !m_editor->hasFormats())

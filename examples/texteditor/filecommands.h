@@ -20,17 +20,18 @@ class FileCommands : public QObject
     Q_OBJECT
 
 public:
-    //! All but the parent \a window must outlive the object; \a window owns it.
+    //! \a window owns the object; all other arguments must outlive it.
     FileCommands(const ActionCatalog &actions, EditorView *editor, RecentFiles *recentFiles,
                  QWidget *window);
 
-    //! The absolute path of the document; empty for one that was never saved.
+    //! The absolute path of the document; empty if it was never saved.
     QString path() const { return m_path; }
 
     //! Asks about unsaved changes first; reports errors. Returns false if nothing was opened.
     bool open(const QString &path);
 
-    //! Returns true if nothing is lost when the document goes: nothing to save, saved, or given up.
+    //! Asks about unsaved changes. Returns true if there are none, or the user saved or discarded
+    //! them.
     bool mayDiscardChanges();
 
 public Q_SLOTS:
@@ -40,11 +41,11 @@ public Q_SLOTS:
     bool save();
     bool saveAs();
 
-    //! Opens a copy of the page about the toolbars that the application contains.
+    //! Opens a copy of the built-in page about the toolbars.
     void openTour();
 
 Q_SIGNALS:
-    //! The document has another path now.
+    //! The path of the document has changed.
     void pathChanged(const QString &path);
 
 private:

@@ -127,7 +127,7 @@ void FindBar::replaceAll()
         m_result->setText(tr("%n replaced", nullptr, m_search.replaceAll(m_replacement->text())));
 }
 
-// Opens the bar instead if there is nothing to look for yet.
+// Opens the bar instead if there is no text to search for yet.
 bool FindBar::prepareSearch()
 {
     if (m_text->text().isEmpty()) {

@@ -13,7 +13,7 @@ class QLineEdit;
 class QPushButton;
 
 /*!
- * \brief The bar below the text to find and to replace with; hidden until it is opened.
+ * \brief The bar below the text, to find and replace; hidden until it is opened.
  */
 class FindBar : public QWidget
 {

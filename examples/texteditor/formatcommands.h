@@ -9,8 +9,8 @@ class ActionCatalog;
 class EditorView;
 
 /*!
- * \brief Joins the actions of the category Format to the editor; they show the format at the
- * cursor.
+ * \brief Connects the actions of the category Format to the editor. They show the format at the
+ *        cursor.
  */
 class FormatCommands : public QObject
 {

@@ -18,7 +18,7 @@ const QLatin1String GeometryKey("layout/geometry");
 
 QString checksum(const LayoutStore::Layout &layout)
 {
-    // The stream writes the lengths too, so that no byte can move from one array to the next.
+    // The stream also writes the lengths, so no byte can move from one array to the next.
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream << layout.toolBars << layout.window << layout.geometry;

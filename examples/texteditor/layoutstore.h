@@ -10,20 +10,20 @@ class QSettings;
 /*!
  * \brief Keeps the three byte arrays of a layout in the settings, with a version and a checksum.
  *
- * QMainWindow::restoreState() of Qt 5 can crash or hang on damaged bytes. So nobody gets to see
- * bytes that are not exactly those that write() was given: read() compares a checksum first.
+ * QMainWindow::restoreState() of Qt 5 can crash or hang on damaged bytes. So read() compares a
+ * checksum, and returns bytes only if they are exactly those that were passed to write().
  */
 class LayoutStore
 {
 public:
-    //! Goes up whenever a default toolbar or an action changes its objectName.
+    //! Raise it when the objectName of a default toolbar or an action changes.
     static constexpr int Version = 1;
 
     struct Layout
     {
-        QByteArray toolBars; // RyToolBarManager::saveState(): what stands on each toolbar
-        QByteArray window; // QMainWindow::saveState(): where each toolbar stands
-        QByteArray geometry; // QWidget::saveGeometry(): where the window stands
+        QByteArray toolBars; // RyToolBarManager::saveState(): the content of each toolbar
+        QByteArray window; // QMainWindow::saveState(): the place of each toolbar
+        QByteArray geometry; // QWidget::saveGeometry(): the place of the window
     };
 
     enum class Result { Read, Nothing, OtherVersion, Damaged };
@@ -31,7 +31,7 @@ public:
     //! \param settings the application's settings, which must outlive the store.
     explicit LayoutStore(QSettings *settings);
 
-    //! Reads what is stored to \a layout, which is changed only if the result is Read.
+    //! Reads the stored layout. \a layout changes only if the result is Read.
     Result read(Layout *layout) const;
 
     void write(const Layout &layout);

@@ -85,8 +85,8 @@ void MainWindow::createMenus()
     createMenu(tr("&Help"), {"help_tour", "|", "help_about"});
 }
 
-// Filled each time it is shown, because the user can create toolbars. An action that stands in the
-// menu already is not added twice; that of a removed toolbar leaves the menu by itself.
+// Filled each time it is shown, because the user can create toolbars. An action that is already in
+// the menu is not added twice. Qt removes the action of a deleted toolbar from the menu.
 void MainWindow::createToolBarsMenu(QMenu *parent)
 {
     QMenu *const menu = parent->addMenu(tr("Toolbars"));
@@ -114,7 +114,7 @@ QToolBar *MainWindow::createToolBar(const char *name, const QString &title,
                                     std::initializer_list<const char *> actions)
 {
     QToolBar *const toolBar = addToolBar(title);
-    toolBar->setObjectName(QLatin1String(name)); // what the saved states know it by
+    toolBar->setObjectName(QLatin1String(name)); // identifies it in saved states
     addActionsTo(toolBar, actions);
     return toolBar;
 }
@@ -139,8 +139,8 @@ void MainWindow::addActionsTo(QWidget *widget, std::initializer_list<const char 
     }
 }
 
-// Every action that may stand on a toolbar goes in, under its category, and every toolbar that the
-// application ships. What stands on the toolbars now is what a reset brings back.
+// Registers every action that may be placed on a toolbar, with its category, and every toolbar of
+// the application. A reset brings back the contents that the toolbars have now.
 void MainWindow::registerWithManager()
 {
     m_manager.setMainWindow(this);
@@ -182,7 +182,7 @@ void MainWindow::customizeToolBars()
 {
     RyCustomizedDialog dialog({&m_manager, nullptr}, this);
     dialog.exec();
-    // Whatever the result: an Apply before a Cancel has changed the toolbars all the same.
+    // No matter what the result is: after Apply and Cancel, the toolbars have changed too.
     saveLayout();
 }
 
@@ -197,7 +197,7 @@ void MainWindow::saveLayout()
     notify(m_layout.save());
 }
 
-// A notice must be seen, even if the user has hidden the status bar. An empty one takes it away.
+// Shows the notice even if the user has hidden the status bar. An empty text removes the notice.
 void MainWindow::notify(const QString &text)
 {
     m_statusLine->setNotice(text);

@@ -18,8 +18,8 @@ class QSettings;
 class StatusLine;
 
 /*!
- * \brief The window of the text editor: puts the parts together and registers them with the
- *        toolbar manager.
+ * \brief The window of the text editor. It creates the parts and registers actions and toolbars
+ *        with the toolbar manager.
  *
  * The order at the start matters: construct, restoreLayout(), show().
  */
@@ -31,7 +31,7 @@ public:
     //! \param settings the application's settings, which must outlive the window.
     explicit MainWindow(QSettings *settings, QWidget *parent = nullptr);
 
-    //! Brings the stored layout back; call it once, before the window is shown.
+    //! Restores the stored layout; call it once, before the window is shown.
     void restoreLayout();
 
     //! Forgets the stored layout; call it before restoreLayout().
@@ -40,7 +40,7 @@ public:
     //! Opens a document; reports errors to the user.
     bool openFile(const QString &path);
 
-    //! The toggles of all toolbars, and how to customize them; Qt asks for it on a right click.
+    //! A menu with all toolbars and "Customize Toolbars"; Qt calls it on a right click.
     QMenu *createPopupMenu() override;
 
 public Q_SLOTS:

@@ -22,7 +22,7 @@ RecentFiles::RecentFiles(QSettings *settings, QObject *parent)
 
 QStringList RecentFiles::files() const
 {
-    // Whatever else the settings hold there reads as no paths or as paths that do not exist.
+    // Any other value in the settings gives no paths, or paths that do not exist.
     QStringList files = m_settings->value(Key).toStringList();
     files.removeAll(QString());
     return files.mid(0, MaximumCount);

@@ -10,7 +10,7 @@ class QMenu;
 class QSettings;
 
 /*!
- * \brief The documents that were open last, kept in the settings and shown in a menu.
+ * \brief The recently opened documents, stored in the settings and shown in a menu.
  */
 class RecentFiles : public QObject
 {
@@ -22,14 +22,14 @@ public:
     //! \param settings the application's settings, which must outlive the object.
     explicit RecentFiles(QSettings *settings, QObject *parent = nullptr);
 
-    //! Absolute paths, the last one first.
+    //! Absolute paths, the most recent one first.
     QStringList files() const;
 
     void add(const QString &path);
     void remove(const QString &path);
     void clear();
 
-    //! Keeps \a menu filled whenever it is about to be shown.
+    //! Fills \a menu each time it is about to be shown.
     void fill(QMenu *menu);
 
 Q_SIGNALS:

@@ -10,7 +10,7 @@ class QLabel;
 class QStatusBar;
 
 /*!
- * \brief What the status bar shows: a notice at the left, and where the cursor is at the right.
+ * \brief The content of the status bar: a notice on the left, the cursor's position on the right.
  */
 class StatusLine : public QObject
 {

@@ -18,16 +18,16 @@ class TextFile
     Q_DECLARE_TR_FUNCTIONS(TextFile)
 
 public:
-    //! Whether a file of that name holds text with formats.
+    //! Whether a file with this name contains formatted text.
     static bool isHtml(const QString &path);
 
-    //! Reads the whole file; false, and an error, if it cannot be read or is no text.
+    //! Reads the whole file. Returns false and sets an error if it cannot be read or is not text.
     bool read(const QString &path);
 
-    //! What read() has read, lines separated by "\n".
+    //! The text from read(), lines separated by "\n".
     QString text() const { return m_text; }
 
-    //! Writes the whole file, or leaves it as it is and returns false.
+    //! Writes the whole file. If that fails, leaves it unchanged and returns false.
     bool write(const QString &path, const QString &text);
 
     //! Why the last operation failed, as a sentence for the user.

@@ -9,7 +9,7 @@
 class QTextEdit;
 
 /*!
- * \brief Finds and replaces a text in an editor; begins again at the other end of the document.
+ * \brief Finds and replaces a text in an editor; continues at the other end of the document.
  */
 class TextSearch
 {
@@ -21,14 +21,14 @@ public:
     QString text() const { return m_text; }
     void setCaseSensitive(bool caseSensitive) { m_caseSensitive = caseSensitive; }
 
-    //! Selects the next match, or the one before; returns false if there is none.
+    //! Selects the next or previous match; returns false if there is none.
     bool findNext();
     bool findPrevious();
 
-    //! Replaces the selection if it is a match, and selects the next match; false if there is none.
+    //! Replaces the selection if it is a match, and selects the next one; false if there is none.
     bool replace(const QString &replacement);
 
-    //! Replaces all matches as one step for undo; returns their number.
+    //! Replaces all matches as one undo step; returns their number.
     int replaceAll(const QString &replacement);
 
 private:

@@ -37,8 +37,8 @@ QString ToolBarLayout::restore()
 
 bool ToolBarLayout::restoreFrom(const LayoutStore::Layout &stored)
 {
-    // The manager comes before the window's state: it creates the custom toolbars that the window
-    // then puts in their places.
+    // The manager comes first: it creates the custom toolbars that the window then puts in their
+    // places.
     if (m_manager->restoreState(stored.toolBars, LayoutStore::Version)
         && m_window->restoreGeometry(stored.geometry)
         && m_window->restoreState(stored.window, LayoutStore::Version))
@@ -61,7 +61,7 @@ QString ToolBarLayout::storingProblem() const
     return QString();
 }
 
-// A failed restore may have changed some toolbars and created others.
+// A failed restore may have changed or created some toolbars.
 void ToolBarLayout::goBackToDefaults()
 {
     m_manager->resetAllToolBars();
@@ -79,8 +79,8 @@ QString ToolBarLayout::save()
     return storingProblem();
 }
 
-// Qt shows a toolbar that the dialog has just created only when the event loop runs next. Until
-// then QMainWindow::saveState() would store it as hidden.
+// Qt does not show a toolbar that the dialog has just created until the event loop runs again.
+// Until then, QMainWindow::saveState() would store it as hidden.
 void ToolBarLayout::showNewToolBars()
 {
     const auto toolBars = m_manager->toolBars();

@@ -13,7 +13,7 @@ class QSettings;
 class RyToolBarManager;
 
 /*!
- * \brief Brings the user's toolbars back at the start and keeps them for the next one.
+ * \brief Restores the user's toolbars at the start, and stores them for the next one.
  *
  * \code
  * // registers everything with the manager, in the window's constructor; then:
@@ -26,7 +26,7 @@ class ToolBarLayout
     Q_DECLARE_TR_FUNCTIONS(ToolBarLayout)
 
 public:
-    //! All three stay the caller's and must outlive the object.
+    //! The caller owns all three, and they must outlive the object.
     ToolBarLayout(QMainWindow *window, RyToolBarManager *manager, QSettings *settings);
 
     /*!
@@ -34,12 +34,12 @@ public:
      *
      * Call it when every action and default toolbar is registered and before the window is shown.
      *
-     * \return what the user should be told: that the stored layout was of no use, and the defaults
-     *         stand, or that none can be stored. An empty string if all is well.
+     * \return a message for the user: that the stored layout is unusable and the defaults are
+     * shown, or that no layout can be stored. An empty string if all is well.
      */
     QString restore();
 
-    //! Stores the layout; returns what the user should be told if that failed.
+    //! Stores the layout; returns a message for the user if that fails.
     QString save();
 
     //! Forgets the stored layout; the toolbars stay as they are.

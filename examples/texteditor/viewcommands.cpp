@@ -38,7 +38,7 @@ void ViewCommands::connectZoomActions()
             &EditorView::resetZoom);
 }
 
-// On if nothing, or something that is no truth value, is stored.
+// On if the stored value is missing or is not a boolean.
 void ViewCommands::connectStoredAction(const char *name, const char *key,
                                        const std::function<void(bool)> &apply)
 {

@@ -13,7 +13,7 @@ class QMainWindow;
 class QSettings;
 
 /*!
- * \brief Joins the actions of the category View to the window, and keeps what they set.
+ * \brief Connects the actions of the category View to the window, and stores their settings.
  */
 class ViewCommands : public QObject
 {
@@ -25,7 +25,7 @@ public:
                  QSettings *settings);
 
 protected:
-    //! Watches the window, because a window manager can end the full screen as well.
+    //! Watches the window, because a window manager can also end full-screen mode.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -44,8 +44,8 @@ void BooksWindow::createTrees()
 
 QWidget *BooksWindow::withCaption(const QString &caption, GuardedTree *tree)
 {
-    // Alt and the first letter go to the tree. For a screen reader Qt takes no name from a buddy
-    // here.
+    // The buddy makes Alt with the first letter go to the tree. It does not give the tree a name
+    // for screen readers.
     QLabel *const label = new QLabel(QLatin1Char('&') + caption);
     label->setBuddy(tree);
     tree->setAccessibleName(caption);
@@ -79,7 +79,7 @@ void BooksWindow::createToolBar()
     toolBar->addActions({undo, redo, move});
 }
 
-// Whoever cannot drag needs another way.
+// For users who cannot drag.
 void BooksWindow::moveAcross()
 {
     GuardedTree *const from = m_readingList->hasFocus() ? m_readingList : m_library;

@@ -13,8 +13,8 @@ GuardedTree::GuardedTree(QWidget *parent)
 
 void GuardedTree::mousePressEvent(QMouseEvent *event)
 {
-    // RyTreeWidget knows Control from key events alone and misses those that come during a drag or
-    // go to another widget. The mouse event knows better.
+    // RyTreeWidget takes the state of Control from key events, and misses those during a drag or in
+    // another widget. The mouse event has the real state.
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
         QKeyEvent control(QEvent::KeyPress, Qt::Key_Control, Qt::NoModifier);
         RyTreeWidget::keyPressEvent(&control);
@@ -26,14 +26,14 @@ void GuardedTree::mousePressEvent(QMouseEvent *event)
     RyTreeWidget::mousePressEvent(event);
 }
 
-// The whole drag runs inside of this.
+// The whole drag runs inside this function.
 void GuardedTree::mouseMoveEvent(QMouseEvent *event)
 {
     RyTreeWidget::mouseMoveEvent(event);
     Q_EMIT dragMayHaveEnded();
 }
 
-// RyTreeWidget keeps all keys to itself; without arrow keys nobody can use a tree by keyboard.
+// RyTreeWidget ignores all other keys, but keyboard users need the arrow keys.
 void GuardedTree::keyPressEvent(QKeyEvent *event)
 {
     RyTreeWidget::keyPressEvent(event);
@@ -48,8 +48,8 @@ void GuardedTree::keyReleaseEvent(QKeyEvent *event)
     QTreeWidget::keyReleaseEvent(event); // clazy:exclude=skipped-base-method
 }
 
-// RyTreeWidget lets every item take children. Refusing a place is safe only with a guard: a move
-// that is dropped there deletes the item.
+// RyTreeWidget lets every item have children. Refusing a drop is safe only with a guard, because a
+// refused move deletes the item.
 void GuardedTree::dragMoveEvent(QDragMoveEvent *event)
 {
     RyTreeWidget::dragMoveEvent(event);

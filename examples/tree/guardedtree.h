@@ -6,11 +6,11 @@
 #include <RyTreeWidget>
 
 /*!
- * \brief A RyTreeWidget that tells when a drag may begin and when it has ended, so that a host can
- *        take back what a drag has done.
+ * \brief A RyTreeWidget that emits signals before and after a drag, so that a host can undo the
+ *        drag.
  *
- * It also mends what a host may not want of RyTreeWidget: keys work, the Control key is never
- * missed, and items that are no folders take no children.
+ * It also changes some behaviour of RyTreeWidget: all keys work, the state of the Control key is
+ * always right, and items that are not folders accept no children.
  */
 class GuardedTree : public RyTreeWidget
 {
@@ -20,10 +20,10 @@ public:
     explicit GuardedTree(QWidget *parent = nullptr);
 
 Q_SIGNALS:
-    //! The last moment at which everything is as it was; perhaps nothing follows.
+    //! Emitted before a possible drag, while nothing has changed yet.
     void dragMayBegin();
 
-    //! A drag may have ended, somehow.
+    //! A drag may have ended, in any way.
     void dragMayHaveEnded();
 
 protected:

@@ -52,7 +52,7 @@ TreeHistory::TreeHistory(const QList<GuardedTree *> &trees, QObject *parent)
 {
     for (const GuardedTree *tree : trees) {
         connect(tree, &GuardedTree::dragMayBegin, this, &TreeHistory::begin);
-        // Only when the tree has done with its event may its items be replaced.
+        // The items may be replaced only after the tree has finished handling its event.
         connect(tree, &GuardedTree::dragMayHaveEnded, this, &TreeHistory::end,
                 Qt::QueuedConnection);
         connect(tree->model(), &QAbstractItemModel::rowsInserted, this,

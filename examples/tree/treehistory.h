@@ -13,12 +13,12 @@
 class GuardedTree;
 
 /*!
- * \brief Guards trees between which a user drags: every drag can be undone, and one that lost an
- *        item is undone at once.
+ * \brief Guards trees between which a user drags items. Every drag can be undone, and a drag that
+ *        lost an item is undone at once.
  *
- * A move deletes the dragged item however the drag ends, also when it is cancelled, when nothing
- * takes the item, or when the item is dropped into itself. The history keeps deep copies of all
- * items instead of following the drag: it need not know how something was lost.
+ * A move deletes the dragged item no matter how the drag ends: also if it is cancelled, if nothing
+ * accepts the item, or if the item is dropped into itself. The history does not follow the drag. It
+ * keeps deep copies of all items, so it need not know how an item was lost.
  */
 class TreeHistory : public QObject
 {
@@ -31,15 +31,15 @@ public:
     QUndoStack *undoStack() { return &m_undoStack; }
 
 public Q_SLOTS:
-    //! Call this before the items change; the trees do it for drags.
+    //! Call this before you change items; for drags, the trees call it.
     void begin();
 
-    //! Call this after the items have changed. Keeps the change for undoing it, or takes it back if
-    //! there are fewer items than before.
+    //! Call this after the items have changed. Stores the change for undo, or undoes it if there
+    //! are fewer items than before.
     void end();
 
 Q_SIGNALS:
-    //! Items were lost and are back.
+    //! Items were lost and have been restored.
     void putBack();
 
 private:
@@ -54,7 +54,7 @@ private:
     const QList<GuardedTree *> m_trees;
     QUndoStack m_undoStack;
     Content m_before;
-    // Whether an item has come or gone since begin().
+    // Whether an item was added or removed since begin().
     bool m_isChanged = false;
 };
 

@@ -3,8 +3,8 @@
 /*
  * dialogpicture STYLE light|dark ltr|rtl FILE
  *
- * Opens the dialog of the text editor in a style, a palette and a direction, and writes a picture
- * of it to a PNG file. QT_SCALE_FACTOR sets the size, as for every Qt program.
+ * Opens the dialog of the text editor with a style, a palette and a direction, and writes a picture
+ * of it to a PNG file. QT_SCALE_FACTOR sets the scale, as for every Qt program.
  */
 
 #include "mainwindow.h"
@@ -41,10 +41,10 @@ QPalette darkPalette()
     return palette;
 }
 
-// A toolbar of the user's own with three actions, so that there is something to see in every list.
+// Creates a custom toolbar with three actions, so that every list has content.
 void editToolBars(const QWidget *dialog)
 {
-    // The placeholder page has widgets of the same names.
+    // The placeholder page has widgets with the same names.
     const auto page = dialog->findChild<RyCToolBarWidget *>();
     const auto tree = page->findChild<QTreeWidget *>(QStringLiteral("actionTree"));
     page->findChild<QToolButton *>(QStringLiteral("newButton"))->click();
@@ -95,7 +95,7 @@ int main(int argc, char *argv[])
     QTimer::singleShot(0, &window, [&arguments] {
         QWidget *const dialog = QApplication::activeModalWidget();
         editToolBars(dialog);
-        // Some styles take their time to show what has become enabled.
+        // Some styles take a while to show that a button has become enabled.
         QTimer::singleShot(500, dialog, [=] { takePicture(dialog, arguments.at(4)); });
     });
     window.customizeToolBars();

@@ -59,11 +59,11 @@ class Widget:
         return list(self._children(range(self._accessible.get_child_count())))
 
     def children_from_last(self):
-        """Looks at one child after the other, and only as far as the caller goes."""
+        """Yields the children one by one, only as far as the caller needs them."""
         return self._children(reversed(range(self._accessible.get_child_count())))
 
     def showing(self, role):
-        """The widgets of this role inside this one that are to be seen."""
+        """The visible widgets of this role inside this one."""
         found = []
         for child in self.children():
             if child.is_showing():
@@ -72,7 +72,7 @@ class Widget:
         return found
 
     def find(self, role, name):
-        """The only widget of this role and name inside this one that is to be seen."""
+        """The only visible widget of this role and name inside this one."""
         def named():
             return [widget for widget in self.showing(role) if plain(widget.name) == name]
 
@@ -85,7 +85,7 @@ class Widget:
                 yield Widget(child)
 
     def outline(self, indent=0):
-        """Everything inside this widget as lines of text, to look into a failure."""
+        """Everything inside this widget as lines of text, to analyze a failure."""
         try:
             place = ",".join(map(str, self.rect)) if self.has("visible") else "hidden"
             states = [state for state in ("active", "focused", "selected") if self.has(state)]
@@ -98,7 +98,7 @@ class Widget:
 
 
 class Application:
-    """A program, started as a process of its own."""
+    """A program that runs as a separate process."""
 
     def __init__(self, command, log):
         environment = dict(os.environ, QT_ACCESSIBILITY="1", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
@@ -153,7 +153,7 @@ class Application:
             self._listener.deregister(event)
 
     def stop(self):
-        """Ends the program if it still runs, whatever has become of the rest."""
+        """Ends the program if it still runs."""
         if self._process.poll() is None:
             self._process.terminate()
             self._process.wait()
@@ -179,7 +179,7 @@ class Application:
 
 
 def plain(text):
-    """A command's text as people read it: without the mark of its key and without the dots."""
+    """The visible text of a command, without the mark of its key and without the dots."""
     marker = "\0"
     text = text.replace("&&", marker).replace("&", "").replace(marker, "&")
     return text.removesuffix("…").removesuffix("...")

@@ -78,7 +78,7 @@ class Desktop:
     # --- Pictures ---
 
     def picture(self, path):
-        """Saves the whole screen, with an arrow where the pointer stands."""
+        """Saves the whole screen, with an arrow at the place of the pointer."""
         x, y = self._pointer()
         arrow = [(0, 0), (0, 17), (4, 13), (7, 19), (10, 18), (7, 12), (12, 12)]
         outline = " ".join(f"{x + right},{y + down}" for right, down in arrow)

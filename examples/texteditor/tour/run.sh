@@ -3,11 +3,11 @@
 #
 # run.sh BUILD_DIR OUTPUT_DIR
 #
-# Takes the guided tour of the text editor built in BUILD_DIR: the real program, in a real window,
-# with a real pointer and real keys. Needs no display: it starts an X server, a window manager and
-# a message bus of its own, and ends them again. Prints one line for each step and leaves in
-# OUTPUT_DIR a screenshot of each, tour.gif made of the first ones, and in log/ what the programs
-# wrote. Fails when a step does not hold. packages.txt lists the Debian packages that it needs.
+# Runs the guided tour of the text editor built in BUILD_DIR: the real program, in a real window, with
+# a real pointer and real keys. Needs no display: it starts an X server, a window manager and
+# a message bus, and ends them again. Prints one line for each step. Writes to OUTPUT_DIR a
+# screenshot of each step, tour.gif made from the first ones, and the output of the programs in log/.
+# Fails if a step fails. packages.txt lists the Debian packages that it needs.
 set -euo pipefail
 
 if [ $# -ne 2 ]; then
@@ -62,7 +62,7 @@ start() {
     started+=($!)
 }
 
-# Reads what the program just started says on descriptor 3 once it is ready.
+# Reads from descriptor 3 what the program prints when it is ready.
 answer() {
     local line
     if ! read -r -t 30 -u 3 line; then
@@ -72,7 +72,7 @@ answer() {
     printf '%s' "$line"
 }
 
-# Nothing of the user's desktop or settings reaches the tour, and the other way round.
+# The tour does not use or change the user's desktop and settings.
 for variable in "${!QT_@}" "${!XDG_@}" "${!AT_SPI_@}" "${!DBUS_@}" "${!LC_@}" LANGUAGE \
     WAYLAND_DISPLAY; do
     unset "$variable"

@@ -61,16 +61,16 @@ class TextEditor(Application):
     # --- Toolbars ---
 
     def tool_bars(self):
-        """The content of every toolbar that is to be seen, by title.
+        """The content of every visible toolbar, by title.
 
-        To the end of its run the program tells the title that a toolbar had when it was first
-        asked; a menu that lists the toolbars tells the present one.
+        The program always reports the title that a toolbar had when it was first asked. A menu
+        with a list of the toolbars shows the current title.
         """
         return {part.name: content_of(part) for part in self._window().children()
                 if part.role == "tool bar" and part.is_showing()}
 
     def place_of(self, title):
-        """Where a toolbar stands, seen from the corner of its window."""
+        """Where a toolbar is, relative to the corner of its window."""
         window = self._window()
         return window.find("tool bar", title).rect.relative_to(window.rect)
 
@@ -82,7 +82,7 @@ class TextEditor(Application):
         return Point(rect.x + HANDLE_MIDDLE, rect.center.y)
 
     def _window(self):
-        """The main window, be it active or under a dialog."""
+        """The main window, active or behind a dialog."""
         window, = self.windows("frame")
         return window
 
@@ -217,8 +217,8 @@ def place_in_menu(menu, name):
     """Where to click on an entry of an open menu; None if there is no such entry.
 
     Entries are counted from the last one up, and none is asked for its place: Qt ties an entry to
-    the first menu in which anybody looks at it. In any other menu it tells a wrong place, and when
-    that menu is gone it tells nothing at all any more.
+    the first menu in which it is queried. In any other menu it reports a wrong place, and when the
+    first menu is gone it reports nothing.
     """
     bottom = menu.rect.y + menu.rect.height
     for entry in menu.children_from_last():
@@ -230,7 +230,7 @@ def place_in_menu(menu, name):
 
 
 def content_of(tool_bar):
-    """What stands on a toolbar, in the order in which it is to be seen."""
+    """The content of a toolbar, in the visible order."""
     parts = [part for part in tool_bar.children() if part.is_showing() and not is_extension(part)]
     if is_upright(tool_bar.rect):
         parts.sort(key=lambda part: part.rect.y)
@@ -240,7 +240,7 @@ def content_of(tool_bar):
 
 
 def is_extension(part):
-    """The arrow behind which a toolbar keeps what does not fit; what it keeps is not showing."""
+    """The arrow of a toolbar that hides the entries that do not fit."""
     return part.role == "check box" and not part.name
 
 

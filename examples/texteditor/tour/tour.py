@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The guided tour of the text editor; started by run.sh.
+"""The guided tour of the text editor, started by run.sh.
 
 Each step of the story does what a user does, then checks from outside that it had its effect, and
 returns what was checked.
@@ -163,7 +163,7 @@ def toolbar_in_window(tour):
     tour.expect_tool_bars({**tour.shipped, NAME: CONTENT})
     window = tour.editor.main_window
     tour.desktop.picture_of_window(window.rect, tour.output_file("window.png"))
-    return f'The toolbar "{NAME}" stands in the window: {listed(CONTENT)}'
+    return f'The toolbar "{NAME}" is in the window: {listed(CONTENT)}'
 
 
 def toolbar_moved(tour):
@@ -171,13 +171,13 @@ def toolbar_moved(tour):
     before = tour.editor.place_of(NAME)
     left_edge = Point(window.x + 8, window.center.y)
     tour.desktop.drag(tour.editor.handle_of(NAME), left_edge)
-    wait_for(f'"{NAME}" does not stand upright at the left edge', lambda: is_at_the_left(tour))
+    wait_for(f'"{NAME}" is not upright at the left edge', lambda: is_at_the_left(tour))
     tour.expect_tool_bars({**tour.shipped, NAME: CONTENT})
     tour.place = settled(f'the place of "{NAME}"', lambda: tour.editor.place_of(NAME))
     return f'Dragged to the left edge, "{NAME}" moves from {at(before)} to {at(tour.place)}'
 
 
-# --- What the next start brings back ---
+# --- What the next start restores ---
 
 def quit_highlighted(tour):
     tour.menu = tour.editor.open_menu("File")
@@ -349,17 +349,17 @@ def at(place):
 
 
 def take_step(tour, number, step):
-    """Takes one step and leaves its picture; returns whether it held."""
+    """Runs one step and saves its picture; returns whether it passed."""
     name = f'{number:02}-{step.__name__.replace("_", "-")}'
     try:
-        told = step(tour)
+        done = step(tour)
         tour.desktop.picture(tour.output_file(f"{name}.png"))
-    except Exception as error:  # whatever it is, its picture tells more
+    except Exception as error:  # any error; the picture shows more
         picture = tour.output_file(f"{name}-failed.png")
         print(f"not ok {number:02} {step.__name__}: {error} (see {picture})", flush=True)
         tour.desktop.picture(picture)
         return False
-    print(f"ok {number:02} {told}", flush=True)
+    print(f"ok {number:02} {done}", flush=True)
     return True
 
 

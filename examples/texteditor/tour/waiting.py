@@ -10,7 +10,7 @@ PAUSE = 0.03
 
 
 class NotSo(Exception):
-    """Something that the tour says about the program does not hold."""
+    """The program is not in the state that the tour expects."""
 
 
 def wait_for(what, probe, accept=bool):
