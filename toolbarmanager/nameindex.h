@@ -9,6 +9,9 @@
 #include <QMessageLogger>
 #include <QToolBar>
 
+#include <algorithm>
+#include <functional>
+
 // What the warnings call an object, and the name that stands in for a missing objectName.
 template <typename Object> struct NamedObject;
 
@@ -38,9 +41,15 @@ public:
     explicit NameIndex(const QList<Object *> &objects)
         : m_objects(objects)
     {
-        m_byObjectName.reserve(m_objects.size());
-        for (Object *object : m_objects)
-            insertFirst(m_byObjectName, object->objectName(), object);
+        // Thousands of objects are read much faster in the order in which they are in memory.
+        QList<Object *> sorted = objects;
+        std::sort(sorted.begin(), sorted.end(), std::less<Object *>());
+        m_byObjectName.reserve(sorted.size());
+        for (Object *object : sorted)
+            m_byObjectName.insert(object->objectName(), object);
+        if (m_byObjectName.size() < m_objects.size())
+            insertBackwards(m_byObjectName,
+                            [](const Object *object) { return object->objectName(); });
     }
 
     // Null if there is none. Prints nothing.
@@ -63,20 +72,18 @@ private:
     using Named = NamedObject<Object>;
     using Index = QHash<QString, Object *>;
 
-    static void insertFirst(Index &index, const QString &name, Object *object)
+    // So that of several objects with one name the first remains.
+    template <typename NameOf> void insertBackwards(Index &index, NameOf nameOf) const
     {
-        Object *&first = index[name];
-        if (!first)
-            first = object;
+        for (int i = m_objects.size() - 1; i >= 0; --i)
+            index.insert(nameOf(m_objects.at(i)), m_objects.at(i));
     }
 
     // Most layouts never need it, so that it is made when it is first asked for.
     const Index &byStandInName()
     {
-        if (m_byStandInName.isEmpty()) {
-            for (Object *object : m_objects)
-                insertFirst(m_byStandInName, Named::standInName(object), object);
-        }
+        if (m_byStandInName.isEmpty())
+            insertBackwards(m_byStandInName, Named::standInName);
         return m_byStandInName;
     }
 

@@ -42,7 +42,7 @@ void RyToolBarManager::removeAction(QAction *action)
         return;
     takeOffToolBars(action);
     for (auto it = m_defaultToolBars.begin(); it != m_defaultToolBars.end(); ++it)
-        it.value().removeAll(action);
+        it.value().removeOne(action);
     if (!m_allActions.remove(action))
         return;
     ++m_changesOfActions;
@@ -59,8 +59,9 @@ void RyToolBarManager::takeOffToolBars(QAction *action)
         // The host may have deleted the toolbar when the action was taken off another one.
         if (content == m_toolBars.end())
             continue;
-        content.value().removeAll(action);
-        m_toolBarsWithSeparators[toolBar].removeAll(action);
+        // No content has an action twice.
+        content.value().removeOne(action);
+        m_toolBarsWithSeparators[toolBar].removeOne(action);
         // An action that was deleted has left its widgets.
         if (toolBar->actions().contains(action))
             toolBar->removeAction(action);
@@ -73,7 +74,7 @@ void RyToolBarManager::forgetCategory(QAction *action)
     const auto category = m_categoryToActions.find(m_actionToCategory.take(action));
     if (category == m_categoryToActions.end())
         return;
-    category.value().removeAll(action);
+    category.value().removeOne(action);
     if (category.value().isEmpty())
         m_categoryToActions.erase(category);
 }

@@ -169,7 +169,7 @@ QList<Row> rows()
          1.15,
          {registered(4000)}},
         {same, text("restoreState, nothing changes, from 2,000 to 4,000 actions"), Row::Growth,
-         1.20, grown},
+         1.40, grown},
         {other, text("restoreState, every toolbar changes, from 2,000 to 4,000 actions"),
          Row::Growth, 1.20, grown},
         {"createToolBar", text("createToolBar, 400 times"), Row::Ratio, 1.30, {created(400)}},
