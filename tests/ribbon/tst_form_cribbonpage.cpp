@@ -99,7 +99,7 @@ QStringList renamed(QStringList names)
 
 } // namespace
 
-class tst_CRibbonPage : public TestCase
+class tst_Form_CRibbonPage : public TestCase
 {
     Q_OBJECT
 
@@ -127,7 +127,7 @@ private Q_SLOTS:
     void slotsAreConnectedByNameInTheEnd();
 };
 
-void tst_CRibbonPage::theFieldsStandInOrder()
+void tst_Form_CRibbonPage::theFieldsStandInOrder()
 {
     const QList<size_t> offsets{
         offsetof(Ui_CRibbonPage, gridLayout),         offsetof(Ui_CRibbonPage, label),
@@ -145,21 +145,21 @@ void tst_CRibbonPage::theFieldsStandInOrder()
     QCOMPARE(sizeof(Ui_CRibbonPage), offsets.size() * sizeof(void *));
 }
 
-void tst_CRibbonPage::isAPlainClass()
+void tst_Form_CRibbonPage::isAPlainClass()
 {
     QVERIFY(std::is_standard_layout_v<Ui_CRibbonPage>);
     QVERIFY(!std::is_polymorphic_v<Ui_CRibbonPage>);
     QVERIFY(std::is_trivially_destructible_v<Ui_CRibbonPage>);
 }
 
-void tst_CRibbonPage::anUnnamedPageIsNamed()
+void tst_Form_CRibbonPage::anUnnamedPageIsNamed()
 {
     QWidget page;
     const Form form(&page);
     QCOMPARE(page.objectName(), QStringLiteral("CRibbonPage"));
 }
 
-void tst_CRibbonPage::aNamedPageKeepsItsName()
+void tst_Form_CRibbonPage::aNamedPageKeepsItsName()
 {
     QWidget page;
     page.setObjectName(QStringLiteral("mine"));
@@ -167,14 +167,14 @@ void tst_CRibbonPage::aNamedPageKeepsItsName()
     QCOMPARE(page.objectName(), QStringLiteral("mine"));
 }
 
-void tst_CRibbonPage::thePageIsResized()
+void tst_Form_CRibbonPage::thePageIsResized()
 {
     QWidget page;
     const Form form(&page);
     QCOMPARE(page.size(), QSize(707, 385));
 }
 
-void tst_CRibbonPage::theMembersAreNamedAfterThemselves()
+void tst_Form_CRibbonPage::theMembersAreNamedAfterThemselves()
 {
     QWidget page;
     const Form form(&page);
@@ -197,7 +197,7 @@ void tst_CRibbonPage::theMembersAreNamedAfterThemselves()
 }
 
 // The class names are exact: the tree is a plain one, without drag and drop.
-void tst_CRibbonPage::theWidgetsAreCreatedInOrder()
+void tst_Form_CRibbonPage::theWidgetsAreCreatedInOrder()
 {
     QWidget page;
     const Form form(&page);
@@ -223,7 +223,7 @@ void tst_CRibbonPage::theWidgetsAreCreatedInOrder()
     QCOMPARE(childrenOf(form.gridLayout), layouts);
 }
 
-void tst_CRibbonPage::tabPassesTheWidgetsInOrder()
+void tst_Form_CRibbonPage::tabPassesTheWidgetsInOrder()
 {
     QWidget page;
     const Form form(&page);
@@ -245,7 +245,7 @@ void tst_CRibbonPage::tabPassesTheWidgetsInOrder()
     QCOMPARE(focusChainOf(&page), expected);
 }
 
-void tst_CRibbonPage::thePageOwnsEverything()
+void tst_Form_CRibbonPage::thePageOwnsEverything()
 {
     QPointer<QLayout> layout;
     QPointer<QTreeWidget> tree;
@@ -263,7 +263,7 @@ void tst_CRibbonPage::thePageOwnsEverything()
     QVERIFY(!tree);
 }
 
-void tst_CRibbonPage::theGridHasTheseCells()
+void tst_Form_CRibbonPage::theGridHasTheseCells()
 {
     QWidget page;
     const Form form(&page);
@@ -280,7 +280,7 @@ void tst_CRibbonPage::theGridHasTheseCells()
     QCOMPARE(cellsOf(form.gridLayout), expected);
 }
 
-void tst_CRibbonPage::theBoxesHoldTheseItems()
+void tst_Form_CRibbonPage::theBoxesHoldTheseItems()
 {
     QWidget page;
     const Form form(&page);
@@ -294,7 +294,7 @@ void tst_CRibbonPage::theBoxesHoldTheseItems()
     QCOMPARE(form.verticalLayout->itemAt(4), form.verticalSpacer);
 }
 
-void tst_CRibbonPage::theActionButtonsHaveAFixedHeight()
+void tst_Form_CRibbonPage::theActionButtonsHaveAFixedHeight()
 {
     QWidget page;
     const Form form(&page);
@@ -305,7 +305,7 @@ void tst_CRibbonPage::theActionButtonsHaveAFixedHeight()
     }
 }
 
-void tst_CRibbonPage::isBuiltAsTheToolBarEditorsForm()
+void tst_Form_CRibbonPage::isBuiltAsTheToolBarEditorsForm()
 {
     QWidget page;
     const Form form(&page);
@@ -321,7 +321,7 @@ void tst_CRibbonPage::isBuiltAsTheToolBarEditorsForm()
     QCOMPARE(form.gridLayout->spacing(), other.gridLayout->spacing());
 }
 
-void tst_CRibbonPage::everyPropertyIsTheToolBarEditorsForms()
+void tst_Form_CRibbonPage::everyPropertyIsTheToolBarEditorsForms()
 {
     QWidget page;
     const Form form(&page);
@@ -332,7 +332,7 @@ void tst_CRibbonPage::everyPropertyIsTheToolBarEditorsForms()
     QCOMPARE(propertiesBelow(&page), renamed(propertiesBelow(&otherPage)));
 }
 
-void tst_CRibbonPage::nothingIsFilled()
+void tst_Form_CRibbonPage::nothingIsFilled()
 {
     QWidget page;
     const Form form(&page);
@@ -345,14 +345,14 @@ void tst_CRibbonPage::nothingIsFilled()
         QVERIFY(button->icon().isNull());
 }
 
-void tst_CRibbonPage::theTextsAreThese()
+void tst_Form_CRibbonPage::theTextsAreThese()
 {
     QWidget page;
     const Form form(&page);
     QCOMPARE(form.texts(&page), sourceTexts);
 }
 
-void tst_CRibbonPage::theTextsAreLookedUpInOrder()
+void tst_Form_CRibbonPage::theTextsAreLookedUpInOrder()
 {
     RecordingTranslator translator;
     QWidget page;
@@ -363,7 +363,7 @@ void tst_CRibbonPage::theTextsAreLookedUpInOrder()
     QCOMPARE(translator.takeLookUps(), expected);
 }
 
-void tst_CRibbonPage::everyTextPassesThroughTranslation()
+void tst_Form_CRibbonPage::everyTextPassesThroughTranslation()
 {
     RecordingTranslator translator;
     QWidget page;
@@ -371,7 +371,7 @@ void tst_CRibbonPage::everyTextPassesThroughTranslation()
     QCOMPARE(form.texts(&page), prefixed(QStringLiteral("translated "), sourceTexts));
 }
 
-void tst_CRibbonPage::retranslatingResetsTheTexts()
+void tst_Form_CRibbonPage::retranslatingResetsTheTexts()
 {
     QWidget page;
     Form form(&page);
@@ -388,7 +388,7 @@ void tst_CRibbonPage::retranslatingResetsTheTexts()
     QCOMPARE(form.texts(&page), sourceTexts);
 }
 
-void tst_CRibbonPage::retranslatingTouchesNothingElse()
+void tst_Form_CRibbonPage::retranslatingTouchesNothingElse()
 {
     QWidget page;
     Form form(&page);
@@ -402,7 +402,7 @@ void tst_CRibbonPage::retranslatingTouchesNothingElse()
     QCOMPARE(form.toolBarList->count(), 1);
 }
 
-void tst_CRibbonPage::slotsAreConnectedByNameInTheEnd()
+void tst_Form_CRibbonPage::slotsAreConnectedByNameInTheEnd()
 {
     ListeningPage page;
     page.setObjectName(QStringLiteral("listening"));
@@ -414,6 +414,6 @@ void tst_CRibbonPage::slotsAreConnectedByNameInTheEnd()
     QCOMPARE(page.titleChanges, 1);
 }
 
-QTEST_MAIN(tst_CRibbonPage)
+QTEST_MAIN(tst_Form_CRibbonPage)
 
-#include "tst_cribbonpage.moc"
+#include "tst_form_cribbonpage.moc"
