@@ -57,8 +57,8 @@ bool hasFormOfSource(const TranslationFile::Message &message)
         && endsLikeEllipsis(text) == endsLikeEllipsis(message.source);
 }
 
-// How a translation is told in a failure.
-QString told(const TranslationFile::Message &message)
+// How a failure shows a translation.
+QString described(const TranslationFile::Message &message)
 {
     return QString("%1: %2 = %3").arg(message.context, message.source, message.translation);
 }
@@ -149,7 +149,7 @@ void tst_Translations::everyMessageIsFinished()
     QCOMPARE(file.keys(), TranslationFile("en").keys());
     for (const auto &message : file.messages) {
         const bool finished = message.type.isEmpty() && !message.translation.isEmpty();
-        QVERIFY2(finished, qPrintable(told(message)));
+        QVERIFY2(finished, qPrintable(described(message)));
     }
 }
 
@@ -172,7 +172,7 @@ void tst_Translations::blanksAcceleratorsAndEllipsesAreThoseOfTheSource()
     QFETCH(QString, language);
     const TranslationFile file(language);
     for (const auto &message : file.messages)
-        QVERIFY2(hasFormOfSource(message), qPrintable(told(message)));
+        QVERIFY2(hasFormOfSource(message), qPrintable(described(message)));
 }
 
 // The separator's entry comes first among the categories because of its "<".
@@ -199,7 +199,7 @@ void tst_Translations::lettersAreThoseOfTheLanguage()
     for (const auto &message : file.messages) {
         QString text = message.translation;
         text.remove("KORVA");
-        QVERIFY2(!text.contains(letters), qPrintable(told(message)));
+        QVERIFY2(!text.contains(letters), qPrintable(described(message)));
     }
 }
 
@@ -219,7 +219,7 @@ void tst_Translations::differentTextsOfAPageStayDifferent()
     const TranslationFile file(language);
     for (const auto &message : file.messages) {
         const QString key = message.context + ": " + message.translation;
-        QVERIFY2(!sources.contains(key), qPrintable(told(message)));
+        QVERIFY2(!sources.contains(key), qPrintable(described(message)));
         sources.insert(key, message.source);
     }
 }
