@@ -26,15 +26,8 @@ endfunction()
 function(ry_add_test_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
-    set_target_properties(${name} PROPERTIES
-        AUTOMOC ON
-        CXX_STANDARD 17
-        CXX_STANDARD_REQUIRED ON
-        CXX_EXTENSIONS OFF)
-    target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_STRICT_ITERATORS)
     target_link_libraries(${name} PRIVATE
         RyCustomizedDialog::RyCustomizedDialog RyTestSupport ${ARG_LIBRARIES})
-    ry_enable_warnings(${name})
 endfunction()
 
 function(ry_set_test_properties name timeout platform)

@@ -1,14 +1,11 @@
 # SPDX-License-Identifier: MIT
 
-# ry_enable_warnings(target)
-#
-# Turns on the warnings that make our own builds fail. Without the option, as in builds by others, it
-# changes nothing.
-function(ry_enable_warnings target)
-    if(NOT RYCUSTOMIZEDDIALOG_WARNINGS_AS_ERRORS)
-        return()
-    endif()
-    target_compile_options(${target} PRIVATE
+# The warnings that our own builds fail on. Without the option, as in builds by others, both
+# lists are empty.
+set(RY_COMPILE_WARNINGS)
+set(RY_LINK_WARNINGS)
+if(RYCUSTOMIZEDDIALOG_WARNINGS_AS_ERRORS)
+    set(RY_COMPILE_WARNINGS
         -Werror
         -Wall
         -Wextra
@@ -18,18 +15,22 @@ function(ry_enable_warnings target)
         -Woverloaded-virtual
         -Wundef
         -Wcast-align
-        -Wzero-as-null-pointer-constant)
+        -Wzero-as-null-pointer-constant
+        -Wsuggest-override)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-        target_compile_options(${target} PRIVATE
-            -Wdocumentation
-            -Winconsistent-missing-destructor-override
-            -Wsuggest-override)
-    else()
-        target_compile_options(${target} PRIVATE -Wsuggest-override)
+        list(APPEND RY_COMPILE_WARNINGS -Wdocumentation -Winconsistent-missing-destructor-override)
     endif()
-    target_link_options(${target} PRIVATE -Wl,--fatal-warnings)
+    set(RY_LINK_WARNINGS -Wl,--fatal-warnings)
     # With Clang, the program provides the functions of the sanitizers.
     if(NOT RYCUSTOMIZEDDIALOG_BUILD_FUZZERS)
-        target_link_options(${target} PRIVATE -Wl,--no-undefined)
+        list(APPEND RY_LINK_WARNINGS -Wl,--no-undefined)
     endif()
+endif()
+
+# ry_enable_warnings(target)
+#
+# Turns these warnings on for one target.
+function(ry_enable_warnings target)
+    target_compile_options(${target} PRIVATE ${RY_COMPILE_WARNINGS})
+    target_link_options(${target} PRIVATE ${RY_LINK_WARNINGS})
 endfunction()

@@ -22,10 +22,10 @@ DressedDialog::DressedDialog()
 
 QToolBar *DressedDialog::fill()
 {
-    host.defaultToolBar(QStringLiteral("file"), words("open | save"), QStringLiteral("File"));
+    host.defaultToolBar("file", words("open | save"), "File");
     for (const QString &name : words("cut copy paste"))
-        host.registered(name, QStringLiteral("Edit"));
-    QToolBar *const toolBar = host.manager.createToolBar(QStringLiteral("Mine"));
+        host.registered(name, "Edit");
+    QToolBar *const toolBar = host.manager.createToolBar("Mine");
     host.manager.setToolBar(toolBar, host.list(words("cut | copy")));
     return toolBar;
 }
@@ -50,6 +50,6 @@ QStringList DressedDialog::visibleItems() const
 QStringList DressedDialog::currentRows() const
 {
     QStringList rows = rowsOf(views.currentToolBarList);
-    rows.replaceInStrings(QStringLiteral("< S E P A R A T O R >"), QStringLiteral("|"));
+    rows.replaceInStrings("< S E P A R A T O R >", "|");
     return rows;
 }

@@ -2,10 +2,7 @@
 
 #include "editorsession.h"
 
-#include "editorviews.h"
 #include "texts.h"
-
-#include <RyCustomizedDialog>
 
 #include <QLabel>
 #include <QPushButton>
@@ -17,8 +14,6 @@ EditorSession::EditorSession(const QString &settingsFile)
     , window(&settings)
     , editor(window.findChild<EditorView *>())
 {
-    QObject::connect(&m_watch, &QTimer::timeout, &NextModal::refuseUnexpected);
-    m_watch.start(0);
 }
 
 void EditorSession::start()
@@ -39,12 +34,7 @@ QAction *EditorSession::action(const char *name) const
 
 QToolBar *EditorSession::toolBar(const QString &title) const
 {
-    const auto all = window.findChildren<QToolBar *>();
-    for (QToolBar *toolBar : all) {
-        if (toolBar->windowTitle() == title)
-            return toolBar;
-    }
-    return nullptr;
+    return toolBarTitled(window, title);
 }
 
 QStringList EditorSession::toolBarTitles() const
@@ -52,16 +42,9 @@ QStringList EditorSession::toolBarTitles() const
     return toolBarTitlesIn(window);
 }
 
-void EditorSession::customize(
-    const std::function<void(const EditorViews &, RyCustomizedDialog *)> &steps)
+void EditorSession::customize(const DialogSteps &steps)
 {
-    const NextModal dialog([&steps](QWidget *modal) {
-        RyCustomizedDialog *const opened = qobject_cast<RyCustomizedDialog *>(modal);
-        QVERIFY(opened);
-        steps(EditorViews(opened), opened);
-    });
-    action("tools_customize_toolbars")->trigger();
-    QVERIFY(dialog.wasOpened());
+    ::customize(action("tools_customize_toolbars"), steps);
 }
 
 void EditorSession::addToolBar(const QString &title, const QStringList &actionTexts)

@@ -3,17 +3,12 @@
 #ifndef EDITORSESSION_H
 #define EDITORSESSION_H
 
+#include "customizing.h"
 #include "editorview.h"
 #include "mainwindow.h"
-#include "nextmodal.h"
 
 #include <QSettings>
 #include <QStringList>
-
-#include <functional>
-
-class EditorViews;
-class RyCustomizedDialog;
 
 /*
  * One run of the text editor, from its start to its end, with a settings file of its own.
@@ -26,7 +21,7 @@ public:
     // Restores the layout and shows the window, as main() does.
     void start();
 
-    // What the status bar tells until further notice.
+    // What the status bar says until further notice.
     QString notice() const;
 
     QAction *action(const char *name) const;
@@ -35,23 +30,19 @@ public:
     // The titles of all toolbars, sorted.
     QStringList toolBarTitles() const;
 
-    // Runs the dialog through its action; steps() is called while it is open, and must close it.
-    void customize(const std::function<void(const EditorViews &, RyCustomizedDialog *)> &steps);
+    void customize(const DialogSteps &steps);
 
     // Adds a custom toolbar with these actions through the dialog.
     void addToolBar(const QString &title, const QStringList &actionTexts);
 
     template <typename Widget> Widget *child(const char *name) const
     {
-        return window.findChild<Widget *>(QLatin1String(name));
+        return window.findChild<Widget *>(name);
     }
 
     QSettings settings;
     MainWindow window;
     EditorView *const editor;
-
-private:
-    QTimer m_watch;
 };
 
 #endif // EDITORSESSION_H

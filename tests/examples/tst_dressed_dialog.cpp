@@ -92,8 +92,7 @@ void tst_Dressed_Dialog::viewsAndButtonsHaveNames()
     QFETCH(QString, name);
     QFETCH(QString, description);
     DressedDialog stage;
-    QWidget *const part =
-        stage.views.page->findChild<QWidget *>(QLatin1String(QTest::currentDataTag()));
+    QWidget *const part = stage.views.page->findChild<QWidget *>(QTest::currentDataTag());
     QVERIFY(part);
     QCOMPARE(spoken(part, QAccessible::Name), name);
     QCOMPARE(spoken(part, QAccessible::Description), description);
@@ -105,7 +104,7 @@ void tst_Dressed_Dialog::theHiddenHeaderIsSpokenAsTheCaption()
     const QAccessibleInterface *const header =
         QAccessible::queryAccessibleInterface(stage.views.actionTree)->child(0);
     QCOMPARE(header->role(), QAccessible::ColumnHeader);
-    QCOMPARE(header->text(QAccessible::Name), QStringLiteral("Actions"));
+    QCOMPARE(header->text(QAccessible::Name), "Actions");
     QVERIFY(stage.views.actionTree->isHeaderHidden());
 }
 
@@ -113,34 +112,32 @@ void tst_Dressed_Dialog::separatorsAreSpokenAsAWord()
 {
     DressedDialog stage;
     QCOMPARE(stage.views.actionTree->topLevelItem(0)->data(0, Qt::AccessibleTextRole).toString(),
-             QStringLiteral("Separator"));
+             "Separator");
     QCOMPARE(stage.views.actionTree->topLevelItem(1)->data(0, Qt::AccessibleTextRole).toString(),
              QString());
-    stage.views.toolBarList->setCurrentItem(
-        itemNamed(stage.views.toolBarList, QStringLiteral("Mine")));
+    stage.views.toolBarList->setCurrentItem(itemNamed(stage.views.toolBarList, "Mine"));
     QCOMPARE(stage.currentRows(), words("Cut | Copy"));
     const auto text = [&stage](int row) {
         return stage.views.currentToolBarList->item(row)->data(Qt::AccessibleTextRole).toString();
     };
-    QTRY_COMPARE(text(1), QStringLiteral("Separator"));
+    QTRY_COMPARE(text(1), "Separator");
     QCOMPARE(text(0), QString());
     QCOMPARE(text(2), QString());
     QAccessibleInterface *const list =
         QAccessible::queryAccessibleInterface(stage.views.currentToolBarList);
     QVERIFY(list);
-    QCOMPARE(list->child(1)->text(QAccessible::Name), QStringLiteral("Separator"));
+    QCOMPARE(list->child(1)->text(QAccessible::Name), "Separator");
 }
 
 void tst_Dressed_Dialog::defaultToolBarsAreDescribed()
 {
     DressedDialog stage;
     const auto description = [&stage](const char *toolBar, int role) {
-        return itemNamed(stage.views.toolBarList, QLatin1String(toolBar))->data(role).toString();
+        return itemNamed(stage.views.toolBarList, toolBar)->data(role).toString();
     };
     QVERIFY(description("File", Qt::AccessibleDescriptionRole)
-                .startsWith(QLatin1String("Comes with the application")));
-    QVERIFY(description("File", Qt::ToolTipRole)
-                .startsWith(QLatin1String("Comes with the application")));
+                .startsWith("Comes with the application"));
+    QVERIFY(description("File", Qt::ToolTipRole).startsWith("Comes with the application"));
     QCOMPARE(description("Mine", Qt::AccessibleDescriptionRole), QString());
     QCOMPARE(description("Mine", Qt::ToolTipRole), QString());
 }
@@ -149,9 +146,9 @@ void tst_Dressed_Dialog::newToolBarsAreNotDescribedAsDefault()
 {
     DressedDialog stage;
     stage.views.click(stage.views.newButton);
-    stage.views.typeName(QStringLiteral("Newest"));
+    stage.views.typeName("Newest");
     QCoreApplication::processEvents();
-    const QListWidgetItem *const row = itemNamed(stage.views.toolBarList, QStringLiteral("Newest"));
+    const QListWidgetItem *const row = itemNamed(stage.views.toolBarList, "Newest");
     QVERIFY(row);
     QCOMPARE(row->data(Qt::AccessibleDescriptionRole), QVariant());
 }
@@ -162,12 +159,12 @@ void tst_Dressed_Dialog::rowsAreDescribedAfterATabToo()
     QTabWidget *const tabs = stage.dialog.findChild<QTabWidget *>();
     tabs->setCurrentIndex(1);
     tabs->setCurrentIndex(0);
-    QTRY_VERIFY(!itemNamed(stage.views.toolBarList, QStringLiteral("File"))
+    QTRY_VERIFY(!itemNamed(stage.views.toolBarList, "File")
                      ->data(Qt::AccessibleDescriptionRole)
                      .toString()
                      .isEmpty());
     QCOMPARE(stage.views.actionTree->topLevelItem(0)->data(0, Qt::AccessibleTextRole).toString(),
-             QStringLiteral("Separator"));
+             "Separator");
 }
 
 void tst_Dressed_Dialog::shortcutsPressTheButtons_data()
@@ -199,11 +196,9 @@ void tst_Dressed_Dialog::shortcutsPressTheButtons()
     QFETCH(QString, rows);
     QFETCH(QString, toolBars);
     DressedDialog stage;
-    stage.views.toolBarList->setCurrentItem(
-        itemNamed(stage.views.toolBarList, QStringLiteral("Mine")));
+    stage.views.toolBarList->setCurrentItem(itemNamed(stage.views.toolBarList, "Mine"));
     stage.views.currentToolBarList->setCurrentRow(1);
-    stage.views.actionTree->setCurrentItem(
-        itemNamed(stage.views.actionTree, QStringLiteral("Paste")));
+    stage.views.actionTree->setCurrentItem(itemNamed(stage.views.actionTree, "Paste"));
     QWidget *const widget = stage.views.page->findChild<QWidget *>(view);
     stage.pressKey(widget, Qt::Key(key), alt ? Qt::AltModifier : Qt::NoModifier);
     QCOMPARE(stage.currentRows(), words(qPrintable(rows)));
@@ -214,8 +209,7 @@ void tst_Dressed_Dialog::shortcutsPressTheButtons()
 void tst_Dressed_Dialog::aShortcutDoesOnlyWhatItsButtonMay()
 {
     DressedDialog stage;
-    stage.views.toolBarList->setCurrentItem(
-        itemNamed(stage.views.toolBarList, QStringLiteral("File")));
+    stage.views.toolBarList->setCurrentItem(itemNamed(stage.views.toolBarList, "File"));
     QVERIFY(!stage.views.removeButton->isEnabled());
     stage.pressKey(stage.views.toolBarList, Qt::Key_Delete);
     QCOMPARE(rowsOf(stage.views.toolBarList), words("File Mine"));
@@ -224,8 +218,7 @@ void tst_Dressed_Dialog::aShortcutDoesOnlyWhatItsButtonMay()
 void tst_Dressed_Dialog::shortcutsOfAViewDoNothingInOthers()
 {
     DressedDialog stage;
-    stage.views.toolBarList->setCurrentItem(
-        itemNamed(stage.views.toolBarList, QStringLiteral("Mine")));
+    stage.views.toolBarList->setCurrentItem(itemNamed(stage.views.toolBarList, "Mine"));
     stage.pressKey(stage.views.actionTree, Qt::Key_Delete);
     stage.pressKey(stage.views.toolBarList, Qt::Key_Down, Qt::AltModifier);
     QCOMPARE(stage.currentRows(), words("Cut | Copy"));
@@ -239,31 +232,28 @@ void tst_Dressed_Dialog::deleteInTheNameEditorDeletesCharacters()
     QLineEdit *const editor = qobject_cast<QLineEdit *>(stage.views.renameEditor());
     QVERIFY(editor);
     QCOMPARE(QApplication::focusWidget(), editor);
-    QCOMPARE(editor->text(), QStringLiteral("Custom Toolbar"));
+    QCOMPARE(editor->text(), "Custom Toolbar");
     editor->setCursorPosition(0);
     QTest::keyClick(editor, Qt::Key_Delete);
-    QCOMPARE(editor->text(), QStringLiteral("ustom Toolbar"));
+    QCOMPARE(editor->text(), "ustom Toolbar");
     QTest::keyClick(editor, Qt::Key_Insert);
     QTest::keyClick(editor, Qt::Key_Return);
     QTRY_VERIFY(!stage.views.renameEditor());
-    QCOMPARE(rowsOf(stage.views.toolBarList),
-             QStringList({QStringLiteral("File"), QStringLiteral("Mine"),
-                          QStringLiteral("ustom Toolbar")}));
+    QCOMPARE(rowsOf(stage.views.toolBarList), QStringList({"File", "Mine", "ustom Toolbar"}));
     QVERIFY(stage.dialog.isVisible());
 }
 
 void tst_Dressed_Dialog::toolTipsTellTheShortcuts()
 {
     DressedDialog stage;
-    QCOMPARE(stage.views.upButton->toolTip(), QStringLiteral("Move action up (Alt+Up)"));
-    QCOMPARE(stage.views.newButton->toolTip(), QStringLiteral("Add new toolbar (Ins)"));
+    QCOMPARE(stage.views.upButton->toolTip(), "Move action up (Alt+Up)");
+    QCOMPARE(stage.views.newButton->toolTip(), "Add new toolbar (Ins)");
 }
 
 void tst_Dressed_Dialog::tabGoesFromRenameOverTheFilterToTheTree()
 {
     DressedDialog stage;
-    stage.views.toolBarList->setCurrentItem(
-        itemNamed(stage.views.toolBarList, QStringLiteral("Mine")));
+    stage.views.toolBarList->setCurrentItem(itemNamed(stage.views.toolBarList, "Mine"));
     stage.pressKey(stage.views.renameButton, Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), stage.filter);
     stage.pressKey(stage.filter, Qt::Key_Tab);
@@ -327,12 +317,10 @@ void tst_Dressed_Dialog::arrowsFollowTheDirection()
 void tst_Dressed_Dialog::theRibbonPageIsLeftAlone()
 {
     DressedDialog stage;
-    QWidget *const ribbon = stage.dialog.findChild<QWidget *>(QStringLiteral("CRibbonPage"));
+    QWidget *const ribbon = stage.dialog.findChild<QWidget *>("CRibbonPage");
     QVERIFY(ribbon);
-    QCOMPARE(ribbon->findChild<QToolButton *>(QStringLiteral("upButton_4"))->toolTip(),
-             QStringLiteral("Move action up"));
-    QCOMPARE(spoken(ribbon->findChild<QWidget *>(QStringLiteral("actionTree")), QAccessible::Name),
-             QString());
+    QCOMPARE(ribbon->findChild<QToolButton *>("upButton_4")->toolTip(), "Move action up");
+    QCOMPARE(spoken(ribbon->findChild<QWidget *>("actionTree"), QAccessible::Name), QString());
 }
 
 QTEST_MAIN(tst_Dressed_Dialog)

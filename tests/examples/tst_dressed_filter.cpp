@@ -61,33 +61,31 @@ void tst_Dressed_Filter::typingLeavesWhatMatches()
     stage.filter->setFocus();
     QTest::keyClicks(stage.filter, typed);
     QCOMPARE(stage.filter->text(), typed);
-    QCOMPARE(stage.visibleItems(), left.split(QLatin1Char(','), Qt::SkipEmptyParts));
-    if (!typed.isEmpty() && itemNamed(stage.views.actionTree, QStringLiteral("Edit")))
-        QVERIFY(itemNamed(stage.views.actionTree, QStringLiteral("Edit"))->isExpanded());
+    QCOMPARE(stage.visibleItems(), left.split(',', Qt::SkipEmptyParts));
+    if (!typed.isEmpty() && itemNamed(stage.views.actionTree, "Edit"))
+        QVERIFY(itemNamed(stage.views.actionTree, "Edit")->isExpanded());
 }
 
 void tst_Dressed_Filter::theFirstMatchBecomesCurrent()
 {
     DressedDialog stage;
-    QCOMPARE(currentOf(stage.views.actionTree), QStringLiteral("< S E P A R A T O R >"));
-    stage.filter->setText(QStringLiteral("c"));
-    QCOMPARE(currentOf(stage.views.actionTree), QStringLiteral("Copy"));
+    QCOMPARE(currentOf(stage.views.actionTree), "< S E P A R A T O R >");
+    stage.filter->setText("c");
+    QCOMPARE(currentOf(stage.views.actionTree), "Copy");
     // A category cannot be added.
-    stage.views.actionTree->setCurrentItem(
-        itemNamed(stage.views.actionTree, QStringLiteral("Edit")));
-    stage.filter->setText(QStringLiteral("cut"));
-    QCOMPARE(currentOf(stage.views.actionTree), QStringLiteral("Cut"));
+    stage.views.actionTree->setCurrentItem(itemNamed(stage.views.actionTree, "Edit"));
+    stage.filter->setText("cut");
+    QCOMPARE(currentOf(stage.views.actionTree), "Cut");
     QVERIFY(stage.views.rightButton->isEnabled());
 }
 
 void tst_Dressed_Filter::aVisibleCurrentItemStaysCurrent()
 {
     DressedDialog stage;
-    stage.filter->setText(QStringLiteral("edit"));
-    stage.views.actionTree->setCurrentItem(
-        itemNamed(stage.views.actionTree, QStringLiteral("Cut")));
-    stage.filter->setText(QStringLiteral("c"));
-    QCOMPARE(currentOf(stage.views.actionTree), QStringLiteral("Cut"));
+    stage.filter->setText("edit");
+    stage.views.actionTree->setCurrentItem(itemNamed(stage.views.actionTree, "Cut"));
+    stage.filter->setText("c");
+    QCOMPARE(currentOf(stage.views.actionTree), "Cut");
 }
 
 void tst_Dressed_Filter::withoutAMatchNothingCanBeAdded()
@@ -95,7 +93,7 @@ void tst_Dressed_Filter::withoutAMatchNothingCanBeAdded()
     DressedDialog stage;
     QVERIFY(stage.views.rightButton->isEnabled());
     const QStringList before = stage.currentRows();
-    stage.filter->setText(QStringLiteral("xyz"));
+    stage.filter->setText("xyz");
     QVERIFY(!stage.views.actionTree->currentItem());
     QVERIFY(!stage.views.rightButton->isEnabled());
     stage.pressKey(stage.filter, Qt::Key_Return);
@@ -107,7 +105,7 @@ void tst_Dressed_Filter::clearingShowsEverything()
 {
     DressedDialog stage;
     const QStringList before = stage.visibleItems();
-    stage.filter->setText(QStringLiteral("xyz"));
+    stage.filter->setText("xyz");
     QVERIFY(stage.visibleItems().isEmpty());
     stage.filter->clear();
     QCOMPARE(stage.visibleItems(), before);
@@ -116,12 +114,11 @@ void tst_Dressed_Filter::clearingShowsEverything()
 void tst_Dressed_Filter::returnAddsTheMatchAndKeepsTheDialog()
 {
     DressedDialog stage;
-    stage.views.toolBarList->setCurrentItem(
-        itemNamed(stage.views.toolBarList, QStringLiteral("Mine")));
-    stage.filter->setText(QStringLiteral("paste"));
+    stage.views.toolBarList->setCurrentItem(itemNamed(stage.views.toolBarList, "Mine"));
+    stage.filter->setText("paste");
     stage.pressKey(stage.filter, Qt::Key_Return);
     QCOMPARE(stage.currentRows(), words("Cut Paste | Copy"));
-    stage.filter->setText(QStringLiteral("open"));
+    stage.filter->setText("open");
     stage.pressKey(stage.filter, Qt::Key_Enter);
     QCOMPARE(stage.currentRows(), words("Cut Paste Open | Copy"));
     QVERIFY(stage.dialog.isVisible());
@@ -137,7 +134,7 @@ void tst_Dressed_Filter::downGoesToTheTree()
 void tst_Dressed_Filter::escapeClearsFirstAndThenCloses()
 {
     DressedDialog stage;
-    stage.filter->setText(QStringLiteral("cut"));
+    stage.filter->setText("cut");
     stage.pressKey(stage.filter, Qt::Key_Escape);
     QCOMPARE(stage.filter->text(), QString());
     QVERIFY(stage.dialog.isVisible());
@@ -150,7 +147,7 @@ void tst_Dressed_Filter::leavingTheTabClears()
     DressedDialog stage;
     const QStringList before = stage.visibleItems();
     QTabWidget *const tabs = stage.dialog.findChild<QTabWidget *>();
-    stage.filter->setText(QStringLiteral("cut"));
+    stage.filter->setText("cut");
     tabs->setCurrentIndex(1);
     QCOMPARE(stage.filter->text(), QString());
     tabs->setCurrentIndex(0);
@@ -160,7 +157,7 @@ void tst_Dressed_Filter::leavingTheTabClears()
 void tst_Dressed_Filter::theCaptionStandsBesideTheFilter()
 {
     DressedDialog stage;
-    const QLabel *const caption = stage.views.page->findChild<QLabel *>(QStringLiteral("label"));
+    const QLabel *const caption = stage.views.page->findChild<QLabel *>("label");
     QVERIFY(caption->isVisible());
     QVERIFY(caption->geometry().right() < stage.filter->geometry().left());
     QVERIFY(stage.filter->geometry().bottom() < stage.views.actionTree->geometry().top());
@@ -170,7 +167,7 @@ void tst_Dressed_Filter::theCaptionStandsBesideTheFilter()
 void tst_Dressed_Filter::theFilterIsNamed()
 {
     DressedDialog stage;
-    QCOMPARE(stage.filter->accessibleName(), QStringLiteral("Filter the actions"));
+    QCOMPARE(stage.filter->accessibleName(), "Filter the actions");
     QVERIFY(!stage.filter->placeholderText().isEmpty());
 }
 

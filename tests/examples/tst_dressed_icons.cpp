@@ -56,15 +56,14 @@ void tst_Dressed_Icons::iconsAreDrawnFromTheSharpImages()
     RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
     new Dressing(&dialog);
     const EditorViews views(&dialog);
-    const QToolButton *const button =
-        views.page->findChild<QToolButton *>(QLatin1String(QTest::currentDataTag()));
+    const QToolButton *const button = views.page->findChild<QToolButton *>(QTest::currentDataTag());
     dialog.show();
     const QPixmap pixmap = button->icon().pixmap(dialog.windowHandle(), QSize(22, 22));
     QCOMPARE(pixmap.size(), QSize(44, 44));
     QCOMPARE(pixmap.devicePixelRatio(), 2.0);
     QImage drawn = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
     drawn.setDevicePixelRatio(1);
-    QImage sharp = imageAt(QStringLiteral(":/RyCustomizedDialog/images/%1@2x.png").arg(image));
+    QImage sharp = imageAt(QString(":/RyCustomizedDialog/images/%1@2x.png").arg(image));
     sharp.setDevicePixelRatio(1);
     QVERIFY(!sharp.isNull());
     // Through a pixmap and back, some colors of translucent pixels are rounded.
@@ -77,8 +76,7 @@ void tst_Dressed_Icons::iconsAreDrawnFromTheSharpImages()
 void tst_Dressed_Icons::theLibrarysOwnImagesStay()
 {
     for (const char *name : {"up", "down", "back", "forward", "plus", "minus"}) {
-        const QImage image =
-            imageAt(QStringLiteral(":/RyCustomizedDialog/images/%1.png").arg(QLatin1String(name)));
+        const QImage image = imageAt(QString(":/RyCustomizedDialog/images/%1.png").arg(name));
         QCOMPARE(image.size(), QSize(22, 22));
     }
 }

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 
 // The source of the example is compiled into the test, as it is.
-#undef QT_NO_CAST_FROM_ASCII
 #define main minimalMain
 #include MINIMAL_SOURCE
 #undef main
 
-#include "editorviews.h"
-#include "nextmodal.h"
+#include "customizing.h"
 #include "testcase.h"
 #include "texts.h"
 
@@ -38,35 +36,10 @@ namespace {
 
 QStringList sourceLines()
 {
-    QFile source(QStringLiteral(MINIMAL_SOURCE));
+    QFile source(MINIMAL_SOURCE);
     if (!source.open(QIODevice::ReadOnly))
         qFatal("cannot read the source");
-    return QString::fromUtf8(source.readAll()).split(QLatin1Char('\n'));
-}
-
-QToolBar *toolBarNamed(const Window &window, const QString &title)
-{
-    const auto toolBars = window.findChildren<QToolBar *>();
-    for (QToolBar *toolBar : toolBars) {
-        if (toolBar->windowTitle() == title)
-            return toolBar;
-    }
-    return nullptr;
-}
-
-// Opens the dialog through the menu and takes the steps in it.
-void customize(Window *window,
-               const std::function<void(const EditorViews &, RyCustomizedDialog *)> &steps)
-{
-    const NextModal dialog([&steps](QWidget *modal) {
-        RyCustomizedDialog *const opened = qobject_cast<RyCustomizedDialog *>(modal);
-        QVERIFY(opened);
-        steps(EditorViews(opened), opened);
-    });
-    QAction *const entry = window->menuBar()->actions().constFirst()->menu()->actions().constLast();
-    QCOMPARE(entry->text(), QStringLiteral("Customize Toolbars…"));
-    entry->trigger();
-    QVERIFY(dialog.wasOpened());
+    return QString::fromUtf8(source.readAll()).split('\n');
 }
 
 } // namespace
@@ -88,12 +61,12 @@ void tst_Minimal::theSourceHasFewerThanSixtyLines()
 
 void tst_Minimal::theSourceRestoresInTheRightOrder()
 {
-    const QString source = sourceLines().join(QLatin1Char('\n'));
+    const QString source = sourceLines().join('\n');
     QList<int> places;
     for (const char *step :
          {"m_manager.setMainWindow(", "m_manager.addDefaultToolBar(", "m_manager.restoreState(",
           " restoreState(m_settings", "window.show("}) {
-        places << source.indexOf(QLatin1String(step));
+        places << source.indexOf(step);
         QVERIFY2(places.constLast() >= 0, step);
     }
     QVERIFY(std::is_sorted(places.cbegin(), places.cend()));
@@ -105,8 +78,7 @@ void tst_Minimal::theDefaultsAreShownAtFirst()
     window.show();
     const auto toolBars = window.findChildren<QToolBar *>();
     QCOMPARE(toolBars.size(), 1);
-    QCOMPARE(standingOn(toolBars.constFirst()).join(QLatin1Char(' ')),
-             QStringLiteral("undo redo | copy paste"));
+    QCOMPARE(standingOn(toolBars.constFirst()).join(' '), "undo redo | copy paste");
     QVERIFY(toolBars.constFirst()->isVisible());
 }
 
@@ -115,14 +87,15 @@ void tst_Minimal::aCustomToolBarIsBackInItsPlace()
     {
         Window window;
         window.show();
-        customize(&window, [](const EditorViews &views, RyCustomizedDialog *dialog) {
-            views.click(views.newButton);
-            views.typeName(QStringLiteral("Mine"));
-            views.doubleClick(views.actionTree, QStringLiteral("Copy"));
-            QTest::mouseClick(dialog->applyButton(), Qt::LeftButton);
-            dialog->reject();
-        });
-        QToolBar *const mine = toolBarNamed(window, QStringLiteral("Mine"));
+        customize(menuEntry(window, "Customize Toolbars…"),
+                  [](const EditorViews &views, RyCustomizedDialog *dialog) {
+                      views.click(views.newButton);
+                      views.typeName("Mine");
+                      views.doubleClick(views.actionTree, "Copy");
+                      QTest::mouseClick(dialog->applyButton(), Qt::LeftButton);
+                      dialog->reject();
+                  });
+        QToolBar *const mine = toolBarTitled(window, "Mine");
         QVERIFY(mine);
         QTRY_VERIFY(mine->isVisible()); // Qt shows it when the event loop runs next
         window.addToolBar(Qt::LeftToolBarArea, mine);
@@ -130,9 +103,9 @@ void tst_Minimal::aCustomToolBarIsBackInItsPlace()
     }
     Window window;
     window.show();
-    QToolBar *const mine = toolBarNamed(window, QStringLiteral("Mine"));
+    QToolBar *const mine = toolBarTitled(window, "Mine");
     QVERIFY(mine);
-    QCOMPARE(standingOn(mine), QStringList{QStringLiteral("copy")});
+    QCOMPARE(standingOn(mine), QStringList{"copy"});
     QCOMPARE(window.toolBarArea(mine), Qt::LeftToolBarArea);
     QVERIFY(mine->isVisible());
 }

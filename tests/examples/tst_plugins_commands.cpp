@@ -69,9 +69,9 @@ void tst_Plugins_Commands::commandsChangeTheWholeText_data()
 void tst_Plugins_Commands::commandsChangeTheWholeText()
 {
     QFETCH(QString, changed);
-    QPlainTextEdit editor(QStringLiteral("B\nA\nb"));
+    QPlainTextEdit editor("B\nA\nb");
     actionsFor(&editor);
-    QAction *const action = editor.findChild<QAction *>(QLatin1String(QTest::currentDataTag()));
+    QAction *const action = editor.findChild<QAction *>(QTest::currentDataTag());
     QVERIFY(action);
     action->trigger();
     QCOMPARE(editor.toPlainText(), changed);
@@ -79,22 +79,22 @@ void tst_Plugins_Commands::commandsChangeTheWholeText()
 
 void tst_Plugins_Commands::aSelectionIsChangedAloneAndStaysSelected()
 {
-    QPlainTextEdit editor(QStringLiteral("one two three"));
+    QPlainTextEdit editor("one two three");
     actionsFor(&editor);
-    QVERIFY(editor.find(QStringLiteral("two")));
-    editor.findChild<QAction *>(QStringLiteral("quotes_brackets"))->trigger();
-    QCOMPARE(editor.toPlainText(), QStringLiteral("one (two) three"));
-    QCOMPARE(editor.textCursor().selectedText(), QStringLiteral("(two)"));
+    QVERIFY(editor.find("two"));
+    editor.findChild<QAction *>("quotes_brackets")->trigger();
+    QCOMPARE(editor.toPlainText(), "one (two) three");
+    QCOMPARE(editor.textCursor().selectedText(), "(two)");
 }
 
 void tst_Plugins_Commands::aChangeIsUndoneAtOnce()
 {
-    QPlainTextEdit editor(QStringLiteral("b\na"));
+    QPlainTextEdit editor("b\na");
     actionsFor(&editor);
-    editor.findChild<QAction *>(QStringLiteral("lines_sort"))->trigger();
-    QCOMPARE(editor.toPlainText(), QStringLiteral("a\nb"));
+    editor.findChild<QAction *>("lines_sort")->trigger();
+    QCOMPARE(editor.toPlainText(), "a\nb");
     editor.undo();
-    QCOMPARE(editor.toPlainText(), QStringLiteral("b\na"));
+    QCOMPARE(editor.toPlainText(), "b\na");
 }
 
 QTEST_MAIN(tst_Plugins_Commands)

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-#include "editorviews.h"
+#include "customizing.h"
 #include "pluginswindow.h"
-#include "nextmodal.h"
 #include "testcase.h"
 #include "texts.h"
-
-#include <RyCustomizedDialog>
 
 #include <QPointer>
 #include <QPushButton>
@@ -60,49 +57,45 @@ struct Run
 
     QAction *entry(const QString &text) const { return menuEntry(window, text); }
 
-    void switchPlugin(const char *title) { entry(QLatin1String(title))->trigger(); }
+    void switchPlugin(const QString &title) { entry(title)->trigger(); }
 
     void customize(const std::function<void(const EditorViews &)> &steps)
     {
-        const NextModal next([&](QWidget *modal) {
-            RyCustomizedDialog *const dialog = qobject_cast<RyCustomizedDialog *>(modal);
-            QVERIFY(dialog);
-            steps(EditorViews(dialog));
-            QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
-        });
-        entry(QStringLiteral("Customize Toolbars…"))->trigger();
-        QVERIFY(next.wasOpened());
+        ::customize(entry("Customize Toolbars…"),
+                    [&](const EditorViews &views, RyCustomizedDialog *dialog) {
+                        steps(views);
+                        QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
+                    });
     }
 
     void makeToolBar()
     {
         customize([](const EditorViews &views) {
             views.click(views.newButton);
-            views.typeName(QStringLiteral("Mine"));
+            views.typeName("Mine");
             for (const char *text : {"Sort Lines", "Upper Case", "< S E P A R A T O R >", "Copy",
                                      "Reverse Lines", "Brackets"})
-                views.doubleClick(views.actionTree, QString::fromLatin1(text));
+                views.doubleClick(views.actionTree, text);
         });
     }
 
-    QToolBar *toolBar(const char *title) const
+    QStringList offered()
     {
-        const auto toolBars = window.findChildren<QToolBar *>();
-        for (QToolBar *toolBar : toolBars) {
-            if (toolBar->windowTitle() == QLatin1String(title))
-                return toolBar;
-        }
-        return nullptr;
+        QStringList items;
+        customize([&](const EditorViews &views) { items = itemsOf(views.actionTree); });
+        return items;
     }
 
+    QToolBar *toolBar(const QString &title) const { return toolBarTitled(window, title); }
+
     // What the user sees on the toolbar.
-    QStringList shown(const char *title) const
+    QStringList shown(const QString &title) const
     {
         QStringList names;
         const auto actions = toolBar(title)->actions();
         for (const QAction *action : actions) {
             if (action->isVisible())
-                names << (action->isSeparator() ? QStringLiteral("|") : action->objectName());
+                names << (action->isSeparator() ? "|" : action->objectName());
         }
         return names;
     }
@@ -126,7 +119,7 @@ const char *const withoutLines = "case_upper | edit_copy quotes_brackets";
 void tst_Plugins_Places::prepare()
 {
     m_folder.reset(new QTemporaryDir);
-    settingsFile = m_folder->filePath(QStringLiteral("settings.ini"));
+    settingsFile = m_folder->filePath("settings.ini");
 }
 
 void tst_Plugins_Places::actionsComeBackWhereTheUserPutThem()
@@ -158,21 +151,18 @@ void tst_Plugins_Places::actionsAreGoneFromManagerAndMenusWhenOff()
 {
     Run run;
     run.makeToolBar();
-    const QPointer<QAction> sort = run.entry(QStringLiteral("Sort Lines"));
+    const QPointer<QAction> sort = run.entry("Sort Lines");
     QVERIFY(sort);
     QVERIFY(standingOn(run.toolBar("Mine")).contains(sort->objectName()));
     run.switchPlugin("Lines");
     QVERIFY(!sort);
-    QVERIFY(!run.entry(QStringLiteral("Sort Lines")));
-    QStringList offered;
-    run.customize([&](const EditorViews &views) { offered = itemsOf(views.actionTree); });
-    QVERIFY(!offered.contains(QStringLiteral("  Sort Lines")));
-    QCOMPARE(offered.filter(QStringLiteral("Sort Lines")),
-             QStringList{QStringLiteral("  Sort Lines (plugin is off)")});
+    QVERIFY(!run.entry("Sort Lines"));
+    QStringList offered = run.offered();
+    QVERIFY(!offered.contains("  Sort Lines"));
+    QCOMPARE(offered.filter("Sort Lines"), QStringList{"  Sort Lines (plugin is off)"});
     run.switchPlugin("Lines");
-    run.customize([&](const EditorViews &views) { offered = itemsOf(views.actionTree); });
-    QCOMPARE(offered.filter(QStringLiteral("Sort Lines")),
-             QStringList{QStringLiteral("  Sort Lines")});
+    offered = run.offered();
+    QCOMPARE(offered.filter("Sort Lines"), QStringList{"  Sort Lines"});
 }
 
 void tst_Plugins_Places::editsMadeWhileAPluginIsOffStay()
@@ -181,11 +171,11 @@ void tst_Plugins_Places::editsMadeWhileAPluginIsOffStay()
     run.makeToolBar();
     run.switchPlugin("Lines");
     run.customize([](const EditorViews &views) {
-        views.click(views.toolBarList, QStringLiteral("Mine"));
-        views.click(views.currentToolBarList, QStringLiteral("Copy"));
+        views.click(views.toolBarList, "Mine");
+        views.click(views.currentToolBarList, "Copy");
         views.click(views.leftButton);
-        views.click(views.currentToolBarList, QStringLiteral("Brackets"));
-        views.doubleClick(views.actionTree, QStringLiteral("Paste"));
+        views.click(views.currentToolBarList, "Brackets");
+        views.doubleClick(views.actionTree, "Paste");
     });
     run.switchPlugin("Lines");
     QCOMPARE(run.shown("Mine"),
@@ -198,10 +188,10 @@ void tst_Plugins_Places::theUserMovesAndRemovesStandIns()
     run.makeToolBar();
     run.switchPlugin("Lines");
     run.customize([](const EditorViews &views) {
-        views.click(views.toolBarList, QStringLiteral("Mine"));
-        views.click(views.currentToolBarList, QStringLiteral("Sort Lines (plugin is off)"));
+        views.click(views.toolBarList, "Mine");
+        views.click(views.currentToolBarList, "Sort Lines (plugin is off)");
         views.click(views.downButton);
-        views.click(views.currentToolBarList, QStringLiteral("Reverse Lines (plugin is off)"));
+        views.click(views.currentToolBarList, "Reverse Lines (plugin is off)");
         views.click(views.leftButton);
     });
     run.switchPlugin("Lines");
@@ -212,8 +202,8 @@ void tst_Plugins_Places::anActionOnADefaultToolBarComesBackToo()
 {
     Run run;
     run.customize([](const EditorViews &views) {
-        views.click(views.toolBarList, QStringLiteral("Edit"));
-        views.doubleClick(views.actionTree, QStringLiteral("Sort Lines"));
+        views.click(views.toolBarList, "Edit");
+        views.doubleClick(views.actionTree, "Sort Lines");
     });
     run.switchPlugin("Lines");
     QCOMPARE(run.shown("Edit"), words("edit_undo edit_redo edit_copy edit_paste"));
@@ -225,17 +215,17 @@ void tst_Plugins_Places::theSwitchesAreKept()
 {
     {
         Run run;
-        QVERIFY(run.entry(QStringLiteral("Lines"))->isChecked());
+        QVERIFY(run.entry("Lines")->isChecked());
         run.switchPlugin("Lines");
     }
     {
         Run run;
-        QVERIFY(!run.entry(QStringLiteral("Lines"))->isChecked());
-        QVERIFY(run.entry(QStringLiteral("Quotes"))->isChecked());
+        QVERIFY(!run.entry("Lines")->isChecked());
+        QVERIFY(run.entry("Quotes")->isChecked());
         run.switchPlugin("Lines");
     }
     Run run;
-    QVERIFY(run.entry(QStringLiteral("Lines"))->isChecked());
+    QVERIFY(run.entry("Lines")->isChecked());
 }
 
 void tst_Plugins_Places::aRestartWithThePluginOffKeepsThePlaces()
@@ -247,10 +237,9 @@ void tst_Plugins_Places::aRestartWithThePluginOffKeepsThePlaces()
     }
     Run run;
     QCOMPARE(run.shown("Mine"), words(withoutLines));
-    QStringList offered;
-    run.customize([&](const EditorViews &views) { offered = itemsOf(views.actionTree); });
-    const int category = offered.indexOf(QStringLiteral("Lines"));
-    QCOMPARE(offered.value(category + 3), QStringLiteral("  Sort Lines (plugin is off)"));
+    QStringList offered = run.offered();
+    const int category = offered.indexOf("Lines");
+    QCOMPARE(offered.value(category + 3), "  Sort Lines (plugin is off)");
     run.switchPlugin("Lines");
     QCOMPARE(run.shown("Mine"), words(all));
 }
@@ -263,7 +252,7 @@ void tst_Plugins_Places::aPluginThatIsMissingForARunKeepsItsPlaces()
     }
     {
         Run run(allButLines());
-        QVERIFY(!run.entry(QStringLiteral("Lines")));
+        QVERIFY(!run.entry("Lines"));
         QCOMPARE(run.shown("Mine"), words(withoutLines));
         run.customize([](const EditorViews &) {}); // stores the layout without the plugin
     }
@@ -275,7 +264,7 @@ void tst_Plugins_Places::aStoredLayoutNamesThePlacesOfAbsentPlugins()
 {
     Run run;
     run.makeToolBar();
-    const QString key = QStringLiteral("layout/toolBars");
+    const QString key = "layout/toolBars";
     const QByteArray before = run.settings.value(key).toByteArray();
     QVERIFY(!before.isEmpty());
     run.switchPlugin("Lines");
@@ -289,13 +278,12 @@ void tst_Plugins_Places::forgettingDropsThePlacesOfAbsentPluginsOnly()
     Run run;
     run.makeToolBar();
     run.switchPlugin("Lines");
-    run.entry(QStringLiteral("Forget Plugins That Are Off"))->trigger();
-    QStringList offered;
-    run.customize([&](const EditorViews &views) { offered = itemsOf(views.actionTree); });
-    QVERIFY(offered.filter(QStringLiteral("plugin is off")).isEmpty());
+    run.entry("Forget Plugins That Are Off")->trigger();
+    QStringList offered = run.offered();
+    QVERIFY(offered.filter("plugin is off").isEmpty());
     run.switchPlugin("Lines");
     QCOMPARE(run.shown("Mine"), words(withoutLines));
-    QVERIFY(run.entry(QStringLiteral("Sort Lines")));
+    QVERIFY(run.entry("Sort Lines"));
 }
 
 void tst_Plugins_Places::whatIsForgottenStaysForgotten()
@@ -304,12 +292,11 @@ void tst_Plugins_Places::whatIsForgottenStaysForgotten()
         Run run;
         run.makeToolBar();
         run.switchPlugin("Lines");
-        run.entry(QStringLiteral("Forget Plugins That Are Off"))->trigger();
+        run.entry("Forget Plugins That Are Off")->trigger();
     }
     Run run;
-    QStringList offered;
-    run.customize([&](const EditorViews &views) { offered = itemsOf(views.actionTree); });
-    QVERIFY(offered.filter(QStringLiteral("plugin is off")).isEmpty());
+    QStringList offered = run.offered();
+    QVERIFY(offered.filter("plugin is off").isEmpty());
     QCOMPARE(standingOn(run.toolBar("Mine")), words(withoutLines));
 }
 
@@ -319,10 +306,10 @@ void tst_Plugins_Places::resettingTakesPluginActionsOffDefaultToolBars()
     Run run;
     run.makeToolBar();
     run.customize([](const EditorViews &views) {
-        views.click(views.toolBarList, QStringLiteral("Edit"));
-        views.doubleClick(views.actionTree, QStringLiteral("Sort Lines"));
+        views.click(views.toolBarList, "Edit");
+        views.doubleClick(views.actionTree, "Sort Lines");
     });
-    run.entry(QStringLiteral("Reset Toolbars"))->trigger();
+    run.entry("Reset Toolbars")->trigger();
     QCOMPARE(run.shown("Edit"), words("edit_undo edit_redo edit_copy edit_paste"));
     QCOMPARE(run.shown("Mine"), words(all));
 }

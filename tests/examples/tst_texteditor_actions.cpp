@@ -2,7 +2,6 @@
 
 #include "actioncatalog.h"
 #include "editorsession.h"
-#include "editorviews.h"
 #include "testcase.h"
 #include "texts.h"
 
@@ -37,7 +36,7 @@ private Q_SLOTS:
 
 private:
     QTemporaryDir m_folder;
-    QString settingsFile() { return m_folder.filePath(QStringLiteral("settings.ini")); }
+    QString settingsFile() { return m_folder.filePath("settings.ini"); }
 };
 
 namespace {
@@ -68,7 +67,7 @@ QStringList textsOf(const QWidget *menu)
     QStringList texts;
     const auto actions = menu->actions();
     for (const QAction *action : actions)
-        texts << (action->isSeparator() ? QStringLiteral("|") : action->text());
+        texts << (action->isSeparator() ? "|" : action->text());
     return texts;
 }
 
@@ -133,7 +132,7 @@ void tst_TextEditorActions::noTextHasAnAmpersand()
     QObject owner;
     const auto actions = allActions(ActionCatalog(&owner));
     for (const QAction *action : actions)
-        QVERIFY2(!action->text().contains(QLatin1Char('&')), qPrintable(action->text()));
+        QVERIFY2(!action->text().contains('&'), qPrintable(action->text()));
 }
 
 void tst_TextEditorActions::noTwoActionsShareAShortcut()
@@ -157,13 +156,10 @@ void tst_TextEditorActions::thereAreSixCategories()
     for (const ActionCatalog::Category &category : catalog.categories()) {
         titles << category.title;
         for (const QAction *action : category.actions)
-            QVERIFY2(action->objectName().startsWith(category.title.toLower() + QLatin1Char('_')),
+            QVERIFY2(action->objectName().startsWith(category.title.toLower() + '_'),
                      qPrintable(action->objectName()));
     }
-    QCOMPARE(
-        titles,
-        QStringList({QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("View"),
-                     QStringLiteral("Format"), QStringLiteral("Tools"), QStringLiteral("Help")}));
+    QCOMPARE(titles, QStringList({"File", "Edit", "View", "Format", "Tools", "Help"}));
 }
 
 void tst_TextEditorActions::everyActionStandsInAMenu()
@@ -184,7 +180,7 @@ void tst_TextEditorActions::everyMenuTitleHasAMnemonicOfItsOwn()
     QStringList mnemonics;
     const auto menus = session.window.menuBar()->actions();
     for (const QAction *menu : menus) {
-        const int ampersand = menu->text().indexOf(QLatin1Char('&'));
+        const int ampersand = menu->text().indexOf('&');
         QVERIFY2(ampersand >= 0, qPrintable(menu->text()));
         mnemonics << menu->text().mid(ampersand + 1, 1).toLower();
     }
@@ -196,32 +192,29 @@ void tst_TextEditorActions::theDefaultToolBarsHaveTheirContent()
 {
     EditorSession session(settingsFile());
     const auto contentOfToolBar = [&session](const char *name) {
-        return standingOn(session.child<QToolBar>(name)).join(QLatin1Char(' '));
+        return standingOn(session.child<QToolBar>(name)).join(' ');
     };
-    QCOMPARE(
-        session.toolBarTitles(),
-        QStringList({QStringLiteral("Edit"), QStringLiteral("File"), QStringLiteral("Format")}));
-    QCOMPARE(contentOfToolBar("toolbar_file"),
-             QStringLiteral("file_new file_open file_save | file_reload"));
+    QCOMPARE(session.toolBarTitles(), QStringList({"Edit", "File", "Format"}));
+    QCOMPARE(contentOfToolBar("toolbar_file"), "file_new file_open file_save | file_reload");
     QCOMPARE(contentOfToolBar("toolbar_edit"),
-             QStringLiteral("edit_undo edit_redo | edit_cut edit_copy edit_paste | "
-                            "edit_find edit_replace"));
+             "edit_undo edit_redo | edit_cut edit_copy edit_paste | "
+             "edit_find edit_replace");
     QCOMPARE(contentOfToolBar("toolbar_format"),
-             QStringLiteral("format_bold format_italic format_underline | format_align_left "
-                            "format_align_center format_align_right format_align_justify | "
-                            "format_font format_text_color"));
+             "format_bold format_italic format_underline | format_align_left "
+             "format_align_center format_align_right format_align_justify | "
+             "format_font format_text_color");
 }
 
 void tst_TextEditorActions::theDialogOffersEveryAction()
 {
     QObject owner;
     const ActionCatalog catalog(&owner);
-    QStringList expected{QStringLiteral("< S E P A R A T O R >")};
+    QStringList expected{"< S E P A R A T O R >"};
     QMap<QString, QStringList> sorted;
     for (const ActionCatalog::Category &category : catalog.categories()) {
         QStringList texts;
         for (const QAction *action : category.actions)
-            texts << QStringLiteral("  ") + action->text();
+            texts << "  " + action->text();
         texts.sort();
         sorted.insert(category.title, texts);
     }
@@ -231,8 +224,9 @@ void tst_TextEditorActions::theDialogOffersEveryAction()
     EditorSession session(settingsFile());
     session.start();
     QStringList offered;
-    session.customize([&offered](const EditorViews &views, RyCustomizedDialog *) {
+    session.customize([&offered](const EditorViews &views, RyCustomizedDialog *dialog) {
         offered = itemsOf(views.actionTree);
+        dialog->reject();
     });
     QCOMPARE(offered, expected);
 }
@@ -242,9 +236,7 @@ void tst_TextEditorActions::theContextMenuKeepsTheTogglesOfTheToolBars()
     EditorSession session(settingsFile());
     const QScopedPointer<QMenu> menu(session.window.createPopupMenu());
     QCOMPARE(textsOf(menu.data()),
-             QStringList({QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("Format"),
-                          QStringLiteral("|"), QStringLiteral("Customize Toolbars…"),
-                          QStringLiteral("Reset Toolbars")}));
+             QStringList({"File", "Edit", "Format", "|", "Customize Toolbars…", "Reset Toolbars"}));
     QVERIFY(menu->actions().contains(session.action("tools_customize_toolbars")));
     QVERIFY(menu->actions().contains(session.action("tools_reset_toolbars")));
 }
@@ -256,20 +248,18 @@ void tst_TextEditorActions::theToolBarsMenuShowsAndHidesToolBars()
     QMenu *menu = nullptr;
     const auto all = actionsIn(session.window.menuBar());
     for (const QAction *action : all) {
-        if (action->text() == QLatin1String("Toolbars"))
+        if (action->text() == "Toolbars")
             menu = action->menu();
     }
     QVERIFY(menu);
     for (int i = 0; i < 2; ++i) {
         Q_EMIT menu->aboutToShow();
-        QCOMPARE(textsOf(menu),
-                 QStringList(
-                     {QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("Format")}));
+        QCOMPARE(textsOf(menu), QStringList({"File", "Edit", "Format"}));
     }
     menu->actions().at(1)->trigger();
-    QVERIFY(!session.toolBar(QStringLiteral("Edit"))->isVisible());
+    QVERIFY(!session.toolBar("Edit")->isVisible());
     menu->actions().at(1)->trigger();
-    QVERIFY(session.toolBar(QStringLiteral("Edit"))->isVisible());
+    QVERIFY(session.toolBar("Edit")->isVisible());
 }
 
 void tst_TextEditorActions::theContextMenuWorksWithoutToolBars()
@@ -280,7 +270,7 @@ void tst_TextEditorActions::theContextMenuWorksWithoutToolBars()
         session.window.removeToolBar(toolBar);
     qDeleteAll(toolBars);
     const QScopedPointer<QMenu> menu(session.window.createPopupMenu());
-    QVERIFY(textsOf(menu.data()).contains(QStringLiteral("Customize Toolbars…")));
+    QVERIFY(textsOf(menu.data()).contains("Customize Toolbars…"));
 }
 
 QTEST_MAIN(tst_TextEditorActions)

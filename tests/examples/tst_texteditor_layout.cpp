@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "editorsession.h"
-#include "editorviews.h"
 #include "layoutstore.h"
 #include "testcase.h"
 #include "texts.h"
-
-#include <RyCustomizedDialog>
 
 #include <QFile>
 #include <QPushButton>
@@ -53,7 +50,7 @@ protected:
     void prepare() override;
 
 private:
-    QString settingsFile() const { return m_folder->filePath(QStringLiteral("settings.ini")); }
+    QString settingsFile() const { return m_folder->filePath("settings.ini"); }
     void storeFavoritesAtTheLeft();
 
     QScopedPointer<QTemporaryDir> m_folder;
@@ -61,15 +58,14 @@ private:
 
 namespace {
 
-const QStringList DefaultTitles{QStringLiteral("Edit"), QStringLiteral("File"),
-                                QStringLiteral("Format")};
+const QStringList DefaultTitles{"Edit", "File", "Format"};
 
 // The toolbars as they are without any stored layout.
 void verifyDefaults(const EditorSession &session)
 {
     QCOMPARE(session.toolBarTitles(), DefaultTitles);
-    QCOMPARE(standingOn(session.toolBar(QStringLiteral("File"))).join(QLatin1Char(' ')),
-             QStringLiteral("file_new file_open file_save | file_reload"));
+    QCOMPARE(standingOn(session.toolBar("File")).join(' '),
+             "file_new file_open file_save | file_reload");
     for (const QString &title : DefaultTitles) {
         QToolBar *const toolBar = session.toolBar(title);
         QVERIFY2(toolBar->isVisible(), qPrintable(title));
@@ -95,10 +91,8 @@ void tst_TextEditorLayout::storeFavoritesAtTheLeft()
 {
     EditorSession session(settingsFile());
     session.start();
-    session.addToolBar(QStringLiteral("Favorites"),
-                       {QStringLiteral("Word Count"), QStringLiteral("< S E P A R A T O R >"),
-                        QStringLiteral("Sort Lines")});
-    QToolBar *const favorites = session.toolBar(QStringLiteral("Favorites"));
+    session.addToolBar("Favorites", {"Word Count", "< S E P A R A T O R >", "Sort Lines"});
+    QToolBar *const favorites = session.toolBar("Favorites");
     QVERIFY(favorites);
     session.window.addToolBar(Qt::LeftToolBarArea, favorites);
     QVERIFY(session.window.close());
@@ -119,38 +113,37 @@ void tst_TextEditorLayout::aCustomToolBarIsBackInItsPlaceWithItsContent()
     EditorSession session(settingsFile());
     session.start();
     QCOMPARE(session.notice(), QString());
-    QToolBar *const favorites = session.toolBar(QStringLiteral("Favorites"));
+    QToolBar *const favorites = session.toolBar("Favorites");
     QVERIFY(favorites);
     QVERIFY(favorites->isVisible());
     QCOMPARE(session.window.toolBarArea(favorites), Qt::LeftToolBarArea);
-    QCOMPARE(standingOn(favorites).join(QLatin1Char(' ')),
-             QStringLiteral("tools_word_count | tools_sort_lines"));
+    QCOMPARE(standingOn(favorites).join(' '), "tools_word_count | tools_sort_lines");
 }
 
 void tst_TextEditorLayout::aCustomToolBarOutlivesACrashAfterTheDialog()
 {
-    const QString copy = m_folder->filePath(QStringLiteral("copy.ini"));
+    const QString copy = m_folder->filePath("copy.ini");
     {
         EditorSession session(settingsFile());
         session.start();
-        session.addToolBar(QStringLiteral("Favorites"), {QStringLiteral("Word Count")});
+        session.addToolBar("Favorites", {"Word Count"});
         // What is in the file now is all that a process that ends here leaves behind.
         QVERIFY(QFile::copy(settingsFile(), copy));
     }
     EditorSession session(copy);
     session.start();
-    QToolBar *const favorites = session.toolBar(QStringLiteral("Favorites"));
+    QToolBar *const favorites = session.toolBar("Favorites");
     QVERIFY(favorites);
     QVERIFY(favorites->isVisible());
-    QCOMPARE(standingOn(favorites), QStringList{QStringLiteral("tools_word_count")});
+    QCOMPARE(standingOn(favorites), QStringList{"tools_word_count"});
 }
 
 void tst_TextEditorLayout::aNewToolBarIsVisibleAtOnce()
 {
     EditorSession session(settingsFile());
     session.start();
-    session.addToolBar(QStringLiteral("Favorites"), {QStringLiteral("Word Count")});
-    QVERIFY(session.toolBar(QStringLiteral("Favorites"))->isVisible());
+    session.addToolBar("Favorites", {"Word Count"});
+    QVERIFY(session.toolBar("Favorites")->isVisible());
 }
 
 void tst_TextEditorLayout::hiddenToolBarsStayHidden()
@@ -159,8 +152,8 @@ void tst_TextEditorLayout::hiddenToolBarsStayHidden()
     for (int run = 0; run < 2; ++run) {
         EditorSession session(settingsFile());
         session.start();
-        QToolBar *const favorites = session.toolBar(QStringLiteral("Favorites"));
-        QToolBar *const edit = session.toolBar(QStringLiteral("Edit"));
+        QToolBar *const favorites = session.toolBar("Favorites");
+        QToolBar *const edit = session.toolBar("Edit");
         QCOMPARE(favorites->isVisible(), run == 0);
         QCOMPARE(edit->isVisible(), run == 0);
         favorites->hide();
@@ -179,8 +172,8 @@ void tst_TextEditorLayout::changedDefaultToolBarsAreBack()
         EditorSession session(settingsFile());
         session.start();
         session.customize([](const EditorViews &views, RyCustomizedDialog *dialog) {
-            views.click(views.toolBarList, QStringLiteral("File"));
-            views.click(views.currentToolBarList, QStringLiteral("Open…"));
+            views.click(views.toolBarList, "File");
+            views.click(views.currentToolBarList, "Open…");
             views.click(views.upButton);
             QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
         });
@@ -188,8 +181,8 @@ void tst_TextEditorLayout::changedDefaultToolBarsAreBack()
     }
     EditorSession session(settingsFile());
     session.start();
-    QCOMPARE(standingOn(session.toolBar(QStringLiteral("File"))).join(QLatin1Char(' ')),
-             QStringLiteral("file_open file_new file_save | file_reload"));
+    QCOMPARE(standingOn(session.toolBar("File")).join(' '),
+             "file_open file_new file_save | file_reload");
 }
 
 void tst_TextEditorLayout::removedToolBarsStayRemoved()
@@ -199,7 +192,7 @@ void tst_TextEditorLayout::removedToolBarsStayRemoved()
         EditorSession session(settingsFile());
         session.start();
         session.customize([](const EditorViews &views, RyCustomizedDialog *dialog) {
-            views.click(views.toolBarList, QStringLiteral("Favorites"));
+            views.click(views.toolBarList, "Favorites");
             views.click(views.removeButton);
             QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
         });
@@ -241,8 +234,8 @@ void tst_TextEditorLayout::theDialogIsFollowedByAStoredLayout()
     EditorSession session(settingsFile());
     session.start();
     session.customize([&](const EditorViews &views, RyCustomizedDialog *dialog) {
-        views.click(views.toolBarList, QStringLiteral("File"));
-        views.click(views.currentToolBarList, QStringLiteral("New"));
+        views.click(views.toolBarList, "File");
+        views.click(views.currentToolBarList, "New");
         views.click(views.leftButton);
         if (apply)
             QTest::mouseClick(dialog->applyButton(), Qt::LeftButton);
@@ -255,12 +248,11 @@ void tst_TextEditorLayout::theDialogIsFollowedByAStoredLayout()
         else
             dialog->close();
     });
-    const QString copy = m_folder->filePath(QStringLiteral("copy.ini"));
+    const QString copy = m_folder->filePath("copy.ini");
     QVERIFY(QFile::copy(settingsFile(), copy));
     EditorSession next(copy);
     next.start();
-    QCOMPARE(standingOn(next.toolBar(QStringLiteral("File"))).join(QLatin1Char(' ')),
-             QStringLiteral("file_open file_save | file_reload"));
+    QCOMPARE(standingOn(next.toolBar("File")).join(' '), "file_open file_save | file_reload");
 }
 
 void tst_TextEditorLayout::cancelWithoutApplyChangesNothing()
@@ -269,7 +261,7 @@ void tst_TextEditorLayout::cancelWithoutApplyChangesNothing()
     session.start();
     session.customize([](const EditorViews &views, RyCustomizedDialog *dialog) {
         views.click(views.newButton);
-        views.typeName(QStringLiteral("Favorites"));
+        views.typeName("Favorites");
         QTest::keyClick(dialog, Qt::Key_Escape);
     });
     verifyDefaults(session);
@@ -280,15 +272,15 @@ void tst_TextEditorLayout::resetBringsTheDefaultContentBackAndStoresIt()
     EditorSession session(settingsFile());
     session.start();
     session.customize([](const EditorViews &views, RyCustomizedDialog *dialog) {
-        views.click(views.toolBarList, QStringLiteral("File"));
-        views.click(views.currentToolBarList, QStringLiteral("New"));
+        views.click(views.toolBarList, "File");
+        views.click(views.currentToolBarList, "New");
         views.click(views.leftButton);
         QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
     });
     session.action("tools_reset_toolbars")->trigger();
     verifyDefaults(session);
 
-    const QString copy = m_folder->filePath(QStringLiteral("copy.ini"));
+    const QString copy = m_folder->filePath("copy.ini");
     QVERIFY(QFile::copy(settingsFile(), copy));
     EditorSession next(copy);
     next.start();
@@ -301,7 +293,7 @@ void tst_TextEditorLayout::resetLeavesCustomToolBarsAlone()
     EditorSession session(settingsFile());
     session.start();
     session.action("tools_reset_toolbars")->trigger();
-    QVERIFY(session.toolBar(QStringLiteral("Favorites")));
+    QVERIFY(session.toolBar("Favorites"));
 }
 
 void tst_TextEditorLayout::forgettingTheLayoutShowsTheDefaults()
@@ -312,17 +304,16 @@ void tst_TextEditorLayout::forgettingTheLayoutShowsTheDefaults()
     session.start();
     QCOMPARE(session.notice(), QString());
     verifyDefaults(session);
-    QVERIFY(!session.settings.childGroups().contains(QStringLiteral("layout")));
+    QVERIFY(!session.settings.childGroups().contains("layout"));
 }
 
 void tst_TextEditorLayout::forgettingTheLayoutKeepsOtherSettings()
 {
     storeFavoritesAtTheLeft();
     EditorSession session(settingsFile());
-    session.settings.setValue(QStringLiteral("recentFiles"), QStringLiteral("/a.txt"));
+    session.settings.setValue("recentFiles", "/a.txt");
     session.window.forgetLayout();
-    QCOMPARE(session.settings.value(QStringLiteral("recentFiles")).toString(),
-             QStringLiteral("/a.txt"));
+    QCOMPARE(session.settings.value("recentFiles").toString(), "/a.txt");
 }
 
 void tst_TextEditorLayout::aDamagedLayoutIsReportedAndTheDefaultsShown_data()
@@ -331,35 +322,33 @@ void tst_TextEditorLayout::aDamagedLayoutIsReportedAndTheDefaultsShown_data()
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("notice");
 
-    const QString damaged =
-        QStringLiteral("The stored toolbar layout is damaged; the default toolbars are shown.");
+    const QString damaged = "The stored toolbar layout is damaged; the default toolbars are shown.";
     for (const char *key : {"layout/toolBars", "layout/window", "layout/geometry"}) {
-        const QString name = QString::fromLatin1(key);
+        const QString name = key;
         const auto row = [&](const char *what, const QVariant &value) {
             QTest::addRow("%s %s", key, what) << name << value << damaged;
         };
         row("missing", QVariant());
         row("empty", QByteArray());
-        row("truncated", QVariant(QStringLiteral("truncate")));
-        row("byte changed", QVariant(QStringLiteral("change")));
+        row("truncated", QVariant("truncate"));
+        row("byte changed", QVariant("change"));
         row("random bytes", QByteArray("\x9c\x01\xfe\x00\xfd\x7f\xff\xff\xff", 9));
         row("number", 7);
-        row("text", QStringLiteral("toolbars"));
-        row("list", QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+        row("text", "toolbars");
+        row("list", QStringList({"a", "b"}));
         row("size", QSize(3, 4));
     }
-    QTest::newRow("checksum missing") << QStringLiteral("layout/checksum") << QVariant() << damaged;
+    QTest::newRow("checksum missing") << "layout/checksum" << QVariant() << damaged;
     QTest::newRow("checksum of another layout")
-        << QStringLiteral("layout/checksum") << QVariant(QString(64, QLatin1Char('0'))) << damaged;
-    QTest::newRow("version missing") << QStringLiteral("layout/version") << QVariant() << damaged;
-    QTest::newRow("version a text")
-        << QStringLiteral("layout/version") << QVariant(QStringLiteral("new")) << damaged;
+        << "layout/checksum" << QVariant(QString(64, '0')) << damaged;
+    QTest::newRow("version missing") << "layout/version" << QVariant() << damaged;
+    QTest::newRow("version a text") << "layout/version" << QVariant("new") << damaged;
     QTest::newRow("other version")
-        << QStringLiteral("layout/version") << QVariant(LayoutStore::Version + 1)
-        << QStringLiteral("The stored toolbar layout is of another version; the default toolbars "
-                          "are shown.");
+        << "layout/version" << QVariant(LayoutStore::Version + 1)
+        << "The stored toolbar layout is of another version; the default toolbars "
+           "are shown.";
     QTest::newRow("one value instead of the group")
-        << QStringLiteral("layout") << QVariant(QByteArray("x")) << damaged;
+        << "layout" << QVariant(QByteArray("x")) << damaged;
 }
 
 void tst_TextEditorLayout::aDamagedLayoutIsReportedAndTheDefaultsShown()
@@ -370,14 +359,14 @@ void tst_TextEditorLayout::aDamagedLayoutIsReportedAndTheDefaultsShown()
     storeFavoritesAtTheLeft();
     EditorSession session(settingsFile());
     QByteArray bytes = session.settings.value(key).toByteArray();
-    if (value == QVariant(QStringLiteral("truncate"))) {
+    if (value == QVariant("truncate")) {
         bytes.chop(1);
         value = bytes;
-    } else if (value == QVariant(QStringLiteral("change"))) {
+    } else if (value == QVariant("change")) {
         bytes[bytes.size() / 2] = static_cast<char>(bytes.at(bytes.size() / 2) ^ 0x10);
         value = bytes;
     }
-    if (key == QLatin1String("layout"))
+    if (key == "layout")
         session.settings.remove(key);
     if (value.isValid())
         session.settings.setValue(key, value);
@@ -417,8 +406,8 @@ void tst_TextEditorLayout::bytesOfNoUseBehindAGoodChecksumAreReported()
                  geometry ? layout.geometry : useless});
     session.start();
     QCOMPARE(session.notice(),
-             QStringLiteral("The stored toolbar layout does not fit; the default toolbars are "
-                            "shown."));
+             "The stored toolbar layout does not fit; the default toolbars are "
+             "shown.");
     verifyDefaults(session);
 }
 
@@ -427,7 +416,7 @@ void tst_TextEditorLayout::theNoticeIsSeenWithoutStatusBar()
     storeFavoritesAtTheLeft();
     EditorSession session(settingsFile());
     session.action("view_status_bar")->setChecked(false);
-    session.settings.remove(QStringLiteral("layout/window"));
+    session.settings.remove("layout/window");
     session.start();
     QVERIFY(session.window.statusBar()->isVisible());
     QVERIFY(session.action("view_status_bar")->isChecked());
@@ -437,7 +426,7 @@ void tst_TextEditorLayout::theNoticeOutlivesStatusTips()
 {
     storeFavoritesAtTheLeft();
     EditorSession session(settingsFile());
-    session.settings.remove(QStringLiteral("layout/window"));
+    session.settings.remove("layout/window");
     session.start();
     QWidget *const label = session.child<QWidget>("status_notice");
     session.action("file_open")->showStatusText(&session.window);
@@ -453,18 +442,17 @@ void tst_TextEditorLayout::theNextLayoutReplacesTheDamagedOne()
     storeFavoritesAtTheLeft();
     {
         EditorSession session(settingsFile());
-        session.settings.remove(QStringLiteral("layout/window"));
+        session.settings.remove("layout/window");
         session.start();
         QVERIFY(!session.notice().isEmpty());
-        session.addToolBar(QStringLiteral("Other"), {QStringLiteral("Quit")});
+        session.addToolBar("Other", {"Quit"});
         QCOMPARE(session.notice(), QString());
         QVERIFY(session.window.close());
     }
     EditorSession session(settingsFile());
     session.start();
     QCOMPARE(session.notice(), QString());
-    QCOMPARE(standingOn(session.toolBar(QStringLiteral("Other"))),
-             QStringList{QStringLiteral("file_quit")});
+    QCOMPARE(standingOn(session.toolBar("Other")), QStringList{"file_quit"});
 }
 
 void tst_TextEditorLayout::aDamagedSettingsFileIsReported()
@@ -475,8 +463,7 @@ void tst_TextEditorLayout::aDamagedSettingsFileIsReported()
     file.close();
     EditorSession session(settingsFile());
     session.start();
-    QCOMPARE(session.notice(),
-             QStringLiteral("The settings file %1 is damaged.").arg(settingsFile()));
+    QCOMPARE(session.notice(), QString("The settings file %1 is damaged.").arg(settingsFile()));
     verifyDefaults(session);
     session.customize([](const EditorViews &, RyCustomizedDialog *dialog) { dialog->accept(); });
     QVERIFY(contentOfFile(settingsFile()).contains("[layout]"));
@@ -486,26 +473,26 @@ void tst_TextEditorLayout::aDamagedSettingsFileIsReported()
 void tst_TextEditorLayout::aSettingsFileThatCannotBeWrittenIsReported_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("is a folder") << QStringLiteral("folder");
-    QTest::newRow("is below a file") << QStringLiteral("file/settings.ini");
+    QTest::newRow("is a folder") << "folder";
+    QTest::newRow("is below a file") << "file/settings.ini";
 }
 
 void tst_TextEditorLayout::aSettingsFileThatCannotBeWrittenIsReported()
 {
     QFETCH(QString, name);
-    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
-    QFile file(m_folder->filePath(QStringLiteral("file")));
+    QVERIFY(QDir(m_folder->path()).mkdir("folder"));
+    QFile file(m_folder->filePath("file"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     const QString path = m_folder->filePath(name);
-    const QString notice = QStringLiteral("The toolbar layout cannot be stored in %1.").arg(path);
+    const QString notice = QString("The toolbar layout cannot be stored in %1.").arg(path);
 
     EditorSession session(path);
     session.start();
     QCOMPARE(session.notice(), notice);
     verifyDefaults(session);
-    session.addToolBar(QStringLiteral("Favorites"), {QStringLiteral("Quit")});
+    session.addToolBar("Favorites", {"Quit"});
     QCOMPARE(session.notice(), notice);
-    QVERIFY(session.toolBar(QStringLiteral("Favorites")));
+    QVERIFY(session.toolBar("Favorites"));
     QVERIFY(session.window.close());
 }
 

@@ -17,8 +17,8 @@ private Q_SLOTS:
     void emptyArraysAreWrittenAndRead();
     void nothingIsStoredAtFirstAndAfterClear();
     void clearLeavesOtherSettingsAlone();
-    void otherVersionsAreTold_data();
-    void otherVersionsAreTold();
+    void otherVersionsAreReported_data();
+    void otherVersionsAreReported();
     void everyChangedByteIsFound_data();
     void everyChangedByteIsFound();
     void everyTruncationIsFound_data();
@@ -30,7 +30,7 @@ protected:
     void prepare() override { m_folder.reset(new QTemporaryDir); }
 
 private:
-    QString settingsFile() const { return m_folder->filePath(QStringLiteral("settings.ini")); }
+    QString settingsFile() const { return m_folder->filePath("settings.ini"); }
     QScopedPointer<QTemporaryDir> m_folder;
 };
 
@@ -55,7 +55,7 @@ void addKeyRows()
 {
     QTest::addColumn<QString>("key");
     for (const char *key : {"layout/toolBars", "layout/window", "layout/geometry"})
-        QTest::newRow(key) << QString::fromLatin1(key);
+        QTest::newRow(key) << key;
 }
 
 } // namespace
@@ -79,7 +79,7 @@ void tst_TextEditorLayoutStore::whatWasWrittenIsReadByTheNextRun()
         LayoutStore(&settings).write(someLayout());
     }
     // Settings objects of one file share what they have read; a copy of the file has to be read.
-    const QString copy = m_folder->filePath(QStringLiteral("copy.ini"));
+    const QString copy = m_folder->filePath("copy.ini");
     QVERIFY(QFile::copy(settingsFile(), copy));
     QSettings settings(copy, QSettings::IniFormat);
     LayoutStore::Layout layout;
@@ -113,31 +113,29 @@ void tst_TextEditorLayoutStore::nothingIsStoredAtFirstAndAfterClear()
 void tst_TextEditorLayoutStore::clearLeavesOtherSettingsAlone()
 {
     QSettings settings(settingsFile(), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("layouts"), 1);
-    settings.setValue(QStringLiteral("view/wordWrap"), true);
+    settings.setValue("layouts", 1);
+    settings.setValue("view/wordWrap", true);
     LayoutStore store(&settings);
     store.write(someLayout());
     store.clear();
-    QCOMPARE(settings.allKeys(),
-             QStringList({QStringLiteral("layouts"), QStringLiteral("view/wordWrap")}));
+    QCOMPARE(settings.allKeys(), QStringList({"layouts", "view/wordWrap"}));
 }
 
-void tst_TextEditorLayoutStore::otherVersionsAreTold_data()
+void tst_TextEditorLayoutStore::otherVersionsAreReported_data()
 {
     QTest::addColumn<QVariant>("version");
     QTest::addColumn<Result>("result");
 
-    QTest::newRow("this one as text") << QVariant(QStringLiteral("1")) << Result::Read;
+    QTest::newRow("this one as text") << QVariant("1") << Result::Read;
     QTest::newRow("older") << QVariant(0) << Result::OtherVersion;
     QTest::newRow("newer") << QVariant(2) << Result::OtherVersion;
     QTest::newRow("negative") << QVariant(-1) << Result::OtherVersion;
-    QTest::newRow("text") << QVariant(QStringLiteral("one")) << Result::Damaged;
-    QTest::newRow("list") << QVariant(QStringList{QStringLiteral("1"), QStringLiteral("1")})
-                          << Result::Damaged;
+    QTest::newRow("text") << QVariant("one") << Result::Damaged;
+    QTest::newRow("list") << QVariant(QStringList{"1", "1"}) << Result::Damaged;
     QTest::newRow("missing") << QVariant() << Result::Damaged;
 }
 
-void tst_TextEditorLayoutStore::otherVersionsAreTold()
+void tst_TextEditorLayoutStore::otherVersionsAreReported()
 {
     QFETCH(QVariant, version);
     QFETCH(Result, result);
@@ -145,9 +143,9 @@ void tst_TextEditorLayoutStore::otherVersionsAreTold()
     LayoutStore store(&settings);
     store.write(someLayout());
     if (version.isValid())
-        settings.setValue(QStringLiteral("layout/version"), version);
+        settings.setValue("layout/version", version);
     else
-        settings.remove(QStringLiteral("layout/version"));
+        settings.remove("layout/version");
     LayoutStore::Layout layout;
     QVERIFY(store.read(&layout) == result);
 }
@@ -198,8 +196,8 @@ void tst_TextEditorLayoutStore::bytesThatMovedToTheNextArrayAreFound()
     QSettings settings(settingsFile(), QSettings::IniFormat);
     LayoutStore store(&settings);
     store.write({QByteArray("ab"), QByteArray("cd"), QByteArray("ef")});
-    settings.setValue(QStringLiteral("layout/toolBars"), QByteArray("a"));
-    settings.setValue(QStringLiteral("layout/window"), QByteArray("bcd"));
+    settings.setValue("layout/toolBars", QByteArray("a"));
+    settings.setValue("layout/window", QByteArray("bcd"));
     LayoutStore::Layout layout;
     QVERIFY(store.read(&layout) == Result::Damaged);
 }
@@ -209,7 +207,7 @@ void tst_TextEditorLayoutStore::aResultOtherThanReadLeavesTheLayoutAlone()
     QSettings settings(settingsFile(), QSettings::IniFormat);
     LayoutStore store(&settings);
     store.write({QByteArray("a"), QByteArray("b"), QByteArray("c")});
-    settings.setValue(QStringLiteral("layout/window"), QByteArray("x"));
+    settings.setValue("layout/window", QByteArray("x"));
     LayoutStore::Layout layout = someLayout();
     QVERIFY(store.read(&layout) == Result::Damaged);
     compare(layout, someLayout());

@@ -32,7 +32,7 @@ private:
 
 namespace {
 
-const QString Program = QStringLiteral(TEXTEDITOR_PROGRAM);
+const QString Program = TEXTEDITOR_PROGRAM;
 
 // A program that is ended when the test is.
 class Running
@@ -68,20 +68,20 @@ void tst_TextEditorProgram::argumentsAreRead_data()
     QTest::addColumn<QString>("settings");
     QTest::addColumn<bool>("reset");
     QTest::addColumn<QString>("document");
-    const QString a = QStringLiteral("a.txt");
-    const QString ini = QStringLiteral("s.ini");
-    const QString settings = QStringLiteral("--settings");
-    const QString reset = QStringLiteral("--reset-layout");
+    const QString a = "a.txt";
+    const QString ini = "s.ini";
+    const QString settings = "--settings";
+    const QString reset = "--reset-layout";
     QTest::newRow("none") << QStringList() << true << QString() << false << QString();
     QTest::newRow("document") << QStringList{a} << true << QString() << false << a;
     QTest::newRow("all") << QStringList{settings, ini, reset, a} << true << ini << true << a;
     QTest::newRow("document first") << QStringList{a, reset} << true << QString() << true << a;
     QTest::newRow("settings with equals sign")
-        << QStringList{settings + QStringLiteral("=s.ini")} << true << ini << false << QString();
+        << QStringList{settings + "=s.ini"} << true << ini << false << QString();
     QTest::newRow("settings without file")
         << QStringList{settings} << false << QString() << false << QString();
     QTest::newRow("unknown option")
-        << QStringList{QStringLiteral("--print")} << false << QString() << false << QString();
+        << QStringList{"--print"} << false << QString() << false << QString();
     QTest::newRow("two documents") << QStringList{a, ini} << false << QString() << false << a;
 }
 
@@ -93,7 +93,7 @@ void tst_TextEditorProgram::argumentsAreRead()
     QFETCH(bool, reset);
     QFETCH(QString, document);
     CommandLine commandLine;
-    QCOMPARE(commandLine.parse(QStringList{QStringLiteral("texteditor")} + arguments), isRight);
+    QCOMPARE(commandLine.parse(QStringList{"texteditor"} + arguments), isRight);
     QCOMPARE(commandLine.settingsFile(), settings);
     QCOMPARE(commandLine.resetLayout(), reset);
     QCOMPARE(commandLine.document(), document);
@@ -103,12 +103,9 @@ void tst_TextEditorProgram::helpAndVersionAreWritten_data()
 {
     QTest::addColumn<QString>("argument");
     QTest::addColumn<QStringList>("expected");
-    QTest::newRow("help") << QStringLiteral("--help")
-                          << QStringList{QStringLiteral("--settings <file>"),
-                                         QStringLiteral("--reset-layout"),
-                                         QStringLiteral("[file]")};
-    QTest::newRow("version") << QStringLiteral("--version")
-                             << QStringList{QStringLiteral("Text Editor 1.0.0")};
+    QTest::newRow("help") << "--help"
+                          << QStringList{"--settings <file>", "--reset-layout", "[file]"};
+    QTest::newRow("version") << "--version" << QStringList{"Text Editor 1.0.0"};
 }
 
 void tst_TextEditorProgram::helpAndVersionAreWritten()
@@ -127,8 +124,8 @@ void tst_TextEditorProgram::helpAndVersionAreWritten()
 void tst_TextEditorProgram::wrongArgumentsEndTheProgram_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("unknown option") << QStringList{QStringLiteral("--print")};
-    QTest::newRow("two documents") << QStringList{QStringLiteral("a"), QStringLiteral("b")};
+    QTest::newRow("unknown option") << QStringList{"--print"};
+    QTest::newRow("two documents") << QStringList{"a", "b"};
 }
 
 void tst_TextEditorProgram::wrongArgumentsEndTheProgram()
@@ -142,12 +139,12 @@ void tst_TextEditorProgram::wrongArgumentsEndTheProgram()
 
 void tst_TextEditorProgram::resetLayoutForgetsTheStoredLayout()
 {
-    const QString settings = m_folder.filePath(QStringLiteral("reset.ini"));
+    const QString settings = m_folder.filePath("reset.ini");
     QFile file(settings);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("[layout]\nversion=1\n\n[view]\nwordWrap=false\n");
     file.close();
-    Running program({QStringLiteral("--settings"), settings, QStringLiteral("--reset-layout")});
+    Running program({"--settings", settings, "--reset-layout"});
     QVERIFY(program.started);
     QTRY_VERIFY(!contentOf(settings).contains("[layout]"));
     QVERIFY(contentOf(settings).contains("wordWrap=false"));
@@ -155,12 +152,12 @@ void tst_TextEditorProgram::resetLayoutForgetsTheStoredLayout()
 
 void tst_TextEditorProgram::theDocumentIsOpened()
 {
-    const QString settings = m_folder.filePath(QStringLiteral("open.ini"));
-    const QString document = m_folder.filePath(QStringLiteral("document.txt"));
+    const QString settings = m_folder.filePath("open.ini");
+    const QString document = m_folder.filePath("document.txt");
     QFile file(document);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.close();
-    Running program({QStringLiteral("--settings"), settings, document});
+    Running program({"--settings", settings, document});
     QVERIFY(program.started);
     QTRY_VERIFY(contentOf(settings).contains("document.txt"));
 }

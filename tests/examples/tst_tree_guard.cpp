@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-#include "guardedtree.h"
-#include "bookswindow.h"
 #include "testcase.h"
 #include "texts.h"
 #include "treehistory.h"
+#include "treestage.h"
 
 #include <QAction>
 #include <QApplication>
@@ -37,15 +36,10 @@ private Q_SLOTS:
 
 namespace {
 
-struct Stage
+struct Stage : TreeStage
 {
     Stage()
-        : library(window.findChild<GuardedTree *>(QStringLiteral("library")))
-        , readingList(window.findChild<GuardedTree *>(QStringLiteral("readingList")))
-        , undo(window.findChild<QAction *>(QStringLiteral("undo")))
-        , redo(window.findChild<QAction *>(QStringLiteral("redo")))
-        , moveAcross(window.findChild<QAction *>(QStringLiteral("moveAcross")))
-        , undoStack(window.findChild<TreeHistory *>()->undoStack())
+        : moveAcross(window.findChild<QAction *>("moveAcross"))
     {
         window.show();
         QApplication::setActiveWindow(&window);
@@ -54,7 +48,7 @@ struct Stage
     // Presses an item and moves far enough for a drag, which ends at once.
     void drag(GuardedTree *tree, const char *text)
     {
-        const QPoint place = tree->visualItemRect(itemNamed(tree, QLatin1String(text))).center();
+        const QPoint place = tree->visualItemRect(itemNamed(tree, text)).center();
         QTest::mousePress(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
         QMouseEvent move(QEvent::MouseMove, place + QPoint(50, 0), Qt::NoButton, Qt::LeftButton,
                          Qt::NoModifier);
@@ -62,30 +56,8 @@ struct Stage
         QTest::mouseRelease(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
     }
 
-    BooksWindow window;
-    GuardedTree *const library;
-    GuardedTree *const readingList;
-    QAction *const undo;
-    QAction *const redo;
     QAction *const moveAcross;
-    QUndoStack *const undoStack;
 };
-
-QStringList lines(const char *text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(','));
-}
-
-QStringList libraryAtFirst()
-{
-    return lines("Novels,  Dracula,  Emma,  Moby-Dick,Poems,  Leaves of Grass,  Sonnets,Science,"
-                 "  Micrographia,  On the Origin of Species,  Opticks");
-}
-
-QStringList readingListAtFirst()
-{
-    return lines("Now,  Frankenstein,Later");
-}
 
 } // namespace
 
@@ -102,19 +74,19 @@ void tst_Tree_Guard::aRefusedMoveIsPutBack()
 {
     Stage stage;
     stage.drag(stage.library, "Emma");
-    QVERIFY(!itemNamed(stage.library, QStringLiteral("Emma")));
+    QVERIFY(!itemNamed(stage.library, "Emma"));
     QTRY_COMPARE(itemsOf(stage.library), libraryAtFirst());
     QCOMPARE(itemsOf(stage.readingList), readingListAtFirst());
     QCOMPARE(stage.window.statusBar()->currentMessage(),
-             QStringLiteral("Nothing took what you dragged, so it is back in its place."));
-    QVERIFY(itemNamed(stage.library, QStringLiteral("Novels"))->isExpanded());
+             "Nothing took what you dragged, so it is back in its place.");
+    QVERIFY(itemNamed(stage.library, "Novels")->isExpanded());
 }
 
 void tst_Tree_Guard::aRefusedMoveOfAFolderIsPutBackWhole()
 {
     Stage stage;
     stage.drag(stage.library, "Novels");
-    QVERIFY(!itemNamed(stage.library, QStringLiteral("Dracula")));
+    QVERIFY(!itemNamed(stage.library, "Dracula"));
     QTRY_COMPARE(itemsOf(stage.library), libraryAtFirst());
 }
 
@@ -132,7 +104,7 @@ void tst_Tree_Guard::whatIsPutBackIsNothingToUndo()
 void tst_Tree_Guard::aClickChangesNothing()
 {
     Stage stage;
-    const QTreeWidgetItem *const item = itemNamed(stage.library, QStringLiteral("Emma"));
+    const QTreeWidgetItem *const item = itemNamed(stage.library, "Emma");
     QTest::mouseClick(stage.library->viewport(), Qt::LeftButton, Qt::NoModifier,
                       stage.library->visualItemRect(item).center());
     QCoreApplication::processEvents();
@@ -143,7 +115,7 @@ void tst_Tree_Guard::aClickChangesNothing()
 void tst_Tree_Guard::movingAcrossTakesTheCurrentItem()
 {
     Stage stage;
-    stage.library->setCurrentItem(itemNamed(stage.library, QStringLiteral("Poems")));
+    stage.library->setCurrentItem(itemNamed(stage.library, "Poems"));
     stage.library->setFocus();
     stage.moveAcross->trigger();
     QCOMPARE(itemsOf(stage.library),
@@ -152,17 +124,17 @@ void tst_Tree_Guard::movingAcrossTakesTheCurrentItem()
     QCOMPARE(itemsOf(stage.readingList),
              lines("Now,  Frankenstein,Later,Poems,  Leaves of Grass,  Sonnets"));
 
-    stage.readingList->setCurrentItem(itemNamed(stage.readingList, QStringLiteral("Frankenstein")));
+    stage.readingList->setCurrentItem(itemNamed(stage.readingList, "Frankenstein"));
     stage.readingList->setFocus();
     stage.moveAcross->trigger();
-    QCOMPARE(itemsOf(stage.library).constLast(), QStringLiteral("Frankenstein"));
+    QCOMPARE(itemsOf(stage.library).constLast(), "Frankenstein");
     QCOMPARE(itemsOf(stage.readingList), lines("Now,Later,Poems,  Leaves of Grass,  Sonnets"));
 }
 
 void tst_Tree_Guard::movingAcrossIsUndoneAndRedone()
 {
     Stage stage;
-    stage.library->setCurrentItem(itemNamed(stage.library, QStringLiteral("Novels")));
+    stage.library->setCurrentItem(itemNamed(stage.library, "Novels"));
     stage.moveAcross->trigger();
     const QStringList library = itemsOf(stage.library);
     const QStringList readingList = itemsOf(stage.readingList);
@@ -192,9 +164,9 @@ void tst_Tree_Guard::itemsAddedAreNoLoss()
     TreeHistory *const history = stage.window.findChild<TreeHistory *>();
     QSignalSpy putBack(history, &TreeHistory::putBack);
     history->begin();
-    new QTreeWidgetItem(stage.library, {QStringLiteral("Plays")});
+    new QTreeWidgetItem(stage.library, {"Plays"});
     history->end();
-    QCOMPARE(itemsOf(stage.library).constLast(), QStringLiteral("Plays"));
+    QCOMPARE(itemsOf(stage.library).constLast(), "Plays");
     QCOMPARE(stage.undoStack->count(), 1);
     history->end(); // nothing has changed since
     QCOMPARE(stage.undoStack->count(), 1);
@@ -204,24 +176,24 @@ void tst_Tree_Guard::itemsAddedAreNoLoss()
 void tst_Tree_Guard::flagsAndIconsSurviveUndo()
 {
     Stage stage;
-    stage.library->setCurrentItem(itemNamed(stage.library, QStringLiteral("Emma")));
+    stage.library->setCurrentItem(itemNamed(stage.library, "Emma"));
     stage.moveAcross->trigger();
     stage.undo->trigger();
-    const QTreeWidgetItem *const book = itemNamed(stage.library, QStringLiteral("Emma"));
+    const QTreeWidgetItem *const book = itemNamed(stage.library, "Emma");
     QVERIFY(book);
     QVERIFY(!book->flags().testFlag(Qt::ItemIsDropEnabled));
     QVERIFY(!book->icon(0).isNull());
-    QVERIFY(itemNamed(stage.library, QStringLiteral("Novels"))->flags() & Qt::ItemIsDropEnabled);
+    QVERIFY(itemNamed(stage.library, "Novels")->flags() & Qt::ItemIsDropEnabled);
 }
 
 void tst_Tree_Guard::arrowKeysWorkInTheTree()
 {
     Stage stage;
-    stage.library->setCurrentItem(itemNamed(stage.library, QStringLiteral("Dracula")));
+    stage.library->setCurrentItem(itemNamed(stage.library, "Dracula"));
     QTest::keyClick(stage.library, Qt::Key_Down);
-    QCOMPARE(currentOf(stage.library), QStringLiteral("Emma"));
+    QCOMPARE(currentOf(stage.library), "Emma");
     QTest::keyClick(stage.library, Qt::Key_End);
-    QCOMPARE(currentOf(stage.library), QStringLiteral("Opticks"));
+    QCOMPARE(currentOf(stage.library), "Opticks");
 }
 
 void tst_Tree_Guard::theCaptionsNameTheTrees()
@@ -233,8 +205,8 @@ void tst_Tree_Guard::theCaptionsNameTheTrees()
         buddies << label->buddy();
     QVERIFY(buddies.contains(stage.library));
     QVERIFY(buddies.contains(stage.readingList));
-    QCOMPARE(stage.library->accessibleName(), QStringLiteral("Library"));
-    QCOMPARE(stage.readingList->accessibleName(), QStringLiteral("Reading List"));
+    QCOMPARE(stage.library->accessibleName(), "Library");
+    QCOMPARE(stage.readingList->accessibleName(), "Reading List");
 }
 
 QTEST_MAIN(tst_Tree_Guard)

@@ -18,22 +18,6 @@ SUBSYSTEMS = ('dialog', 'toolbarmanager', 'toolbareditor', 'ribbon')
 # Headers of functions that share a class.
 NAMED_AFTER_FUNCTIONS = ('toolbarmanager/nameindex.h',)
 
-# What Qt offers since a later version than the first one that the library has to compile with.
-NEWER_THAN_QT_5_6 = {
-    r'\bqAsConst\b': '5.7',
-    r'\b(qOverload|qConstOverload|qNonConstOverload|QOverload|QConstOverload|QNonConstOverload)\b':
-        '5.7',
-    r'\b(Q_FALLTHROUGH|Q_NAMESPACE|Q_ENUM_NS|QDeadlineTimer)\b': '5.8',
-    r'\b(qEnvironmentVariable|QRandomGenerator|QStringView|QOperatingSystemVersion)\b': '5.10',
-    r'\bchopped\(|\bisPersistentEditorOpen\(': '5.10',
-    r'\bhorizontalAdvance\(': '5.11',
-    r'\b(Q_DISABLE_COPY_MOVE|Q_DISABLE_MOVE)\b|\bswapItemsAt\(': '5.13',
-    r'\bQt::(SkipEmptyParts|KeepEmptyParts|SplitBehavior|endl|flush|hex|dec)\b': '5.14',
-    r'\bQ(List|Vector|Set|StringList|Queue|Stack)\b(<.*>)?( \w+)?[({]\S*\bc?begin\(\)': '5.14',
-    r'\bQ(Multi)?(Map|Hash)\b(<.*>)?( \w+)?\(\{': '5.14',
-    r'\bremoveIf\(': '6.1',
-}
-
 
 def tracked(*patterns):
     """The files that git keeps and that match one of the patterns."""
@@ -102,16 +86,6 @@ class Files(unittest.TestCase):
         alone = [in_repository(path) for path in sources
                  if not (path.parent / f'{path.stem.split("_")[0]}.h').exists()]
         self.assertEqual(alone, [])
-
-    def test_library_uses_nothing_newer_than_qt_5_6(self):
-        found = []
-        for path in tracked(*(f'{folder}/*.{end}' for folder in SUBSYSTEMS for end in ('h', 'cpp'))):
-            for number, line in enumerate(path.read_text().splitlines(), 1):
-                found += [f'{in_repository(path)}:{number}: since Qt {version}: {line.strip()}'
-                          for pattern, version in NEWER_THAN_QT_5_6.items()
-                          if re.search(pattern, line)]
-        self.assertEqual(found, [])
-
 
     def test_debian_package_promises_the_symbols_of_the_contract(self):
         lists = tracked('packaging/debian/*.symbols')

@@ -10,7 +10,7 @@
 
 namespace {
 
-const QString folder = QStringLiteral(":/RyCustomizedDialog/images/");
+const QString folder = ":/RyCustomizedDialog/images/";
 
 // What main() saw before it constructed anything.
 QStringList filesBeforeTheApplication;
@@ -27,9 +27,8 @@ QStringList filesBelow(const QString &path)
 
 QStringList allFiles()
 {
-    return {folder + QLatin1String("back.png"),    folder + QLatin1String("down.png"),
-            folder + QLatin1String("forward.png"), folder + QLatin1String("minus.png"),
-            folder + QLatin1String("plus.png"),    folder + QLatin1String("up.png")};
+    return {folder + "back.png",  folder + "down.png", folder + "forward.png",
+            folder + "minus.png", folder + "plus.png", folder + "up.png"};
 }
 
 QByteArray bytesOf(const QString &path)
@@ -70,7 +69,7 @@ bool hasChunk(const QList<Chunk> &chunks, const QByteArray &type)
 
 QImage imageOf(const QString &name)
 {
-    return QImage(folder + name + QLatin1String(".png")).convertToFormat(QImage::Format_ARGB32);
+    return QImage(folder + name + ".png").convertToFormat(QImage::Format_ARGB32);
 }
 
 // Opaque enough to be seen as belonging to the shape.
@@ -185,14 +184,13 @@ void tst_Icons::areThereBeforeAnythingIsConstructed()
 
 void tst_Icons::areExactlySixFiles()
 {
-    QCOMPARE(filesBelow(QStringLiteral(":/RyCustomizedDialog")), allFiles());
+    QCOMPARE(filesBelow(":/RyCustomizedDialog"), allFiles());
 }
 
 void tst_Icons::theCollectionHoldsOneFolder()
 {
     const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
-    QCOMPARE(QDir(QStringLiteral(":/RyCustomizedDialog")).entryList(all),
-             QStringList{QStringLiteral("images")});
+    QCOMPARE(QDir(":/RyCustomizedDialog").entryList(all), QStringList{"images"});
     QCOMPARE(QDir(folder).entryList(all).size(), 6);
 }
 
@@ -248,8 +246,7 @@ void tst_Icons::areTheCommittedImages_data()
 void tst_Icons::areTheCommittedImages()
 {
     QFETCH(QString, path);
-    const QString committed =
-        QStringLiteral(RY_IMAGES_DIR) + QLatin1Char('/') + QFileInfo(path).fileName();
+    const QString committed = RY_IMAGES_DIR "/" + QFileInfo(path).fileName();
     QVERIFY(QFileInfo::exists(committed));
     QCOMPARE(bytesOf(path), bytesOf(committed));
 }
@@ -261,7 +258,7 @@ void tst_Icons::havePngHeader_data()
     const auto files = allFiles();
     for (const QString &path : files) {
         const QString name = QFileInfo(path).baseName();
-        const bool palette = name == QLatin1String("plus") || name == QLatin1String("minus");
+        const bool palette = name == "plus" || name == "minus";
         QTest::newRow(qPrintable(name)) << path << (palette ? 3 : 6);
     }
 }
@@ -313,10 +310,10 @@ void tst_Icons::theArrowsAreBroad_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QSize>("size");
-    QTest::newRow("up") << QStringLiteral("up") << QSize(17, 16);
-    QTest::newRow("down") << QStringLiteral("down") << QSize(17, 16);
-    QTest::newRow("back") << QStringLiteral("back") << QSize(16, 17);
-    QTest::newRow("forward") << QStringLiteral("forward") << QSize(16, 17);
+    QTest::newRow("up") << "up" << QSize(17, 16);
+    QTest::newRow("down") << "down" << QSize(17, 16);
+    QTest::newRow("back") << "back" << QSize(16, 17);
+    QTest::newRow("forward") << "forward" << QSize(16, 17);
 }
 
 void tst_Icons::theArrowsAreBroad()
@@ -331,24 +328,23 @@ void tst_Icons::theArrowsAreBroad()
 // Narrow where it points, broad where it comes from.
 void tst_Icons::theArrowsPointTheirWay()
 {
-    const QImage up = imageOf(QStringLiteral("up"));
+    const QImage up = imageOf("up");
     QVERIFY(filledInRow(up, boundsOf(up).top()) <= 3);
     QVERIFY(filledInRow(up, boundsOf(up).bottom()) >= 7);
-    const QImage down = imageOf(QStringLiteral("down"));
+    const QImage down = imageOf("down");
     QVERIFY(filledInRow(down, boundsOf(down).bottom()) <= 3);
     QVERIFY(filledInRow(down, boundsOf(down).top()) >= 7);
-    const QImage back = imageOf(QStringLiteral("back"));
+    const QImage back = imageOf("back");
     QVERIFY(filledInColumn(back, boundsOf(back).left()) <= 3);
     QVERIFY(filledInColumn(back, boundsOf(back).right()) >= 7);
-    const QImage forward = imageOf(QStringLiteral("forward"));
+    const QImage forward = imageOf("forward");
     QVERIFY(filledInColumn(forward, boundsOf(forward).right()) <= 3);
     QVERIFY(filledInColumn(forward, boundsOf(forward).left()) >= 7);
 }
 
 void tst_Icons::theArrowsAreOliveGreenWithADarkOutline_data()
 {
-    addImages({QStringLiteral("up"), QStringLiteral("down"), QStringLiteral("back"),
-               QStringLiteral("forward")});
+    addImages({"up", "down", "back", "forward"});
 }
 
 void tst_Icons::theArrowsAreOliveGreenWithADarkOutline()
@@ -363,7 +359,7 @@ void tst_Icons::theArrowsAreOliveGreenWithADarkOutline()
 
 void tst_Icons::thePlusFillsNearlyTheSquare()
 {
-    const QRect bounds = boundsOf(imageOf(QStringLiteral("plus")));
+    const QRect bounds = boundsOf(imageOf("plus"));
     QVERIFY(bounds.width() >= 19);
     QCOMPARE(bounds.width(), bounds.height());
     QCOMPARE(bounds.left(), 21 - bounds.right());
@@ -372,7 +368,7 @@ void tst_Icons::thePlusFillsNearlyTheSquare()
 
 void tst_Icons::thePlusHasBarsOfEightPixels()
 {
-    const QImage plus = imageOf(QStringLiteral("plus"));
+    const QImage plus = imageOf("plus");
     for (int i = 2; i < 6; ++i) {
         QCOMPARE(filledInColumn(plus, i), 8);
         QCOMPARE(filledInColumn(plus, 21 - i), 8);
@@ -383,8 +379,8 @@ void tst_Icons::thePlusHasBarsOfEightPixels()
 
 void tst_Icons::theMinusIsTheHorizontalBarOfThePlus()
 {
-    const QImage plus = imageOf(QStringLiteral("plus"));
-    const QImage minus = imageOf(QStringLiteral("minus"));
+    const QImage plus = imageOf("plus");
+    const QImage minus = imageOf("minus");
     const QRect bar(boundsOf(plus).left(), 7, boundsOf(plus).width(), 8);
     QCOMPARE(boundsOf(minus), bar);
     for (int x = 0; x < 6; ++x) {
@@ -399,7 +395,7 @@ void tst_Icons::theMinusIsTheHorizontalBarOfThePlus()
 
 void tst_Icons::theSignsAreLightBlueWithADarkOutline_data()
 {
-    addImages({QStringLiteral("plus"), QStringLiteral("minus")});
+    addImages({"plus", "minus"});
 }
 
 void tst_Icons::theSignsAreLightBlueWithADarkOutline()
@@ -415,15 +411,15 @@ void tst_Icons::theSignsAreLightBlueWithADarkOutline()
 void tst_Icons::canBeUnregisteredAndRegistered()
 {
     Q_CLEANUP_RESOURCE(RyCustomizedDialog);
-    const QStringList afterCleanUp = filesBelow(QStringLiteral(":/RyCustomizedDialog"));
+    const QStringList afterCleanUp = filesBelow(":/RyCustomizedDialog");
     Q_INIT_RESOURCE(RyCustomizedDialog);
     QCOMPARE(afterCleanUp, QStringList());
-    QCOMPARE(filesBelow(QStringLiteral(":/RyCustomizedDialog")), allFiles());
+    QCOMPARE(filesBelow(":/RyCustomizedDialog"), allFiles());
 }
 
 int main(int argc, char **argv)
 {
-    filesBeforeTheApplication = filesBelow(QStringLiteral(":/RyCustomizedDialog"));
+    filesBeforeTheApplication = filesBelow(":/RyCustomizedDialog");
     QCoreApplication application(argc, argv);
     tst_Icons test;
     return QTest::qExec(&test, argc, argv);

@@ -8,11 +8,11 @@
 
 namespace {
 
-const QString icon = QStringLiteral(":/RyCustomizedDialog/images/up.png");
+const QString icon = ":/RyCustomizedDialog/images/up.png";
 
 QSet<QString> topFolders()
 {
-    const QStringList names = QDir(QStringLiteral(":/")).entryList();
+    const QStringList names = QDir(":/").entryList();
     return QSet<QString>(names.begin(), names.end());
 }
 
@@ -30,7 +30,7 @@ private Q_SLOTS:
 
 void tst_Icons_Loading::theIconsComeAndGoWithTheLibrary()
 {
-    QLibrary library(QStringLiteral(RY_LIBRARY));
+    QLibrary library(RY_LIBRARY);
     QVERIFY(!QFile::exists(icon));
     QVERIFY2(library.load(), qPrintable(library.errorString()));
     QVERIFY(QFile::exists(icon));
@@ -40,10 +40,10 @@ void tst_Icons_Loading::theIconsComeAndGoWithTheLibrary()
 
 void tst_Icons_Loading::theLibraryBringsOneCollection()
 {
-    QLibrary library(QStringLiteral(RY_LIBRARY));
+    QLibrary library(RY_LIBRARY);
     const QSet<QString> before = topFolders();
     QVERIFY2(library.load(), qPrintable(library.errorString()));
-    QCOMPARE(topFolders() - before, QSet<QString>{QStringLiteral("RyCustomizedDialog")});
+    QCOMPARE(topFolders() - before, QSet<QString>{"RyCustomizedDialog"});
     QVERIFY(library.unload());
     QCOMPARE(topFolders(), before);
 }

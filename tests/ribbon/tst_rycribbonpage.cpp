@@ -17,7 +17,6 @@ class tst_RyCRibbonPage : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void isAPage();
     void isNamedRibbon();
     void itsNameIsLookedUpAtEachCall();
     void createPageReturnsARibbonWidget();
@@ -28,26 +27,20 @@ private Q_SLOTS:
     void nothingReachesTheHost();
 };
 
-void tst_RyCRibbonPage::isAPage()
-{
-    QVERIFY((std::is_base_of_v<RyCusInterface, RyCRibbonPage>));
-    QVERIFY((std::is_constructible_v<RyCRibbonPage, RyAbstatcManager *>));
-}
-
 void tst_RyCRibbonPage::isNamedRibbon()
 {
     const RyCRibbonPage page(nullptr);
-    QCOMPARE(page.name(), QStringLiteral("Ribbon"));
+    QCOMPARE(page.name(), "Ribbon");
 }
 
 void tst_RyCRibbonPage::itsNameIsLookedUpAtEachCall()
 {
     const RyCRibbonPage page(nullptr);
     RecordingTranslator translator;
-    QCOMPARE(page.name(), QStringLiteral("translated Ribbon"));
-    QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("RyCRibbonPage: Ribbon")});
+    QCOMPARE(page.name(), "translated Ribbon");
+    QCOMPARE(translator.takeLookUps(), QStringList{"RyCRibbonPage: Ribbon"});
     page.name();
-    QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("RyCRibbonPage: Ribbon")});
+    QCOMPARE(translator.takeLookUps(), QStringList{"RyCRibbonPage: Ribbon"});
 }
 
 void tst_RyCRibbonPage::createPageReturnsARibbonWidget()
@@ -81,7 +74,7 @@ void tst_RyCRibbonPage::neverUsesItsManager()
     page.apply();
     page.RestorDefaults();
     page.finish();
-    QCOMPARE(page.name(), QStringLiteral("Ribbon"));
+    QCOMPARE(page.name(), "Ribbon");
 }
 
 void tst_RyCRibbonPage::everyButtonChangesNothing_data()
@@ -97,7 +90,7 @@ void tst_RyCRibbonPage::everyButtonChangesNothing()
     RyCRibbonPage page(nullptr);
     const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
     widget->setVisible(shown);
-    widget->findChild<QListWidget *>()->addItem(QStringLiteral("row"));
+    widget->findChild<QListWidget *>()->addItem("row");
     const QStringList before = propertiesBelow(widget.get());
     page.apply();
     page.RestorDefaults();
@@ -109,8 +102,7 @@ void tst_RyCRibbonPage::everyButtonChangesNothing()
 void tst_RyCRibbonPage::nothingReachesTheHost()
 {
     Host host;
-    QToolBar *const file =
-        host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open")}, QString());
+    QToolBar *const file = host.defaultToolBar("file", {"open"}, QString());
     host.manager.setToolBar(file, {});
     RyCRibbonPage page(&host.manager);
     const std::unique_ptr<QWidget> widget(page.createPage(nullptr));

@@ -14,18 +14,6 @@
 
 namespace {
 
-// What the widget keeps after its base.
-struct Fields
-{
-    Ui_CRibbonPage *ui;
-};
-
-const Fields &fieldsOf(const RyCRibbonWidget &widget)
-{
-    return *reinterpret_cast<const Fields *>(reinterpret_cast<const char *>(&widget)
-                                             + sizeof(QWidget));
-}
-
 // A form on a widget that nothing else was done to.
 struct PlainForm : Ui_CRibbonPage
 {
@@ -42,61 +30,17 @@ class tst_RyCRibbonWidget : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void hasAMetaObjectWithoutMembers();
-    void isCastToByItsOwnName();
-    void keepsOnlyItsForm();
-    void overridesNoVirtualFunctionOfQWidget();
     void takesAParentAndNoWindowFlags();
     void ignoresItsManager_data();
     void ignoresItsManager();
     void isTheFormAndNothingElse();
     void isNamedAfterTheForm();
-    void itsChildrenGoWithIt();
     void noSignalIsConnected();
     void aClickedButtonChangesNothing_data();
     void aClickedButtonChangesNothing();
     void aDoubleClickChangesNothing();
     void showsTheTextsOfItsButtons();
 };
-
-void tst_RyCRibbonWidget::hasAMetaObjectWithoutMembers()
-{
-    const QMetaObject &metaObject = RyCRibbonWidget::staticMetaObject;
-    QCOMPARE(metaObject.className(), "RyCRibbonWidget");
-    QCOMPARE(metaObject.superClass(), &QWidget::staticMetaObject);
-    QCOMPARE(metaObject.methodCount(), metaObject.methodOffset());
-    QCOMPARE(metaObject.propertyCount(), metaObject.propertyOffset());
-    QCOMPARE(metaObject.enumeratorCount(), metaObject.enumeratorOffset());
-    QCOMPARE(metaObject.classInfoCount(), metaObject.classInfoOffset());
-    QCOMPARE(metaObject.constructorCount(), 0);
-}
-
-void tst_RyCRibbonWidget::isCastToByItsOwnName()
-{
-    RyCRibbonWidget widget(nullptr, nullptr);
-    QCOMPARE(widget.metaObject(), &RyCRibbonWidget::staticMetaObject);
-    QCOMPARE(widget.qt_metacast("RyCRibbonWidget"), &widget);
-    QCOMPARE(widget.qt_metacast("QWidget"), static_cast<QWidget *>(&widget));
-    QVERIFY(!widget.qt_metacast("RyCToolBarWidget"));
-    QVERIFY(!widget.qt_metacast(nullptr));
-}
-
-void tst_RyCRibbonWidget::keepsOnlyItsForm()
-{
-    QCOMPARE(sizeof(RyCRibbonWidget), sizeof(QWidget) + sizeof(Fields));
-    const RyCRibbonWidget widget(nullptr, nullptr);
-    const Ui_CRibbonPage *const ui = fieldsOf(widget).ui;
-    QCOMPARE(ui->gridLayout, widget.layout());
-    QCOMPARE(ui->actionTree, widget.findChild<QTreeWidget *>());
-}
-
-void tst_RyCRibbonWidget::overridesNoVirtualFunctionOfQWidget()
-{
-    QVERIFY((std::is_same_v<decltype(&RyCRibbonWidget::setVisible), void (QWidget::*)(bool)>));
-    QVERIFY((std::is_same_v<decltype(&RyCRibbonWidget::sizeHint), QSize (QWidget::*)() const>));
-    QVERIFY(
-        (std::is_same_v<decltype(&RyCRibbonWidget::minimumSizeHint), QSize (QWidget::*)() const>));
-}
 
 void tst_RyCRibbonWidget::takesAParentAndNoWindowFlags()
 {
@@ -141,9 +85,9 @@ void tst_RyCRibbonWidget::isTheFormAndNothingElse()
     QCOMPARE(childrenOf(&widget), childrenOf(&page));
     QCOMPARE(propertiesBelow(&widget), propertiesBelow(&page));
     for (const char *name : buttonNames)
-        QVERIFY(widget.findChild<QToolButton *>(QLatin1String(name))->icon().isNull());
+        QVERIFY(widget.findChild<QToolButton *>(name)->icon().isNull());
     QCOMPARE(widget.findChild<QTreeWidget *>()->topLevelItemCount(), 0);
-    QCOMPARE(widget.findChild<QTreeWidget *>()->headerItem()->text(0), QStringLiteral("1"));
+    QCOMPARE(widget.findChild<QTreeWidget *>()->headerItem()->text(0), "1");
     QVERIFY(!widget.findChild<QTreeWidget *>()->isHeaderHidden());
     for (const QListWidget *list : widget.findChildren<QListWidget *>())
         QCOMPARE(list->count(), 0);
@@ -152,20 +96,9 @@ void tst_RyCRibbonWidget::isTheFormAndNothingElse()
 void tst_RyCRibbonWidget::isNamedAfterTheForm()
 {
     const RyCRibbonWidget widget(nullptr, nullptr);
-    QCOMPARE(widget.objectName(), QStringLiteral("CRibbonPage"));
-    QCOMPARE(widget.windowTitle(), QStringLiteral("Display"));
+    QCOMPARE(widget.objectName(), "CRibbonPage");
+    QCOMPARE(widget.windowTitle(), "Display");
     QCOMPARE(widget.size(), QSize(707, 385));
-}
-
-void tst_RyCRibbonWidget::itsChildrenGoWithIt()
-{
-    QPointer<QTreeWidget> tree;
-    {
-        const RyCRibbonWidget widget(nullptr, nullptr);
-        tree = widget.findChild<QTreeWidget *>();
-        QVERIFY(tree);
-    }
-    QVERIFY(!tree);
 }
 
 // Qt connects some signals itself, which the plain form shows too.
@@ -180,7 +113,7 @@ void tst_RyCRibbonWidget::noSignalIsConnected()
     for (int i = 0; i < children.size(); ++i)
         QCOMPARE(connectedSignals(children.at(i)), connectedSignals(plainChildren.at(i)));
     for (const char *name : buttonNames) {
-        const auto button = widget.findChild<QToolButton *>(QLatin1String(name));
+        const auto button = widget.findChild<QToolButton *>(name);
         QCOMPARE(receiversOf(button, SIGNAL(clicked())), 0);
         QCOMPARE(receiversOf(button, SIGNAL(clicked(bool))), 0);
     }
@@ -190,7 +123,7 @@ void tst_RyCRibbonWidget::aClickedButtonChangesNothing_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : buttonNames)
-        QTest::newRow(name) << QString::fromLatin1(name);
+        QTest::newRow(name) << name;
 }
 
 void tst_RyCRibbonWidget::aClickedButtonChangesNothing()
@@ -213,19 +146,18 @@ void tst_RyCRibbonWidget::aDoubleClickChangesNothing()
 {
     RyCRibbonWidget widget(nullptr, nullptr);
     QTreeWidget *const tree = widget.findChild<QTreeWidget *>();
-    QListWidget *const list = widget.findChild<QListWidget *>(QStringLiteral("toolBarList"));
-    QListWidget *const current =
-        widget.findChild<QListWidget *>(QStringLiteral("currentToolBarList"));
-    new QTreeWidgetItem(tree, QStringList{QStringLiteral("item")});
-    list->addItem(QStringLiteral("row"));
-    current->addItem(QStringLiteral("entry"));
+    QListWidget *const list = widget.findChild<QListWidget *>("toolBarList");
+    QListWidget *const current = widget.findChild<QListWidget *>("currentToolBarList");
+    new QTreeWidgetItem(tree, QStringList{"item"});
+    list->addItem("row");
+    current->addItem("entry");
     widget.show();
     tree->itemDoubleClicked(tree->topLevelItem(0), 0);
     list->setCurrentRow(0);
     current->itemDoubleClicked(current->item(0));
-    QCOMPARE(itemsOf(tree), QStringList{QStringLiteral("item")});
-    QCOMPARE(rowsOf(list), QStringList{QStringLiteral("row")});
-    QCOMPARE(rowsOf(current), QStringList{QStringLiteral("entry")});
+    QCOMPARE(itemsOf(tree), QStringList{"item"});
+    QCOMPARE(rowsOf(list), QStringList{"row"});
+    QCOMPARE(rowsOf(current), QStringList{"entry"});
 }
 
 // Without icons the buttons have nothing else to show.
@@ -234,10 +166,10 @@ void tst_RyCRibbonWidget::showsTheTextsOfItsButtons()
     RyCRibbonWidget widget(nullptr, nullptr);
     widget.show();
     for (const char *name : buttonNames) {
-        QToolButton *const button = widget.findChild<QToolButton *>(QLatin1String(name));
+        QToolButton *const button = widget.findChild<QToolButton *>(name);
         QVERIFY(button->isVisible());
         const QImage before = button->grab().toImage();
-        button->setText(QStringLiteral("M"));
+        button->setText("M");
         QVERIFY2(button->grab().toImage() != before, name);
     }
 }

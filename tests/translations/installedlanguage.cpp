@@ -8,17 +8,15 @@
 
 QStringList InstalledLanguage::all()
 {
-    return QStringLiteral(RY_LANGUAGES).split(QLatin1Char(','));
+    return QString(RY_LANGUAGES).split(',');
 }
 
 InstalledLanguage::InstalledLanguage(const QString &language, Whose whose)
-    : m_loaded(m_library.load(QLocale(language), QStringLiteral("rycustomizeddialog"),
-                              QStringLiteral("_"), QStringLiteral(RY_TRANSLATIONS_DIR)))
+    : m_loaded(m_library.load(QLocale(language), "rycustomizeddialog", "_", RY_TRANSLATIONS_DIR))
 {
     if (whose == LibraryAndQt) {
         const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-        m_loaded &=
-            m_qt.load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"), folder);
+        m_loaded &= m_qt.load(QLocale(language), "qtbase", "_", folder);
         QCoreApplication::installTranslator(&m_qt);
     }
     QCoreApplication::installTranslator(&m_library);

@@ -48,12 +48,11 @@ View helpOf(const RyCustomizedDialog &dialog)
 QList<View> viewsOfDialog()
 {
     Host host;
-    host.registered(QStringLiteral("print"), QStringLiteral("File"));
-    host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open"), QStringLiteral("|")},
-                        QStringLiteral("File"));
+    host.registered("print", "File");
+    host.defaultToolBar("file", {"open", "|"}, "File");
     RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
     dialog.show();
-    dialog.findChild<QAbstractButton *>(QStringLiteral("newButton"))->click();
+    dialog.findChild<QAbstractButton *>("newButton")->click();
     QCoreApplication::processEvents();
 
     QList<View> views{viewOf(&dialog)};
@@ -85,7 +84,7 @@ bool takePicture(const QString &language, const QDir &folder)
 {
     const InstalledLanguage installed(language, InstalledLanguage::LibraryAndQt);
     QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
-    const QString file = folder.filePath(language + QLatin1String(".png"));
+    const QString file = folder.filePath(language + ".png");
     const bool done = installed.isLoaded() && sheetOf(viewsOfDialog()).save(file);
     std::printf("%s: %s\n", qPrintable(file), done ? "written" : "FAILED");
     return done;

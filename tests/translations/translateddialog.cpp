@@ -15,17 +15,17 @@
 
 namespace {
 
-const QString first = QStringLiteral("?1");
-const QString second = QStringLiteral("?2");
+const QString first = "?1";
+const QString second = "?2";
 
 QString line(const QString &text, const QString &needs)
 {
-    return QStringLiteral("\"%1\" needs %2").arg(text, needs);
+    return QString("\"%1\" needs %2").arg(text, needs);
 }
 
 QString sizes(const QSize &wanted, const QSize &given)
 {
-    return QStringLiteral("%1x%2 in %3x%4")
+    return QString("%1x%2 in %3x%4")
         .arg(wanted.width())
         .arg(wanted.height())
         .arg(given.width())
@@ -44,7 +44,7 @@ template <typename Widget> void appendCutOff(QStringList &found, const QWidget *
             found << line(widget->text(), sizes(wanted, widget->size()));
         const QRect place(widget->mapTo(dialog, QPoint()), widget->size());
         if (!dialog->rect().contains(place))
-            found << line(widget->text(), QStringLiteral("more than the dialog"));
+            found << line(widget->text(), "more than the dialog");
     }
 }
 
@@ -55,7 +55,7 @@ void appendCutOff(QStringList &found, const QTabBar *bar)
     for (int i = 0; i < bar->count(); ++i) {
         const int wanted = bar->fontMetrics().horizontalAdvance(bar->tabText(i));
         if (wanted > bar->tabRect(i).width() || !bar->rect().contains(bar->tabRect(i)))
-            found << line(bar->tabText(i), QStringLiteral("a wider tab"));
+            found << line(bar->tabText(i), "a wider tab");
     }
 }
 
@@ -63,14 +63,14 @@ void appendCutOff(QStringList &found, const QAbstractItemView *view)
 {
     const int wanted = view->sizeHintForColumn(0);
     if (wanted > view->viewport()->width())
-        found << line(view->objectName(), QStringLiteral("a width of %1").arg(wanted));
+        found << line(view->objectName(), QString("a width of %1").arg(wanted));
 }
 
 void appendCutOff(QStringList &found, const QTreeView *view)
 {
     const int wanted = view->header()->sectionSizeHint(0);
     if (view->header()->isVisible() && wanted > view->header()->sectionSize(0))
-        found << line(view->objectName(), QStringLiteral("a header of %1").arg(wanted));
+        found << line(view->objectName(), QString("a header of %1").arg(wanted));
 }
 
 void appendTexts(QStringList &texts, const QWidget *widget)
@@ -98,7 +98,7 @@ TranslatedDialog::TranslatedDialog()
     , tabs(dialog.findChild<QTabWidget *>())
 {
     registered(second, first);
-    defaultToolBar(first, {second, QStringLiteral("|")}, first);
+    defaultToolBar(first, {second, "|"}, first);
     dialog.show();
     editor.click(editor.toolBarList, first);
 }
@@ -132,7 +132,7 @@ QStringList TranslatedDialog::texts() const
     for (const QWidget *widget : widgets)
         appendTexts(texts, widget);
     texts.removeAll(QString());
-    const QStringList ofHost{first, second, QStringLiteral("  ") + second};
+    const QStringList ofHost{first, second, "  " + second};
     for (const QString &text : ofHost)
         texts.removeAll(text);
     return texts;

@@ -13,10 +13,10 @@ TranslationFile::Message readMessage(QXmlStreamReader &reader, const QString &co
     TranslationFile::Message message;
     message.context = context;
     while (reader.readNextStartElement()) {
-        if (reader.name() == QLatin1String("source")) {
+        if (reader.name() == "source") {
             message.source = reader.readElementText();
-        } else if (reader.name() == QLatin1String("translation")) {
-            message.type = reader.attributes().value(QLatin1String("type")).toString();
+        } else if (reader.name() == "translation") {
+            message.type = reader.attributes().value("type").toString();
             message.translation = reader.readElementText();
         } else {
             reader.skipCurrentElement();
@@ -29,9 +29,9 @@ void readContext(QXmlStreamReader &reader, QList<TranslationFile::Message> *mess
 {
     QString context;
     while (reader.readNextStartElement()) {
-        if (reader.name() == QLatin1String("name"))
+        if (reader.name() == "name")
             context = reader.readElementText();
-        else if (reader.name() == QLatin1String("message"))
+        else if (reader.name() == "message")
             *messages << readMessage(reader, context);
         else
             reader.skipCurrentElement();
@@ -42,12 +42,11 @@ void readContext(QXmlStreamReader &reader, QList<TranslationFile::Message> *mess
 
 TranslationFile::TranslationFile(const QString &ofLanguage)
 {
-    QFile file(
-        QStringLiteral(RY_TRANSLATION_SOURCES_DIR "/rycustomizeddialog_%1.ts").arg(ofLanguage));
+    QFile file(QString(RY_TRANSLATION_SOURCES_DIR "/rycustomizeddialog_%1.ts").arg(ofLanguage));
     QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
     QXmlStreamReader reader(&file);
     QVERIFY(reader.readNextStartElement());
-    language = reader.attributes().value(QLatin1String("language")).toString();
+    language = reader.attributes().value("language").toString();
     while (reader.readNextStartElement())
         readContext(reader, &messages);
     QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
@@ -57,7 +56,7 @@ QStringList TranslationFile::keys() const
 {
     QStringList keys;
     for (const Message &message : messages)
-        keys << message.context + QLatin1String(": ") + message.source;
+        keys << message.context + ": " + message.source;
     return keys;
 }
 

@@ -13,21 +13,21 @@
 namespace {
 
 // What a translation may share with its source: signs, and words that the languages share.
-const QStringList signs{QStringLiteral("->"), QStringLiteral("1"), QStringLiteral("<-")};
+const QStringList signs{"->", "1", "<-"};
 const QMap<QString, QStringList> sharedWords{
-    {QStringLiteral("fr"), {QStringLiteral("Actions"), QStringLiteral("Options")}},
-    {QStringLiteral("pl"), {QStringLiteral("< S E P A R A T O R >")}},
+    {"fr", {"Actions", "Options"}},
+    {"pl", {"< S E P A R A T O R >"}},
 };
 
 // Letters that a text of the language must not have: those of another alphabet look alike.
 const QMap<QString, QString> foreignLetters{
-    {QStringLiteral("ar"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Hebrew}]")},
-    {QStringLiteral("he"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Arabic}]")},
-    {QStringLiteral("ja"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Hangul}]")},
-    {QStringLiteral("ko"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Han}\\p{Katakana}]")},
-    {QStringLiteral("ru"), QStringLiteral("[A-Za-zіїєґІЇЄҐ]")},
-    {QStringLiteral("uk"), QStringLiteral("[A-Za-zыэёъЫЭЁЪ]")},
-    {QStringLiteral("zh_CN"), QStringLiteral("[A-Za-z\\p{Cyrillic}\\p{Hangul}\\p{Katakana}]")},
+    {"ar", "[A-Za-z\\p{Cyrillic}\\p{Hebrew}]"},
+    {"he", "[A-Za-z\\p{Cyrillic}\\p{Arabic}]"},
+    {"ja", "[A-Za-z\\p{Cyrillic}\\p{Hangul}]"},
+    {"ko", "[A-Za-z\\p{Cyrillic}\\p{Han}\\p{Katakana}]"},
+    {"ru", "[A-Za-zіїєґІЇЄҐ]"},
+    {"uk", "[A-Za-zыэёъЫЭЁЪ]"},
+    {"zh_CN", "[A-Za-z\\p{Cyrillic}\\p{Hangul}\\p{Katakana}]"},
 };
 
 QStringList namesWith(const char *ending)
@@ -35,14 +35,14 @@ QStringList namesWith(const char *ending)
     QStringList names;
     const auto languages = InstalledLanguage::all();
     for (const QString &language : languages)
-        names << QStringLiteral("rycustomizeddialog_%1.%2").arg(language, QLatin1String(ending));
+        names << QString("rycustomizeddialog_%1.%2").arg(language, QString(ending));
     names.sort();
     return names;
 }
 
 bool endsLikeEllipsis(const QString &text)
 {
-    return text.endsWith(QLatin1String("...")) || text.endsWith(QChar(0x2026));
+    return text.endsWith("...") || text.endsWith(QChar(0x2026));
 }
 
 // No stray blanks, and as many accelerators and placeholders as the source, and an ellipsis if it
@@ -51,17 +51,16 @@ bool hasFormOfSource(const TranslationFile::Message &message)
 {
     const QString text = message.translation;
     const auto sameCount = [&message](char sign) {
-        return message.translation.count(QLatin1Char(sign))
-            == message.source.count(QLatin1Char(sign));
+        return message.translation.count(sign) == message.source.count(sign);
     };
-    return text == text.trimmed() && !text.contains(QLatin1String("  ")) && sameCount('&')
-        && sameCount('%') && endsLikeEllipsis(text) == endsLikeEllipsis(message.source);
+    return text == text.trimmed() && !text.contains("  ") && sameCount('&') && sameCount('%')
+        && endsLikeEllipsis(text) == endsLikeEllipsis(message.source);
 }
 
-// How a translation is told in a failure.
-QString told(const TranslationFile::Message &message)
+// How a failure shows a translation.
+QString described(const TranslationFile::Message &message)
 {
-    return QStringLiteral("%1: %2 = %3").arg(message.context, message.source, message.translation);
+    return QString("%1: %2 = %3").arg(message.context, message.source, message.translation);
 }
 
 } // namespace
@@ -104,18 +103,18 @@ void tst_Translations::addLanguages()
 {
     QTest::addColumn<QString>("language");
     auto languages = InstalledLanguage::all();
-    languages.removeAll(QStringLiteral("en"));
+    languages.removeAll("en");
     for (const QString &language : qAsConst(languages))
         QTest::newRow(qPrintable(language)) << language;
 }
 
 void tst_Translations::everyFileIsBuilt()
 {
-    const QDir sources(QStringLiteral(RY_TRANSLATION_SOURCES_DIR));
-    QCOMPARE(sources.entryList({QStringLiteral("*.ts")}), namesWith("ts"));
+    const QDir sources(RY_TRANSLATION_SOURCES_DIR);
+    QCOMPARE(sources.entryList({"*.ts"}), namesWith("ts"));
     const auto compiled = namesWith("qm");
     for (const QString &name : compiled)
-        QVERIFY2(QDir(QStringLiteral(RY_TRANSLATIONS_DIR)).exists(name), qPrintable(name));
+        QVERIFY2(QDir(RY_TRANSLATIONS_DIR).exists(name), qPrintable(name));
 }
 
 void tst_Translations::theEnglishFileListsWhatTheLibraryLooksUp()
@@ -127,17 +126,17 @@ void tst_Translations::theEnglishFileListsWhatTheLibraryLooksUp()
     QStringList lookedUp = translator.takeLookUps();
     lookedUp.removeDuplicates();
     lookedUp.sort();
-    QStringList listed = TranslationFile(QStringLiteral("en")).keys();
+    QStringList listed = TranslationFile("en").keys();
     listed.sort();
     QCOMPARE(listed, lookedUp);
 }
 
 void tst_Translations::theEnglishFileTranslatesNothing()
 {
-    const TranslationFile file(QStringLiteral("en"));
+    const TranslationFile file("en");
     for (const auto &message : file.messages)
         QCOMPARE(message.translation, QString());
-    const InstalledLanguage language(QStringLiteral("en"));
+    const InstalledLanguage language("en");
     QVERIFY(language.isLoaded());
     QVERIFY(language.library().isEmpty());
 }
@@ -147,10 +146,10 @@ void tst_Translations::everyMessageIsFinished()
     QFETCH(QString, language);
     const TranslationFile file(language);
     QCOMPARE(file.language, language);
-    QCOMPARE(file.keys(), TranslationFile(QStringLiteral("en")).keys());
+    QCOMPARE(file.keys(), TranslationFile("en").keys());
     for (const auto &message : file.messages) {
         const bool finished = message.type.isEmpty() && !message.translation.isEmpty();
-        QVERIFY2(finished, qPrintable(told(message)));
+        QVERIFY2(finished, qPrintable(described(message)));
     }
 }
 
@@ -173,7 +172,7 @@ void tst_Translations::blanksAcceleratorsAndEllipsesAreThoseOfTheSource()
     QFETCH(QString, language);
     const TranslationFile file(language);
     for (const auto &message : file.messages)
-        QVERIFY2(hasFormOfSource(message), qPrintable(told(message)));
+        QVERIFY2(hasFormOfSource(message), qPrintable(described(message)));
 }
 
 // The separator's entry comes first among the categories because of its "<".
@@ -181,18 +180,17 @@ void tst_Translations::signsAndNamesAreKept()
 {
     QFETCH(QString, language);
     const auto translations = TranslationFile(language).bySource();
-    const QString separator = translations.value(QStringLiteral("< S E P A R A T O R >"));
-    const bool bracketed =
-        separator.startsWith(QLatin1String("< ")) && separator.endsWith(QLatin1String(" >"));
+    const QString separator = translations.value("< S E P A R A T O R >");
+    const bool bracketed = separator.startsWith("< ") && separator.endsWith(" >");
     QVERIFY2(bracketed && separator == separator.toUpper(), qPrintable(separator));
-    const QString help = translations.value(QStringLiteral("KORVA help  doc!"));
-    QVERIFY2(help.contains(QLatin1String("KORVA")), qPrintable(help));
+    const QString help = translations.value("KORVA help  doc!");
+    QVERIFY2(help.contains("KORVA"), qPrintable(help));
 }
 
 void tst_Translations::lettersAreThoseOfTheLanguage()
 {
     QFETCH(QString, language);
-    QString foreign = QStringLiteral("[\\p{Cyrillic}\\p{Greek}\\p{Arabic}\\p{Hebrew}\\p{Han}]");
+    QString foreign = "[\\p{Cyrillic}\\p{Greek}\\p{Arabic}\\p{Hebrew}\\p{Han}]";
     if (foreignLetters.contains(language))
         foreign = foreignLetters.value(language);
     const QRegularExpression letters(foreign);
@@ -200,8 +198,8 @@ void tst_Translations::lettersAreThoseOfTheLanguage()
     const TranslationFile file(language);
     for (const auto &message : file.messages) {
         QString text = message.translation;
-        text.remove(QLatin1String("KORVA"));
-        QVERIFY2(!text.contains(letters), qPrintable(told(message)));
+        text.remove("KORVA");
+        QVERIFY2(!text.contains(letters), qPrintable(described(message)));
     }
 }
 
@@ -220,8 +218,8 @@ void tst_Translations::differentTextsOfAPageStayDifferent()
     QMap<QString, QString> sources;
     const TranslationFile file(language);
     for (const auto &message : file.messages) {
-        const QString key = message.context + QLatin1String(": ") + message.translation;
-        QVERIFY2(!sources.contains(key), qPrintable(told(message)));
+        const QString key = message.context + ": " + message.translation;
+        QVERIFY2(!sources.contains(key), qPrintable(described(message)));
         sources.insert(key, message.source);
     }
 }
@@ -234,17 +232,17 @@ void tst_Translations::qtLoadsEachByItsLocale_data()
     for (const QString &language : languages)
         QTest::newRow(qPrintable(language)) << language << language;
     const QMap<QString, QString> others{
-        {QStringLiteral("ar_EG"), QStringLiteral("ar")},
-        {QStringLiteral("de_AT"), QStringLiteral("de")},
-        {QStringLiteral("en_US"), QStringLiteral("en")},
-        {QStringLiteral("es_MX"), QStringLiteral("es")},
-        {QStringLiteral("fr_CA"), QStringLiteral("fr")},
-        {QStringLiteral("he_IL"), QStringLiteral("he")},
-        {QStringLiteral("ja_JP"), QStringLiteral("ja")},
+        {"ar_EG", "ar"},
+        {"de_AT", "de"},
+        {"en_US", "en"},
+        {"es_MX", "es"},
+        {"fr_CA", "fr"},
+        {"he_IL", "he"},
+        {"ja_JP", "ja"},
         // Brazil's Portuguese and China's characters are not everybody's.
-        {QStringLiteral("pt_PT"), QString()},
-        {QStringLiteral("zh_TW"), QString()},
-        {QStringLiteral("nl_NL"), QString()},
+        {"pt_PT", QString()},
+        {"zh_TW", QString()},
+        {"nl_NL", QString()},
     };
     for (auto it = others.cbegin(); it != others.cend(); ++it)
         QTest::newRow(qPrintable(it.key())) << it.key() << it.value();
@@ -256,7 +254,7 @@ void tst_Translations::qtLoadsEachByItsLocale()
     QFETCH(QString, language);
     const InstalledLanguage installed(locale);
     QCOMPARE(installed.isLoaded(), !language.isEmpty());
-    const QString file = QStringLiteral("rycustomizeddialog_%1.qm").arg(language);
+    const QString file = QString("rycustomizeddialog_%1.qm").arg(language);
     QCOMPARE(QFileInfo(installed.library().filePath()).fileName(),
              language.isEmpty() ? QString() : file);
 }

@@ -25,7 +25,7 @@ QStringList buttonTexts(const QDialog &dialog)
     QStringList texts;
     const auto buttons = dialog.findChild<QDialogButtonBox *>()->buttons();
     for (const QAbstractButton *button : buttons)
-        texts << button->text().remove(QLatin1Char('&'));
+        texts << button->text().remove('&');
     return texts;
 }
 
@@ -77,7 +77,7 @@ void tst_Translations_Dialog::theDialogShowsEachTranslation()
     const auto english = shownTexts();
     for (const QString &text : english) {
         QVERIFY2(translations.contains(text), qPrintable(text));
-        expected << (language == QLatin1String("en") ? text : translations.value(text));
+        expected << (language == "en" ? text : translations.value(text));
     }
     const InstalledLanguage installed(language);
     QStringList shown = shownTexts();
@@ -103,7 +103,7 @@ void tst_Translations_Dialog::nothingIsCutOff_data()
     const auto languages = InstalledLanguage::all();
     for (const QString &language : languages) {
         QTest::newRow(qPrintable(language)) << language << InstalledLanguage::Library;
-        QTest::newRow(qPrintable(language + QLatin1String(" with Qt's")))
+        QTest::newRow(qPrintable(language + " with Qt's"))
             << language << InstalledLanguage::LibraryAndQt;
     }
 }
@@ -135,8 +135,8 @@ void tst_Translations_Dialog::qtTranslatesTheButtons()
     QVERIFY(installed.isLoaded());
     const QStringList translated = buttonTexts(TranslatedDialog().dialog);
     for (int i = 0; i < english.size(); ++i) {
-        if (english.at(i) != QLatin1String("OK")) {
-            QCOMPARE(translated.at(i) == english.at(i), language == QLatin1String("en"));
+        if (english.at(i) != "OK") {
+            QCOMPARE(translated.at(i) == english.at(i), language == "en");
         }
     }
 }

@@ -3,22 +3,22 @@
 """Prints one part of the binary contract as text, for tools/check-abi.sh.
 
 usage: describe.py symbols LIBRARY    the exported symbols
-       describe.py vtables LIBRARY    the virtual functions of each exported class, in their order
+       describe.py metaobjects        the signals and slots of each exported class, in their order
        describe.py layouts FLAGS...   the bases and fields of each exported class and where they lie,
                                       by Clang with these compiler flags
 """
 
+import json
 import re
 import subprocess
 import sys
+import tempfile
 from pathlib import Path
 
 SOURCE_DIR = Path(__file__).resolve().parents[3]
 
 # The constructor for whole objects of an abstract class: nobody can call it, and only GCC emits it.
 NOT_IN_EVERY_BUILD = {'_ZN14RyCusInterfaceC1Ev'}
-
-PURE = '__cxa_pure_virtual'
 
 
 def output_of(*command, text=None):
@@ -31,8 +31,11 @@ def demangled(names):
 
 
 def exported_classes():
+    """The header of each class, by name."""
     listed = (SOURCE_DIR / 'cmake' / 'RyHeaders.cmake').read_text()
-    return sorted(re.findall(r'^    \w+/(Ry\w+)', listed, re.MULTILINE))
+    found = re.findall(r'^    (\w+)/(Ry\w+)', listed, re.MULTILINE)
+    return {name: SOURCE_DIR / folder / f'{name.lower()}.h'
+            for folder, name in sorted(found, key=lambda entry: entry[1])}
 
 
 def symbols(library):
@@ -42,30 +45,32 @@ def symbols(library):
         print(name, meaning)
 
 
-def vtables(library):
-    """Reads the tables from the library itself: each place is a relocation."""
-    tables = {}
-    for line in output_of('nm', '-D', '--defined-only', '--format=posix', library).splitlines():
-        name, _, address, size = (line.split() + ['0'])[:4]
-        if name.startswith('_ZTV'):
-            tables[name] = range(int(address, 16), int(address, 16) + int(size, 16))
-    targets = {}
-    for line in output_of('readelf', '-rW', library).splitlines():
-        found = re.match(r'([0-9a-f]{16}) +\S+ +R_X86_64_64 +\S+ +([^@\s]+)\S* \+ 0$', line)
-        if found:
-            targets[int(found.group(1), 16)] = found.group(2)
-    for table, places in sorted(tables.items()):
-        names = [targets.get(address, '(offset)') for address in places[::8]]
-        # The first two are the offset of the object and its type.
-        names = [name_in_abstract(name) for name in names[2:]] if PURE in names else names[2:]
-        print(demangled([table])[0])
-        for place, meaning in enumerate(demangled(names)):
-            print(f'  {place} {meaning}')
+def metaobjects():
+    """Compiled hosts know signals and slots by their places in these lists."""
+    for header in exported_classes().values():
+        for meta in described_by_moc(header):
+            print(meta['className'], 'after', meta['superClasses'][0]['name'])
+            for kind in ('constructors', 'signals', 'slots', 'methods'):
+                for method in meta.get(kind, []):
+                    print(f'  {kind} {signature(method)}')
+            for kind in ('properties', 'enums', 'classInfos'):
+                for entry in meta.get(kind, []):
+                    print(f'  {kind} {entry["name"]}')
 
 
-def name_in_abstract(name):
-    """In the table of an abstract class, GCC leaves the places of the destructor empty."""
-    return name if name == PURE else '(destructor)'
+def described_by_moc(header):
+    moc = output_of('pkg-config', '--variable=host_bins', 'Qt5Core').strip() + '/moc'
+    with tempfile.TemporaryDirectory() as folder:
+        output_of(moc, '--no-notes', '--output-json', header, '-o', f'{folder}/moc')
+        # Empty for a class without a meta-object.
+        text = Path(folder, 'moc.json').read_text()
+    return json.loads(text)['classes'] if text else []
+
+
+def signature(method):
+    arguments = ', '.join(f'{argument["type"]} {argument.get("name", "")}'.rstrip()
+                          for argument in method.get('arguments', []))
+    return f'{method["access"]} {method["returnType"]} {method["name"]}({arguments})'
 
 
 def layouts(*flags):
@@ -87,4 +92,4 @@ def layouts(*flags):
 
 
 if __name__ == '__main__':
-    {'symbols': symbols, 'vtables': vtables, 'layouts': layouts}[sys.argv[1]](*sys.argv[2:])
+    {'symbols': symbols, 'metaobjects': metaobjects, 'layouts': layouts}[sys.argv[1]](*sys.argv[2:])

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Tells since when there is what uses.py prints.
+"""Says since which Qt there is what uses.py prints.
 
 usage: since.py lookup PAGES LIST <USES   looks it up in Qt's documentation and prints a new list
        since.py check LIST <USES          fails for what is not in the list or newer than Qt 5.6

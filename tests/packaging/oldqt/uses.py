@@ -6,7 +6,7 @@ their parameters, values, macros, and signatures in SIGNAL().
 usage: uses.py FOLDER... -- SOURCE... -- COMPILER-FLAGS...
 
 Counted is what stands in files below the folders. libclang reads the sources, so that overloads are
-told apart; in templates it cannot tell which class a function belongs to and calls the class "?".
+distinct; in templates it cannot know which class a function belongs to and calls the class "?".
 """
 
 import os

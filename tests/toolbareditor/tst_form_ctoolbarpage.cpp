@@ -133,7 +133,7 @@ bool showsItsText(QToolButton *button)
 
 } // namespace
 
-class tst_CToolBarPage : public TestCase
+class tst_Form_CToolBarPage : public TestCase
 {
     Q_OBJECT
 
@@ -180,7 +180,7 @@ private Q_SLOTS:
     void retranslatingLeavesTheIcons();
 };
 
-void tst_CToolBarPage::theFieldsStandInOrder()
+void tst_Form_CToolBarPage::theFieldsStandInOrder()
 {
     const QList<size_t> offsets{
         offsetof(Ui_CToolBarPage, gridLayout),         offsetof(Ui_CToolBarPage, label),
@@ -198,21 +198,21 @@ void tst_CToolBarPage::theFieldsStandInOrder()
     QCOMPARE(sizeof(Ui_CToolBarPage), offsets.size() * sizeof(void *));
 }
 
-void tst_CToolBarPage::isAPlainClass()
+void tst_Form_CToolBarPage::isAPlainClass()
 {
     QVERIFY(std::is_standard_layout_v<Ui_CToolBarPage>);
     QVERIFY(!std::is_polymorphic_v<Ui_CToolBarPage>);
     QVERIFY(std::is_trivially_destructible_v<Ui_CToolBarPage>);
 }
 
-void tst_CToolBarPage::anUnnamedPageIsNamed()
+void tst_Form_CToolBarPage::anUnnamedPageIsNamed()
 {
     QWidget page;
     const Form form(&page);
     QCOMPARE(page.objectName(), QStringLiteral("CToolBarPage"));
 }
 
-void tst_CToolBarPage::aNamedPageKeepsItsName()
+void tst_Form_CToolBarPage::aNamedPageKeepsItsName()
 {
     QWidget page;
     page.setObjectName(QStringLiteral("mine"));
@@ -220,14 +220,14 @@ void tst_CToolBarPage::aNamedPageKeepsItsName()
     QCOMPARE(page.objectName(), QStringLiteral("mine"));
 }
 
-void tst_CToolBarPage::thePageIsResized()
+void tst_Form_CToolBarPage::thePageIsResized()
 {
     QWidget page;
     const Form form(&page);
     QCOMPARE(page.size(), QSize(707, 385));
 }
 
-void tst_CToolBarPage::theMembersAreNamedAfterThemselves()
+void tst_Form_CToolBarPage::theMembersAreNamedAfterThemselves()
 {
     QWidget page;
     const Form form(&page);
@@ -250,7 +250,7 @@ void tst_CToolBarPage::theMembersAreNamedAfterThemselves()
 }
 
 // The class names are exact: the tree is a plain one, without drag and drop.
-void tst_CToolBarPage::theWidgetsAreCreatedInOrder()
+void tst_Form_CToolBarPage::theWidgetsAreCreatedInOrder()
 {
     QWidget page;
     const Form form(&page);
@@ -276,7 +276,7 @@ void tst_CToolBarPage::theWidgetsAreCreatedInOrder()
     QCOMPARE(childrenOf(form.gridLayout), layouts);
 }
 
-void tst_CToolBarPage::tabPassesTheWidgetsInOrder()
+void tst_Form_CToolBarPage::tabPassesTheWidgetsInOrder()
 {
     QWidget page;
     const Form form(&page);
@@ -298,7 +298,7 @@ void tst_CToolBarPage::tabPassesTheWidgetsInOrder()
     QCOMPARE(focusChainOf(&page), expected);
 }
 
-void tst_CToolBarPage::thePageOwnsEverything()
+void tst_Form_CToolBarPage::thePageOwnsEverything()
 {
     QPointer<QLayout> layout;
     QPointer<QTreeWidget> tree;
@@ -316,7 +316,7 @@ void tst_CToolBarPage::thePageOwnsEverything()
     QVERIFY(!tree);
 }
 
-void tst_CToolBarPage::theGridHasTheseCells()
+void tst_Form_CToolBarPage::theGridHasTheseCells()
 {
     QWidget page;
     const Form form(&page);
@@ -333,7 +333,7 @@ void tst_CToolBarPage::theGridHasTheseCells()
     QCOMPARE(cellsOf(form.gridLayout), expected);
 }
 
-void tst_CToolBarPage::theCaptionRowHoldsTheseItems()
+void tst_Form_CToolBarPage::theCaptionRowHoldsTheseItems()
 {
     QWidget page;
     const Form form(&page);
@@ -343,7 +343,7 @@ void tst_CToolBarPage::theCaptionRowHoldsTheseItems()
     QCOMPARE(form.horizontalLayout->direction(), QBoxLayout::LeftToRight);
 }
 
-void tst_CToolBarPage::theButtonColumnHoldsTheseItems()
+void tst_Form_CToolBarPage::theButtonColumnHoldsTheseItems()
 {
     QWidget page;
     const Form form(&page);
@@ -354,7 +354,7 @@ void tst_CToolBarPage::theButtonColumnHoldsTheseItems()
     QCOMPARE(form.verticalLayout->direction(), QBoxLayout::TopToBottom);
 }
 
-void tst_CToolBarPage::theStylesMarginsAndSpacingsApply()
+void tst_Form_CToolBarPage::theStylesMarginsAndSpacingsApply()
 {
     LayoutStyle style;
     QWidget page;
@@ -370,7 +370,7 @@ void tst_CToolBarPage::theStylesMarginsAndSpacingsApply()
     }
 }
 
-void tst_CToolBarPage::noRowOrColumnIsStretched()
+void tst_Form_CToolBarPage::noRowOrColumnIsStretched()
 {
     QWidget page;
     const Form form(&page);
@@ -386,7 +386,7 @@ void tst_CToolBarPage::noRowOrColumnIsStretched()
     }
 }
 
-void tst_CToolBarPage::theActionButtonsHaveAFixedHeight()
+void tst_Form_CToolBarPage::theActionButtonsHaveAFixedHeight()
 {
     QWidget page;
     const Form form(&page);
@@ -397,7 +397,7 @@ void tst_CToolBarPage::theActionButtonsHaveAFixedHeight()
     }
 }
 
-void tst_CToolBarPage::theCaptionButtonsKeepTheirPolicies()
+void tst_Form_CToolBarPage::theCaptionButtonsKeepTheirPolicies()
 {
     QWidget page;
     const Form form(&page);
@@ -407,14 +407,14 @@ void tst_CToolBarPage::theCaptionButtonsKeepTheirPolicies()
     QCOMPARE(form.renameButton->sizePolicy(), policy);
 }
 
-void tst_CToolBarPage::theSpacerMemberIsTheLastItem()
+void tst_Form_CToolBarPage::theSpacerMemberIsTheLastItem()
 {
     QWidget page;
     const Form form(&page);
     QCOMPARE(form.verticalLayout->itemAt(4), form.verticalSpacer);
 }
 
-void tst_CToolBarPage::theActionButtonsStayAtTheTop()
+void tst_Form_CToolBarPage::theActionButtonsStayAtTheTop()
 {
     QWidget page;
     const Form form(&page);
@@ -433,7 +433,7 @@ void tst_CToolBarPage::theActionButtonsStayAtTheTop()
 }
 
 // Neither sizes nor styles, selections, drags, headers, sorting, status tips or help.
-void tst_CToolBarPage::nothingElseIsSet()
+void tst_Form_CToolBarPage::nothingElseIsSet()
 {
     QWidget page;
     const Form form(&page);
@@ -458,7 +458,7 @@ void tst_CToolBarPage::nothingElseIsSet()
     QCOMPARE(differingProperties(&page, &fresh), ofPage);
 }
 
-void tst_CToolBarPage::nothingIsFilled()
+void tst_Form_CToolBarPage::nothingIsFilled()
 {
     QWidget page;
     const Form form(&page);
@@ -469,14 +469,14 @@ void tst_CToolBarPage::nothingIsFilled()
         QVERIFY(button->icon().isNull());
 }
 
-void tst_CToolBarPage::theTextsAreThese()
+void tst_Form_CToolBarPage::theTextsAreThese()
 {
     QWidget page;
     const Form form(&page);
     QCOMPARE(form.texts(&page), sourceTexts);
 }
 
-void tst_CToolBarPage::theTextsAreLookedUpInOrder()
+void tst_Form_CToolBarPage::theTextsAreLookedUpInOrder()
 {
     RecordingTranslator translator;
     QWidget page;
@@ -487,7 +487,7 @@ void tst_CToolBarPage::theTextsAreLookedUpInOrder()
     QCOMPARE(translator.takeLookUps(), expected);
 }
 
-void tst_CToolBarPage::everyTextPassesThroughTranslation()
+void tst_Form_CToolBarPage::everyTextPassesThroughTranslation()
 {
     RecordingTranslator translator;
     QWidget page;
@@ -495,7 +495,7 @@ void tst_CToolBarPage::everyTextPassesThroughTranslation()
     QCOMPARE(form.texts(&page), prefixed(QStringLiteral("translated "), sourceTexts));
 }
 
-void tst_CToolBarPage::retranslatingResetsTheTexts()
+void tst_Form_CToolBarPage::retranslatingResetsTheTexts()
 {
     QWidget page;
     Form form(&page);
@@ -512,7 +512,7 @@ void tst_CToolBarPage::retranslatingResetsTheTexts()
     QCOMPARE(form.texts(&page), sourceTexts);
 }
 
-void tst_CToolBarPage::retranslatingTouchesNothingElse()
+void tst_Form_CToolBarPage::retranslatingTouchesNothingElse()
 {
     QWidget page;
     Form form(&page);
@@ -533,7 +533,7 @@ void tst_CToolBarPage::retranslatingTouchesNothingElse()
     QCOMPARE(form.actionTree->topLevelItemCount(), 1);
 }
 
-void tst_CToolBarPage::slotsAreConnectedByNameInTheEnd()
+void tst_Form_CToolBarPage::slotsAreConnectedByNameInTheEnd()
 {
     ListeningPage page;
     page.setObjectName(QStringLiteral("listening"));
@@ -545,14 +545,14 @@ void tst_CToolBarPage::slotsAreConnectedByNameInTheEnd()
     QCOMPARE(page.titleChanges, 1);
 }
 
-void tst_CToolBarPage::theEditorHasNoSlotToConnectByName()
+void tst_Form_CToolBarPage::theEditorHasNoSlotToConnectByName()
 {
     const QMetaObject &metaObject = RyCToolBarWidget::staticMetaObject;
     for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)
         QVERIFY2(!metaObject.method(i).name().startsWith("on_"), metaObject.method(i).name());
 }
 
-void tst_CToolBarPage::theEditorHidesTheHeader()
+void tst_Form_CToolBarPage::theEditorHidesTheHeader()
 {
     RyToolBarManager manager;
     RyCToolBarWidget editor(nullptr, &manager, Qt::WindowFlags());
@@ -563,7 +563,7 @@ void tst_CToolBarPage::theEditorHidesTheHeader()
     QVERIFY(!tree->header()->isVisible());
 }
 
-void tst_CToolBarPage::theEditorSetsTheIcons_data()
+void tst_Form_CToolBarPage::theEditorSetsTheIcons_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("image");
@@ -575,7 +575,7 @@ void tst_CToolBarPage::theEditorSetsTheIcons_data()
     QTest::newRow("remove") << QStringLiteral("removeButton") << QStringLiteral("minus");
 }
 
-void tst_CToolBarPage::theEditorSetsTheIcons()
+void tst_Form_CToolBarPage::theEditorSetsTheIcons()
 {
     QFETCH(QString, button);
     QFETCH(QString, image);
@@ -586,7 +586,7 @@ void tst_CToolBarPage::theEditorSetsTheIcons()
     QCOMPARE(icon.availableSizes(), QList<QSize>{QSize(22, 22)});
 }
 
-void tst_CToolBarPage::theEditorMakesItsIconsAnew()
+void tst_Form_CToolBarPage::theEditorMakesItsIconsAnew()
 {
     const RyCToolBarWidget first(nullptr, nullptr, Qt::WindowFlags());
     const RyCToolBarWidget second(nullptr, nullptr, Qt::WindowFlags());
@@ -595,14 +595,14 @@ void tst_CToolBarPage::theEditorMakesItsIconsAnew()
             != second.findChild<QToolButton *>(name)->icon().cacheKey());
 }
 
-void tst_CToolBarPage::renameHasNoIcon()
+void tst_Form_CToolBarPage::renameHasNoIcon()
 {
     const RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
     const auto button = editor.findChild<QToolButton *>(QStringLiteral("renameButton"));
     QVERIFY(button->icon().isNull());
 }
 
-void tst_CToolBarPage::onlyRenameShowsItsText()
+void tst_Form_CToolBarPage::onlyRenameShowsItsText()
 {
     RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
     editor.show();
@@ -614,7 +614,7 @@ void tst_CToolBarPage::onlyRenameShowsItsText()
     QCOMPARE(showing, QStringList{QStringLiteral("renameButton")});
 }
 
-void tst_CToolBarPage::theIconsAreShownAtTheStylesSize()
+void tst_Form_CToolBarPage::theIconsAreShownAtTheStylesSize()
 {
     const RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
     const auto buttons =
@@ -626,7 +626,7 @@ void tst_CToolBarPage::theIconsAreShownAtTheStylesSize()
     }
 }
 
-void tst_CToolBarPage::theEditorChangesNothingElseOfTheForm()
+void tst_Form_CToolBarPage::theEditorChangesNothingElseOfTheForm()
 {
     QWidget page;
     const Form form(&page);
@@ -647,7 +647,7 @@ void tst_CToolBarPage::theEditorChangesNothingElseOfTheForm()
              QStringList{QStringLiteral("headerHidden")});
 }
 
-void tst_CToolBarPage::retranslatingLeavesTheIcons()
+void tst_Form_CToolBarPage::retranslatingLeavesTheIcons()
 {
     QWidget page;
     Form form(&page);
@@ -659,6 +659,6 @@ void tst_CToolBarPage::retranslatingLeavesTheIcons()
     QVERIFY(form.renameButton->icon().isNull());
 }
 
-QTEST_MAIN(tst_CToolBarPage)
+QTEST_MAIN(tst_Form_CToolBarPage)
 
-#include "tst_ctoolbarpage.moc"
+#include "tst_form_ctoolbarpage.moc"

@@ -35,7 +35,7 @@ struct Form : Ui_CustomizedDialog
 
 } // namespace
 
-class tst_CustomizedDialog : public TestCase
+class tst_Form_CustomizedDialog : public TestCase
 {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ private Q_SLOTS:
     void theDialogOwnsEverything();
 };
 
-void tst_CustomizedDialog::theFieldsStandInOrder()
+void tst_Form_CustomizedDialog::theFieldsStandInOrder()
 {
     QCOMPARE(offsetof(Ui_CustomizedDialog, verticalLayout), 0 * sizeof(void *));
     QCOMPARE(offsetof(Ui_CustomizedDialog, m_optionTabWidget), 1 * sizeof(void *));
@@ -71,21 +71,21 @@ void tst_CustomizedDialog::theFieldsStandInOrder()
     QCOMPARE(sizeof(Ui_CustomizedDialog), 4 * sizeof(void *));
 }
 
-void tst_CustomizedDialog::isAPlainClass()
+void tst_Form_CustomizedDialog::isAPlainClass()
 {
     QVERIFY(std::is_standard_layout_v<Ui_CustomizedDialog>);
     QVERIFY(!std::is_polymorphic_v<Ui_CustomizedDialog>);
     QVERIFY(std::is_trivially_destructible_v<Ui_CustomizedDialog>);
 }
 
-void tst_CustomizedDialog::anUnnamedDialogIsNamed()
+void tst_Form_CustomizedDialog::anUnnamedDialogIsNamed()
 {
     QDialog dialog;
     const Form form(&dialog);
     QCOMPARE(dialog.objectName(), QStringLiteral("CustomizedDialog"));
 }
 
-void tst_CustomizedDialog::aNamedDialogKeepsItsName()
+void tst_Form_CustomizedDialog::aNamedDialogKeepsItsName()
 {
     QDialog dialog;
     dialog.setObjectName(QStringLiteral("mine"));
@@ -93,14 +93,14 @@ void tst_CustomizedDialog::aNamedDialogKeepsItsName()
     QCOMPARE(dialog.objectName(), QStringLiteral("mine"));
 }
 
-void tst_CustomizedDialog::theDialogIsResized()
+void tst_Form_CustomizedDialog::theDialogIsResized()
 {
     QDialog dialog;
     const Form form(&dialog);
     QCOMPARE(dialog.size(), QSize(740, 460));
 }
 
-void tst_CustomizedDialog::theDialogsSizePolicyIsReplaced()
+void tst_Form_CustomizedDialog::theDialogsSizePolicyIsReplaced()
 {
     QDialog dialog;
     QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed, QSizePolicy::Frame);
@@ -111,14 +111,14 @@ void tst_CustomizedDialog::theDialogsSizePolicyIsReplaced()
     QCOMPARE(textOf(dialog.sizePolicy()), QStringLiteral("Expanding Minimum"));
 }
 
-void tst_CustomizedDialog::theDialogsHeightForWidthIsTakenOver_data()
+void tst_Form_CustomizedDialog::theDialogsHeightForWidthIsTakenOver_data()
 {
     QTest::addColumn<bool>("heightForWidth");
     QTest::newRow("with") << true;
     QTest::newRow("without") << false;
 }
 
-void tst_CustomizedDialog::theDialogsHeightForWidthIsTakenOver()
+void tst_Form_CustomizedDialog::theDialogsHeightForWidthIsTakenOver()
 {
     QFETCH(bool, heightForWidth);
     QDialog dialog;
@@ -129,7 +129,7 @@ void tst_CustomizedDialog::theDialogsHeightForWidthIsTakenOver()
     QCOMPARE(dialog.sizePolicy().hasHeightForWidth(), heightForWidth);
 }
 
-void tst_CustomizedDialog::theDialogBecomesModal()
+void tst_Form_CustomizedDialog::theDialogBecomesModal()
 {
     QDialog dialog;
     QVERIFY(!dialog.isModal());
@@ -138,7 +138,7 @@ void tst_CustomizedDialog::theDialogBecomesModal()
     QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
 }
 
-void tst_CustomizedDialog::theWidgetsAreCreatedInOrder()
+void tst_Form_CustomizedDialog::theWidgetsAreCreatedInOrder()
 {
     QDialog dialog;
     const Form form(&dialog);
@@ -148,7 +148,7 @@ void tst_CustomizedDialog::theWidgetsAreCreatedInOrder()
     QCOMPARE(childrenOf(&dialog), expected);
 }
 
-void tst_CustomizedDialog::theMembersAreNamedAfterThemselves()
+void tst_Form_CustomizedDialog::theMembersAreNamedAfterThemselves()
 {
     QDialog dialog;
     const Form form(&dialog);
@@ -158,7 +158,7 @@ void tst_CustomizedDialog::theMembersAreNamedAfterThemselves()
     QCOMPARE(form.m_dialogButtonBox->objectName(), QStringLiteral("m_dialogButtonBox"));
 }
 
-void tst_CustomizedDialog::theLayoutHoldsTheTabsAboveTheButtons()
+void tst_Form_CustomizedDialog::theLayoutHoldsTheTabsAboveTheButtons()
 {
     QDialog dialog;
     const Form form(&dialog);
@@ -169,7 +169,7 @@ void tst_CustomizedDialog::theLayoutHoldsTheTabsAboveTheButtons()
     QCOMPARE(form.verticalLayout->direction(), QBoxLayout::TopToBottom);
 }
 
-void tst_CustomizedDialog::thePlaceholderIsTheOnlyTab()
+void tst_Form_CustomizedDialog::thePlaceholderIsTheOnlyTab()
 {
     QDialog dialog;
     const Form form(&dialog);
@@ -182,7 +182,7 @@ void tst_CustomizedDialog::thePlaceholderIsTheOnlyTab()
     QVERIFY(form.tab_2->children().isEmpty());
 }
 
-void tst_CustomizedDialog::theButtonBoxIsHorizontalWithFiveButtons()
+void tst_Form_CustomizedDialog::theButtonBoxIsHorizontalWithFiveButtons()
 {
     QDialog dialog;
     const Form form(&dialog);
@@ -193,7 +193,7 @@ void tst_CustomizedDialog::theButtonBoxIsHorizontalWithFiveButtons()
     QCOMPARE(form.m_dialogButtonBox->buttons().size(), 5);
 }
 
-void tst_CustomizedDialog::theTitleIsTranslated()
+void tst_Form_CustomizedDialog::theTitleIsTranslated()
 {
     QDialog dialog;
     const Form form(&dialog);
@@ -205,7 +205,7 @@ void tst_CustomizedDialog::theTitleIsTranslated()
     QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("CustomizedDialog: Options")});
 }
 
-void tst_CustomizedDialog::thePlaceholdersTitleIsNotTranslated()
+void tst_Form_CustomizedDialog::thePlaceholdersTitleIsNotTranslated()
 {
     RecordingTranslator translator;
     QDialog dialog;
@@ -213,7 +213,7 @@ void tst_CustomizedDialog::thePlaceholdersTitleIsNotTranslated()
     QCOMPARE(form.m_optionTabWidget->tabText(0), QStringLiteral("Tab 1"));
 }
 
-void tst_CustomizedDialog::retranslatingResetsTheTitleOnly()
+void tst_Form_CustomizedDialog::retranslatingResetsTheTitleOnly()
 {
     QDialog dialog;
     Form form(&dialog);
@@ -229,7 +229,7 @@ void tst_CustomizedDialog::retranslatingResetsTheTitleOnly()
     QCOMPARE(form.m_optionTabWidget->tabText(0), QStringLiteral("other"));
 }
 
-void tst_CustomizedDialog::slotsAreConnectedByNameInTheEnd()
+void tst_Form_CustomizedDialog::slotsAreConnectedByNameInTheEnd()
 {
     ListeningDialog dialog;
     dialog.setObjectName(QStringLiteral("listening"));
@@ -244,7 +244,7 @@ void tst_CustomizedDialog::slotsAreConnectedByNameInTheEnd()
     QCOMPARE(dialog.acceptances, 1);
 }
 
-void tst_CustomizedDialog::nothingElseIsSet()
+void tst_Form_CustomizedDialog::nothingElseIsSet()
 {
     QDialog dialog;
     const Form form(&dialog);
@@ -264,7 +264,7 @@ void tst_CustomizedDialog::nothingElseIsSet()
     QCOMPARE(form.verticalLayout->spacing(), layout.spacing());
 }
 
-void tst_CustomizedDialog::theDialogOwnsEverything()
+void tst_Form_CustomizedDialog::theDialogOwnsEverything()
 {
     QPointer<QWidget> placeholder;
     QPointer<QLayout> layout;
@@ -282,6 +282,6 @@ void tst_CustomizedDialog::theDialogOwnsEverything()
     QVERIFY(!layout);
 }
 
-QTEST_MAIN(tst_CustomizedDialog)
+QTEST_MAIN(tst_Form_CustomizedDialog)
 
-#include "tst_customizeddialog.moc"
+#include "tst_form_customizeddialog.moc"

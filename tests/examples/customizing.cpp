@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+
+#include "customizing.h"
+
+#include "nextmodal.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QToolBar>
+#include <QtTest>
+
+void customize(QAction *action, const DialogSteps &steps)
+{
+    const NextModal next([&steps](QWidget *modal) {
+        RyCustomizedDialog *const dialog = qobject_cast<RyCustomizedDialog *>(modal);
+        QVERIFY(dialog);
+        steps(EditorViews(dialog), dialog);
+    });
+    action->trigger();
+    QVERIFY(next.wasShown());
+}
+
+QToolBar *toolBarTitled(const QMainWindow &window, const QString &title)
+{
+    const auto toolBars = window.findChildren<QToolBar *>();
+    for (QToolBar *toolBar : toolBars) {
+        if (toolBar->windowTitle() == title)
+            return toolBar;
+    }
+    return nullptr;
+}
