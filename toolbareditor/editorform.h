@@ -27,8 +27,6 @@ struct EditorForm : Ui_CToolBarPage
     QHash<const QAction *, QPointer<QAction>> actions;
     // How often the working copy was discarded.
     int discards = 0;
-    // So many rows at the top of the toolbar list were sorted last, and none has changed since.
-    int sortedRows = 0;
 };
 
 #endif // EDITORFORM_H

@@ -6,6 +6,10 @@
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
 
+#include <QVector>
+
+#include <algorithm>
+
 namespace {
 
 // The row that slid into the place of a removed one becomes current, or else the new last row.
@@ -16,23 +20,26 @@ void selectAfterRemoval(QListWidget *list, int removedRow)
         list->setCurrentRow(row);
 }
 
-// Sorts a list that is sorted but for its last row, which many rows that are added one after the
-// other take less time for than sorting all anew. False if this Qt cannot move rows.
-bool sortLastRow(QListWidget *list)
+// Sorts a list in which at most this row is out of order: moving it is much faster than sorting.
+// False if other rows are out of order as well, or if this Qt cannot move rows.
+bool moveIntoPlace(QListWidget *list, QListWidgetItem *item)
 {
-    const int last = list->count() - 1;
-    const QListWidgetItem *const item = list->item(last);
-    // Behind all that are not greater, where sorting leaves rows of the same text too.
-    int from = 0;
-    int to = last;
-    while (from < to) {
-        const int middle = (from + to) / 2;
-        if (*item < *list->item(middle))
-            to = middle;
-        else
-            from = middle + 1;
+    const int from = list->row(item);
+    QVector<QListWidgetItem *> others;
+    others.reserve(list->count());
+    for (int row = 0; row < list->count(); ++row) {
+        if (row != from)
+            others.append(list->item(row));
     }
-    return to == last || list->model()->moveRow(QModelIndex(), last, QModelIndex(), to);
+    const auto less = [](const QListWidgetItem *a, const QListWidgetItem *b) { return *a < *b; };
+    if (!std::is_sorted(others.cbegin(), others.cend(), less))
+        return false;
+    // Rows of the same text keep their order, as when the list is sorted.
+    const auto equal = std::equal_range(others.cbegin(), others.cend(), item, less);
+    const int to =
+        qBound(int(equal.first - others.cbegin()), from, int(equal.second - others.cbegin()));
+    return to == from
+        || list->model()->moveRow(QModelIndex(), from, QModelIndex(), to < from ? to : to + 1);
 }
 
 } // namespace
@@ -100,18 +107,11 @@ void RyCToolBarWidget::toolBarRenamed(QListWidgetItem *item)
 {
     // Without a current toolbar the row's new text is not taken over, on purpose.
     ToolBarItem *const record = m_currentRecord ? m_recordOfListItem.value(item) : nullptr;
-    if (!record) {
-        form()->sortedRows = 0;
+    if (!record)
         return;
-    }
     record->setToolBarName(item->text());
-    QListWidget *const list = ui->toolBarList;
-    const int last = list->count() - 1;
-    const bool onlyLast = item == list->item(last) && form()->sortedRows == last;
-    // Before the host hears of the sorting, and may change rows.
-    form()->sortedRows = list->count();
-    if (!onlyLast || !sortLastRow(list))
-        list->sortItems(Qt::AscendingOrder);
+    if (!moveIntoPlace(ui->toolBarList, item))
+        ui->toolBarList->sortItems(Qt::AscendingOrder);
 }
 
 void RyCToolBarWidget::upClicked()
