@@ -19,9 +19,8 @@ EditorApply::EditorApply(RyCToolBarWidget *editor)
 
 EditorApply::Edit EditorApply::editOf(ToolBarItem *record) const
 {
-    const QList<QAction *> actions = m_editor->m_workingActions.value(record);
     return {record, m_editor->toolBarOf(record), record->toolBarName(),
-            m_editor->liveActions(actions)};
+            m_editor->m_workingActions.value(record)};
 }
 
 void EditorApply::readExisting()

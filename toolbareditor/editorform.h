@@ -6,7 +6,6 @@
 #include "ryabstatcmanager.h"
 #include "ui_ctoolbarpage.h"
 
-#include <QAction>
 #include <QHash>
 #include <QPointer>
 #include <QToolBar>
@@ -23,8 +22,6 @@ struct EditorForm : Ui_CToolBarPage
     QPointer<RyAbstatcManager> manager;
     // The toolbar of each record that has one.
     QHash<const ToolBarItem *, QPointer<QToolBar>> toolBars;
-    // Every action that the working copy has been given.
-    QHash<const QAction *, QPointer<QAction>> actions;
     // How often the working copy was discarded.
     int discards = 0;
 };

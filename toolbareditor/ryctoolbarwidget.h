@@ -154,9 +154,6 @@ private:
     ToolBarItem *recordOf(QToolBar *toolBar) const;
     QToolBar *toolBarOf(const ToolBarItem *record) const;
     void setToolBarOf(ToolBarItem *record, QToolBar *toolBar);
-    bool isAlive(QAction *action) const;
-    void guardActions(const QList<QAction *> &actions);
-    QList<QAction *> liveActions(const QList<QAction *> &actions) const;
     EditorForm *form() const;
 
     // Points to the child widgets without owning them; the form object itself is owned, and always

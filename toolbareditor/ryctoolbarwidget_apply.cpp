@@ -18,10 +18,8 @@ void RyCToolBarWidget::defaultClicked()
     const auto defaults = m_manager->defaultToolBars();
     for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
         // None while the editor is hidden, and for toolbars registered after it was filled.
-        if (ToolBarItem *const record = recordOf(it.key())) {
+        if (ToolBarItem *const record = recordOf(it.key()))
             m_workingActions.insert(record, it.value());
-            guardActions(it.value());
-        }
     }
     currentToolBarChanged(m_listItemOfRecord.value(m_currentRecord));
     const auto records = m_workingActions.keys();

@@ -30,7 +30,6 @@ void RyCToolBarWidget::fillActionTree()
     m_treeItemOfAction.insert(nullptr, separator);
     m_actionOfTreeItem.insert(separator, nullptr);
 
-    form()->actions.reserve(m_manager->actions().size());
     QList<QTreeWidgetItem *> categoryItems;
     const auto categories = m_manager->categories();
     for (const QString &category : categories)
@@ -43,7 +42,6 @@ QTreeWidgetItem *RyCToolBarWidget::createCategoryItem(const QString &category)
 {
     QList<QTreeWidgetItem *> actionItems;
     const auto actions = m_manager->categoryActions(category);
-    guardActions(actions);
     for (QAction *action : actions)
         actionItems.append(createActionItem(action));
     QTreeWidgetItem *const item = new QTreeWidgetItem(QStringList(category));
@@ -70,7 +68,6 @@ void RyCToolBarWidget::fillToolBarList()
         ToolBarItem *const record = createItem(it.key());
         m_recordOfToolBar.insert(it.key(), record);
         m_workingActions.insert(record, it.value());
-        guardActions(it.value());
         QListWidgetItem *const row = addToolBarRow(record);
         if (it == toolBars.cbegin())
             ui->toolBarList->setCurrentItem(row);
@@ -123,7 +120,6 @@ void RyCToolBarWidget::clearOld()
     qDeleteAll(m_ownedRecords);
     m_ownedRecords.clear();
     form()->toolBars.clear();
-    form()->actions.clear();
     ++form()->discards;
     m_currentRecord = nullptr;
     m_currentActionItem = nullptr;
@@ -167,34 +163,10 @@ void RyCToolBarWidget::setToolBarOf(ToolBarItem *record, QToolBar *toolBar)
     form()->toolBars.insert(record, toolBar);
 }
 
-void RyCToolBarWidget::guardActions(const QList<QAction *> &actions)
-{
-    for (QAction *action : actions) {
-        if (action)
-            form()->actions.insert(action, action);
-    }
-}
-
-bool RyCToolBarWidget::isAlive(QAction *action) const
-{
-    return !form()->actions.value(action).isNull();
-}
-
-QList<QAction *> RyCToolBarWidget::liveActions(const QList<QAction *> &actions) const
-{
-    QList<QAction *> live;
-    live.reserve(actions.size());
-    for (QAction *action : actions) {
-        if (!action || isAlive(action))
-            live.append(action);
-    }
-    return live;
-}
-
 // A row for the current toolbar's list that is not yet in the list.
 QListWidgetItem *RyCToolBarWidget::createEntry(QAction *action)
 {
-    QListWidgetItem *const entry = new QListWidgetItem(m_separatorText);
+    QListWidgetItem *const entry = new QListWidgetItem(action ? QString() : m_separatorText);
     if (action) {
         showAction(entry, action);
         entry->setTextAlignment(EntryAlignment);
@@ -204,15 +176,14 @@ QListWidgetItem *RyCToolBarWidget::createEntry(QAction *action)
     return entry;
 }
 
-// An action that the host deleted is shown as the action tree has kept it.
+// An action that the host has removed, and may have deleted, is shown as it is in the action tree.
 void RyCToolBarWidget::showAction(QListWidgetItem *entry, QAction *action) const
 {
-    const QTreeWidgetItem *const item = m_treeItemOfAction.value(action);
-    if (isAlive(action)) {
+    if (form()->manager && m_manager->actions().contains(action)) {
         entry->setText(action->text());
         entry->setIcon(action->icon());
-    } else {
-        entry->setText(item ? item->text(0) : QString());
-        entry->setIcon(item ? item->icon(0) : QIcon());
+    } else if (const QTreeWidgetItem *const item = m_treeItemOfAction.value(action)) {
+        entry->setText(item->text(0));
+        entry->setIcon(item->icon(0));
     }
 }
