@@ -2,9 +2,9 @@
 
 #include "ryctoolbarwidget.h"
 
-#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
+#include "ui_ctoolbarpage.h"
 
 #include <QHideEvent>
 #include <QIcon>
@@ -13,13 +13,13 @@
 RyCToolBarWidget::RyCToolBarWidget(QWidget *parent, RyAbstatcManager *manager,
                                    Qt::WindowFlags flags)
     : QWidget(parent, flags)
-    , ui(new EditorForm())
+    , ui(new Ui_CToolBarPage())
     , m_manager(static_cast<RyToolBarManager *>(manager))
     , m_currentActionItem(nullptr)
     , m_currentRecord(nullptr)
     , m_separatorText(tr("< S E P A R A T O R >"))
+    , m_managerGuard(manager)
 {
-    form()->manager = m_manager;
     ui->setupUi(this);
     ui->actionTree->setColumnCount(1);
     ui->actionTree->header()->hide();
@@ -32,12 +32,7 @@ RyCToolBarWidget::~RyCToolBarWidget()
     // While the hide event still reaches this class, which frees the working copy then.
     if (isVisible())
         hide();
-    delete form();
-}
-
-EditorForm *RyCToolBarWidget::form() const
-{
-    return static_cast<EditorForm *>(ui);
+    delete ui;
 }
 
 void RyCToolBarWidget::setIcons()
@@ -121,7 +116,7 @@ bool RyCToolBarWidget::isDefaultToolBar(ToolBarItem *item) const
 {
     QToolBar *const toolBar = item ? toolBarOf(item) : nullptr;
     // A window that owns manager and dialog may take the manager with it first.
-    return toolBar && form()->manager && m_manager->isDefaultToolBar(toolBar);
+    return toolBar && m_managerGuard && m_manager->isDefaultToolBar(toolBar);
 }
 
 void RyCToolBarWidget::setButtons()

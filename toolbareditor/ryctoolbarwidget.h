@@ -5,8 +5,10 @@
 
 #include "rycustomizeddialogexport.h"
 
+#include <QHash>
 #include <QList>
 #include <QMap>
+#include <QPointer>
 #include <QSet>
 #include <QString>
 #include <QWidget>
@@ -19,7 +21,6 @@ class RyAbstatcManager;
 class RyToolBarManager;
 class ToolBarItem;
 class Ui_CToolBarPage;
-struct EditorForm;
 
 /*!
  * \brief The toolbar editor: the widget of the "ToolBar" tab.
@@ -132,8 +133,6 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    friend class EditorApply;
-
     ToolBarItem *createItem(QToolBar *toolBar);
     ToolBarItem *createItem(const QString &name);
     void deleteItem(ToolBarItem *item);
@@ -151,13 +150,10 @@ private:
     void takeEntry(QListWidgetItem *entry);
     void placeEntry(QListWidgetItem *entry);
     void moveCurrentEntry(int distance);
-    ToolBarItem *recordOf(QToolBar *toolBar) const;
     QToolBar *toolBarOf(const ToolBarItem *record) const;
     void setToolBarOf(ToolBarItem *record, QToolBar *toolBar);
-    EditorForm *form() const;
 
-    // Points to the child widgets without owning them; the form object itself is owned, and always
-    // an EditorForm.
+    // Points to the child widgets without owning them; the form object itself is owned.
     Ui_CToolBarPage *ui;
     // The host's manager, not owned; null leaves the editor empty.
     RyToolBarManager *m_manager;
@@ -190,6 +186,12 @@ private:
     QMap<QListWidgetItem *, QAction *> m_actionOfEntry;
     // What a separator is shown as, translated.
     QString m_separatorText;
+
+    // Fields may follow: what guards against a host that deletes what an address here points to.
+    // The same manager; null once it is gone.
+    QPointer<RyAbstatcManager> m_managerGuard;
+    // The toolbar of each record that has one; null once it is gone.
+    QHash<const ToolBarItem *, QPointer<QToolBar>> m_toolBarGuards;
 };
 
 #endif // RYCTOOLBARWIDGET_H

@@ -2,9 +2,9 @@
 
 #include "ryctoolbarwidget.h"
 
-#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
+#include "ui_ctoolbarpage.h"
 
 #include <QVector>
 

@@ -2,9 +2,9 @@
 
 #include "ryctoolbarwidget.h"
 
-#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
+#include "ui_ctoolbarpage.h"
 
 namespace {
 
@@ -14,7 +14,7 @@ const int EntryAlignment = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemon
 
 void RyCToolBarWidget::fillNew()
 {
-    if (!form()->manager)
+    if (!m_managerGuard)
         return;
     fillActionTree();
     fillToolBarList();
@@ -119,8 +119,7 @@ void RyCToolBarWidget::clearOld()
     m_removedRecords.clear();
     qDeleteAll(m_ownedRecords);
     m_ownedRecords.clear();
-    form()->toolBars.clear();
-    ++form()->discards;
+    m_toolBarGuards.clear();
     m_currentRecord = nullptr;
     m_currentActionItem = nullptr;
 }
@@ -130,7 +129,7 @@ ToolBarItem *RyCToolBarWidget::createItem(QToolBar *toolBar)
     if (!toolBar)
         return nullptr;
     ToolBarItem *const item = new ToolBarItem(toolBar, toolBar->windowTitle());
-    form()->toolBars.insert(item, toolBar);
+    m_toolBarGuards.insert(item, toolBar);
     m_ownedRecords.insert(item);
     return item;
 }
@@ -146,21 +145,15 @@ void RyCToolBarWidget::deleteItem(ToolBarItem *item)
 {
     if (!m_ownedRecords.remove(item))
         return;
-    form()->toolBars.remove(item);
+    m_toolBarGuards.remove(item);
     delete item;
 }
 
 // Null for a record without a toolbar, and for one whose toolbar the host deleted.
 QToolBar *RyCToolBarWidget::toolBarOf(const ToolBarItem *record) const
 {
-    const auto guard = form()->toolBars.constFind(record);
-    return guard == form()->toolBars.constEnd() ? record->toolBar() : guard.value().data();
-}
-
-void RyCToolBarWidget::setToolBarOf(ToolBarItem *record, QToolBar *toolBar)
-{
-    record->setToolBar(toolBar);
-    form()->toolBars.insert(record, toolBar);
+    const auto guard = m_toolBarGuards.constFind(record);
+    return guard == m_toolBarGuards.constEnd() ? record->toolBar() : guard.value().data();
 }
 
 // A row for the current toolbar's list that is not yet in the list.
@@ -179,7 +172,7 @@ QListWidgetItem *RyCToolBarWidget::createEntry(QAction *action)
 // An action that the host has removed, and may have deleted, is shown as it is in the action tree.
 void RyCToolBarWidget::showAction(QListWidgetItem *entry, QAction *action) const
 {
-    if (form()->manager && m_manager->actions().contains(action)) {
+    if (m_managerGuard && m_manager->actions().contains(action)) {
         entry->setText(action->text());
         entry->setIcon(action->icon());
     } else if (const QTreeWidgetItem *const item = m_treeItemOfAction.value(action)) {
