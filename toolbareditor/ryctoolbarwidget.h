@@ -137,21 +137,14 @@ private:
     ToolBarItem *createItem(const QString &name);
     void deleteItem(ToolBarItem *item);
 
-    void setIcons();
-    void makeConnections();
-    void fillActionTree();
-    QTreeWidgetItem *createCategoryItem(const QString &category);
-    QTreeWidgetItem *createActionItem(QAction *action);
-    void fillToolBarList();
-    QListWidgetItem *addToolBarRow(ToolBarItem *record);
-    void markToolBarRow(QListWidgetItem *row, bool isDefault);
-    QListWidgetItem *createEntry(QAction *action);
-    void showAction(QListWidgetItem *entry, QAction *action) const;
-    void takeEntry(QListWidgetItem *entry);
-    void placeEntry(QListWidgetItem *entry);
-    void moveCurrentEntry(int distance);
-    QToolBar *toolBarOf(const ToolBarItem *record) const;
-    void setToolBarOf(ToolBarItem *record, QToolBar *toolBar);
+    Q_DECL_HIDDEN void makeConnections();
+    Q_DECL_HIDDEN void fillActionTree();
+    Q_DECL_HIDDEN QTreeWidgetItem *createActionItem(QAction *action);
+    Q_DECL_HIDDEN void fillToolBarList();
+    Q_DECL_HIDDEN QListWidgetItem *createEntry(QAction *action);
+    Q_DECL_HIDDEN void moveCurrentEntry(int distance);
+    Q_DECL_HIDDEN QToolBar *toolBarOf(const ToolBarItem *record) const;
+    Q_DECL_HIDDEN void setToolBarOf(ToolBarItem *record, QToolBar *toolBar);
 
     // Points to the child widgets without owning them; the form object itself is owned.
     Ui_CToolBarPage *ui;
@@ -187,10 +180,10 @@ private:
     // What a separator is shown as, translated.
     QString m_separatorText;
 
-    // Fields may follow: what guards against a host that deletes what an address here points to.
-    // The same manager; null once it is gone.
+    // The manager, or null once it is gone: a window that owns manager and dialog may take the
+    // manager with it first.
     QPointer<RyAbstatcManager> m_managerGuard;
-    // The toolbar of each record that has one; null once it is gone.
+    // The toolbar of each record that has one, or null once the host has deleted it.
     QHash<const ToolBarItem *, QPointer<QToolBar>> m_toolBarGuards;
 };
 

@@ -71,6 +71,8 @@ void RyCToolBarWidget::setToolBarOf(ToolBarItem *record, QToolBar *toolBar)
 
 void RyCToolBarWidget::defaultClicked()
 {
+    if (!m_managerGuard)
+        return;
     const auto defaults = m_manager->defaultToolBars();
     for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
         // Null for a toolbar that was registered after the fill. The entry of a deleted toolbar

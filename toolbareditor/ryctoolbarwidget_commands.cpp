@@ -47,8 +47,10 @@ bool moveIntoPlace(QListWidget *list, QListWidgetItem *item)
 void RyCToolBarWidget::newClicked()
 {
     // The buttons are enabled until something sets them, and nothing could be applied.
-    if (!m_manager)
+    if (!m_managerGuard) {
+        setButtons();
         return;
+    }
     const QString name = tr("Custom Toolbar");
     ToolBarItem *const record = createItem(name);
     m_workingActions.insert(record, QList<QAction *>());
@@ -98,7 +100,7 @@ void RyCToolBarWidget::renameClicked()
     QListWidgetItem *const row = m_listItemOfRecord.value(m_currentRecord);
     if (!row || !row->flags().testFlag(Qt::ItemIsEditable))
         return;
-    // Qt warns of a second editor; the open one is the row's widget meanwhile.
+    // Qt warns of a second editor; an open one is the row's widget.
     if (!ui->toolBarList->itemWidget(row))
         ui->toolBarList->editItem(row);
 }
@@ -156,31 +158,22 @@ void RyCToolBarWidget::rightClicked()
 {
     if (!m_currentActionItem || !m_currentRecord)
         return;
+    QListWidget *const list = ui->currentToolBarList;
     QAction *const action = m_actionOfTreeItem.value(m_currentActionItem);
     QListWidgetItem *entry = m_entryOfAction.value(action);
-    if (entry && entry == ui->currentToolBarList->currentItem())
+    if (entry && entry == list->currentItem())
         return;
-    if (entry)
-        takeEntry(entry);
-    else
+    if (entry) {
+        const int oldRow = list->row(entry);
+        list->takeItem(oldRow);
+        m_workingActions[m_currentRecord].removeAt(oldRow);
+    } else {
         entry = createEntry(action);
-    placeEntry(entry);
-}
-
-void RyCToolBarWidget::takeEntry(QListWidgetItem *entry)
-{
-    const int row = ui->currentToolBarList->row(entry);
-    ui->currentToolBarList->takeItem(row);
-    m_workingActions[m_currentRecord].removeAt(row);
-}
-
-// Puts an entry that is not in the list after the current one, or at the end without one.
-void RyCToolBarWidget::placeEntry(QListWidgetItem *entry)
-{
-    const int current = ui->currentToolBarList->currentRow();
-    const int row = current < 0 ? ui->currentToolBarList->count() : current + 1;
-    ui->currentToolBarList->insertItem(row, entry);
-    m_workingActions[m_currentRecord].insert(row, m_actionOfEntry.value(entry));
-    ui->currentToolBarList->setCurrentItem(entry);
+    }
+    // After the current entry, or at the end without one.
+    const int row = list->currentRow() < 0 ? list->count() : list->currentRow() + 1;
+    list->insertItem(row, entry);
+    m_workingActions[m_currentRecord].insert(row, action);
+    list->setCurrentItem(entry);
     setButtons();
 }

@@ -30,23 +30,16 @@ void RyCToolBarWidget::fillActionTree()
     m_treeItemOfAction.insert(nullptr, separator);
     m_actionOfTreeItem.insert(separator, nullptr);
 
-    QList<QTreeWidgetItem *> categoryItems;
     const auto categories = m_manager->categories();
-    for (const QString &category : categories)
-        categoryItems.append(createCategoryItem(category));
-    ui->actionTree->addTopLevelItems(categoryItems);
+    for (const QString &category : categories) {
+        QTreeWidgetItem *const item = new QTreeWidgetItem(ui->actionTree, QStringList(category));
+        QList<QTreeWidgetItem *> actionItems;
+        const auto actions = m_manager->categoryActions(category);
+        for (QAction *action : actions)
+            actionItems.append(createActionItem(action));
+        item->addChildren(actionItems);
+    }
     ui->actionTree->sortItems(0, Qt::AscendingOrder);
-}
-
-QTreeWidgetItem *RyCToolBarWidget::createCategoryItem(const QString &category)
-{
-    QList<QTreeWidgetItem *> actionItems;
-    const auto actions = m_manager->categoryActions(category);
-    for (QAction *action : actions)
-        actionItems.append(createActionItem(action));
-    QTreeWidgetItem *const item = new QTreeWidgetItem(QStringList(category));
-    item->addChildren(actionItems);
-    return item;
 }
 
 QTreeWidgetItem *RyCToolBarWidget::createActionItem(QAction *action)
@@ -67,30 +60,19 @@ void RyCToolBarWidget::fillToolBarList()
     for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it) {
         ToolBarItem *const record = createItem(it.key());
         m_recordOfToolBar.insert(it.key(), record);
+        QListWidgetItem *const row = new QListWidgetItem(record->toolBarName(), ui->toolBarList);
+        m_listItemOfRecord.insert(record, row);
+        m_recordOfListItem.insert(row, record);
         m_workingActions.insert(record, it.value());
-        QListWidgetItem *const row = addToolBarRow(record);
         if (it == toolBars.cbegin())
             ui->toolBarList->setCurrentItem(row);
-        markToolBarRow(row, isDefaultToolBar(record));
+        // Either change reaches toolBarRenamed(), which is harmless and meant.
+        if (isDefaultToolBar(record))
+            row->setForeground(Qt::darkGreen);
+        else
+            row->setFlags(row->flags() | Qt::ItemIsEditable);
     }
     ui->toolBarList->sortItems(Qt::AscendingOrder);
-}
-
-QListWidgetItem *RyCToolBarWidget::addToolBarRow(ToolBarItem *record)
-{
-    QListWidgetItem *const row = new QListWidgetItem(record->toolBarName(), ui->toolBarList);
-    m_listItemOfRecord.insert(record, row);
-    m_recordOfListItem.insert(row, record);
-    return row;
-}
-
-// Either change reaches toolBarRenamed(), which is harmless and meant.
-void RyCToolBarWidget::markToolBarRow(QListWidgetItem *row, bool isDefault)
-{
-    if (isDefault)
-        row->setForeground(Qt::darkGreen);
-    else
-        row->setFlags(row->flags() | Qt::ItemIsEditable);
 }
 
 void RyCToolBarWidget::clearOld()
@@ -156,22 +138,16 @@ QToolBar *RyCToolBarWidget::toolBarOf(const ToolBarItem *record) const
     return guard == m_toolBarGuards.constEnd() ? record->toolBar() : guard.value().data();
 }
 
-// A row for the current toolbar's list that is not yet in the list.
+// A row for the current toolbar's list that is not yet in the list. An action that the host has
+// removed, and may have deleted, looks as it does in the action tree.
 QListWidgetItem *RyCToolBarWidget::createEntry(QAction *action)
 {
     QListWidgetItem *const entry = new QListWidgetItem(action ? QString() : m_separatorText);
-    if (action) {
-        showAction(entry, action);
-        entry->setTextAlignment(EntryAlignment);
-        m_entryOfAction.insert(action, entry);
-    }
     m_actionOfEntry.insert(entry, action);
-    return entry;
-}
-
-// An action that the host has removed, and may have deleted, is shown as it is in the action tree.
-void RyCToolBarWidget::showAction(QListWidgetItem *entry, QAction *action) const
-{
+    if (!action)
+        return entry;
+    m_entryOfAction.insert(action, entry);
+    entry->setTextAlignment(EntryAlignment);
     if (m_managerGuard && m_manager->actions().contains(action)) {
         entry->setText(action->text());
         entry->setIcon(action->icon());
@@ -179,4 +155,5 @@ void RyCToolBarWidget::showAction(QListWidgetItem *entry, QAction *action) const
         entry->setText(item->text(0));
         entry->setIcon(item->icon(0));
     }
+    return entry;
 }

@@ -288,13 +288,12 @@ void tst_RyCToolBarWidget_Commands::newDoesNotTouchTheHost()
 void tst_RyCToolBarWidget_Commands::withoutAManagerNoCommandDoesAnything()
 {
     ShownEditor editor(nullptr);
-    for (QToolButton *button :
-         {editor.views.newButton, editor.views.removeButton, editor.views.renameButton,
-          editor.views.upButton, editor.views.leftButton, editor.views.rightButton,
-          editor.views.downButton}) {
-        QVERIFY(button->isEnabled());
-        editor.views.click(button);
-    }
+    for (const char *slot : {"removeClicked", "renameClicked", "upClicked", "leftClicked",
+                             "rightClicked", "downClicked", "defaultClicked"})
+        editor.call(slot);
+    QVERIFY(editor.views.newButton->isEnabled());
+    editor.views.click(editor.views.newButton);
+    QCOMPARE(editor.views.enabledButtons(), QStringList());
     QVERIFY(!editor.views.renameEditor());
     QCOMPARE(rowsOf(editor.views.toolBarList), QStringList());
     compare(editor, {});

@@ -781,7 +781,11 @@ void tst_RyCToolBarWidget_Hosts::theManagerMayGoBeforeAShownEditor()
     editor->views.toolBarList->setCurrentItem(nullptr);
     editor->selectToolBar(QStringLiteral("Mine"));
     QCOMPARE(rowsOf(editor->views.currentToolBarList), lines({"Cut"}));
+    QCOMPARE(editor->views.enabledButtons(), QStringList());
+    editor->call("newClicked");
+    editor->widget.defaultClicked();
     editor->widget.applyClicked();
+    QCOMPARE(editor->workingCopy(), lines({"Mine: \"Cut\""}));
     editor->widget.hide();
     editor->widget.show();
     editor->widget.applyClicked();
