@@ -52,17 +52,24 @@ QStringList lines(std::initializer_list<const char *> texts)
 }
 
 ToolBarItem *createRecord(RyCToolBarWidget &widget, QToolBar *toolBar);
+void deleteRecord(RyCToolBarWidget &widget, ToolBarItem *record);
 
 // The arguments of an explicit instantiation may name private members.
-template <ToolBarItem *(RyCToolBarWidget::*Create)(QToolBar *)> struct RecordFunction
+template <ToolBarItem *(RyCToolBarWidget::*Create)(QToolBar *),
+          void (RyCToolBarWidget::*Delete)(ToolBarItem *)>
+struct RecordFunctions
 {
     friend ToolBarItem *createRecord(RyCToolBarWidget &widget, QToolBar *toolBar)
     {
         return (widget.*Create)(toolBar);
     }
+    friend void deleteRecord(RyCToolBarWidget &widget, ToolBarItem *record)
+    {
+        (widget.*Delete)(record);
+    }
 };
 
-template struct RecordFunction<&RyCToolBarWidget::createItem>;
+template struct RecordFunctions<&RyCToolBarWidget::createItem, &RyCToolBarWidget::deleteItem>;
 
 // One edit of each kind: "Yours" goes, "Mine" loses its first entry, and a new toolbar gets one.
 void removeEditAndCreate(ShownEditor &editor)
@@ -167,6 +174,8 @@ private Q_SLOTS:
     void aCreatedToolBarMayBeRemovedWhileItIsApplied_data();
     void aCreatedToolBarMayBeRemovedWhileItIsApplied();
     void aNewRecordAtTheAddressOfACreatedOneKeepsItsToolBar();
+    void aNewRecordAtTheAddressOfAFreedOneHasNoToolBar_data();
+    void aNewRecordAtTheAddressOfAFreedOneHasNoToolBar();
     void aToolBarDeletedDuringTheApplyIsNotTitled();
     void toolBarsDeletedDuringTheApplyAreLeftAlone();
     void aMessageBoxDuringTheApplyLosesNothing();
@@ -601,6 +610,33 @@ void tst_RyCToolBarWidget_Hosts::aNewRecordAtTheAddressOfACreatedOneKeepsItsTool
              lines({"Custom Toolbar:", "File: open | save", "Mine: cut | copy", "Yours: paste"}));
 }
 
+void tst_RyCToolBarWidget_Hosts::aNewRecordAtTheAddressOfAFreedOneHasNoToolBar_data()
+{
+    QTest::addColumn<bool>("alone");
+    QTest::newRow("freed alone") << true;
+    QTest::newRow("freed with all others") << false;
+}
+
+void tst_RyCToolBarWidget_Hosts::aNewRecordAtTheAddressOfAFreedOneHasNoToolBar()
+{
+    QFETCH(bool, alone);
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    ToolBarItem *const record = createRecord(editor.widget, host.mine);
+    memory = {record, sizeof(ToolBarItem), false};
+    if (alone)
+        deleteRecord(editor.widget, record);
+    else
+        editor.call("clearOld");
+    editor.call("newClicked");
+    memory = {nullptr, 0, false};
+    QCOMPARE(EditorFields::of(editor.widget).currentRecord, record);
+    // Without a toolbar it is freed at once.
+    editor.call("removeClicked");
+    QVERIFY(!EditorFields::of(editor.widget).ownedRecords.contains(record));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
 void tst_RyCToolBarWidget_Hosts::aToolBarDeletedDuringTheApplyIsNotTitled()
 {
     FilledHost host;
@@ -786,6 +822,8 @@ void tst_RyCToolBarWidget_Hosts::theManagerMayGoBeforeAShownEditor()
     editor->widget.defaultClicked();
     editor->widget.applyClicked();
     QCOMPARE(editor->workingCopy(), lines({"Mine: \"Cut\""}));
+    editor->call("removeClicked");
+    QCOMPARE(editor->workingCopy(), QStringList());
     editor->widget.hide();
     editor->widget.show();
     editor->widget.applyClicked();
