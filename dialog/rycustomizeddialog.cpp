@@ -51,31 +51,25 @@ QPushButton *RyCustomizedDialog::helpButton() const
 
 void RyCustomizedDialog::slotAccepted()
 {
-    // Applying calls the host, which may delete the dialog.
-    const QPointer<RyCustomizedDialog> guard(this);
+    const QPointer<QDialog> dialog(this);
     slotApply();
-    if (!guard)
-        return;
-    closeOptionPages();
-    QDialog::accept();
+    if (dialog)
+        closeOptionPages();
+    if (dialog)
+        QDialog::accept();
 }
 
 void RyCustomizedDialog::slotRejected()
 {
+    const QPointer<QDialog> dialog(this);
     closeOptionPages();
-    QDialog::reject();
+    if (dialog)
+        QDialog::reject();
 }
 
 void RyCustomizedDialog::slotApply()
 {
-    const QPointer<RyCustomizedDialog> guard(this);
-    const auto pages = m_optionPages;
-    for (RyCusInterface *page : pages) {
-        page->apply();
-        // The pages go with the dialog.
-        if (!guard)
-            return;
-    }
+    callPages(&RyCusInterface::apply);
 }
 
 void RyCustomizedDialog::slotUiModeChanged(bool modified)
@@ -92,16 +86,25 @@ void RyCustomizedDialog::slotHelp()
 
 void RyCustomizedDialog::slotRestorDefault()
 {
-    const auto pages = m_optionPages;
-    for (RyCusInterface *page : pages)
-        page->RestorDefaults();
+    callPages(&RyCusInterface::RestorDefaults);
 }
 
 void RyCustomizedDialog::closeOptionPages()
 {
+    callPages(&RyCusInterface::finish);
+}
+
+// Calls that operation of one page after the other. It may call the host, which may delete the
+// dialog, and the pages go with it.
+void RyCustomizedDialog::callPages(void (RyCusInterface::*operation)())
+{
+    const QPointer<RyCustomizedDialog> dialog(this);
     const auto pages = m_optionPages;
-    for (RyCusInterface *page : pages)
-        page->finish();
+    for (RyCusInterface *page : pages) {
+        (page->*operation)();
+        if (!dialog)
+            return;
+    }
 }
 
 void RyCustomizedDialog::createPages(const QList<RyAbstatcManager *> &managers)

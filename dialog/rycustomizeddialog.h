@@ -112,8 +112,9 @@ private Q_SLOTS:
 
 private:
     void closeOptionPages();
-    void createPages(const QList<RyAbstatcManager *> &managers);
-    void connectButtons();
+    Q_DECL_HIDDEN void callPages(void (RyCusInterface::*operation)());
+    Q_DECL_HIDDEN void createPages(const QList<RyAbstatcManager *> &managers);
+    Q_DECL_HIDDEN void connectButtons();
 
     // Points into the widget tree without owning it; the form object itself is owned.
     Ui_CustomizedDialog *ui;

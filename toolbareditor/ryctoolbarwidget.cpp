@@ -2,53 +2,50 @@
 
 #include "ryctoolbarwidget.h"
 
-#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
+#include "ui_ctoolbarpage.h"
 
 #include <QHideEvent>
 #include <QIcon>
 #include <QShowEvent>
 
+namespace {
+
+QIcon icon(const QString &name)
+{
+    return QIcon(QStringLiteral(":/RyCustomizedDialog/images/%1.png").arg(name));
+}
+
+} // namespace
+
 RyCToolBarWidget::RyCToolBarWidget(QWidget *parent, RyAbstatcManager *manager,
                                    Qt::WindowFlags flags)
     : QWidget(parent, flags)
-    , ui(new EditorForm())
+    , ui(new Ui_CToolBarPage())
     , m_manager(static_cast<RyToolBarManager *>(manager))
     , m_currentActionItem(nullptr)
     , m_currentRecord(nullptr)
-    , m_separatorText(tr("< S E P A R A T O R >"))
+    , m_managerGuard(manager)
 {
-    form()->manager = m_manager;
     ui->setupUi(this);
+    m_separatorText = tr("< S E P A R A T O R >");
     ui->actionTree->setColumnCount(1);
     ui->actionTree->header()->hide();
-    setIcons();
+    ui->upButton->setIcon(icon(QStringLiteral("up")));
+    ui->downButton->setIcon(icon(QStringLiteral("down")));
+    ui->leftButton->setIcon(icon(QStringLiteral("back")));
+    ui->rightButton->setIcon(icon(QStringLiteral("forward")));
+    ui->newButton->setIcon(icon(QStringLiteral("plus")));
+    ui->removeButton->setIcon(icon(QStringLiteral("minus")));
     makeConnections();
 }
 
 RyCToolBarWidget::~RyCToolBarWidget()
 {
-    // While the hide event still reaches this class, which frees the working copy then.
-    if (isVisible())
-        hide();
-    delete form();
-}
-
-EditorForm *RyCToolBarWidget::form() const
-{
-    return static_cast<EditorForm *>(ui);
-}
-
-void RyCToolBarWidget::setIcons()
-{
-    const QString icon = QStringLiteral(":/RyCustomizedDialog/images/%1.png");
-    ui->upButton->setIcon(QIcon(icon.arg(QStringLiteral("up"))));
-    ui->downButton->setIcon(QIcon(icon.arg(QStringLiteral("down"))));
-    ui->leftButton->setIcon(QIcon(icon.arg(QStringLiteral("back"))));
-    ui->rightButton->setIcon(QIcon(icon.arg(QStringLiteral("forward"))));
-    ui->newButton->setIcon(QIcon(icon.arg(QStringLiteral("plus"))));
-    ui->removeButton->setIcon(QIcon(icon.arg(QStringLiteral("minus"))));
+    // Still there if the editor is destroyed while it is shown.
+    qDeleteAll(m_ownedRecords);
+    delete ui;
 }
 
 void RyCToolBarWidget::makeConnections()
@@ -120,20 +117,21 @@ void RyCToolBarWidget::currentToolBarActionChanged(QListWidgetItem *current)
 bool RyCToolBarWidget::isDefaultToolBar(ToolBarItem *item) const
 {
     QToolBar *const toolBar = item ? toolBarOf(item) : nullptr;
-    // A window that owns manager and dialog may take the manager with it first.
-    return toolBar && form()->manager && m_manager->isDefaultToolBar(toolBar);
+    return toolBar && m_managerGuard && m_manager->isDefaultToolBar(toolBar);
 }
 
 void RyCToolBarWidget::setButtons()
 {
+    const bool editable = m_managerGuard;
+    // Without a current toolbar too, on purpose.
+    const bool removable = editable && !isDefaultToolBar(m_currentRecord);
     const int row = ui->currentToolBarList->currentRow();
-    // Enabled without a current toolbar too, on purpose.
-    const bool removable = m_manager && !isDefaultToolBar(m_currentRecord);
-    ui->newButton->setEnabled(m_manager);
+    const int last = ui->currentToolBarList->count() - 1;
+    ui->newButton->setEnabled(editable);
     ui->removeButton->setEnabled(removable);
     ui->renameButton->setEnabled(removable);
-    ui->upButton->setEnabled(m_manager && row > 0);
-    ui->downButton->setEnabled(m_manager && row >= 0 && row < ui->currentToolBarList->count() - 1);
-    ui->leftButton->setEnabled(m_manager && row >= 0);
-    ui->rightButton->setEnabled(m_manager && m_currentActionItem && m_currentRecord);
+    ui->upButton->setEnabled(editable && row > 0);
+    ui->downButton->setEnabled(editable && row >= 0 && row < last);
+    ui->leftButton->setEnabled(editable && row >= 0);
+    ui->rightButton->setEnabled(editable && m_currentActionItem && m_currentRecord);
 }

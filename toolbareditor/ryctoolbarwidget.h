@@ -5,8 +5,10 @@
 
 #include "rycustomizeddialogexport.h"
 
+#include <QHash>
 #include <QList>
 #include <QMap>
+#include <QPointer>
 #include <QSet>
 #include <QString>
 #include <QWidget>
@@ -19,7 +21,6 @@ class RyAbstatcManager;
 class RyToolBarManager;
 class ToolBarItem;
 class Ui_CToolBarPage;
-struct EditorForm;
 
 /*!
  * \brief The toolbar editor: the widget of the "ToolBar" tab.
@@ -132,35 +133,20 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    friend class EditorApply;
-
     ToolBarItem *createItem(QToolBar *toolBar);
     ToolBarItem *createItem(const QString &name);
     void deleteItem(ToolBarItem *item);
 
-    void setIcons();
-    void makeConnections();
-    void fillActionTree();
-    QTreeWidgetItem *createCategoryItem(const QString &category);
-    QTreeWidgetItem *createActionItem(QAction *action);
-    void fillToolBarList();
-    QListWidgetItem *addToolBarRow(ToolBarItem *record);
-    void markToolBarRow(QListWidgetItem *row, bool isDefault);
-    QListWidgetItem *createEntry(QAction *action);
-    void showAction(QListWidgetItem *entry, QAction *action) const;
-    void takeEntry(QListWidgetItem *entry);
-    void placeEntry(QListWidgetItem *entry);
-    void moveCurrentEntry(int distance);
-    ToolBarItem *recordOf(QToolBar *toolBar) const;
-    QToolBar *toolBarOf(const ToolBarItem *record) const;
-    void setToolBarOf(ToolBarItem *record, QToolBar *toolBar);
-    bool isAlive(QAction *action) const;
-    void guardActions(const QList<QAction *> &actions);
-    QList<QAction *> liveActions(const QList<QAction *> &actions) const;
-    EditorForm *form() const;
+    Q_DECL_HIDDEN void makeConnections();
+    Q_DECL_HIDDEN void fillActionTree();
+    Q_DECL_HIDDEN QTreeWidgetItem *createActionItem(QAction *action);
+    Q_DECL_HIDDEN void fillToolBarList();
+    Q_DECL_HIDDEN QListWidgetItem *createEntry(QAction *action);
+    Q_DECL_HIDDEN void moveCurrentEntry(int distance);
+    Q_DECL_HIDDEN QToolBar *toolBarOf(const ToolBarItem *record) const;
+    Q_DECL_HIDDEN void setToolBarOf(ToolBarItem *record, QToolBar *toolBar);
 
-    // Points to the child widgets without owning them; the form object itself is owned, and always
-    // an EditorForm.
+    // Points to the child widgets without owning them; the form object itself is owned.
     Ui_CToolBarPage *ui;
     // The host's manager, not owned; null leaves the editor empty.
     RyToolBarManager *m_manager;
@@ -193,6 +179,12 @@ private:
     QMap<QListWidgetItem *, QAction *> m_actionOfEntry;
     // What a separator is shown as, translated.
     QString m_separatorText;
+
+    // The manager, or null once it is gone: a window that owns manager and dialog may take the
+    // manager with it first.
+    QPointer<RyAbstatcManager> m_managerGuard;
+    // The toolbar of each record that has one, or null once the host has deleted it.
+    QHash<const ToolBarItem *, QPointer<QToolBar>> m_toolBarGuards;
 };
 
 #endif // RYCTOOLBARWIDGET_H

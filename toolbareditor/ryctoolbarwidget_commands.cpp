@@ -2,9 +2,13 @@
 
 #include "ryctoolbarwidget.h"
 
-#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
+#include "ui_ctoolbarpage.h"
+
+#include <QVector>
+
+#include <algorithm>
 
 namespace {
 
@@ -16,23 +20,26 @@ void selectAfterRemoval(QListWidget *list, int removedRow)
         list->setCurrentRow(row);
 }
 
-// Sorts a list that is sorted but for its last row, which many rows that are added one after the
-// other take less time for than sorting all anew. False if this Qt cannot move rows.
-bool sortLastRow(QListWidget *list)
+// Sorts a list in which at most this row is out of order: moving it is much faster than sorting.
+// False if other rows are out of order as well, or if this Qt cannot move rows.
+bool moveIntoPlace(QListWidget *list, QListWidgetItem *item)
 {
-    const int last = list->count() - 1;
-    const QListWidgetItem *const item = list->item(last);
-    // Behind all that are not greater, where sorting leaves rows of the same text too.
-    int from = 0;
-    int to = last;
-    while (from < to) {
-        const int middle = (from + to) / 2;
-        if (*item < *list->item(middle))
-            to = middle;
-        else
-            from = middle + 1;
+    const int from = list->row(item);
+    QVector<QListWidgetItem *> others;
+    others.reserve(list->count());
+    for (int row = 0; row < list->count(); ++row) {
+        if (row != from)
+            others.append(list->item(row));
     }
-    return to == last || list->model()->moveRow(QModelIndex(), last, QModelIndex(), to);
+    const auto less = [](const QListWidgetItem *a, const QListWidgetItem *b) { return *a < *b; };
+    if (!std::is_sorted(others.cbegin(), others.cend(), less))
+        return false;
+    // Rows of the same text keep their order, as when the list is sorted.
+    const auto equal = std::equal_range(others.cbegin(), others.cend(), item, less);
+    const int to =
+        qBound(int(equal.first - others.cbegin()), from, int(equal.second - others.cbegin()));
+    return to == from
+        || list->model()->moveRow(QModelIndex(), from, QModelIndex(), to < from ? to : to + 1);
 }
 
 } // namespace
@@ -40,8 +47,10 @@ bool sortLastRow(QListWidget *list)
 void RyCToolBarWidget::newClicked()
 {
     // The buttons are enabled until something sets them, and nothing could be applied.
-    if (!m_manager)
+    if (!m_managerGuard) {
+        setButtons();
         return;
+    }
     const QString name = tr("Custom Toolbar");
     ToolBarItem *const record = createItem(name);
     m_workingActions.insert(record, QList<QAction *>());
@@ -91,7 +100,7 @@ void RyCToolBarWidget::renameClicked()
     QListWidgetItem *const row = m_listItemOfRecord.value(m_currentRecord);
     if (!row || !row->flags().testFlag(Qt::ItemIsEditable))
         return;
-    // Qt warns of a second editor; the open one is the row's widget meanwhile.
+    // Qt warns of a second editor; an open one is the row's widget.
     if (!ui->toolBarList->itemWidget(row))
         ui->toolBarList->editItem(row);
 }
@@ -100,18 +109,11 @@ void RyCToolBarWidget::toolBarRenamed(QListWidgetItem *item)
 {
     // Without a current toolbar the row's new text is not taken over, on purpose.
     ToolBarItem *const record = m_currentRecord ? m_recordOfListItem.value(item) : nullptr;
-    if (!record) {
-        form()->sortedRows = 0;
+    if (!record)
         return;
-    }
     record->setToolBarName(item->text());
-    QListWidget *const list = ui->toolBarList;
-    const int last = list->count() - 1;
-    const bool onlyLast = item == list->item(last) && form()->sortedRows == last;
-    // Before the host hears of the sorting, and may change rows.
-    form()->sortedRows = list->count();
-    if (!onlyLast || !sortLastRow(list))
-        list->sortItems(Qt::AscendingOrder);
+    if (!moveIntoPlace(ui->toolBarList, item))
+        ui->toolBarList->sortItems(Qt::AscendingOrder);
 }
 
 void RyCToolBarWidget::upClicked()
@@ -156,31 +158,22 @@ void RyCToolBarWidget::rightClicked()
 {
     if (!m_currentActionItem || !m_currentRecord)
         return;
+    QListWidget *const list = ui->currentToolBarList;
     QAction *const action = m_actionOfTreeItem.value(m_currentActionItem);
     QListWidgetItem *entry = m_entryOfAction.value(action);
-    if (entry && entry == ui->currentToolBarList->currentItem())
+    if (entry && entry == list->currentItem())
         return;
-    if (entry)
-        takeEntry(entry);
-    else
+    if (entry) {
+        const int oldRow = list->row(entry);
+        list->takeItem(oldRow);
+        m_workingActions[m_currentRecord].removeAt(oldRow);
+    } else {
         entry = createEntry(action);
-    placeEntry(entry);
-}
-
-void RyCToolBarWidget::takeEntry(QListWidgetItem *entry)
-{
-    const int row = ui->currentToolBarList->row(entry);
-    ui->currentToolBarList->takeItem(row);
-    m_workingActions[m_currentRecord].removeAt(row);
-}
-
-// Puts an entry that is not in the list after the current one, or at the end without one.
-void RyCToolBarWidget::placeEntry(QListWidgetItem *entry)
-{
-    const int current = ui->currentToolBarList->currentRow();
-    const int row = current < 0 ? ui->currentToolBarList->count() : current + 1;
-    ui->currentToolBarList->insertItem(row, entry);
-    m_workingActions[m_currentRecord].insert(row, m_actionOfEntry.value(entry));
-    ui->currentToolBarList->setCurrentItem(entry);
+    }
+    // After the current entry, or at the end without one.
+    const int row = list->currentRow() < 0 ? list->count() : list->currentRow() + 1;
+    list->insertItem(row, entry);
+    m_workingActions[m_currentRecord].insert(row, action);
+    list->setCurrentItem(entry);
     setButtons();
 }

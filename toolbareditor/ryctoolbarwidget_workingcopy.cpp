@@ -2,9 +2,9 @@
 
 #include "ryctoolbarwidget.h"
 
-#include "editorform.h"
 #include "rytoolbarmanager.h"
 #include "toolbaritem.h"
+#include "ui_ctoolbarpage.h"
 
 namespace {
 
@@ -14,7 +14,7 @@ const int EntryAlignment = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemon
 
 void RyCToolBarWidget::fillNew()
 {
-    if (!form()->manager)
+    if (!m_managerGuard)
         return;
     fillActionTree();
     fillToolBarList();
@@ -30,25 +30,16 @@ void RyCToolBarWidget::fillActionTree()
     m_treeItemOfAction.insert(nullptr, separator);
     m_actionOfTreeItem.insert(separator, nullptr);
 
-    form()->actions.reserve(m_manager->actions().size());
-    QList<QTreeWidgetItem *> categoryItems;
     const auto categories = m_manager->categories();
-    for (const QString &category : categories)
-        categoryItems.append(createCategoryItem(category));
-    ui->actionTree->addTopLevelItems(categoryItems);
+    for (const QString &category : categories) {
+        QTreeWidgetItem *const item = new QTreeWidgetItem(ui->actionTree, QStringList(category));
+        QList<QTreeWidgetItem *> actionItems;
+        const auto actions = m_manager->categoryActions(category);
+        for (QAction *action : actions)
+            actionItems.append(createActionItem(action));
+        item->addChildren(actionItems);
+    }
     ui->actionTree->sortItems(0, Qt::AscendingOrder);
-}
-
-QTreeWidgetItem *RyCToolBarWidget::createCategoryItem(const QString &category)
-{
-    QList<QTreeWidgetItem *> actionItems;
-    const auto actions = m_manager->categoryActions(category);
-    guardActions(actions);
-    for (QAction *action : actions)
-        actionItems.append(createActionItem(action));
-    QTreeWidgetItem *const item = new QTreeWidgetItem(QStringList(category));
-    item->addChildren(actionItems);
-    return item;
 }
 
 QTreeWidgetItem *RyCToolBarWidget::createActionItem(QAction *action)
@@ -69,31 +60,19 @@ void RyCToolBarWidget::fillToolBarList()
     for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it) {
         ToolBarItem *const record = createItem(it.key());
         m_recordOfToolBar.insert(it.key(), record);
+        QListWidgetItem *const row = new QListWidgetItem(record->toolBarName(), ui->toolBarList);
+        m_listItemOfRecord.insert(record, row);
+        m_recordOfListItem.insert(row, record);
         m_workingActions.insert(record, it.value());
-        guardActions(it.value());
-        QListWidgetItem *const row = addToolBarRow(record);
         if (it == toolBars.cbegin())
             ui->toolBarList->setCurrentItem(row);
-        markToolBarRow(row, isDefaultToolBar(record));
+        // Either change reaches toolBarRenamed(), which is harmless and meant.
+        if (isDefaultToolBar(record))
+            row->setForeground(Qt::darkGreen);
+        else
+            row->setFlags(row->flags() | Qt::ItemIsEditable);
     }
     ui->toolBarList->sortItems(Qt::AscendingOrder);
-}
-
-QListWidgetItem *RyCToolBarWidget::addToolBarRow(ToolBarItem *record)
-{
-    QListWidgetItem *const row = new QListWidgetItem(record->toolBarName(), ui->toolBarList);
-    m_listItemOfRecord.insert(record, row);
-    m_recordOfListItem.insert(row, record);
-    return row;
-}
-
-// Either change reaches toolBarRenamed(), which is harmless and meant.
-void RyCToolBarWidget::markToolBarRow(QListWidgetItem *row, bool isDefault)
-{
-    if (isDefault)
-        row->setForeground(Qt::darkGreen);
-    else
-        row->setFlags(row->flags() | Qt::ItemIsEditable);
 }
 
 void RyCToolBarWidget::clearOld()
@@ -122,9 +101,7 @@ void RyCToolBarWidget::clearOld()
     m_removedRecords.clear();
     qDeleteAll(m_ownedRecords);
     m_ownedRecords.clear();
-    form()->toolBars.clear();
-    form()->actions.clear();
-    ++form()->discards;
+    m_toolBarGuards.clear();
     m_currentRecord = nullptr;
     m_currentActionItem = nullptr;
 }
@@ -134,7 +111,7 @@ ToolBarItem *RyCToolBarWidget::createItem(QToolBar *toolBar)
     if (!toolBar)
         return nullptr;
     ToolBarItem *const item = new ToolBarItem(toolBar, toolBar->windowTitle());
-    form()->toolBars.insert(item, toolBar);
+    m_toolBarGuards.insert(item, toolBar);
     m_ownedRecords.insert(item);
     return item;
 }
@@ -150,69 +127,33 @@ void RyCToolBarWidget::deleteItem(ToolBarItem *item)
 {
     if (!m_ownedRecords.remove(item))
         return;
-    form()->toolBars.remove(item);
+    m_toolBarGuards.remove(item);
     delete item;
 }
 
 // Null for a record without a toolbar, and for one whose toolbar the host deleted.
 QToolBar *RyCToolBarWidget::toolBarOf(const ToolBarItem *record) const
 {
-    const auto guard = form()->toolBars.constFind(record);
-    return guard == form()->toolBars.constEnd() ? record->toolBar() : guard.value().data();
+    const auto guard = m_toolBarGuards.constFind(record);
+    return guard == m_toolBarGuards.constEnd() ? record->toolBar() : guard.value().data();
 }
 
-void RyCToolBarWidget::setToolBarOf(ToolBarItem *record, QToolBar *toolBar)
-{
-    record->setToolBar(toolBar);
-    form()->toolBars.insert(record, toolBar);
-}
-
-void RyCToolBarWidget::guardActions(const QList<QAction *> &actions)
-{
-    for (QAction *action : actions) {
-        if (action)
-            form()->actions.insert(action, action);
-    }
-}
-
-bool RyCToolBarWidget::isAlive(QAction *action) const
-{
-    return !form()->actions.value(action).isNull();
-}
-
-QList<QAction *> RyCToolBarWidget::liveActions(const QList<QAction *> &actions) const
-{
-    QList<QAction *> live;
-    live.reserve(actions.size());
-    for (QAction *action : actions) {
-        if (!action || isAlive(action))
-            live.append(action);
-    }
-    return live;
-}
-
-// A row for the current toolbar's list that is not yet in the list.
+// A row for the current toolbar's list that is not yet in the list. An action that the host has
+// removed, and may have deleted, looks as it does in the action tree.
 QListWidgetItem *RyCToolBarWidget::createEntry(QAction *action)
 {
-    QListWidgetItem *const entry = new QListWidgetItem(m_separatorText);
-    if (action) {
-        showAction(entry, action);
-        entry->setTextAlignment(EntryAlignment);
-        m_entryOfAction.insert(action, entry);
-    }
+    QListWidgetItem *const entry = new QListWidgetItem(action ? QString() : m_separatorText);
     m_actionOfEntry.insert(entry, action);
-    return entry;
-}
-
-// An action that the host deleted is shown as the action tree has kept it.
-void RyCToolBarWidget::showAction(QListWidgetItem *entry, QAction *action) const
-{
-    const QTreeWidgetItem *const item = m_treeItemOfAction.value(action);
-    if (isAlive(action)) {
+    if (!action)
+        return entry;
+    m_entryOfAction.insert(action, entry);
+    entry->setTextAlignment(EntryAlignment);
+    if (m_managerGuard && m_manager->actions().contains(action)) {
         entry->setText(action->text());
         entry->setIcon(action->icon());
-    } else {
-        entry->setText(item ? item->text(0) : QString());
-        entry->setIcon(item ? item->icon(0) : QIcon());
+    } else if (const QTreeWidgetItem *const item = m_treeItemOfAction.value(action)) {
+        entry->setText(item->text(0));
+        entry->setIcon(item->icon(0));
     }
+    return entry;
 }

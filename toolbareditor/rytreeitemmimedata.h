@@ -54,7 +54,6 @@ public:
      */
     QStringList formats() const override;
 
-protected:
     /*!
      * \brief Returns for "ItemMimeData", whatever \a type is asked for, a boolean that is true if
      *        there is an item; what QMimeData returns for any other \a mimeType.

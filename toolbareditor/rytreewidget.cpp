@@ -27,6 +27,14 @@ QTreeWidgetItem *draggedItem(const QDropEvent *event)
     return payload ? payload->DragItemData() : nullptr;
 }
 
+// The flag is that of the tree under the pointer on purpose, though the source tree's decides over
+// the dragged item.
+void acceptDrop(QDropEvent *event, bool ctrlPressed)
+{
+    event->setDropAction(ctrlPressed ? Qt::CopyAction : Qt::MoveAction);
+    event->accept();
+}
+
 } // namespace
 
 RyTreeWidget::RyTreeWidget(QWidget *parent)
@@ -97,7 +105,7 @@ void RyTreeWidget::keyReleaseEvent(QKeyEvent *event)
 void RyTreeWidget::dragEnterEvent(QDragEnterEvent *event)
 {
     if (comesFromTree(event))
-        acceptDrop(event);
+        acceptDrop(event, ctrlPressed);
 }
 
 void RyTreeWidget::dragMoveEvent(QDragMoveEvent *event)
@@ -112,7 +120,7 @@ void RyTreeWidget::dragMoveEvent(QDragMoveEvent *event)
     }
     // Over empty space no item is current then, which is meant.
     setCurrentItem(item);
-    acceptDrop(event);
+    acceptDrop(event, ctrlPressed);
 }
 
 void RyTreeWidget::dropEvent(QDropEvent *event)
@@ -127,12 +135,5 @@ void RyTreeWidget::dropEvent(QDropEvent *event)
         item->addChild(copy);
     else
         addTopLevelItem(copy);
-    acceptDrop(event);
-}
-
-// By this tree's own flag on purpose, though the source tree's decides over the dragged item.
-void RyTreeWidget::acceptDrop(QDropEvent *event) const
-{
-    event->setDropAction(ctrlPressed ? Qt::CopyAction : Qt::MoveAction);
-    event->accept();
+    acceptDrop(event, ctrlPressed);
 }

@@ -105,8 +105,6 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    void acceptDrop(QDropEvent *event) const;
-
     // Where the left button was pressed last; never reset.
     QPoint startPos;
     // True while the Control key is held, as far as this tree's own key events tell.

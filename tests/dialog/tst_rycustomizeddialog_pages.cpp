@@ -120,6 +120,8 @@ private Q_SLOTS:
     void closingFinishesNoPage();
     void everyPressReachesThePagesAgain();
     void theOrderIsTheSameOnTheRibbonTab();
+    void noPageIsReachedAfterADeletion_data();
+    void noPageIsReachedAfterADeletion();
     void applyThenOkAppliesTwice();
     void applyThenCancelAppliesOnce();
     void aReopenedDialogKeepsItsPages();
@@ -385,6 +387,42 @@ void tst_RyCustomizedDialog_Pages::theOrderIsTheSameOnTheRibbonTab()
     opened.dialog->okButton()->click();
     const QByteArray expected = QByteArray(restored) + applied + finished;
     QCOMPARE(RecordingPage::takeLog(), log(expected.constData()));
+}
+
+void tst_RyCustomizedDialog_Pages::noPageIsReachedAfterADeletion_data()
+{
+    QTest::addColumn<QDialogButtonBox::StandardButton>("which");
+    QTest::addColumn<QByteArray>("calls");
+    QTest::newRow("OK, first page applies") << QDialogButtonBox::Ok << QByteArray("toolbar apply");
+    QTest::newRow("OK, last page applies") << QDialogButtonBox::Ok << QByteArray(applied).trimmed();
+    QTest::newRow("OK, first page finishes")
+        << QDialogButtonBox::Ok << QByteArray(applied) + "toolbar finish while open";
+    QTest::newRow("OK, last page finishes")
+        << QDialogButtonBox::Ok << QByteArray(applied) + QByteArray(finished).trimmed();
+    QTest::newRow("Apply") << QDialogButtonBox::Apply << QByteArray("toolbar apply");
+    QTest::newRow("Cancel, first page finishes")
+        << QDialogButtonBox::Cancel << QByteArray("toolbar finish while open");
+    QTest::newRow("Cancel, last page finishes")
+        << QDialogButtonBox::Cancel << QByteArray(finished).trimmed();
+    QTest::newRow("Restore Defaults")
+        << QDialogButtonBox::RestoreDefaults << QByteArray("toolbar RestorDefaults");
+}
+
+// At the last of these calls the host deletes the dialog.
+void tst_RyCustomizedDialog_Pages::noPageIsReachedAfterADeletion()
+{
+    QFETCH(QDialogButtonBox::StandardButton, which);
+    QFETCH(QByteArray, calls);
+    Opened opened;
+    const QStringList expected = log(calls.constData());
+    RecordingPage::callAt(expected.constLast(), [&opened] { opened.dialog.reset(); });
+    opened.button(which)->click();
+    QVERIFY(!opened.dialog);
+    const QStringList ends = log("toolbar deleted before its widget\n"
+                                 "ribbon deleted before its widget\n");
+    const QStringList found = RecordingPage::takeLog();
+    QCOMPARE(found.mid(0, expected.size() + 2), expected + ends);
+    QCOMPARE(found.filter(QStringLiteral("widget gone")), found.mid(expected.size() + 2));
 }
 
 void tst_RyCustomizedDialog_Pages::applyThenOkAppliesTwice()

@@ -73,7 +73,7 @@ private Q_SLOTS:
     void aSecondCreatePageMakesTheEditorThatTheButtonsReach();
     void theFirstEditorOutlivesTheSecond();
     void withANullManagerTheEditorStaysEmpty();
-    void withANullManagerApplyDoesNothing();
+    void withANullManagerNoButtonDoesAnything();
     void theEditorWorksWithoutItsPage();
     void onceTheEditorIsGoneTheHostIsLeftAlone();
 };
@@ -273,13 +273,15 @@ void tst_RyCToolBarPage::withANullManagerTheEditorStaysEmpty()
     QCOMPARE(rowsOf(editor.currentToolBarList), QStringList());
 }
 
-void tst_RyCToolBarPage::withANullManagerApplyDoesNothing()
+void tst_RyCToolBarPage::withANullManagerNoButtonDoesAnything()
 {
     RyCToolBarPage page(nullptr);
     const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
     page.apply();
+    page.RestorDefaults();
     widget->show();
     page.apply();
+    page.RestorDefaults();
     page.finish();
     QCOMPARE(rowsOf(EditorViews(widget.get()).toolBarList), QStringList());
 }

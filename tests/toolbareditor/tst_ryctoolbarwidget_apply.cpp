@@ -156,6 +156,8 @@ private Q_SLOTS:
     void aRemovedToolBarThatTheHostDeletedIsLeftAlone();
     void aToolBarThatTheManagerForgotStillGetsItsTitle();
     void applyKeepsTheRecordsOfTheFill();
+    void anUntitledToolBarIsRenamedAndRemoved();
+    void anUntitledDefaultToolBarStaysUntitled();
 
     void restoreDefaultsChangesTheWorkingCopyOnly();
     void restoreDefaultsResetsTheContentOfDefaultToolBars();
@@ -588,6 +590,55 @@ void tst_RyCToolBarWidget_Apply::applyKeepsTheRecordsOfTheFill()
     makeToolBar(editor, QStringLiteral("Yours"), {});
     editor.widget.applyClicked();
     QCOMPARE(EditorFields::of(editor.widget).recordOfToolBar, before);
+}
+
+void tst_RyCToolBarWidget_Apply::anUntitledToolBarIsRenamedAndRemoved()
+{
+    FilledHost host;
+    const QStringList others = toolBarsOf(host.manager);
+    const QPointer<QToolBar> untitled = customToolBar(host, QString(), {QStringLiteral("cut")});
+    ShownEditor editor(&host.manager);
+    QCOMPARE(rowsOf(editor.views.toolBarList),
+             QStringList({QString(), QStringLiteral("File"), QStringLiteral("Mine"),
+                          QStringLiteral("Tools")}));
+    editor.selectToolBar(QString());
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{QStringLiteral("Cut")});
+    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    editor.widget.applyClicked();
+    QCOMPARE(untitled->windowTitle(), QString());
+    QCOMPARE(standingOn(untitled), QStringList({QStringLiteral("cut"), QStringLiteral("zoom")}));
+
+    for (const QString &name : {QStringLiteral("Named"), QString()}) {
+        editor.views.click(editor.views.renameButton);
+        editor.views.typeName(name);
+        QCOMPARE(editor.views.toolBarList->currentItem()->text(), name);
+        editor.widget.applyClicked();
+        QCOMPARE(untitled->windowTitle(), name);
+    }
+
+    editor.views.click(editor.views.removeButton);
+    editor.widget.applyClicked();
+    QVERIFY(!untitled);
+    QCOMPARE(toolBarsOf(host.manager), others);
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Apply::anUntitledDefaultToolBarStaysUntitled()
+{
+    Host host;
+    QToolBar *const untitled = host.toolBar(QStringLiteral("file"), {QStringLiteral("open")});
+    untitled->setWindowTitle(QString());
+    host.manager.addDefaultToolBar(untitled, QStringLiteral("Files"));
+    ShownEditor editor(&host.manager);
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QString()});
+    editor.call("renameClicked");
+    QVERIFY(!editor.views.renameEditor());
+    editor.call("removeClicked");
+    editor.call("leftClicked");
+    untitled->setWindowTitle(QStringLiteral("Changed by the host"));
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral(":")});
+    QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsChangesTheWorkingCopyOnly()

@@ -11,6 +11,8 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace {
 
 const QString Separator = QStringLiteral("< S E P A R A T O R >");
@@ -84,6 +86,7 @@ private Q_SLOTS:
     void everyNameIsAccepted_data();
     void everyNameIsAccepted();
     void aRenamedToolBarIsSortedAndStaysCurrent();
+    void aRenamedToolBarGoesWhereSortingLeavesIt();
     void escapeKeepsTheOldName();
     void losingTheFocusKeepsTheNewName();
     void anotherRowCanBeRenamed();
@@ -285,13 +288,12 @@ void tst_RyCToolBarWidget_Commands::newDoesNotTouchTheHost()
 void tst_RyCToolBarWidget_Commands::withoutAManagerNoCommandDoesAnything()
 {
     ShownEditor editor(nullptr);
-    for (QToolButton *button :
-         {editor.views.newButton, editor.views.removeButton, editor.views.renameButton,
-          editor.views.upButton, editor.views.leftButton, editor.views.rightButton,
-          editor.views.downButton}) {
-        QVERIFY(button->isEnabled());
-        editor.views.click(button);
-    }
+    for (const char *slot : {"removeClicked", "renameClicked", "upClicked", "leftClicked",
+                             "rightClicked", "downClicked", "defaultClicked"})
+        editor.call(slot);
+    QVERIFY(editor.views.newButton->isEnabled());
+    editor.views.click(editor.views.newButton);
+    QCOMPARE(editor.views.enabledButtons(), QStringList());
     QVERIFY(!editor.views.renameEditor());
     QCOMPARE(rowsOf(editor.views.toolBarList), QStringList());
     compare(editor, {});
@@ -640,6 +642,35 @@ void tst_RyCToolBarWidget_Commands::aRenamedToolBarIsSortedAndStaysCurrent()
         rowsOf(editor.views.toolBarList),
         QStringList({QStringLiteral("Aardvark"), QStringLiteral("File"), QStringLiteral("Tools")}));
     QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Aardvark"));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+// Toolbars of the same name keep their order.
+void tst_RyCToolBarWidget_Commands::aRenamedToolBarGoesWhereSortingLeavesIt()
+{
+    Host host;
+    for (int i = 0; i < 8; ++i)
+        host.manager.createToolBar(QString::number(i % 4));
+    const ShownEditor editor(&host.manager);
+    QListWidget *const list = editor.views.toolBarList;
+    const QListWidgetItem *const current = list->currentItem();
+    const auto items = [list] { return list->findItems(QString(), Qt::MatchContains); };
+    QRandomGenerator random(1);
+    for (int step = 0; step < 500; ++step) {
+        QList<QListWidgetItem *> expected = items();
+        QListWidgetItem *const item = expected.at(random.bounded(expected.size()));
+        const QString name = QString::number(random.bounded(4));
+        const auto nameOf = [&](const QListWidgetItem *row) {
+            return row == item ? name : row->text();
+        };
+        std::stable_sort(expected.begin(), expected.end(),
+                         [&](const QListWidgetItem *a, const QListWidgetItem *b) {
+                             return nameOf(a) < nameOf(b);
+                         });
+        item->setText(name);
+        QCOMPARE(items(), expected);
+    }
+    QCOMPARE(list->currentItem(), current);
     QCOMPARE(editor.inconsistency(), QString());
 }
 

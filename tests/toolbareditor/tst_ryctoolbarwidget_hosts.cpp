@@ -17,7 +17,9 @@
 #include <QtTest>
 
 #include <cstdlib>
+#include <cstring>
 #include <functional>
+#include <malloc.h>
 #include <memory>
 #include <new>
 
@@ -49,6 +51,26 @@ QStringList lines(std::initializer_list<const char *> texts)
     return list;
 }
 
+ToolBarItem *createRecord(RyCToolBarWidget &widget, QToolBar *toolBar);
+void deleteRecord(RyCToolBarWidget &widget, ToolBarItem *record);
+
+// The arguments of an explicit instantiation may name private members.
+template <ToolBarItem *(RyCToolBarWidget::*Create)(QToolBar *),
+          void (RyCToolBarWidget::*Delete)(ToolBarItem *)>
+struct RecordFunctions
+{
+    friend ToolBarItem *createRecord(RyCToolBarWidget &widget, QToolBar *toolBar)
+    {
+        return (widget.*Create)(toolBar);
+    }
+    friend void deleteRecord(RyCToolBarWidget &widget, ToolBarItem *record)
+    {
+        (widget.*Delete)(record);
+    }
+};
+
+template struct RecordFunctions<&RyCToolBarWidget::createItem, &RyCToolBarWidget::deleteItem>;
+
 // One edit of each kind: "Yours" goes, "Mine" loses its first entry, and a new toolbar gets one.
 void removeEditAndCreate(ShownEditor &editor)
 {
@@ -64,25 +86,31 @@ void removeEditAndCreate(ShownEditor &editor)
 struct Memory
 {
     void *kept;
+    std::size_t size;
     bool isFreed;
-} memory = {nullptr, false};
+} memory = {nullptr, 0, false};
 
-// Deletes the toolbar and creates a new one, certainly at its address.
-QToolBar *reborn(Host &host, QToolBar *toolBar)
+// Creates a toolbar, certainly at the address of the one that the call deletes.
+QToolBar *reborn(Host &host, QToolBar *toolBar, const std::function<void()> &deletion)
 {
-    memory = {toolBar, false};
-    host.manager.deleteToolBar(toolBar);
+    memory = {toolBar, sizeof(QToolBar), false};
+    deletion();
     QToolBar *const created = host.manager.createToolBar(QStringLiteral("Reborn"));
     QTest::qCompare(created, toolBar, "created", "deleted", __FILE__, __LINE__);
-    memory = {nullptr, false};
+    memory = {nullptr, 0, false};
     return created;
+}
+
+QToolBar *reborn(Host &host, QToolBar *toolBar)
+{
+    return reborn(host, toolBar, [&] { host.manager.deleteToolBar(toolBar); });
 }
 
 } // namespace
 
 void *operator new(std::size_t size)
 {
-    if (memory.isFreed && size == sizeof(QToolBar)) {
+    if (memory.isFreed && size == memory.size) {
         memory.isFreed = false;
         return memory.kept;
     }
@@ -96,12 +124,19 @@ void *operator new(std::size_t size, const std::nothrow_t &) noexcept
     return std::malloc(size ? size : 1);
 }
 
+// Overwrites what is freed, so that its use shows without a sanitizer as well.
 void operator delete(void *block) noexcept
 {
-    if (block && block == memory.kept)
+    if (!block)
+        return;
+    if (block == memory.kept) {
         memory.isFreed = true;
-    else
+    } else {
+        // Compilers leave out what is written before free().
+        static void *(*volatile const overwrite)(void *, int, std::size_t) = std::memset;
+        overwrite(block, 0xdd, malloc_usable_size(block));
         std::free(block);
+    }
 }
 
 void operator delete(void *block, std::size_t) noexcept
@@ -118,12 +153,14 @@ private Q_SLOTS:
     void aDeletedToolBarIsLeftAlone();
     void aNewToolBarAtTheAddressOfADeletedOneIsLeftAlone_data();
     void aNewToolBarAtTheAddressOfADeletedOneIsLeftAlone();
+    void aNewToolBarAtTheAddressOfACreatedOneIsLeftAlone();
+    void aDefaultToolBarAtTheAddressOfADeletedOneIsNotReset_data();
     void aDefaultToolBarAtTheAddressOfADeletedOneIsNotReset();
     void aToolBarDeletedByItsOwnWindowIsLeftAlone();
 
     void aDeletedActionIsShownAsBefore();
+    void aDeletedActionThatHasNoTreeItemIsShownWithoutText();
     void aDeletedActionIsLeftOutOfTheApply();
-    void aNewActionAtTheAddressOfADeletedOneIsNotPlaced();
     void changesOfActionsAreShownOnlyByNewEntries();
     void anActionThatIsDisabledOrHiddenMeanwhileIsStillPlaced();
     void anActionThatBecameASeparatorIsStillAnAction();
@@ -133,7 +170,12 @@ private Q_SLOTS:
     void theEditorMayBeDeletedWhileItApplies_data();
     void theEditorMayBeDeletedWhileItApplies();
     void anApplyDuringTheApplyCreatesNothingTwice();
-    void restoringDefaultsDuringTheApplyCreatesNothing();
+    void restoringDefaultsDuringTheApplyKeepsWhatIsApplied();
+    void aCreatedToolBarMayBeRemovedWhileItIsApplied_data();
+    void aCreatedToolBarMayBeRemovedWhileItIsApplied();
+    void aNewRecordAtTheAddressOfACreatedOneKeepsItsToolBar();
+    void aNewRecordAtTheAddressOfAFreedOneHasNoToolBar_data();
+    void aNewRecordAtTheAddressOfAFreedOneHasNoToolBar();
     void aToolBarDeletedDuringTheApplyIsNotTitled();
     void toolBarsDeletedDuringTheApplyAreLeftAlone();
     void aMessageBoxDuringTheApplyLosesNothing();
@@ -219,16 +261,48 @@ void tst_RyCToolBarWidget_Hosts::aNewToolBarAtTheAddressOfADeletedOneIsLeftAlone
     QCOMPARE(editor.inconsistency(), QString());
 }
 
-void tst_RyCToolBarWidget_Hosts::aDefaultToolBarAtTheAddressOfADeletedOneIsNotReset()
+// Created in the editor, applied, and then deleted by the host.
+void tst_RyCToolBarWidget_Hosts::aNewToolBarAtTheAddressOfACreatedOneIsLeftAlone()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    QToolBar *const other = reborn(host, host.mine);
+    editor.call("newClicked");
+    editor.call("rightClicked");
+    editor.widget.applyClicked();
+    reborn(host, EditorFields::of(editor.widget).currentRecord->toolBar());
+    const QStringList before = toolBarsOf(host.manager);
+    editor.widget.applyClicked();
+    editor.call("removeClicked");
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), before);
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+void tst_RyCToolBarWidget_Hosts::aDefaultToolBarAtTheAddressOfADeletedOneIsNotReset_data()
+{
+    QTest::addColumn<bool>("byTheEditor");
+    QTest::newRow("deleted by the host") << false;
+    QTest::newRow("deleted by the editor") << true;
+}
+
+void tst_RyCToolBarWidget_Hosts::aDefaultToolBarAtTheAddressOfADeletedOneIsNotReset()
+{
+    QFETCH(bool, byTheEditor);
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("Mine"));
+    const auto byEditor = [&] {
+        editor.call("removeClicked");
+        editor.widget.applyClicked();
+    };
+    QToolBar *const other =
+        byTheEditor ? reborn(host, host.mine, byEditor) : reborn(host, host.mine);
     host.manager.removeDefaultToolBar(other);
     other->addAction(host.action(QStringLiteral("open")));
     host.manager.addDefaultToolBar(other, QStringLiteral("Late"));
     host.manager.setToolBar(other, host.list(words("paste")));
     editor.widget.defaultClicked();
+    QCOMPARE(editor.inconsistency(), QString());
     QCOMPARE(editor.workingCopy(), lines({"File: open | save"}));
     editor.widget.applyClicked();
     QCOMPARE(contentOf(host.manager.actions(other)), words("paste"));
@@ -273,6 +347,21 @@ void tst_RyCToolBarWidget_Hosts::aDeletedActionIsShownAsBefore()
     QCOMPARE(rowsOf(editor.views.currentToolBarList), lines({"Cut", "Paste"}));
 }
 
+void tst_RyCToolBarWidget_Hosts::aDeletedActionThatHasNoTreeItemIsShownWithoutText()
+{
+    FilledHost host;
+    // Takes the actions out of their category, but not off their toolbars.
+    host.manager.addCategory(QStringLiteral("Edits"));
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    QAction *const cut = host.action(QStringLiteral("cut"));
+    host.manager.removeAction(cut);
+    delete cut;
+    editor.selectToolBar(QStringLiteral("Mine"));
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), lines({"", "< S E P A R A T O R >", "Copy"}));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
 void tst_RyCToolBarWidget_Hosts::aDeletedActionIsLeftOutOfTheApply()
 {
     FilledHost host;
@@ -288,23 +377,6 @@ void tst_RyCToolBarWidget_Hosts::aDeletedActionIsLeftOutOfTheApply()
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager),
              lines({"Custom Toolbar:", "File: open | save", "Mine: | copy", "Yours: paste"}));
-}
-
-void tst_RyCToolBarWidget_Hosts::aNewActionAtTheAddressOfADeletedOneIsNotPlaced()
-{
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    QAction *const cut = host.action(QStringLiteral("cut"));
-    host.manager.removeAction(cut);
-    cut->~QAction();
-    // At the same address for certain.
-    QAction *const reborn = new (static_cast<void *>(cut)) QAction(&host.window);
-    reborn->setObjectName(QStringLiteral("reborn"));
-    host.manager.addAction(reborn, QStringLiteral("Edits"));
-    editor.selectToolBar(QStringLiteral("Mine"));
-    QCOMPARE(rowsOf(editor.views.currentToolBarList).constFirst(), QStringLiteral("Cut"));
-    editor.widget.applyClicked();
-    QCOMPARE(contentOf(host.manager.actions(host.mine)), words("| copy"));
 }
 
 void tst_RyCToolBarWidget_Hosts::changesOfActionsAreShownOnlyByNewEntries()
@@ -455,7 +527,7 @@ void tst_RyCToolBarWidget_Hosts::anApplyDuringTheApplyCreatesNothingTwice()
     QCOMPARE(host.manager.toolBars().size(), 3);
 }
 
-void tst_RyCToolBarWidget_Hosts::restoringDefaultsDuringTheApplyCreatesNothing()
+void tst_RyCToolBarWidget_Hosts::restoringDefaultsDuringTheApplyKeepsWhatIsApplied()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
@@ -469,9 +541,100 @@ void tst_RyCToolBarWidget_Hosts::restoringDefaultsDuringTheApplyCreatesNothing()
     QCOMPARE(calls.count(), 1);
     QCOMPARE(editor.inconsistency(), QString());
     QCOMPARE(toolBarsOf(host.manager),
-             lines({"File: open | save", "Mine: | copy", "Yours: paste"}));
+             lines({"Custom Toolbar:", "File: open | save", "Mine: | copy", "Yours: paste"}));
+    // The editor has no row for the new one before it is shown again.
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), lines({"File: open | save"}));
+    QCOMPARE(toolBarsOf(host.manager), lines({"Custom Toolbar:", "File: open | save"}));
+}
+
+void tst_RyCToolBarWidget_Hosts::aCreatedToolBarMayBeRemovedWhileItIsApplied_data()
+{
+    QTest::addColumn<bool>("filled");
+    QTest::newRow("while it is created") << false;
+    QTest::newRow("while it is filled") << true;
+}
+
+void tst_RyCToolBarWidget_Hosts::aCreatedToolBarMayBeRemovedWhileItIsApplied()
+{
+    QFETCH(bool, filled);
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.call("newClicked");
+    editor.selectAction(QStringLiteral("Cut"));
+    editor.call("rightClicked");
+    ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
+    HostCalls removal({QEvent::ActionAdded}, HostCalls::Once,
+                      [&] { editor.call("removeClicked"); });
+    HostCalls creation({QEvent::ChildAdded}, HostCalls::Once, [&] {
+        if (filled)
+            host.window.children().constLast()->installEventFilter(&removal);
+        else
+            editor.call("removeClicked");
+    });
+    host.window.installEventFilter(&creation);
+    editor.widget.applyClicked();
+    QCOMPARE(removal.count(), filled ? 1 : 0);
+    QCOMPARE(creation.count(), 1);
+    QVERIFY(!itemNamed(editor.views.toolBarList, QStringLiteral("Custom Toolbar")));
+    QCOMPARE(editor.inconsistency(), QString());
+    const QStringList applied =
+        lines({"Custom Toolbar: cut", "File: open | save", "Mine: cut | copy", "Yours: paste"});
+    QCOMPARE(toolBarsOf(host.manager), applied);
+    // Without a toolbar it is gone for good, with one it goes with the next apply.
+    const EditorFields fields = EditorFields::of(editor.widget);
+    QCOMPARE(fields.ownedRecords.contains(record), filled);
+    QCOMPARE(fields.removedRecords.contains(record), filled);
+    editor.widget.applyClicked();
+    QCOMPARE(toolBarsOf(host.manager), applied.mid(filled ? 1 : 0));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+// The record of a created toolbar goes when the working copy is discarded.
+void tst_RyCToolBarWidget_Hosts::aNewRecordAtTheAddressOfACreatedOneKeepsItsToolBar()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.call("newClicked");
+    ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
+    HostCalls calls({QEvent::ChildAdded}, HostCalls::Once, [&] {
+        memory = {record, sizeof(ToolBarItem), false};
+        editor.call("clearOld");
+        QCOMPARE(createRecord(editor.widget, host.file), record);
+        memory = {nullptr, 0, false};
+    });
+    host.window.installEventFilter(&calls);
+    editor.widget.applyClicked();
+    QCOMPARE(calls.count(), 1);
+    QCOMPARE(record->toolBar(), host.file);
+    QCOMPARE(toolBarsOf(host.manager),
+             lines({"Custom Toolbar:", "File: open | save", "Mine: cut | copy", "Yours: paste"}));
+}
+
+void tst_RyCToolBarWidget_Hosts::aNewRecordAtTheAddressOfAFreedOneHasNoToolBar_data()
+{
+    QTest::addColumn<bool>("alone");
+    QTest::newRow("freed alone") << true;
+    QTest::newRow("freed with all others") << false;
+}
+
+void tst_RyCToolBarWidget_Hosts::aNewRecordAtTheAddressOfAFreedOneHasNoToolBar()
+{
+    QFETCH(bool, alone);
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    ToolBarItem *const record = createRecord(editor.widget, host.mine);
+    memory = {record, sizeof(ToolBarItem), false};
+    if (alone)
+        deleteRecord(editor.widget, record);
+    else
+        editor.call("clearOld");
+    editor.call("newClicked");
+    memory = {nullptr, 0, false};
+    QCOMPARE(EditorFields::of(editor.widget).currentRecord, record);
+    // Without a toolbar it is freed at once.
+    editor.call("removeClicked");
+    QVERIFY(!EditorFields::of(editor.widget).ownedRecords.contains(record));
+    QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Hosts::aToolBarDeletedDuringTheApplyIsNotTitled()
@@ -646,10 +809,21 @@ void tst_RyCToolBarWidget_Hosts::theManagerMayGoBeforeAShownEditor()
     QMainWindow window;
     std::unique_ptr<RyToolBarManager> manager(new RyToolBarManager);
     manager->setMainWindow(&window);
-    manager->createToolBar(QStringLiteral("Mine"));
+    QAction cut(QStringLiteral("Cut"), nullptr);
+    manager->addAction(&cut, QStringLiteral("Edits"));
+    manager->setToolBar(manager->createToolBar(QStringLiteral("Mine")), {&cut});
     std::unique_ptr<ShownEditor> editor(new ShownEditor(manager.get()));
-    QCOMPARE(currentOf(editor->views.toolBarList), QStringLiteral("Mine"));
     manager.reset();
+    editor->views.toolBarList->setCurrentItem(nullptr);
+    editor->selectToolBar(QStringLiteral("Mine"));
+    QCOMPARE(rowsOf(editor->views.currentToolBarList), lines({"Cut"}));
+    QCOMPARE(editor->views.enabledButtons(), QStringList());
+    editor->call("newClicked");
+    editor->widget.defaultClicked();
+    editor->widget.applyClicked();
+    QCOMPARE(editor->workingCopy(), lines({"Mine: \"Cut\""}));
+    editor->call("removeClicked");
+    QCOMPARE(editor->workingCopy(), QStringList());
     editor->widget.hide();
     editor->widget.show();
     editor->widget.applyClicked();

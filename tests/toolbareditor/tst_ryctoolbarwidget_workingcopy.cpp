@@ -2,6 +2,7 @@
 
 #include "fieldoffset.h"
 #include "host.h"
+#include "recordingtranslator.h"
 #include "ryctoolbarwidget.h"
 #include "showneditor.h"
 #include "testcase.h"
@@ -94,6 +95,26 @@ bool isEmpty(const EditorViews &views)
         && views.currentToolBarList->count() == 0;
 }
 
+class EventCounter : public QObject
+{
+public:
+    explicit EventCounter(QEvent::Type type)
+        : m_type(type)
+    {
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == m_type ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+
+private:
+    const QEvent::Type m_type;
+};
+
 QList<qptrdiff> fieldOffsetsOf(const RyCToolBarWidget &widget);
 ToolBarItem *createRecord(RyCToolBarWidget &widget, QToolBar *toolBar);
 void deleteRecord(RyCToolBarWidget &widget, ToolBarItem *record);
@@ -172,11 +193,13 @@ private Q_SLOTS:
     void theRenameButtonHasATextAndNoIcon();
 
     void theFillShowsEveryCategoryAndAction();
+    void theFillAddsEachCategoryOnItsOwnAndSortsOnce();
     void everyLevelOfTheActionTreeIsSorted();
     void theSeparatorEntryIsSortedAmongTheCategories();
     void aCategoryNamedAsTheSeparatorEntryComesAfterIt();
     void theTranslatedSeparatorEntryIsSortedByItsTranslation();
     void theSeparatorIsTranslatedWhenTheEditorIsMade();
+    void theSeparatorIsTranslatedAfterTheForm();
     void theSeparatorEntryIsCurrent();
     void theSeparatorEntryIsPlain();
     void categoriesArePlain();
@@ -195,6 +218,7 @@ private Q_SLOTS:
     void aDefaultToolBarIsDarkGreenAndNotEditable();
     void aCustomToolBarIsEditableAndNotColored();
     void theFillChangesEveryRowOnce();
+    void theFillKnowsARowBeforeItsContentAndBothBeforeItIsCurrent();
     void theListIsSortedAfterEachChangeOfTheFill();
     void rowsOfTheSameTextStayInOrder();
     void aRowChangedWithoutACurrentToolBarIsSortedInLater();
@@ -234,6 +258,7 @@ private Q_SLOTS:
     void theRecordsAreFreed_data();
     void theRecordsAreFreed();
     void anEditorThatWasNeverShownCanBeDestroyed();
+    void theDestructorDoesNotHideTheEditor();
 };
 
 void tst_RyCToolBarWidget_WorkingCopy::theMetaObjectIsNamedAfterTheClass()
@@ -292,7 +317,6 @@ void tst_RyCToolBarWidget_WorkingCopy::theFieldsStandInTheirOrder()
     QCOMPARE(offsets.size(), 16);
     for (int i = 0; i < offsets.size(); ++i)
         QCOMPARE(offsets.at(i), qptrdiff(sizeof(QWidget) + i * sizeof(void *)));
-    QCOMPARE(sizeof(RyCToolBarWidget), sizeof(QWidget) + 16 * sizeof(void *));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::thereAreNoNewVirtualFunctions()
@@ -379,6 +403,33 @@ void tst_RyCToolBarWidget_WorkingCopy::theFillShowsEveryCategoryAndAction()
     QCOMPARE(editor.inconsistency(), QString());
 }
 
+void tst_RyCToolBarWidget_WorkingCopy::theFillAddsEachCategoryOnItsOwnAndSortsOnce()
+{
+    Host host;
+    for (const char *name : {"two", "one"})
+        host.registered(QLatin1String(name), QStringLiteral("Digits"));
+    host.registered(QStringLiteral("alpha"), QStringLiteral("Names"));
+    host.manager.addCategory(QStringLiteral("! None"));
+    RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
+    const QTreeWidget *const tree = EditorViews(&widget).actionTree;
+    QStringList changes;
+    connect(tree->model(), &QAbstractItemModel::rowsInserted, this,
+            [&](const QModelIndex &parent, int first, int last) {
+                QStringList texts(parent.data().toString() + QLatin1Char(':'));
+                for (int row = first; row <= last; ++row)
+                    texts << tree->model()->index(row, 0, parent).data().toString();
+                changes << texts.join(QLatin1Char(' '));
+            });
+    connect(tree->model(), &QAbstractItemModel::layoutChanged, this,
+            [&] { changes << QStringLiteral("sorted"); });
+    widget.show();
+    QCOMPARE(changes,
+             QStringList({QStringLiteral(": ") + Separator, QStringLiteral(": ! None"),
+                          QStringLiteral(": Digits"), QStringLiteral("Digits: Two One"),
+                          QStringLiteral(": Names"), QStringLiteral("Names: Alpha"),
+                          QStringLiteral("sorted")}));
+}
+
 void tst_RyCToolBarWidget_WorkingCopy::everyLevelOfTheActionTreeIsSorted()
 {
     Host host;
@@ -444,6 +495,15 @@ void tst_RyCToolBarWidget_WorkingCopy::theSeparatorIsTranslatedWhenTheEditorIsMa
     const Translations german("RyCToolBarWidget", {{Separator, QStringLiteral("Trenner")}});
     widget.show();
     QCOMPARE(itemsOf(EditorViews(&widget).actionTree), QStringList{Separator});
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::theSeparatorIsTranslatedAfterTheForm()
+{
+    RecordingTranslator translator;
+    const RyCToolBarWidget widget(nullptr, nullptr, Qt::WindowFlags());
+    const QStringList lookUps = translator.takeLookUps();
+    QCOMPARE(lookUps.filter(QStringLiteral("CToolBarPage: ")).size(), lookUps.size() - 1);
+    QCOMPARE(lookUps.constLast(), QStringLiteral("RyCToolBarWidget: ") + Separator);
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theSeparatorEntryIsCurrent()
@@ -674,6 +734,34 @@ void tst_RyCToolBarWidget_WorkingCopy::theFillChangesEveryRowOnce()
     QCOMPARE(toolBarsOf(host.manager),
              QStringList({QStringLiteral("Empty:"), QStringLiteral("File: open | save"),
                           QStringLiteral("Mine: cut copy paste"), QStringLiteral("Single: |")}));
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::theFillKnowsARowBeforeItsContentAndBothBeforeItIsCurrent()
+{
+    Host host;
+    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
+    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("cut")});
+    RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
+    const QListWidget *const list = EditorViews(&widget).toolBarList;
+    QStringList seen;
+    const auto note = [&](const char *event) {
+        const EditorFields fields = EditorFields::of(widget);
+        const bool editable = list->item(0)->flags().testFlag(Qt::ItemIsEditable);
+        seen << QStringLiteral("%1: %2 recorded, %3 rows, %4 contents, %5")
+                    .arg(QLatin1String(event))
+                    .arg(fields.recordOfToolBar.size())
+                    .arg(fields.recordOfListItem.size())
+                    .arg(fields.workingActions.size())
+                    .arg(editable ? QStringLiteral("editable") : QStringLiteral("plain"));
+    };
+    connect(list->model(), &QAbstractItemModel::rowsInserted, this, [&] { note("inserted"); });
+    connect(list, &QListWidget::currentItemChanged, this, [&] { note("current"); });
+    connect(list, &QListWidget::itemChanged, this, [&] { note("changed"); });
+    widget.show();
+    QCOMPARE(seen,
+             QStringList({QStringLiteral("inserted: 1 recorded, 0 rows, 0 contents, plain"),
+                          QStringLiteral("current: 1 recorded, 1 rows, 1 contents, plain"),
+                          QStringLiteral("changed: 1 recorded, 1 rows, 1 contents, editable")}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theListIsSortedAfterEachChangeOfTheFill()
@@ -1257,6 +1345,20 @@ void tst_RyCToolBarWidget_WorkingCopy::anEditorThatWasNeverShownCanBeDestroyed()
     const QStringList before = toolBarsOf(host.manager);
     delete new RyCToolBarWidget(nullptr, &host.manager, Qt::WindowFlags());
     QCOMPARE(toolBarsOf(host.manager), before);
+}
+
+void tst_RyCToolBarWidget_WorkingCopy::theDestructorDoesNotHideTheEditor()
+{
+    FilledHost host;
+    QWidget parent;
+    RyCToolBarWidget *const widget =
+        new RyCToolBarWidget(&parent, &host.manager, Qt::WindowFlags());
+    parent.show();
+    QVERIFY(widget->isVisible());
+    EventCounter hidden(QEvent::Hide);
+    widget->installEventFilter(&hidden);
+    delete widget;
+    QCOMPARE(hidden.count, 0);
 }
 
 QTEST_MAIN(tst_RyCToolBarWidget_WorkingCopy)

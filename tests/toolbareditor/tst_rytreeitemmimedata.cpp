@@ -23,13 +23,6 @@ template <auto... Fields> struct FieldOffsets
 
 template struct FieldOffsets<&RyTreeItemMimeData::dragItem, &RyTreeItemMimeData::formatList>;
 
-// Opens what a drop target's Qt reads through.
-class Payload : public RyTreeItemMimeData
-{
-public:
-    using RyTreeItemMimeData::retrieveData;
-};
-
 QString itemFormat()
 {
     return QStringLiteral("ItemMimeData");
@@ -176,7 +169,7 @@ void tst_RyTreeItemMimeData::retrievingTheItemFormatTellsWhetherThereIsAnItem()
     QFETCH(bool, withItem);
     QFETCH(int, type);
     QTreeWidgetItem item;
-    Payload payload;
+    RyTreeItemMimeData payload;
     payload.SetDragData(itemFormat(), withItem ? &item : nullptr);
     const QVariant answer = payload.retrieveData(itemFormat(), QVariant::Type(type));
     QCOMPARE(answer.type(), QVariant::Bool);
@@ -186,7 +179,7 @@ void tst_RyTreeItemMimeData::retrievingTheItemFormatTellsWhetherThereIsAnItem()
 void tst_RyTreeItemMimeData::retrievingTheItemFormatNeedsNoReportedFormat()
 {
     QTreeWidgetItem item;
-    Payload payload;
+    RyTreeItemMimeData payload;
     QCOMPARE(payload.retrieveData(itemFormat(), QVariant::Bool), QVariant(false));
     payload.SetDragData(QStringLiteral("another/one"), &item);
     QCOMPARE(payload.retrieveData(itemFormat(), QVariant::Bool), QVariant(true));
@@ -206,7 +199,7 @@ void tst_RyTreeItemMimeData::otherFormatsComeFromTheBaseClass()
     QFETCH(QString, format);
     QFETCH(QVariant, expected);
     QTreeWidgetItem item;
-    Payload payload;
+    RyTreeItemMimeData payload;
     payload.SetDragData(itemFormat(), &item);
     payload.setData(QStringLiteral("my/bytes"), QByteArrayLiteral("abc"));
     QCOMPARE(payload.retrieveData(format, QVariant::ByteArray), expected);
@@ -226,7 +219,7 @@ void tst_RyTreeItemMimeData::theItemFormatIsComparedExactly()
 {
     QFETCH(QString, format);
     QTreeWidgetItem item;
-    Payload payload;
+    RyTreeItemMimeData payload;
     payload.SetDragData(itemFormat(), &item);
     QCOMPARE(payload.retrieveData(format, QVariant::Bool), QVariant());
     QVERIFY(!payload.hasFormat(format));
@@ -234,7 +227,7 @@ void tst_RyTreeItemMimeData::theItemFormatIsComparedExactly()
 
 void tst_RyTreeItemMimeData::theItemFormatHidesDataStoredUnderIt()
 {
-    Payload payload;
+    RyTreeItemMimeData payload;
     payload.setData(itemFormat(), QByteArrayLiteral("abc"));
     QCOMPARE(payload.retrieveData(itemFormat(), QVariant::ByteArray), QVariant(false));
 }

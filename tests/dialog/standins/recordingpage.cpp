@@ -9,6 +9,8 @@
 namespace {
 
 QStringList log;
+QString awaited;
+std::function<void()> awaiting;
 
 } // namespace
 
@@ -17,6 +19,12 @@ QStringList RecordingPage::takeLog()
     const QStringList taken = log;
     log.clear();
     return taken;
+}
+
+void RecordingPage::callAt(const QString &event, const std::function<void()> &call)
+{
+    awaited = event;
+    awaiting = call;
 }
 
 RecordingPage::RecordingPage(const QString &title, RyAbstatcManager *manager)
@@ -68,4 +76,10 @@ void RecordingPage::RestorDefaults()
 void RecordingPage::record(const QString &event) const
 {
     log << m_title + QLatin1Char(' ') + event;
+    if (awaiting && log.constLast() == awaited) {
+        // The call may delete this page.
+        const auto call = awaiting;
+        awaiting = nullptr;
+        call();
+    }
 }

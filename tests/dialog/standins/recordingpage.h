@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
+
 class RyAbstatcManager;
 
 /*
@@ -20,6 +22,9 @@ class RecordingPage : public RyCusInterface
 public:
     // What happened to all pages since the last call, in order.
     static QStringList takeLog();
+
+    // Called once with the next event of that text; null for nothing.
+    static void callAt(const QString &event, const std::function<void()> &call);
 
     ~RecordingPage() override;
 
