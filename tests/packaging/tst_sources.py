@@ -114,14 +114,14 @@ class Files(unittest.TestCase):
 
 
     def test_debian_package_promises_the_symbols_of_the_contract(self):
-        lists = tracked('packaging/debian/*.symbols')
+        lists = tracked('debian/*.symbols')
         self.assertEqual(len(lists), 1)
         promised = re.findall(r'^ (?!\(optional)(\w+)@Base ', lists[0].read_text(), re.MULTILINE)
         contract = SOURCE_DIR / 'tests' / 'packaging' / 'contract' / 'symbols.txt'
         exported = {line.split()[0] for line in contract.read_text().splitlines()}
         # The linker's own marks belong to nobody.
         self.assertEqual(sorted(promised), sorted(exported - {'__bss_start', '_edata', '_end'}),
-                         './package.sh --update-symbols adds what is new')
+                         'tools/package.sh --update-symbols adds what is new')
 
 
 class ReadmeExample(unittest.TestCase):
