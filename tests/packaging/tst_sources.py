@@ -123,6 +123,11 @@ class Files(unittest.TestCase):
         self.assertEqual(sorted(promised), sorted(exported - {'__bss_start', '_edata', '_end'}),
                          'tools/package.sh --update-symbols adds what is new')
 
+    def test_debian_change_log_begins_with_this_version(self):
+        newest = (SOURCE_DIR / 'debian' / 'changelog').read_text().splitlines()[0]
+        version = (SOURCE_DIR / 'VERSION').read_text().strip()
+        self.assertRegex(newest, rf'^rycustomizeddialog \({re.escape(version)}\) ')
+
 
 class ReadmeExample(unittest.TestCase):
 
