@@ -9,20 +9,14 @@ set(RY_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/RyCustomizedDialog")
 set(RY_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 set(RY_TRANSLATIONS_DIR "${CMAKE_INSTALL_DATADIR}/rycustomizeddialog/translations")
 
-# What no rule puts elsewhere is for developers.
-set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME RyCustomizedDialog_Development)
-
 install(TARGETS RyCustomizedDialog EXPORT RyCustomizedDialogTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-    COMPONENT RyCustomizedDialog_Runtime
-    NAMELINK_COMPONENT RyCustomizedDialog_Development
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(FILES ${RY_PUBLIC_HEADERS} ${RY_FORWARDING_HEADERS}
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/RyCustomizedDialog")
 install(FILES ${RY_TRANSLATIONS}
-    DESTINATION "${RY_TRANSLATIONS_DIR}"
-    COMPONENT RyCustomizedDialog_Runtime)
+    DESTINATION "${RY_TRANSLATIONS_DIR}")
 
 install(EXPORT RyCustomizedDialogTargets
     NAMESPACE RyCustomizedDialog::
