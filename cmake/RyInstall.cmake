@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# Files that `cmake --install` installs: the library, its headers, its translations, a relocatable
-# CMake package and a pkg-config file.
+# What `cmake --install` gives: the library, its headers, its translations, a relocatable CMake
+# package and a pkg-config file.
 
 include(CMakePackageConfigHelpers)
 
@@ -9,20 +9,14 @@ set(RY_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/RyCustomizedDialog")
 set(RY_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 set(RY_TRANSLATIONS_DIR "${CMAKE_INSTALL_DATADIR}/rycustomizeddialog/translations")
 
-# Files without a component of their own are for developers.
-set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME RyCustomizedDialog_Development)
-
 install(TARGETS RyCustomizedDialog EXPORT RyCustomizedDialogTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-    COMPONENT RyCustomizedDialog_Runtime
-    NAMELINK_COMPONENT RyCustomizedDialog_Development
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(FILES ${RY_PUBLIC_HEADERS} ${RY_FORWARDING_HEADERS}
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/RyCustomizedDialog")
 install(FILES ${RY_TRANSLATIONS}
-    DESTINATION "${RY_TRANSLATIONS_DIR}"
-    COMPONENT RyCustomizedDialog_Runtime)
+    DESTINATION "${RY_TRANSLATIONS_DIR}")
 
 install(EXPORT RyCustomizedDialogTargets
     NAMESPACE RyCustomizedDialog::
@@ -41,7 +35,7 @@ install(FILES
     "${PROJECT_BINARY_DIR}/RyCustomizedDialogConfigVersion.cmake"
     DESTINATION "${RY_PACKAGE_DIR}")
 
-# The prefix is relative to the file, so that the installed tree can be moved.
+# The prefix is found from where the file lies, so that the installed tree can be moved.
 if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}"
         OR IS_ABSOLUTE "${CMAKE_INSTALL_DATADIR}")
     set(RY_PKGCONFIG_PREFIX "${CMAKE_INSTALL_PREFIX}")

@@ -88,14 +88,19 @@ class Files(unittest.TestCase):
         self.assertEqual(alone, [])
 
     def test_debian_package_promises_the_symbols_of_the_contract(self):
-        lists = tracked('packaging/debian/*.symbols')
+        lists = tracked('debian/*.symbols')
         self.assertEqual(len(lists), 1)
         promised = re.findall(r'^ (?!\(optional)(\w+)@Base ', lists[0].read_text(), re.MULTILINE)
         contract = SOURCE_DIR / 'tests' / 'packaging' / 'contract' / 'symbols.txt'
         exported = {line.split()[0] for line in contract.read_text().splitlines()}
         # The linker's own marks belong to nobody.
         self.assertEqual(sorted(promised), sorted(exported - {'__bss_start', '_edata', '_end'}),
-                         './package.sh --update-symbols adds what is new')
+                         'tools/package.sh --update-symbols adds what is new')
+
+    def test_debian_change_log_begins_with_this_version(self):
+        newest = (SOURCE_DIR / 'debian' / 'changelog').read_text().splitlines()[0]
+        version = (SOURCE_DIR / 'VERSION').read_text().strip()
+        self.assertRegex(newest, rf'^rycustomizeddialog \({re.escape(version)}\) ')
 
 
 class ReadmeExample(unittest.TestCase):
