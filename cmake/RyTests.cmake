@@ -28,6 +28,9 @@ function(ry_add_test_program name)
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE
         RyCustomizedDialog::RyCustomizedDialog RyTestSupport ${ARG_LIBRARIES})
+    if(CMAKE_CXX_STANDARD EQUAL 17)
+        target_precompile_headers(${name} REUSE_FROM RyTestHeaders)
+    endif()
 endfunction()
 
 function(ry_set_test_properties name timeout platform)

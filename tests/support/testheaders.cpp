@@ -1,0 +1,3 @@
+// SPDX-License-Identifier: MIT
+
+// Nothing: CMake keeps precompiled headers with a target that has a source.
