@@ -162,11 +162,11 @@ private Q_SLOTS:
     void aDeletedActionThatHasNoTreeItemIsShownWithoutText();
     void aDeletedActionIsLeftOutOfTheApply();
     void changesOfActionsAreShownOnlyByNewEntries();
-    void anActionThatIsDisabledOrHiddenMeanwhileIsStillPlaced();
+    void anActionThatIsDisabledOrHiddenIsStillPlaced();
     void anActionThatBecameASeparatorIsStillAnAction();
 
     void theEditorMayBeHiddenWhileItApplies();
-    void theEditorMayBeShownAnewWhileItApplies();
+    void theEditorMayBeShownAgainWhileItApplies();
     void theEditorMayBeDeletedWhileItApplies_data();
     void theEditorMayBeDeletedWhileItApplies();
     void anApplyDuringTheApplyCreatesNothingTwice();
@@ -401,7 +401,7 @@ void tst_RyCToolBarWidget_Hosts::changesOfActionsAreShownOnlyByNewEntries()
     QCOMPARE(host.manager.findAction(QStringLiteral("snip")), cut);
 }
 
-void tst_RyCToolBarWidget_Hosts::anActionThatIsDisabledOrHiddenMeanwhileIsStillPlaced()
+void tst_RyCToolBarWidget_Hosts::anActionThatIsDisabledOrHiddenIsStillPlaced()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
@@ -458,7 +458,7 @@ void tst_RyCToolBarWidget_Hosts::theEditorMayBeHiddenWhileItApplies()
     QCOMPARE(editor.workingCopy(), QStringList());
 }
 
-void tst_RyCToolBarWidget_Hosts::theEditorMayBeShownAnewWhileItApplies()
+void tst_RyCToolBarWidget_Hosts::theEditorMayBeShownAgainWhileItApplies()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
