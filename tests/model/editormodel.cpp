@@ -213,7 +213,7 @@ void EditorModel::rightClicked()
         return;
     QAction *const action = currentItem.action;
     Content &content = working[currentRecord];
-    Entry entry{action, action ? m_world->actions[action].text : SeparatorText};
+    Entry entry = entryOf(action);
     const int place = action ? placeOf(content, action) : static_cast<int>(content.size());
     if (place < static_cast<int>(content.size())) {
         if (place == currentEntry)
@@ -335,10 +335,26 @@ void EditorModel::showCurrent()
     entries.clear();
     if (currentRecord) {
         for (QAction *action : working[currentRecord])
-            entries.push_back({action, action ? m_world->actions[action].text : SeparatorText});
+            entries.push_back(entryOf(action));
     }
     currentEntry = entries.empty() ? -1 : 0;
     setButtons();
+}
+
+// An action that is no longer registered is shown as the tree shows it.
+EditorModel::Entry EditorModel::entryOf(QAction *action) const
+{
+    if (!action)
+        return {nullptr, SeparatorText};
+    if (m_manager->registered.count(action))
+        return {action, m_world->actions[action].text};
+    for (const Category &category : tree) {
+        for (const Item &item : category.actions) {
+            if (item.action == action)
+                return {action, item.text};
+        }
+    }
+    return {action, QString()};
 }
 
 void EditorModel::setButtons()

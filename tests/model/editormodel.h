@@ -114,6 +114,7 @@ public:
 
 private:
     bool isDefault(ToolBarItem *record) const;
+    Entry entryOf(QAction *action) const;
     void setButtons();
     void sortRows();
     void sortTree();
