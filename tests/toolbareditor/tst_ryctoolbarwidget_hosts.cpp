@@ -160,6 +160,7 @@ private Q_SLOTS:
 
     void aDeletedActionIsShownAsBefore();
     void aDeletedActionThatHasNoTreeItemIsShownWithoutText();
+    void aDeletedActionIsNotLookedUpWhileTheEditorIsEmptied();
     void aDeletedActionIsLeftOutOfTheApply();
     void changesOfActionsAreShownOnlyByNewEntries();
     void anActionThatIsDisabledOrHiddenIsStillPlaced();
@@ -359,6 +360,27 @@ void tst_RyCToolBarWidget_Hosts::aDeletedActionThatHasNoTreeItemIsShownWithoutTe
     delete cut;
     editor.selectToolBar(QStringLiteral("Mine"));
     QCOMPARE(rowsOf(editor.views.currentToolBarList), lines({"", "< S E P A R A T O R >", "Copy"}));
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
+// As when a button loses the focus to the toolbar list, because it is disabled.
+void tst_RyCToolBarWidget_Hosts::aDeletedActionIsNotLookedUpWhileTheEditorIsEmptied()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    QAction *const cut = host.action(QStringLiteral("cut"));
+    host.manager.removeAction(cut);
+    delete cut;
+    int entries = 0;
+    const QObject listening;
+    connect(editor.views.actionTree->model(), &QAbstractItemModel::modelReset, &listening, [&] {
+        editor.selectToolBar(QStringLiteral("Mine"));
+        entries += editor.views.currentToolBarList->count();
+    });
+    editor.widget.hide();
+    QCOMPARE(entries, 3);
+    QCOMPARE(editor.workingCopy(), QStringList());
     QCOMPARE(editor.inconsistency(), QString());
 }
 
