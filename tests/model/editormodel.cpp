@@ -2,6 +2,8 @@
 
 #include "editormodel.h"
 
+#include <QAction>
+
 #include <algorithm>
 
 namespace {
@@ -345,16 +347,17 @@ void EditorModel::showCurrent()
 EditorModel::Entry EditorModel::entryOf(QAction *action) const
 {
     if (!action)
-        return {nullptr, SeparatorText};
+        return {nullptr, SeparatorText, false};
+    const bool hasIcon = !action->icon().isNull();
     if (m_manager->registered.count(action))
-        return {action, m_world->actions[action].text};
+        return {action, m_world->actions[action].text, hasIcon};
     for (const Category &category : tree) {
         for (const Item &item : category.actions) {
             if (item.action == action)
-                return {action, item.text};
+                return {action, item.text, hasIcon};
         }
     }
-    return {action, QString()};
+    return {action, QString(), false};
 }
 
 void EditorModel::setButtons()

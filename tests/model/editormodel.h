@@ -45,6 +45,7 @@ public:
     {
         QAction *action;
         QString text;
+        bool hasIcon;
     };
 
     struct Record
