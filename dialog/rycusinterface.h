@@ -66,9 +66,9 @@ public:
     virtual void apply() = 0;
 
     /*!
-     * \brief Takes the last notice before the dialog closes through OK (after apply()) or Cancel.
+     * \brief Called as the last thing before OK (after apply()) or Cancel closes the dialog.
      *
-     * Escape and the window's close button do not give it. Both pages of this library do nothing
+     * Not called for Escape and the window's close button. Both pages of this library do nothing
      * here.
      */
     virtual void finish() = 0;

@@ -109,7 +109,7 @@ void RyCustomizedDialog::callPages(void (RyCusInterface::*operation)())
 
 void RyCustomizedDialog::createPages(const QList<RyAbstatcManager *> &managers)
 {
-    // Made in the other order than they are listed, on purpose; only the list's order counts later.
+    // Made in another order than they are listed, on purpose. The list's order is that of the tabs.
     RyCusInterface *const ribbonPage = new RyCRibbonPage(managers.at(1));
     RyCusInterface *const toolBarPage = new RyCToolBarPage(managers.at(0));
     m_optionPages << toolBarPage << ribbonPage;

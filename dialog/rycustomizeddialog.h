@@ -33,9 +33,9 @@ class Ui_CustomizedDialog;
  * The host owns the dialog (it does not delete itself on close) and the managers, which must
  * outlive it. The dialog owns its pages; the page widgets belong to its widget tree.
  *
- * The host may close or delete the dialog at any time, also from what is called while it applies:
- * the edits are written to the end. A second exec() while the first one runs returns -1 at once, as
- * with every QDialog.
+ * The host may close or delete the dialog at any time. If it does so while the dialog applies, in
+ * an event filter or a slot that is called then, all edits are written all the same. A second
+ * exec() while the first one runs returns -1 at once, as with every QDialog.
  *
  * Quirks a host must know, all deliberate:
  * - Escape and the window's close button go straight to QDialog::reject(); no page is given
@@ -58,10 +58,9 @@ public:
      *
      * \param managers the host's managers, which stay the host's and must outlive the dialog.
      *        Element 0 must be a RyToolBarManager; it is used as one without a check. A null
-     *        element 0 gives an editor that stays empty, in which Restore Defaults must not be
-     *        pressed. Element 1 goes to the ribbon page, which never uses it; it may be null.
-     *        Further elements are ignored. A shorter list is a precondition violation that nothing
-     *        reports.
+     *        element 0 gives an editor that stays empty. Element 1 goes to the ribbon page,
+     *        which never uses it; it may be null. Further elements are ignored. A shorter list
+     *        is a precondition violation that nothing reports.
      * \param parent the parent widget, which owns the dialog if it is not null.
      */
     explicit RyCustomizedDialog(QList<RyAbstatcManager *> managers, QWidget *parent = nullptr);
@@ -91,8 +90,8 @@ public:
     /*!
      * \brief Returns the Help button, owned by the dialog; never null.
      *
-     * A host with help of its own disconnects this button from the dialog and connects it anew;
-     * the button box's helpRequested() reaches nothing.
+     * A host with help of its own disconnects this button from the dialog and connects it to
+     * that; the button box's helpRequested() reaches nothing.
      */
     QPushButton *helpButton() const;
 

@@ -33,8 +33,7 @@ public:
      * \brief Constructs a page without a widget.
      *
      * \param manager a RyToolBarManager, which is used as one without a check, stays the host's and
-     *        must outlive the page's widget. Null gives an editor that stays empty;
-     *        RestorDefaults() must not be called then.
+     *        must outlive the page's widget. Null gives an editor that stays empty.
      */
     explicit RyCToolBarPage(RyAbstatcManager *manager);
 
@@ -61,7 +60,7 @@ public:
     /*!
      * \brief Writes the editor's working copy to the manager; see RyCToolBarWidget::applyClicked().
      *
-     * Does nothing before createPage() and after the editor's end.
+     * Does nothing before createPage() and once the editor is gone.
      */
     void apply() override;
 
@@ -73,7 +72,7 @@ public:
     /*!
      * \brief Resets the working copy to the defaults; see RyCToolBarWidget::defaultClicked().
      *
-     * Does nothing before createPage() and after the editor's end.
+     * Does nothing before createPage() and once the editor is gone.
      */
     void RestorDefaults() override;
 

@@ -27,30 +27,30 @@ class Ui_CToolBarPage;
  *
  * When it is shown it copies the manager's categories, actions and toolbars into a private working
  * copy, which is all that the user edits. applyClicked() writes the copy to the manager. When it is
- * hidden, edits that were not applied are thrown away; showing it again reads the manager anew.
- * Show and hide events of the window system (minimising and restoring) change nothing.
+ * hidden, edits that were not applied are thrown away. Show and hide events of the window system
+ * (minimising and restoring) change nothing.
  *
  * RyCToolBarPage creates it; use that page rather than this class.
  *
  * Quirks a host must know, all deliberate:
  * - Without a current toolbar the Remove and Rename buttons are enabled; they act on nothing.
- * - Every new toolbar is named "Custom Toolbar", and any new name is accepted as it is: an empty
- * one and one that another toolbar bears included.
+ * - Every new toolbar is named "Custom Toolbar".
+ * - Any new name is accepted as it is, even an empty one or that of another toolbar.
  * - The texts of actions are shown as they are, with the "&" of a mnemonic.
  * - The separator entry is sorted among the categories by its text.
  *
  * What the host may do while the editor is shown:
  * - Register actions and toolbars; they appear when it is shown next.
- * - Delete custom toolbars with RyToolBarManager::deleteToolBar(). Their rows stay, and the editor
- *   leaves alone whatever may get their address.
- * - Remove actions with RyToolBarManager::removeAction() and delete them afterwards. They are shown
- * as before and are left out by applyClicked().
- * - Change actions. Rows show the text and icon of the moment when they were made.
- * - Change the style, the palette, the font, the direction or the language. The edits stay, and so
- * do the texts that are shown. Changing the window flags or the parent hides the editor, and with
- * that discards the edits.
- * - Show a second editor of the same manager. Each writes everything as it shows it; the last
- *   applyClicked() counts.
+ * - Delete custom toolbars with RyToolBarManager::deleteToolBar(). Their rows stay, but are no
+ *   longer applied.
+ * - Remove actions with RyToolBarManager::removeAction(), then delete them. They are shown as
+ *   before, and applyClicked() leaves them out.
+ * - Change actions. A row shows the text and icon of the moment when it was made.
+ * - Change the style, the palette, the font, the direction or the language. The edits stay, and
+ *   so do the texts that are shown.
+ * - Change the window flags or the parent. This hides the editor, which discards the edits.
+ * - Show a second editor of the same manager. Each applies everything as it shows it; the last
+ *   applyClicked() wins.
  *
  * The order of the fields, virtual functions and slots is part of the binary contract.
  */
@@ -64,8 +64,7 @@ public:
      *
      * \param parent the widget's parent, which owns it; with null the caller does.
      * \param manager a RyToolBarManager, which is used as one without a check, stays the host's and
-     *        must outlive the editor. With null the editor stays empty, and defaultClicked() must
-     *        not be called.
+     *        must outlive the editor. With null the editor stays empty.
      * \param flags the window flags of the widget.
      */
     RyCToolBarWidget(QWidget *parent, RyAbstatcManager *manager, Qt::WindowFlags flags);
@@ -82,14 +81,15 @@ public Q_SLOTS:
      * First every existing toolbar is given its content through RyToolBarManager::setToolBar() and
      * its title, changed or not, in the order of the editor's records; then removed toolbars are
      * deleted; then new ones are created and filled. The editor stays as it is. A toolbar that the
-     * manager has forgotten meanwhile gets its title only; one that is gone is left out. Applying
-     * twice creates and deletes nothing the second time.
+     * manager has forgotten gets its title only; one that is gone is left out. Applying twice
+     * creates and deletes nothing the second time.
      *
-     * While the editor is hidden the working copy is empty, and nothing is written.
+     * Nothing is written while the editor is hidden, because its working copy is empty then, or
+     * without a manager.
      *
-     * The working copy is read first. Event filters and slots of the host, which are called while
-     * the toolbars change, may hide or delete the editor: everything is written all the same. What
-     * they edit meanwhile is written by the next call.
+     * The working copy is read before anything is written. Changing toolbars calls event filters
+     * and slots of the host. If these hide or delete the editor, everything is written all the
+     * same; if they edit the working copy, the next call writes that.
      */
     void applyClicked();
 
@@ -98,8 +98,8 @@ public Q_SLOTS:
      *        custom toolbar from it.
      *
      * The host's toolbars change with the next applyClicked(). Default toolbars that were
-     * registered after the editor was shown are left alone. While the editor is hidden it has no
-     * effect.
+     * registered after the editor was shown are left alone. Does nothing while the editor is
+     * hidden, and without a manager.
      */
     void defaultClicked();
 

@@ -77,6 +77,11 @@ void RyCToolBarWidget::fillToolBarList()
 
 void RyCToolBarWidget::clearOld()
 {
+    // First, because emptying the views may make another toolbar current, whose entries would look
+    // for the tree items of removed actions.
+    m_treeItemOfAction.clear();
+    m_actionOfTreeItem.clear();
+
     ui->actionTree->clear();
     ui->toolBarList->clear();
     ui->currentToolBarList->clear();
@@ -89,8 +94,6 @@ void RyCToolBarWidget::clearOld()
     ui->leftButton->setEnabled(false);
     ui->rightButton->setEnabled(false);
 
-    m_treeItemOfAction.clear();
-    m_actionOfTreeItem.clear();
     m_listItemOfRecord.clear();
     m_recordOfListItem.clear();
     m_entryOfAction.clear();

@@ -17,7 +17,7 @@
  * of the top level over empty space. Only the current item is dragged, whatever else is selected.
  *
  * Use it where a user arranges a tree of the host's own. The pages of RyCustomizedDialog do not use
- * it, and it tells nobody of a drop.
+ * it, and it has no signal for a drop.
  *
  * \code
  * RyTreeWidget commands;
@@ -56,7 +56,8 @@ public:
      *
      * With the Control key held, as this tree saw it, a copy is offered and the item stays.
      * Otherwise a move is offered and the item is deleted when the drag ends, whatever came of it,
-     * deliberately. Runs a nested event loop; do not delete the tree or the item meanwhile.
+     * deliberately. Runs a nested event loop, in which neither the tree nor the item may be
+     * deleted.
      */
     void performDrag();
 
@@ -107,7 +108,7 @@ protected:
 private:
     // Where the left button was pressed last; never reset.
     QPoint startPos;
-    // True while the Control key is held, as far as this tree's own key events tell.
+    // True while the Control key is held, as far as this tree's own key events show.
     bool ctrlPressed;
 };
 

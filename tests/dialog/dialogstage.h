@@ -22,7 +22,7 @@ public:
     DialogStage();
 
     // Shows the host and runs the dialog; "accepted" or "rejected" is what the dialog returned,
-    // anything else tells what went wrong before.
+    // anything else says what went wrong before.
     QString exec();
 
     // Types into the in-place editor, which has opened with its text selected.

@@ -35,7 +35,7 @@ const Fields &fieldsOf(const RyCustomizedDialog &dialog)
                                              + sizeof(QDialog));
 }
 
-// The types tell whose function it is that a subclass would override.
+// The types show whose function it is that a subclass would override.
 struct Access : RyCustomizedDialog
 {
     template <typename Event> using Handler = void (QDialog::*)(Event *);

@@ -18,8 +18,8 @@
 #include <QtTest>
 
 /*
- * What the dialog tells a screen reader, and what can be done through it. docs/accessibility.md
- * says the same in words.
+ * What the dialog reports to a screen reader, and what can be done through it.
+ * docs/accessibility.md says the same in words.
  */
 
 namespace {
@@ -52,7 +52,7 @@ QStringList actionsOf(QAccessibleInterface *interface)
     return actions ? actions->actionNames() : QStringList();
 }
 
-QAccessibleInterface *told(QObject *object)
+QAccessibleInterface *accessible(QObject *object)
 {
     return QAccessible::queryAccessibleInterface(object);
 }
@@ -76,10 +76,10 @@ void appendLines(QStringList &lines, const QAccessibleInterface *interface, int 
 }
 
 // The items of a view: "name states".
-QStringList itemsTold(QAbstractItemView *view)
+QStringList itemsReported(QAbstractItemView *view)
 {
     QStringList lines;
-    const QAccessibleInterface *const interface = told(view);
+    const QAccessibleInterface *const interface = accessible(view);
     for (int i = 0; i < interface->childCount(); ++i) {
         const QAccessibleInterface *const item = interface->child(i);
         if (item->role() != QAccessible::ColumnHeader)
@@ -92,7 +92,7 @@ QStringList itemsTold(QAbstractItemView *view)
 
 void press(QObject *object)
 {
-    QAccessibleActionInterface *const actions = told(object)->actionInterface();
+    QAccessibleActionInterface *const actions = accessible(object)->actionInterface();
     QVERIFY(actions);
     QVERIFY(actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
     actions->doAction(QAccessibleActionInterface::pressAction());
@@ -147,7 +147,7 @@ private Q_SLOTS:
     void toolTipsAreTheDescriptionsOfButtons_data();
     void toolTipsAreTheDescriptionsOfButtons();
     void theActionTreeTellsCategoriesAndActions();
-    void theHiddenHeaderIsTold();
+    void theHiddenHeaderIsReported();
     void theToolBarListTellsRowsButNotWhichAreDefault();
     void theCurrentToolBarTellsItsActions_data();
     void theCurrentToolBarTellsItsActions();
@@ -158,13 +158,13 @@ private Q_SLOTS:
     void newAndRenameOpenALineWithTheName();
     void pressingTheButtonsOfTheBox_data();
     void pressingTheButtonsOfTheBox();
-    void tabsAreToldAndPressed();
-    void theRibbonPageIsToldAsInvisible();
+    void tabsAreReportedAndPressed();
+    void theRibbonPageIsReportedAsInvisible();
     void everyButtonTakesTheFocus();
     void noOtherKeyDoesAnything_data();
     void noOtherKeyDoesAnything();
     void captionsAndButtonsHaveNoAccelerators();
-    void mnemonicsAreToldAsTheyStand();
+    void mnemonicsAreReportedAsTheyStand();
     void selectingAnItemDoesNotMakeItCurrent_data();
     void selectingAnItemDoesNotMakeItCurrent();
 };
@@ -174,7 +174,7 @@ void tst_RyCustomizedDialog_Accessibility::everythingHasARole()
     Stage stage;
     stage.views.newButton->setFocus();
     QStringList found;
-    appendLines(found, told(&stage.dialog), 0);
+    appendLines(found, accessible(&stage.dialog), 0);
     // The page that is not shown has a test of its own, and the scroll buttons of tabs belong to
     // Qt. Qt calls the current tab focused, wherever the focus is.
     const int ribbon = found.indexOf(QStringLiteral("      Client '' invisible"));
@@ -218,8 +218,8 @@ void tst_RyCustomizedDialog_Accessibility::theViewsHaveNoNames()
     Stage stage;
     for (QWidget *view : QList<QWidget *>{stage.views.actionTree, stage.views.toolBarList,
                                           stage.views.currentToolBarList}) {
-        QCOMPARE(told(view)->text(QAccessible::Name), QString());
-        QCOMPARE(told(view)->text(QAccessible::Description), QString());
+        QCOMPARE(accessible(view)->text(QAccessible::Name), QString());
+        QCOMPARE(accessible(view)->text(QAccessible::Description), QString());
     }
 }
 
@@ -250,10 +250,10 @@ void tst_RyCustomizedDialog_Accessibility::toolTipsAreTheDescriptionsOfButtons()
     Stage stage;
     QWidget *const button =
         stage.views.page->findChild<QWidget *>(QLatin1String(QTest::currentDataTag()));
-    QCOMPARE(told(button)->role(), QAccessible::Button);
-    QCOMPARE(told(button)->text(QAccessible::Name), name);
-    QCOMPARE(told(button)->text(QAccessible::Description), description);
-    QCOMPARE(actionsOf(told(button)),
+    QCOMPARE(accessible(button)->role(), QAccessible::Button);
+    QCOMPARE(accessible(button)->text(QAccessible::Name), name);
+    QCOMPARE(accessible(button)->text(QAccessible::Description), description);
+    QCOMPARE(actionsOf(accessible(button)),
              QStringList({QAccessibleActionInterface::pressAction(),
                           QAccessibleActionInterface::setFocusAction()}));
 }
@@ -261,35 +261,35 @@ void tst_RyCustomizedDialog_Accessibility::toolTipsAreTheDescriptionsOfButtons()
 void tst_RyCustomizedDialog_Accessibility::theActionTreeTellsCategoriesAndActions()
 {
     Stage stage;
-    QCOMPARE(itemsTold(stage.views.actionTree),
+    QCOMPARE(itemsReported(stage.views.actionTree),
              lines("< S E P A R A T O R > focused selected\nEdit expandable\nFile expandable"));
     stage.views.actionTree->expandItem(itemNamed(stage.views.actionTree, QStringLiteral("Edit")));
     stage.views.actionTree->setCurrentItem(
         itemNamed(stage.views.actionTree, QStringLiteral("Cut")));
-    QCOMPARE(itemsTold(stage.views.actionTree),
+    QCOMPARE(itemsReported(stage.views.actionTree),
              lines("< S E P A R A T O R >\nEdit expandable expanded\nCopy\nCut focused selected\n"
                    "Paste\nFile expandable"));
-    const QAccessibleInterface *const tree = told(stage.views.actionTree);
+    const QAccessibleInterface *const tree = accessible(stage.views.actionTree);
     for (int i = 1; i < tree->childCount(); ++i)
         QCOMPARE(tree->child(i)->role(), QAccessible::TreeItem);
 }
 
 // As "1", the text that nobody sees.
-void tst_RyCustomizedDialog_Accessibility::theHiddenHeaderIsTold()
+void tst_RyCustomizedDialog_Accessibility::theHiddenHeaderIsReported()
 {
     Stage stage;
-    const QAccessibleInterface *const header = told(stage.views.actionTree)->child(0);
+    const QAccessibleInterface *const header = accessible(stage.views.actionTree)->child(0);
     QCOMPARE(header->role(), QAccessible::ColumnHeader);
     QCOMPARE(lineOf(header), QStringLiteral("ColumnHeader '1' invisible"));
 }
 
-// Only their color tells default toolbars, and nothing tells which rows can be renamed.
+// Only their color marks default toolbars, and nothing marks the rows that can be renamed.
 void tst_RyCustomizedDialog_Accessibility::theToolBarListTellsRowsButNotWhichAreDefault()
 {
     Stage stage;
-    QCOMPARE(itemsTold(stage.views.toolBarList), lines("File\nMine focused selected"));
+    QCOMPARE(itemsReported(stage.views.toolBarList), lines("File\nMine focused selected"));
     for (int row = 0; row < 2; ++row) {
-        const QAccessibleInterface *const item = told(stage.views.toolBarList)->child(row);
+        const QAccessibleInterface *const item = accessible(stage.views.toolBarList)->child(row);
         QCOMPARE(item->role(), QAccessible::ListItem);
         QCOMPARE(item->text(QAccessible::Description), QString());
     }
@@ -297,18 +297,18 @@ void tst_RyCustomizedDialog_Accessibility::theToolBarListTellsRowsButNotWhichAre
 
 void tst_RyCustomizedDialog_Accessibility::theCurrentToolBarTellsItsActions_data()
 {
-    QTest::addColumn<QString>("told");
+    QTest::addColumn<QString>("reported");
     QTest::newRow("Mine") << "Cut\n< S E P A R A T O R > focused selected\nCopy";
     QTest::newRow("File") << "Open focused selected\nSave";
 }
 
 void tst_RyCustomizedDialog_Accessibility::theCurrentToolBarTellsItsActions()
 {
-    QFETCH(QString, told);
+    QFETCH(QString, reported);
     Stage stage;
     stage.views.toolBarList->setCurrentItem(
         itemNamed(stage.views.toolBarList, QLatin1String(QTest::currentDataTag())));
-    QCOMPARE(itemsTold(stage.views.currentToolBarList), told.split(QLatin1Char('\n')));
+    QCOMPARE(itemsReported(stage.views.currentToolBarList), reported.split(QLatin1Char('\n')));
 }
 
 void tst_RyCustomizedDialog_Accessibility::disabledButtonsOfferNothing()
@@ -318,8 +318,8 @@ void tst_RyCustomizedDialog_Accessibility::disabledButtonsOfferNothing()
     for (QToolButton *button :
          {stage.views.removeButton, stage.views.renameButton, stage.views.upButton}) {
         QVERIFY(!button->isEnabled());
-        QVERIFY(told(button)->state().disabled);
-        QCOMPARE(actionsOf(told(button)), QStringList());
+        QVERIFY(accessible(button)->state().disabled);
+        QCOMPARE(actionsOf(accessible(button)), QStringList());
     }
 }
 
@@ -362,7 +362,7 @@ void tst_RyCustomizedDialog_Accessibility::newAndRenameOpenALineWithTheName()
     Stage stage;
     press(stage.views.page->findChild<QWidget *>(QLatin1String(QTest::currentDataTag())));
     QTRY_VERIFY(stage.views.renameEditor());
-    QAccessibleInterface *const line = told(stage.views.renameEditor());
+    QAccessibleInterface *const line = accessible(stage.views.renameEditor());
     QCOMPARE(line->role(), QAccessible::EditableText);
     QCOMPARE(line->text(QAccessible::Name), QString());
     QCOMPARE(line->text(QAccessible::Value), name);
@@ -405,10 +405,10 @@ void tst_RyCustomizedDialog_Accessibility::pressingTheButtonsOfTheBox()
     QTRY_COMPARE(standingOn(stage.mine), words(qPrintable(inHost)));
 }
 
-void tst_RyCustomizedDialog_Accessibility::tabsAreToldAndPressed()
+void tst_RyCustomizedDialog_Accessibility::tabsAreReportedAndPressed()
 {
     Stage stage;
-    const QAccessibleInterface *const bar = told(stage.tabs->tabBar());
+    const QAccessibleInterface *const bar = accessible(stage.tabs->tabBar());
     for (const int index : {1, 0}) {
         QAccessibleInterface *const tab = bar->child(index);
         QCOMPARE(tab->role(), QAccessible::PageTab);
@@ -420,17 +420,17 @@ void tst_RyCustomizedDialog_Accessibility::tabsAreToldAndPressed()
     }
 }
 
-void tst_RyCustomizedDialog_Accessibility::theRibbonPageIsToldAsInvisible()
+void tst_RyCustomizedDialog_Accessibility::theRibbonPageIsReportedAsInvisible()
 {
     Stage stage;
     QWidget *const ribbon = stage.dialog.findChild<QWidget *>(QStringLiteral("CRibbonPage"));
     QWidget *const button = ribbon->findChild<QWidget *>(QStringLiteral("newButton_4"));
-    QCOMPARE(lineOf(told(ribbon)), QStringLiteral("Client '' invisible"));
-    QCOMPARE(lineOf(told(button)), QStringLiteral("Button 'New' invisible"));
+    QCOMPARE(lineOf(accessible(ribbon)), QStringLiteral("Client '' invisible"));
+    QCOMPARE(lineOf(accessible(button)), QStringLiteral("Button 'New' invisible"));
     stage.tabs->setCurrentIndex(1);
-    QCOMPARE(lineOf(told(ribbon)), QStringLiteral("Client ''"));
-    QCOMPARE(lineOf(told(button)), QStringLiteral("Button 'New'"));
-    QCOMPARE(lineOf(told(stage.views.newButton)),
+    QCOMPARE(lineOf(accessible(ribbon)), QStringLiteral("Client ''"));
+    QCOMPARE(lineOf(accessible(button)), QStringLiteral("Button 'New'"));
+    QCOMPARE(lineOf(accessible(stage.views.newButton)),
              QStringLiteral("Button 'New' invisible disabled"));
 }
 
@@ -443,10 +443,11 @@ void tst_RyCustomizedDialog_Accessibility::everyButtonTakesTheFocus()
         if (!button->isVisible())
             continue;
         ++count;
-        QVERIFY(told(button)->state().focusable);
-        told(button)->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        QVERIFY(accessible(button)->state().focusable);
+        accessible(button)->actionInterface()->doAction(
+            QAccessibleActionInterface::setFocusAction());
         QCOMPARE(QApplication::focusWidget(), button);
-        QVERIFY(told(button)->state().focused);
+        QVERIFY(accessible(button)->state().focused);
     }
     QCOMPARE(count, 12);
 }
@@ -488,15 +489,15 @@ void tst_RyCustomizedDialog_Accessibility::captionsAndButtonsHaveNoAccelerators(
         QRegularExpression(QStringLiteral("^label|Button$")));
     QCOMPARE(parts.size(), 10);
     for (QWidget *part : parts)
-        QCOMPARE(told(part)->text(QAccessible::Accelerator), QString());
+        QCOMPARE(accessible(part)->text(QAccessible::Accelerator), QString());
 }
 
-void tst_RyCustomizedDialog_Accessibility::mnemonicsAreToldAsTheyStand()
+void tst_RyCustomizedDialog_Accessibility::mnemonicsAreReportedAsTheyStand()
 {
     Stage stage;
     stage.host.action(QStringLiteral("open"))->setText(QStringLiteral("&Open"));
     stage.views.toolBarList->setCurrentRow(0);
-    QCOMPARE(itemsTold(stage.views.currentToolBarList), lines("&Open focused selected\nSave"));
+    QCOMPARE(itemsReported(stage.views.currentToolBarList), lines("&Open focused selected\nSave"));
 }
 
 void tst_RyCustomizedDialog_Accessibility::selectingAnItemDoesNotMakeItCurrent_data()
@@ -518,7 +519,7 @@ void tst_RyCustomizedDialog_Accessibility::selectingAnItemDoesNotMakeItCurrent()
     Stage stage;
     QListWidget *const list =
         stage.views.page->findChild<QListWidget *>(QLatin1String(QTest::currentDataTag()));
-    QAccessibleInterface *const item = told(list)->child(0);
+    QAccessibleInterface *const item = accessible(list)->child(0);
     QCOMPARE(item->text(QAccessible::Name), selected);
     QCOMPARE(actionsOf(item), QStringList{QAccessibleActionInterface::toggleAction()});
     item->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());

@@ -86,7 +86,7 @@ private Q_SLOTS:
     void oneAfterTheOtherSeesWhatWasApplied();
     void twoAtOnceApplyInTurn();
     void anotherMainWindowIsUsedAtTheNextApply();
-    void anotherLanguageMeanwhileKeepsTextsAndEdits();
+    void anotherLanguageKeepsTextsAndEdits();
     void changesOfTheAppearanceKeepTheEdits();
 };
 
@@ -298,7 +298,7 @@ void tst_RyCustomizedDialog_Hosts::anotherMainWindowIsUsedAtTheNextApply()
     host.manager.deleteToolBar(other.findChild<QToolBar *>());
 }
 
-void tst_RyCustomizedDialog_Hosts::anotherLanguageMeanwhileKeepsTextsAndEdits()
+void tst_RyCustomizedDialog_Hosts::anotherLanguageKeepsTextsAndEdits()
 {
     FilledHost host;
     const std::unique_ptr<RyCustomizedDialog> dialog(host.newDialog());

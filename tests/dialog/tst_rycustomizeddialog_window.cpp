@@ -191,7 +191,7 @@ void tst_RyCustomizedDialog_Window::theHostTakesNoClicksMeanwhile()
         stage.user.input.moveTo(button->mapToGlobal(button->rect().center()));
         stage.user.input.click();
     });
-    // What the server tells of it comes before what it tells of this.
+    // The server reports it before it reports this.
     stage.clickTab(1);
     stage.user.click(stage.cancelButton);
     QCOMPARE(stage.exec(), QStringLiteral("rejected"));

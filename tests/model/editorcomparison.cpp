@@ -123,8 +123,7 @@ void EditorComparison::compareEntry(int row)
     m_differences->compare("text of an entry", expected.text, found->text());
     m_differences->compare("alignment of an entry", expected.action ? EntryAlignment : 0,
                            found->textAlignment());
-    const bool hasIcon = expected.action && !expected.action->icon().isNull();
-    m_differences->compare("icon of an entry", int(hasIcon), int(!found->icon().isNull()));
+    m_differences->compare("icon of an entry", int(expected.hasIcon), int(!found->icon().isNull()));
     if (expected.action) {
         m_differences->compare(
             "entry of an action", static_cast<const void *>(found),

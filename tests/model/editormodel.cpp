@@ -2,6 +2,8 @@
 
 #include "editormodel.h"
 
+#include <QAction>
+
 #include <algorithm>
 
 namespace {
@@ -213,7 +215,7 @@ void EditorModel::rightClicked()
         return;
     QAction *const action = currentItem.action;
     Content &content = working[currentRecord];
-    Entry entry{action, action ? m_world->actions[action].text : SeparatorText};
+    Entry entry = entryOf(action);
     const int place = action ? placeOf(content, action) : static_cast<int>(content.size());
     if (place < static_cast<int>(content.size())) {
         if (place == currentEntry)
@@ -335,10 +337,27 @@ void EditorModel::showCurrent()
     entries.clear();
     if (currentRecord) {
         for (QAction *action : working[currentRecord])
-            entries.push_back({action, action ? m_world->actions[action].text : SeparatorText});
+            entries.push_back(entryOf(action));
     }
     currentEntry = entries.empty() ? -1 : 0;
     setButtons();
+}
+
+// An action that is no longer registered is shown as the tree shows it.
+EditorModel::Entry EditorModel::entryOf(QAction *action) const
+{
+    if (!action)
+        return {nullptr, SeparatorText, false};
+    const bool hasIcon = !action->icon().isNull();
+    if (m_manager->registered.count(action))
+        return {action, m_world->actions[action].text, hasIcon};
+    for (const Category &category : tree) {
+        for (const Item &item : category.actions) {
+            if (item.action == action)
+                return {action, item.text, hasIcon};
+        }
+    }
+    return {action, QString(), false};
 }
 
 void EditorModel::setButtons()

@@ -45,6 +45,7 @@ public:
     {
         QAction *action;
         QString text;
+        bool hasIcon;
     };
 
     struct Record
@@ -114,6 +115,7 @@ public:
 
 private:
     bool isDefault(ToolBarItem *record) const;
+    Entry entryOf(QAction *action) const;
     void setButtons();
     void sortRows();
     void sortTree();

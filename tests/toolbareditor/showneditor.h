@@ -40,8 +40,8 @@ public:
     EditorViews views;
 };
 
-// Every toolbar of the manager as "title: content", sorted; what stands on a toolbar counts, and a
-// difference to what the manager says of it is told.
+// Every toolbar of the manager as "title: content", sorted. The content is what stands on the
+// toolbar; where the manager has recorded something else, that is added.
 QStringList toolBarsOf(const RyToolBarManager &manager);
 
 // A toolbar that the manager creates and fills with the actions of these names; "|" is a separator.

@@ -179,7 +179,7 @@ private Q_SLOTS:
     void restoreDefaultsWhileTheNameIsEdited();
     void restoreDefaultsWhileHiddenHasNoEffect();
     void restoreDefaultsAfterToolBarsWereDeleted();
-    void aDefaultToolBarRegisteredMeanwhileIsLeftAlone();
+    void aDefaultToolBarRegisteredAfterTheFillIsLeftAlone();
 };
 
 void tst_RyCToolBarWidget_Apply::applyWithoutEditsTouchesNoContent()
@@ -195,7 +195,7 @@ void tst_RyCToolBarWidget_Apply::applyWithoutEditsTouchesNoContent()
     QCOMPARE(file->actions(), standing);
 }
 
-// Each is written whole, so that what the host did to one meanwhile is undone.
+// Each is written whole, which undoes what the host has done to it since the fill.
 void tst_RyCToolBarWidget_Apply::applyWritesToolBarsThatWereNotEdited()
 {
     FilledHost host;
@@ -503,7 +503,7 @@ void tst_RyCToolBarWidget_Apply::withoutAMainWindowNothingIsCreated()
     QVERIFY(EditorFields::of(editor.widget).createdRecords.isEmpty());
     QVERIFY(itemNamed(editor.views.toolBarList, QStringLiteral("Yours")));
 
-    // It counts as applied, so that it is not tried again.
+    // It is treated as applied, so that it is not tried again.
     editor.widget.applyClicked();
     host.manager.setMainWindow(&host.window);
     editor.widget.applyClicked();
@@ -960,7 +960,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsAfterToolBarsWereDeleted()
     QCOMPARE(host.manager.toolBars().size(), 9);
 }
 
-void tst_RyCToolBarWidget_Apply::aDefaultToolBarRegisteredMeanwhileIsLeftAlone()
+void tst_RyCToolBarWidget_Apply::aDefaultToolBarRegisteredAfterTheFillIsLeftAlone()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);

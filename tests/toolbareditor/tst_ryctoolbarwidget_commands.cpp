@@ -35,7 +35,7 @@ public:
     }
 };
 
-// The rest of the host's toolbars with the one of the title in the given state.
+// All toolbars of the host, with "Mine" in the given state.
 QStringList withMine(const QString &mine)
 {
     return {QStringLiteral("File: open | save"), mine, QStringLiteral("Tools: | cut")};
@@ -76,7 +76,7 @@ private Q_SLOTS:
     void anUnknownRecordCannotBeRemoved_data();
     void anUnknownRecordCannotBeRemoved();
     void removingAToolBarThatIsNotCurrentKeepsTheCurrentOne();
-    void isDefaultToolBarTellsByTheToolBar();
+    void isDefaultToolBarGoesByTheToolBar();
 
     void renameOpensTheEditorOfTheName();
     void renameTakesTheToolBarThatIsShown();
@@ -505,7 +505,7 @@ void tst_RyCToolBarWidget_Commands::removingAToolBarThatIsNotCurrentKeepsTheCurr
                     {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")});
 }
 
-void tst_RyCToolBarWidget_Commands::isDefaultToolBarTellsByTheToolBar()
+void tst_RyCToolBarWidget_Commands::isDefaultToolBarGoesByTheToolBar()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);

@@ -160,13 +160,14 @@ private Q_SLOTS:
 
     void aDeletedActionIsShownAsBefore();
     void aDeletedActionThatHasNoTreeItemIsShownWithoutText();
+    void aDeletedActionIsNotLookedUpWhileTheEditorIsEmptied();
     void aDeletedActionIsLeftOutOfTheApply();
     void changesOfActionsAreShownOnlyByNewEntries();
-    void anActionThatIsDisabledOrHiddenMeanwhileIsStillPlaced();
+    void anActionThatIsDisabledOrHiddenIsStillPlaced();
     void anActionThatBecameASeparatorIsStillAnAction();
 
     void theEditorMayBeHiddenWhileItApplies();
-    void theEditorMayBeShownAnewWhileItApplies();
+    void theEditorMayBeShownAgainWhileItApplies();
     void theEditorMayBeDeletedWhileItApplies_data();
     void theEditorMayBeDeletedWhileItApplies();
     void anApplyDuringTheApplyCreatesNothingTwice();
@@ -362,6 +363,27 @@ void tst_RyCToolBarWidget_Hosts::aDeletedActionThatHasNoTreeItemIsShownWithoutTe
     QCOMPARE(editor.inconsistency(), QString());
 }
 
+// As when a button loses the focus to the toolbar list, because it is disabled.
+void tst_RyCToolBarWidget_Hosts::aDeletedActionIsNotLookedUpWhileTheEditorIsEmptied()
+{
+    FilledHost host;
+    ShownEditor editor(&host.manager);
+    editor.selectToolBar(QStringLiteral("File"));
+    QAction *const cut = host.action(QStringLiteral("cut"));
+    host.manager.removeAction(cut);
+    delete cut;
+    int entries = 0;
+    const QObject listening;
+    connect(editor.views.actionTree->model(), &QAbstractItemModel::modelReset, &listening, [&] {
+        editor.selectToolBar(QStringLiteral("Mine"));
+        entries += editor.views.currentToolBarList->count();
+    });
+    editor.widget.hide();
+    QCOMPARE(entries, 3);
+    QCOMPARE(editor.workingCopy(), QStringList());
+    QCOMPARE(editor.inconsistency(), QString());
+}
+
 void tst_RyCToolBarWidget_Hosts::aDeletedActionIsLeftOutOfTheApply()
 {
     FilledHost host;
@@ -401,7 +423,7 @@ void tst_RyCToolBarWidget_Hosts::changesOfActionsAreShownOnlyByNewEntries()
     QCOMPARE(host.manager.findAction(QStringLiteral("snip")), cut);
 }
 
-void tst_RyCToolBarWidget_Hosts::anActionThatIsDisabledOrHiddenMeanwhileIsStillPlaced()
+void tst_RyCToolBarWidget_Hosts::anActionThatIsDisabledOrHiddenIsStillPlaced()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
@@ -458,7 +480,7 @@ void tst_RyCToolBarWidget_Hosts::theEditorMayBeHiddenWhileItApplies()
     QCOMPARE(editor.workingCopy(), QStringList());
 }
 
-void tst_RyCToolBarWidget_Hosts::theEditorMayBeShownAnewWhileItApplies()
+void tst_RyCToolBarWidget_Hosts::theEditorMayBeShownAgainWhileItApplies()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);

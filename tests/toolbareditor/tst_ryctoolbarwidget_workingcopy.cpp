@@ -247,7 +247,7 @@ private Q_SLOTS:
     void clearingDisablesSixButtonsAndLeavesRename_data();
     void clearingDisablesSixButtonsAndLeavesRename();
     void hidingLeavesRenameAsItIsWithoutACurrentToolBar();
-    void showingAgainReadsTheManagerAnew();
+    void showingAgainReadsTheManagerAgain();
     void hidingDiscardsTheEdits();
     void nothingIsAppliedWhileHidden();
     void spontaneousEventsKeepTheEdits();
@@ -487,7 +487,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theTranslatedSeparatorEntryIsSortedByItsT
         QStringList({QStringLiteral("Open"), QStringLiteral("Trenner"), QStringLiteral("Save")}));
 }
 
-// Not when it is shown, so that a language that comes meanwhile is no matter.
+// Not when it is shown: a language that is installed in between has no effect.
 void tst_RyCToolBarWidget_WorkingCopy::theSeparatorIsTranslatedWhenTheEditorIsMade()
 {
     Host host;
@@ -1115,7 +1115,7 @@ void tst_RyCToolBarWidget_WorkingCopy::hidingEmptiesTheEditor()
     QVERIFY(isEmpty(EditorFields::of(editor.widget)));
 }
 
-// Not only because the emptied views tell that nothing is current.
+// Not only because the emptied views report that nothing is current.
 void tst_RyCToolBarWidget_WorkingCopy::hidingEmptiesTheEditorEvenUnheard()
 {
     FilledHost host;
@@ -1162,7 +1162,7 @@ void tst_RyCToolBarWidget_WorkingCopy::hidingLeavesRenameAsItIsWithoutACurrentTo
     }
 }
 
-void tst_RyCToolBarWidget_WorkingCopy::showingAgainReadsTheManagerAnew()
+void tst_RyCToolBarWidget_WorkingCopy::showingAgainReadsTheManagerAgain()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);

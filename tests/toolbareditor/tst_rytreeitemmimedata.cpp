@@ -45,8 +45,8 @@ private Q_SLOTS:
     void aSecondCallReplacesTheItem();
     void formatsAreACopy();
     void otherContentIsNoFormat();
-    void retrievingTheItemFormatTellsWhetherThereIsAnItem_data();
-    void retrievingTheItemFormatTellsWhetherThereIsAnItem();
+    void retrievingTheItemFormatSaysWhetherThereIsAnItem_data();
+    void retrievingTheItemFormatSaysWhetherThereIsAnItem();
     void retrievingTheItemFormatNeedsNoReportedFormat();
     void otherFormatsComeFromTheBaseClass_data();
     void otherFormatsComeFromTheBaseClass();
@@ -150,7 +150,7 @@ void tst_RyTreeItemMimeData::otherContentIsNoFormat()
     QVERIFY(!payload.hasFormat(QStringLiteral("text/plain")));
 }
 
-void tst_RyTreeItemMimeData::retrievingTheItemFormatTellsWhetherThereIsAnItem_data()
+void tst_RyTreeItemMimeData::retrievingTheItemFormatSaysWhetherThereIsAnItem_data()
 {
     QTest::addColumn<bool>("withItem");
     QTest::addColumn<int>("type");
@@ -164,7 +164,7 @@ void tst_RyTreeItemMimeData::retrievingTheItemFormatTellsWhetherThereIsAnItem_da
     }
 }
 
-void tst_RyTreeItemMimeData::retrievingTheItemFormatTellsWhetherThereIsAnItem()
+void tst_RyTreeItemMimeData::retrievingTheItemFormatSaysWhetherThereIsAnItem()
 {
     QFETCH(bool, withItem);
     QFETCH(int, type);

@@ -60,7 +60,7 @@ protected:
     }
 };
 
-// Opens what Qt asks of a tree that a drag is over, and what it tells it.
+// Opens what Qt calls on a tree that a drag is over.
 class OpenTree : public RyTreeWidget
 {
 public:

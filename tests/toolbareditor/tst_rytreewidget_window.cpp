@@ -26,7 +26,7 @@ namespace {
 
 /*
  * A tree that writes down what drags do with it, and what it answers. A line that repeats the one
- * before is left out, for how often a drag tells of one place is Qt's matter.
+ * before is left out: how often Qt reports one place is its own matter.
  */
 class WatchedTree : public RyTreeWidget
 {
