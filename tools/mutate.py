@@ -6,7 +6,7 @@ usage: tools/mutate.py [--count N | --all] [--jobs N] [--only FILE[:LINE]] [--ex
 
 Each job works in a copy of the sources below build/mutants/, so the sources do not change. Changes
 that do not compile are not counted. Changes that no test catches are printed at the end. The
-changes in tools/mutate-equivalent.txt have no visible effect, each for the reason given there. They
+changes in tools/mutate/equivalent.txt have no visible effect, each for the reason given there. They
 take the most time, because every test runs, so they are made only with --explained.
 """
 
@@ -27,7 +27,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 WORK = ROOT / "build" / "mutants"
 FOLDERS = ("dialog", "toolbarmanager", "toolbareditor", "ribbon", "resources")
-EQUIVALENT = ROOT / "tools" / "mutate-equivalent.txt"
+EQUIVALENT = ROOT / "tools" / "mutate" / "equivalent.txt"
 # The largest accepted share of changes that no test catches; each is printed.
 ALLOWED = 0.03
 TEST_TIMEOUT = 300
@@ -338,7 +338,7 @@ def main():
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--only", help="FILE or FILE:LINE")
     parser.add_argument("--explained", action="store_true",
-                        help="also make those of tools/mutate-equivalent.txt")
+                        help="also make those of tools/mutate/equivalent.txt")
     parser.add_argument("--list", action="store_true", help="only print the changes")
     arguments = parser.parse_args()
 

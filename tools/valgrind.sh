@@ -23,5 +23,5 @@ step 'Build' cmake --build --preset dev --parallel "$(nproc)"
 mkdir -p build/valgrind
 find_programs >build/valgrind/programs
 try 'Tests under valgrind' \
-    xargs --arg-file build/valgrind/programs --max-procs "$(nproc)" -n 1 tools/memcheck.sh
+    xargs --arg-file build/valgrind/programs --max-procs "$(nproc)" -n 1 tools/valgrind/memcheck.sh
 finish 'valgrind reported nothing'

@@ -91,7 +91,7 @@ class Files(unittest.TestCase):
         lists = tracked('debian/*.symbols')
         self.assertEqual(len(lists), 1)
         promised = re.findall(r'^ (?!\(optional)(\w+)@Base ', lists[0].read_text(), re.MULTILINE)
-        contract = SOURCE_DIR / 'tests' / 'packaging' / 'contract' / 'symbols.txt'
+        contract = SOURCE_DIR / 'tools' / 'check-abi' / 'symbols.txt'
         exported = {line.split()[0] for line in contract.read_text().splitlines()}
         # The linker's own marks belong to nobody.
         self.assertEqual(sorted(promised), sorted(exported - {'__bss_start', '_edata', '_end'}),
