@@ -122,7 +122,7 @@ find_mistakes() {
     [ "$missed" -eq 0 ] && echo "All $(grep -cE '[^ /].* // ' "$sample") mistakes were found."
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-analyze.txt
+step 'Packages' tools/install-packages.sh analyze
 step 'Configure' configure
 step 'Generated sources' generate
 try 'Mistakes are found' find_mistakes

@@ -14,7 +14,7 @@ start_log build/bench.log
 
 program=build/benchmark/benchmarks/benchmarks
 
-step 'Packages' tools/install-packages.sh tools/packages-benchmark.txt
+step 'Packages' tools/install-packages.sh bench
 step 'Configure' cmake --preset benchmark
 step 'Build' cmake --build --preset benchmark --parallel "$(nproc)"
 step 'Both sides have the same results' "$program" --check

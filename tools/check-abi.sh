@@ -75,7 +75,7 @@ compare_description() {
     abidiff --no-show-locs "$contract/library.abi" "$now"
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-abi.txt
+step 'Packages' tools/install-packages.sh check-abi
 for compiler in g++ clang++; do
     step "Build with $compiler" build "$compiler"
     try "Symbols by $compiler" compare symbols.txt \

@@ -73,7 +73,7 @@ update() {
         cp build/old-qt-list.txt "$list"
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-old-qt.txt
+step 'Packages' tools/install-packages.sh check-old-qt
 step 'Generated sources' generate
 step 'What the library uses' library_uses
 [ "${1-}" != --update ] || step 'Update' update

@@ -38,7 +38,7 @@ register_help() {
         echo 'Qt Assistant has registered and unregistered the help file.'
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-docs.txt
+step 'Packages' tools/install-packages.sh docs
 step 'Configure' cmake -G Ninja -B "$build" -DRYCUSTOMIZEDDIALOG_BUILD_DOCS=ON \
     -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES=OFF
 step 'Reference' cmake --build "$build" --target RyCustomizedDialogDocs

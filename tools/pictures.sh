@@ -44,7 +44,7 @@ sheets() {
 
 # build TARGET
 build() {
-    step 'Packages' tools/install-packages.sh tools/packages-test.txt tools/packages-pictures.txt
+    step 'Packages' tools/install-packages.sh test pictures
     step 'Configure' cmake --preset release -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
     step 'Build' cmake --build --preset release --target "$1" --parallel "$(nproc)"
     unset "${!QT_@}"

@@ -41,7 +41,7 @@ finish() {
 test_preset() {
     local cores
     cores=$(nproc)
-    step 'Packages' tools/install-packages.sh tools/packages-test.txt
+    step 'Packages' tools/install-packages.sh test
     step 'Configure' cmake --preset "$1" -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
     step 'Build' cmake --build --preset "$1" --parallel "$cores"
     try 'Tests without a display' \

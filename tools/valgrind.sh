@@ -17,7 +17,7 @@ find_programs() {
         grep --extended-regexp "/($(paste --serial --delimiters='|' build/valgrind/tests))$" | sort
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-test.txt tools/packages-proofs.txt
+step 'Packages' tools/install-packages.sh test valgrind
 step 'Configure' cmake --preset dev
 step 'Build' cmake --build --preset dev --parallel "$(nproc)"
 mkdir -p build/valgrind
