@@ -9,6 +9,7 @@ import os
 import re
 import shutil
 import subprocess
+import sys
 import unittest
 from pathlib import Path
 
@@ -86,6 +87,13 @@ class Files(unittest.TestCase):
         alone = [in_repository(path) for path in sources
                  if not (path.parent / f'{path.stem.split("_")[0]}.h').exists()]
         self.assertEqual(alone, [])
+
+    def test_explained_changes_fit_the_sources(self):
+        # tools/mutate.py would make them only after hours.
+        done = subprocess.run([sys.executable, '-B', SOURCE_DIR / 'tools' / 'mutate.py',
+                               '--check-explained'], stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, universal_newlines=True)
+        self.assertEqual(done.returncode, 0, done.stdout)
 
     def test_debian_package_promises_the_symbols_of_the_contract(self):
         lists = tracked('debian/*.symbols')
