@@ -11,8 +11,8 @@ start_log build/demo.log
 
 has_display=${DISPLAY:-}${WAYLAND_DISPLAY:-}
 tour=examples/texteditor/tour
-packages=(tools/packages-demo.txt)
-[ -n "$has_display" ] || packages+=("$tour/packages.txt")
+packages=(demo)
+[ -n "$has_display" ] || packages+=(tour)
 step 'Packages' tools/install-packages.sh "${packages[@]}"
 
 # A separate build, because the tests need more packages.

@@ -17,7 +17,7 @@ start_log build/analyze.log
 cores=$(nproc)
 build=build/analyze
 library=(dialog toolbarmanager toolbareditor ribbon)
-sample=tests/packaging/analysis/wrong.cpp
+sample=tools/analyze/wrong.cpp
 others=OFF
 [ "${1-}" != --all ] || others=ON
 
@@ -98,7 +98,7 @@ check_with_cppcheck() {
 
 run_cppcheck() {
     cppcheck --quiet -j "$cores" --library=qt --std=c++17 -DQ_OBJECT= --enable="$1" \
-        --suppressions-list=tools/cppcheck-suppressions.txt -i "$sample" "${@:2}"
+        --suppressions-list=tools/analyze/cppcheck-suppressions.txt "${@:2}"
 }
 
 # Checks that every mistake of the sample is found in its line.
@@ -122,7 +122,7 @@ find_mistakes() {
     [ "$missed" -eq 0 ] && echo "All $(grep -cE '[^ /].* // ' "$sample") mistakes were found."
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-analyze.txt
+step 'Packages' tools/install-packages.sh analyze
 step 'Configure' configure
 step 'Generated sources' generate
 try 'Mistakes are found' find_mistakes

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Compares the binary contract of the library with the record in tests/packaging/contract: exported
-# symbols as GCC and as Clang build them, signals and slots, fields, functions and types.
+# Compares the binary contract of the library with the record in tools/check-abi/: exported symbols
+# as GCC and as Clang build them, signals and slots, fields, functions and types.
 #
 # usage: check-abi.sh [--update]
 #   --update  updates the record after an intended change
@@ -15,7 +15,7 @@ set -o pipefail
 start_log build/abi.log
 
 cores=$(nproc)
-contract=tests/packaging/contract
+contract=tools/check-abi
 update=${1-}
 
 build() {
@@ -75,7 +75,7 @@ compare_description() {
     abidiff --no-show-locs "$contract/library.abi" "$now"
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-abi.txt
+step 'Packages' tools/install-packages.sh check-abi
 for compiler in g++ clang++; do
     step "Build with $compiler" build "$compiler"
     try "Symbols by $compiler" compare symbols.txt \

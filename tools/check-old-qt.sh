@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 #
 # Checks that the library uses nothing newer than Qt 5.6: lists each class, function, overload, value
-# and macro of Qt that it uses, and looks up its version in tests/packaging/oldqt/since.txt. First it
+# and macro of Qt that it uses, and looks up its version in tools/check-old-qt/since.txt. First it
 # checks that it finds the newer things in a sample file.
 #
 # usage: check-old-qt.sh [--update]
@@ -16,7 +16,7 @@ set -o pipefail
 start_log build/old-qt.log
 
 build=build/old-qt
-checks=tests/packaging/oldqt
+checks=tools/check-old-qt
 list=$checks/since.txt
 sample=$checks/newer.cpp
 library=(dialog toolbarmanager toolbareditor ribbon)
@@ -73,7 +73,7 @@ update() {
         cp build/old-qt-list.txt "$list"
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-old-qt.txt
+step 'Packages' tools/install-packages.sh check-old-qt
 step 'Generated sources' generate
 step 'What the library uses' library_uses
 [ "${1-}" != --update ] || step 'Update' update

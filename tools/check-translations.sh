@@ -61,7 +61,7 @@ look_for_gaps() {
     return "$gaps"
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-translations.txt
+step 'Packages' tools/install-packages.sh check-translations
 step 'Texts of the sources' take_texts
 [ "${1-}" != --update ] || step 'Update' cp "${files[@]/#/$fresh/}" translations
 try 'Every text is listed, and nothing else' compare

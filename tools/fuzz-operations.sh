@@ -52,7 +52,7 @@ show_sum() {
 }
 
 start_log build/fuzz-operations.log
-step 'Packages' tools/install-packages.sh tools/packages-test.txt
+step 'Packages' tools/install-packages.sh test
 step 'Configure' cmake --preset release
 step 'Build' cmake --build --preset release --target operations --parallel "$jobs"
 try 'Run' run_jobs

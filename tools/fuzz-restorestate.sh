@@ -70,7 +70,7 @@ figures() {
 }
 
 mkdir -p build/fuzz
-step 'Packages' tools/install-packages.sh tools/packages-fuzz.txt
+step 'Packages' tools/install-packages.sh fuzz-restorestate
 step 'Configure' cmake --preset fuzz
 step 'Build' cmake --build --preset fuzz --parallel "$(nproc)"
 step 'Kept inputs' replay

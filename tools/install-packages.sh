@@ -1,19 +1,26 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 #
-# Installs the missing packages of the lists with apt, and prints which. Does not call apt if none is
-# missing.
+# Installs the missing packages of sections of packages.txt with apt, and prints which. Does not call
+# apt if none is missing.
 #
-# usage: install-packages.sh LIST...
+# usage: install-packages.sh SECTION...
 
 set -eu
 
+list=${0%/*}/packages.txt
+wanted=
+for section; do
+    packages=$(sed "1,/^\[$section\]\$/d; /^\[/,\$d; s/#.*//" "$list")
+    [ -n "$packages" ] || { echo "$list has no section $section." >&2; exit 1; }
+    wanted="$wanted $packages"
+done
+
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    echo "This system has no apt. The needed packages are listed in: $*"
+    echo "This system has no apt. The needed packages are in these sections of $list: $*"
     exit 0
 fi
 
-wanted=$(sed 's/#.*//' "$@")
 missing=
 for package in $wanted; do
     case $(dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null || true) in

@@ -3,11 +3,13 @@
 """Breaks the library on purpose, one place at a time, and checks that the tests notice.
 
 usage: tools/mutate.py [--count N | --all] [--jobs N] [--only FILE[:LINE]] [--explained] [--list]
+       tools/mutate.py --check-explained
 
 Each job works in a copy of the sources below build/mutants/, so the sources do not change. Changes
-that do not compile are not counted. Changes that no test catches are printed at the end. The
-changes in tools/mutate-equivalent.txt have no visible effect, each for the reason given there. They
-take the most time, because every test runs, so they are made only with --explained.
+that do not compile are not counted. Changes that no test catches are printed at the end. For a public
+header, tools/check-abi.sh is one of the tests. The changes in tools/mutate/equivalent.txt have no
+visible effect, each for the reason given there. They take the most time, because every test runs, so
+they are made only with --explained. An entry that fits no line of the sources is an error.
 """
 
 import argparse
@@ -27,7 +29,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 WORK = ROOT / "build" / "mutants"
 FOLDERS = ("dialog", "toolbarmanager", "toolbareditor", "ribbon", "resources")
-EQUIVALENT = ROOT / "tools" / "mutate-equivalent.txt"
+EQUIVALENT = ROOT / "tools" / "mutate" / "equivalent.txt"
 # The largest accepted share of changes that no test catches; each is printed.
 ALLOWED = 0.03
 TEST_TIMEOUT = 300
@@ -155,7 +157,7 @@ def header_mutants(path, lines):
         pair = (line, following)
         if all(re.fullmatch(r"    [^/*].*;", l) for l in pair) and (
                 listed or all("virtual" in l or "override" in l for l in pair)
-                or (path.name.startswith("ry") and all(re.search(r"m_\w+;", l) for l in pair))):
+                or (is_public_header(path) and all(re.search(r"m_\w+;", l) for l in pair))):
             yield Mutant(path, number + 1, "order", f"{line}\n{following}", f"{following}\n{line}")
 
 
@@ -174,10 +176,19 @@ def mutants_of(path):
     return header_mutants(path, lines)
 
 
+def tracked(*folders):
+    # Whoever runs the tests need not be the owner of the checkout.
+    done = subprocess.run(["git", "-c", f"safe.directory={ROOT}", "ls-files", "-z", "--", *folders],
+                          cwd=ROOT, check=True, capture_output=True, text=True)
+    return [Path(name) for name in done.stdout.split("\0") if name]
+
+
 def sources():
-    tracked = subprocess.run(["git", "ls-files", *FOLDERS], cwd=ROOT, check=True,
-                             capture_output=True, text=True).stdout.split()
-    return [Path(p) for p in tracked if Path(p).suffix in (".cpp", ".h", ".ui", ".qrc")]
+    return [p for p in tracked(*FOLDERS) if p.suffix in (".cpp", ".h", ".ui", ".qrc")]
+
+
+def is_public_header(path):
+    return path.suffix == ".h" and path.name.startswith("ry")
 
 
 def digest(*texts):
@@ -199,15 +210,14 @@ def sample(mutants, count):
 
 
 def read_equivalent():
-    """{(path, old line, new line): reason}, without the blanks around the lines."""
-    known = {}
-    if EQUIVALENT.exists():
-        blocks = re.split(r"\n\s*\n", EQUIVALENT.read_text())
-        for block in blocks:
-            rows = [r for r in block.split("\n") if r.strip() and not r.startswith("#")]
-            if len(rows) == 4:
-                path, old, new, reason = (r.strip() for r in rows)
-                known[(path, squeezed(old), squeezed(new))] = reason
+    """The changes in tools/mutate/equivalent.txt, like identity()."""
+    known = []
+    for block in re.split(r"\n\s*\n", EQUIVALENT.read_text()):
+        rows = [r.strip() for r in block.split("\n") if r.strip() and not r.startswith("#")]
+        if len(rows) not in (0, 4):
+            sys.exit(f"{EQUIVALENT.name}: not a file, a line, a changed line and a reason:\n{block}")
+        if rows:
+            known.append((rows[0], squeezed(rows[1]), squeezed(rows[2])))
     return known
 
 
@@ -215,15 +225,27 @@ def squeezed(text):
     return " ".join(text.split())
 
 
+def identity(mutant):
+    """The same wherever the line is in its file, and however it is indented."""
+    return str(mutant.path), squeezed(mutant.old), squeezed(mutant.new)
+
+
+def check_explained(mutants, known):
+    """Ends with a message if an entry fits no line of the sources or is there twice."""
+    possible = {identity(m) for m in mutants}
+    wrong = [entry for entry in known if entry not in possible or known.count(entry) > 1]
+    if wrong:
+        sys.exit(f"{EQUIVALENT.name}: no such change of the sources, or there twice:\n\n"
+                 + "\n\n".join("\n".join(entry) for entry in wrong))
+
+
 class Tree:
     """A copy of the sources with a separate build."""
 
-    def __init__(self, number):
+    def __init__(self, number, with_headers):
         self.source = WORK / f"tree{number}"
         self.build = WORK / f"build{number}"
-        files = subprocess.run(["git", "ls-files", "-z"], cwd=ROOT, check=True,
-                               capture_output=True, text=True).stdout.split("\0")
-        for name in filter(None, files):
+        for name in tracked():
             target = self.source / name
             target.parent.mkdir(parents=True, exist_ok=True)
             # Unchanged files keep their times, so only files that an aborted run changed are rebuilt.
@@ -241,6 +263,8 @@ class Tree:
                       if not t.startswith(("tst_package", "tst_sources"))]
         if not self.passes(self.tests):
             sys.exit("The tests fail before anything is broken:\n" + self.output)
+        if with_headers and not self.keeps_contract():
+            sys.exit("tools/check-abi.sh fails before anything is broken:\n" + self.output)
 
     def run(self, *command, check=False):
         done = subprocess.run([str(c) for c in command], cwd=self.build if self.build.exists()
@@ -255,6 +279,11 @@ class Tree:
             return True
         pattern = "^(" + "|".join(tests) + ")$"
         done = self.run("ctest", "--stop-on-failure", "--timeout", TEST_TIMEOUT, "-R", pattern)
+        self.output = done.stdout
+        return done.returncode == 0
+
+    def keeps_contract(self):
+        done = self.run(self.source / "tools" / "check-abi.sh")
         self.output = done.stdout
         return done.returncode == 0
 
@@ -281,6 +310,9 @@ class Tree:
             target.write_text("\n".join(lines))
             if self.run("ninja", "-C", self.build).returncode:
                 return "does not compile"
+            # The tests need not notice another order of slots or fields.
+            if is_public_header(mutant.path) and not self.keeps_contract():
+                return "caught by tools/check-abi.sh"
             for tests in self.rounds(mutant.path):
                 if not self.passes(tests):
                     failed = re.search(r"\d+ - (\S+) \(", self.output)
@@ -292,8 +324,9 @@ class Tree:
 
 def check(mutants, jobs):
     trees = queue.Queue()
+    with_headers = any(is_public_header(m.path) for m in mutants)
     for number in range(jobs):
-        trees.put(Tree(number))
+        trees.put(Tree(number, with_headers))
     done = []
 
     def judge(mutant):
@@ -338,19 +371,24 @@ def main():
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--only", help="FILE or FILE:LINE")
     parser.add_argument("--explained", action="store_true",
-                        help="also make those of tools/mutate-equivalent.txt")
+                        help="also make those of tools/mutate/equivalent.txt")
     parser.add_argument("--list", action="store_true", help="only print the changes")
+    parser.add_argument("--check-explained", action="store_true",
+                        help="only check that the entries of tools/mutate/equivalent.txt are possible")
     arguments = parser.parse_args()
 
     mutants = [m for path in sources() for m in mutants_of(path)]
+    known = read_equivalent()
+    check_explained(mutants, known)
+    if arguments.check_explained:
+        print(f"{len(known)} explained changes are possible.")
+        return 0
     if arguments.only:
         mutants = [m for m in mutants
                    if arguments.only in (str(m.path), f"{m.path}:{m.line}")]
     elif not arguments.all:
         mutants = sample(mutants, arguments.count)
-    known = read_equivalent()
-    explained = {m for m in mutants
-                 if (str(m.path), squeezed(m.old), squeezed(m.new)) in known}
+    explained = {m for m in mutants if identity(m) in known}
     if not arguments.explained:
         mutants = [m for m in mutants if m not in explained]
     if arguments.list:

@@ -82,10 +82,13 @@ list_files() {
         sort "$1.unsorted" >"$1" && echo "$(wc -l <"$1") files and folders"
 }
 
+apt_get() {
+    tools/as-root.sh env DEBIAN_FRONTEND=noninteractive \
+        apt-get -q -oDPkg::Lock::Timeout=300 -oDpkg::Use-Pty=0 --yes "$@"
+}
+
 install_packages() {
-    printf '%s\n' "$packages"/*.deb >"$work/packages.txt" &&
-        tools/install-packages.sh "$work/packages.txt" &&
-        dpkg-query -W "${names[@]}"
+    apt_get --no-install-recommends install "$packages"/*.deb && dpkg-query -W "${names[@]}"
 }
 
 # The packages are there already, which is what makes them those that are tested.
@@ -94,8 +97,7 @@ test_packages() {
 }
 
 remove_packages() {
-    tools/as-root.sh env DEBIAN_FRONTEND=noninteractive \
-        apt-get -q -oDPkg::Lock::Timeout=300 -oDpkg::Use-Pty=0 purge --yes "${names[@]}"
+    apt_get purge "${names[@]}"
 }
 
 # What other packages brought or took in between is theirs.
@@ -114,7 +116,7 @@ no_trace_is_left() {
     ! ldconfig -p | grep RyCustomizedDialog && [ "$left" -eq 0 ] && echo 'Nothing is left behind.'
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-package.txt
+step 'Packages' tools/install-packages.sh package
 if [ "${1-}" = --update-symbols ]; then
     export DPKG_GENSYMBOLS_CHECK_LEVEL=0
     step 'Build' build "$work" --build=any

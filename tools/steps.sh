@@ -1,13 +1,14 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 #
-# For scripts with steps: prints the title and the output of each step, also to a log file. The last
-# line shows the result. To be sourced by bash.
+# For scripts with steps: prints the title and the output of each step, also to a log file. At the end,
+# prints how long each step took, and the result in the last line. To be sourced by bash.
 
 # start_log FILE: begins a new log.
 start_log() {
     log=$1
     failed=
+    times=()
     mkdir -p "$(dirname "$log")"
     : >"$log"
     SECONDS=0
@@ -15,10 +16,11 @@ start_log() {
 
 # try TITLE COMMAND...: runs a step and returns its exit code.
 try() {
-    local title=$1 status=0
+    local title=$1 status=0 start=$SECONDS
     shift
     { printf '\n== %s\n' "$title" && "$@" </dev/null; } 2>&1 | tee -a "$log"
     status=${PIPESTATUS[0]}
+    times+=("$(minutes $((SECONDS - start)))  $title")
     [ "$status" -eq 0 ] || failed=${failed:+$failed, }$title
     return "$status"
 }
@@ -28,12 +30,21 @@ step() {
     try "$@" || finish ''
 }
 
+# minutes SECONDS: as 3:05.
+minutes() {
+    printf '%3d:%02d' $(($1 / 60)) $(($1 % 60))
+}
+
 # finish TEXT: ends the script with one line and with 0, or with 1 if a step failed.
 finish() {
     local status=0 result=$1
     [ -z "$failed" ] || { status=1 result="FAILED: $failed"; }
-    printf '\n%s: %s (after %d min %02d s; the log is %s)\n' \
-        "$0" "$result" $((SECONDS / 60)) $((SECONDS % 60)) "$log" | tee -a "$log"
+    {
+        printf '\n'
+        printf '%s\n' "${times[@]}"
+        printf '%s: %s (after %d min %02d s; the log is %s)\n' \
+            "$0" "$result" $((SECONDS / 60)) $((SECONDS % 60)) "$log"
+    } | tee -a "$log"
     exit "$status"
 }
 
@@ -41,7 +52,7 @@ finish() {
 test_preset() {
     local cores
     cores=$(nproc)
-    step 'Packages' tools/install-packages.sh tools/packages-test.txt
+    step 'Packages' tools/install-packages.sh test
     step 'Configure' cmake --preset "$1" -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
     step 'Build' cmake --build --preset "$1" --parallel "$cores"
     try 'Tests without a display' \

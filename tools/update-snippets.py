@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Copies the code on the pages of the guide from the files that are compiled and tested.
 
-    update-snippets.py [--check] [--docs DIR]
+    update-snippets.py [--check] [--docs DIR] [--snippets DIR]
 
 A page in docs/ requests a snippet with a comment. The code block below it is the copy:
 
@@ -11,8 +11,8 @@ A page in docs/ requests a snippet with a comment. The code block below it is th
     ...
     ```
 
-The snippet is the text between two lines "//! [audit]" in docs/snippets/tst_guide_names.cpp, without
-the common indentation. In other kinds of files the lines are "#! [audit]" or "<!--! [audit] -->".
+The snippet is the text between two lines "//! [audit]" in tests/docs/tst_guide_names.cpp, without the
+common indentation. In other kinds of files the lines are "#! [audit]" or "<!--! [audit] -->".
 Without a name, the snippet is the whole file. On a page with snippets, other C++ code is an error,
 and so is a snippet that no page shows.
 
@@ -27,7 +27,9 @@ import sys
 import textwrap
 from pathlib import Path
 
-DOCS = Path(__file__).resolve().parent.parent / 'docs'
+ROOT = Path(__file__).resolve().parent.parent
+DOCS = ROOT / 'docs'
+SNIPPETS = ROOT / 'tests' / 'docs'
 MARKER = re.compile(r'^\s*(?://|#|<!--)! \[([\w-]+)\]')
 BLOCK = re.compile(r'^(?:<!-- snippet (?P<file>\S+)(?: (?P<name>[\w-]+))? -->\n)?'
                    r'```(?P<language>\w*)\n(?P<code>.*?)^```$', re.MULTILINE | re.DOTALL)
@@ -63,12 +65,13 @@ def snippets_of(path):
 
 
 class Guide:
-    """The pages and the snippets of a folder."""
+    """The pages of a folder, and the snippets of another one."""
 
-    def __init__(self, docs):
+    def __init__(self, docs, snippets):
         self.docs = docs
+        self.folder = snippets
         self.snippets = {path.name: snippets_of(path)
-                         for path in sorted((docs / 'snippets').iterdir())
+                         for path in sorted(snippets.iterdir())
                          if path.suffix in ('.cpp', '.h', '.txt', '.qrc')}
         self.unused = {(file, name) for file, names in self.snippets.items() for name in names}
         self.used = 0
@@ -99,7 +102,7 @@ class Guide:
             raise Wrong(f'{page.name}: there is no snippet {file} {name or ""}')
         self.used += 1
         if not name:
-            return (self.docs / 'snippets' / file).read_text(encoding='utf-8')
+            return (self.folder / file).read_text(encoding='utf-8')
         self.unused.discard((file, name))
         return self.snippets[file][name]
 
@@ -108,9 +111,10 @@ def main():
     parser = argparse.ArgumentParser(description='Copies tested code into the pages of the guide.')
     parser.add_argument('--check', action='store_true', help='only compare')
     parser.add_argument('--docs', type=Path, default=DOCS, help='the folder of the pages')
+    parser.add_argument('--snippets', type=Path, default=SNIPPETS, help='the folder of the code')
     arguments = parser.parse_args()
 
-    guide = Guide(arguments.docs)
+    guide = Guide(arguments.docs, arguments.snippets)
     differing = []
     for page in guide.pages():
         old = page.read_text(encoding='utf-8')

@@ -17,11 +17,11 @@ find_programs() {
         grep --extended-regexp "/($(paste --serial --delimiters='|' build/valgrind/tests))$" | sort
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-test.txt tools/packages-proofs.txt
+step 'Packages' tools/install-packages.sh test valgrind
 step 'Configure' cmake --preset dev
 step 'Build' cmake --build --preset dev --parallel "$(nproc)"
 mkdir -p build/valgrind
 find_programs >build/valgrind/programs
 try 'Tests under valgrind' \
-    xargs --arg-file build/valgrind/programs --max-procs "$(nproc)" -n 1 tools/memcheck.sh
+    xargs --arg-file build/valgrind/programs --max-procs "$(nproc)" -n 1 tools/valgrind/memcheck.sh
 finish 'valgrind reported nothing'

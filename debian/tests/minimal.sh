@@ -13,7 +13,7 @@ cd "$AUTOPKGTEST_TMP/minimal" || exit
 # library is the one of the package.
 visit_minimal() {
     # shellcheck disable=SC2046 # several words are meant
-    g++ -std=c++17 -fPIC -shared -Wall -Werror "$sources/tests/packaging/packages/visitor.cpp" \
+    g++ -std=c++17 -fPIC -shared -Wall -Werror "$sources/tools/package/visitor.cpp" \
         -o visitor.so $(pkg-config --cflags --libs Qt5Widgets)
     library=$(ldd ./minimal | sed -n 's/.*libRyCustomizedDialog.so.* => \(\S*\).*/\1/p')
     dpkg-query -S "$(realpath "$library")"

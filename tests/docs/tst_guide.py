@@ -17,6 +17,7 @@ from urllib.parse import unquote
 
 SOURCE_DIR = Path(os.environ['SOURCE_DIR'])
 DOCS = SOURCE_DIR / 'docs'
+SNIPPETS = SOURCE_DIR / 'tests' / 'docs'
 UPDATE = SOURCE_DIR / 'tools' / 'update-snippets.py'
 
 # What Qt offers since a later version than the first one that a host may have. The library itself is
@@ -44,21 +45,26 @@ class Snippets(unittest.TestCase):
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         self.copy = Path(scratch.name) / 'docs'
+        self.snippets = Path(scratch.name) / 'tests' / 'docs'
         shutil.copytree(DOCS, self.copy)
+        shutil.copytree(SNIPPETS, self.snippets)
 
-    def run_tool(self, *arguments, docs=None):
-        return subprocess.run([sys.executable, '-B', UPDATE, '--docs', docs or self.copy, *arguments],
-                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                              universal_newlines=True)
+    def run_tool(self, *arguments):
+        """Runs the tool on the copies."""
+        return self.run_on('--docs', self.copy, '--snippets', self.snippets, *arguments)
+
+    def run_on(self, *arguments):
+        return subprocess.run([sys.executable, '-B', UPDATE, *arguments], stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, universal_newlines=True)
 
     def replace(self, name, old, new):
-        path = self.copy / name
+        path = (self.copy if name.endswith('.md') else self.snippets) / name
         text = path.read_text()
         self.assertIn(old, text)
         path.write_text(text.replace(old, new, 1))
 
     def test_pages_show_the_tested_code(self):
-        done = self.run_tool('--check', docs=DOCS)
+        done = self.run_on('--check')
         self.assertEqual(done.returncode, 0, done.stdout)
 
     def test_a_changed_page_is_reported_and_fixed(self):
@@ -68,7 +74,7 @@ class Snippets(unittest.TestCase):
         self.assertEqual((self.copy / 'names.md').read_text(), (DOCS / 'names.md').read_text())
 
     def test_a_changed_snippet_is_reported(self):
-        self.replace('snippets/tst_guide_names.cpp', 'QStringList nameProblems', 'auto nameProblems')
+        self.replace('tst_guide_names.cpp', 'QStringList nameProblems', 'auto nameProblems')
         done = self.run_tool('--check')
         self.assertEqual(done.returncode, 1)
         self.assertIn('names.md', done.stdout)
@@ -87,7 +93,7 @@ class Snippets(unittest.TestCase):
 
     def test_snippets_for_hosts_use_nothing_newer_than_qt_5_6(self):
         found = []
-        for path in sorted((DOCS / 'snippets').glob('*.cpp')):
+        for path in sorted(SNIPPETS.glob('*.cpp')):
             blocks = re.findall(r'^ *//! \[([\w-]+)\]\n(.*?)^ *//! \[\1\]$', path.read_text(),
                                 re.MULTILINE | re.DOTALL)
             self.assertGreater(len(blocks), 0, path.name)
@@ -146,7 +152,7 @@ class Pages(unittest.TestCase):
         self.assertGreater(links, 50)
 
     def test_links_of_the_guide_lead_to_what_is_installed_with_it(self):
-        # The packages have docs/, without the code and the pages' tools, and beside it examples/.
+        # The packages have docs/, and beside it examples/.
         wrong = []
         links = 0
         for page in sorted(DOCS.rglob('*.md')):
@@ -157,7 +163,7 @@ class Pages(unittest.TestCase):
                 target = (page.parent / unquote(link).partition('#')[0]).resolve()
                 if (SOURCE_DIR / 'examples') in target.parents:
                     continue
-                if DOCS not in target.parents or target.suffix == '.cpp':
+                if DOCS not in target.parents:
                     wrong.append(f'{page.relative_to(SOURCE_DIR)}: {link}')
         self.assertEqual(wrong, [])
         self.assertGreater(links, 50)

@@ -9,6 +9,7 @@ import os
 import re
 import shutil
 import subprocess
+import sys
 import unittest
 from pathlib import Path
 
@@ -87,11 +88,18 @@ class Files(unittest.TestCase):
                  if not (path.parent / f'{path.stem.split("_")[0]}.h').exists()]
         self.assertEqual(alone, [])
 
+    def test_explained_changes_fit_the_sources(self):
+        # tools/mutate.py would make them only after hours.
+        done = subprocess.run([sys.executable, '-B', SOURCE_DIR / 'tools' / 'mutate.py',
+                               '--check-explained'], stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, universal_newlines=True)
+        self.assertEqual(done.returncode, 0, done.stdout)
+
     def test_debian_package_promises_the_symbols_of_the_contract(self):
         lists = tracked('debian/*.symbols')
         self.assertEqual(len(lists), 1)
         promised = re.findall(r'^ (?!\(optional)(\w+)@Base ', lists[0].read_text(), re.MULTILINE)
-        contract = SOURCE_DIR / 'tests' / 'packaging' / 'contract' / 'symbols.txt'
+        contract = SOURCE_DIR / 'tools' / 'check-abi' / 'symbols.txt'
         exported = {line.split()[0] for line in contract.read_text().splitlines()}
         # The linker's own marks belong to nobody.
         self.assertEqual(sorted(promised), sorted(exported - {'__bss_start', '_edata', '_end'}),

@@ -7,7 +7,7 @@
 # a real pointer and real keys. Needs no display: it starts an X server, a window manager and
 # a message bus, and ends them again. Prints one line for each step. Writes to OUTPUT_DIR a
 # screenshot of each step, tour.gif made from the first ones, and the output of the programs in log/.
-# Fails if a step fails. packages.txt lists the Debian packages that it needs.
+# Fails if a step fails. In tools/packages.txt, the section "tour" lists the Debian packages.
 set -euo pipefail
 
 if [ $# -ne 2 ]; then
@@ -30,7 +30,7 @@ python=/usr/bin/python3
     || missing+=("the AT-SPI bindings of $python")
 if [ ${#missing[@]} -ne 0 ]; then
     printf 'run.sh: not found: %s\n' "${missing[@]}" >&2
-    echo "run.sh: $here/packages.txt lists the packages that the tour needs" >&2
+    echo "run.sh: the section \"tour\" of tools/packages.txt lists the packages that it needs" >&2
     exit 2
 fi
 

@@ -15,7 +15,7 @@ import sys
 import tempfile
 from pathlib import Path
 
-SOURCE_DIR = Path(__file__).resolve().parents[3]
+SOURCE_DIR = Path(__file__).resolve().parents[2]
 
 # The constructor for whole objects of an abstract class: nobody can call it, and only GCC emits it.
 NOT_IN_EVERY_BUILD = {'_ZN14RyCusInterfaceC1Ev'}

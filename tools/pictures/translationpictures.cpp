@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// usage: translation-pictures FOLDER
+// usage: translationpictures FOLDER
 //
 // Writes a picture for each language: the dialog's two tabs and the box of its Help button, each
 // with its title above it, in the direction of the language.

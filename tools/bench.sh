@@ -8,16 +8,16 @@
 # usage: bench.sh [--update]
 #   --update  also writes the table and the curves into docs/
 
-cd "$(dirname "${BASH_SOURCE[0]}")" || exit
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
 start_log build/bench.log
 
 program=build/benchmark/benchmarks/benchmarks
 
-step 'Packages' tools/install-packages.sh tools/packages-benchmark.txt
+step 'Packages' tools/install-packages.sh bench
 step 'Configure' cmake --preset benchmark
 step 'Build' cmake --build --preset benchmark --parallel "$(nproc)"
 step 'Both sides have the same results' "$program" --check
 step 'Measure' "$program" --seconds 2 --json build/bench.json
-try 'Targets' benchmarks/report.py build/bench.json build/bench "$@"
+try 'Targets' tools/bench/report.py build/bench.json build/bench "$@"
 finish 'all targets are met, or a miss is explained; see build/bench.csv, .json and .svg'

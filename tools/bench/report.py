@@ -19,8 +19,8 @@ import sys
 from pathlib import Path
 from xml.sax.saxutils import escape
 
-SOURCE_DIR = Path(__file__).resolve().parent.parent
-EXPLAINED = SOURCE_DIR / 'benchmarks' / 'explained.txt'
+SOURCE_DIR = Path(__file__).resolve().parents[2]
+EXPLAINED = Path(__file__).resolve().parent / 'explained.txt'
 DOCUMENT = SOURCE_DIR / 'docs' / 'performance.md'
 PICTURE = SOURCE_DIR / 'docs' / 'images' / 'performance-curves.svg'
 

@@ -7,7 +7,7 @@
 
 # shellcheck disable=SC2317 # the steps are functions
 
-cd "$(dirname "${BASH_SOURCE[0]}")" || exit
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
 start_log build/docs.log
 export QT_QPA_PLATFORM=offscreen
@@ -22,7 +22,7 @@ read_help() {
     mapfile -t names < <(sed -n 's|^    [a-z]*/\(Ry[A-Za-z]*\).*|\1|p' cmake/RyHeaders.cmake)
     names+=(RyToolBarManager::restoreState RyCustomizedDialog::okButton RyTreeWidget::performDrag)
     read -ra flags < <(pkg-config --cflags --libs Qt5Help)
-    g++ -std=c++17 -fPIC -Wall -Werror tests/packaging/docs/readhelp.cpp -o "$build/readhelp" \
+    g++ -std=c++17 -fPIC -Wall -Werror tools/docs/readhelp.cpp -o "$build/readhelp" \
         "${flags[@]}" &&
         rm -f "$build/reader.qhc" &&
         "$build/readhelp" "$PWD/$help_file" "$PWD/$build/reader.qhc" "${names[@]}"
@@ -38,7 +38,7 @@ register_help() {
         echo 'Qt Assistant has registered and unregistered the help file.'
 }
 
-step 'Packages' tools/install-packages.sh tools/packages-docs.txt
+step 'Packages' tools/install-packages.sh docs
 step 'Configure' cmake -G Ninja -B "$build" -DRYCUSTOMIZEDDIALOG_BUILD_DOCS=ON \
     -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES=OFF
 step 'Reference' cmake --build "$build" --target RyCustomizedDialogDocs

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Takes the pictures of the page for users from the real dialog of the text editor. As a test it
-// writes them to a scratch folder; with GUIDE_PICTURES it writes them to that folder:
-//
-//     GUIDE_PICTURES=$PWD/docs/images ctest --preset release -R tst_guide_pictures
+// writes them to a scratch folder, and for tools/pictures.sh to the folder in GUIDE_PICTURES.
 
 #include "editorviews.h"
 #include "mainwindow.h"
