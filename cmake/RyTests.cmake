@@ -31,7 +31,7 @@ function(ry_add_test_program name)
         CXX_STANDARD 17
         CXX_STANDARD_REQUIRED ON
         CXX_EXTENSIONS OFF)
-    target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_STRICT_ITERATORS)
+    target_compile_definitions(${name} PRIVATE QT_STRICT_ITERATORS)
     target_link_libraries(${name} PRIVATE
         RyCustomizedDialog::RyCustomizedDialog RyTestSupport ${ARG_LIBRARIES})
     ry_enable_warnings(${name})
