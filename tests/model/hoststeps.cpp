@@ -24,11 +24,11 @@ private:
     std::size_t m_place = 0;
 };
 
-std::vector<QString> namesFrom(Numbers &numbers)
+QStringList namesFrom(Numbers &numbers)
 {
-    std::vector<QString> names;
+    QStringList names;
     for (int left = numbers.next() % 5; left > 0; --left)
-        names.push_back(Stage::anyActionName(numbers.next()));
+        names.append(Stage::anyActionName(numbers.next()));
     return names;
 }
 

@@ -17,27 +17,32 @@ bool contains(const Content &content, QAction *action)
     return std::find(content.begin(), content.end(), action) != content.end();
 }
 
+// A text for %s is in the local encoding and ends at its first null character.
+QString shown(const QString &name)
+{
+    return QString::fromUtf8(name.toLocal8Bit().constData());
+}
+
 QString notFound(const char *className, const char *property, const QString &name)
 {
-    return QStringLiteral("RyToolBarManager::restoreState(): cannot find a %1 named '%2', trying "
-                          "to match using '%3' instead.")
-        .arg(QLatin1String(className), name, QLatin1String(property));
+    return QString("RyToolBarManager::restoreState(): cannot find a %1 named '%2', trying to match "
+                   "using '%3' instead.")
+        .arg(className, shown(name), property);
 }
 
 QString notFoundAtAll(const char *className, const char *property, const QString &name)
 {
-    return QStringLiteral("RyToolBarManager::restoreState(): cannot find a %1 with matching '%2' "
-                          "(looking for '%3').")
-        .arg(QLatin1String(className), QLatin1String(property), name);
+    return QString("RyToolBarManager::restoreState(): cannot find a %1 with matching '%2' (looking "
+                   "for '%3').")
+        .arg(className, property, shown(name));
 }
 
 QString noObjectName(const char *className, const void *address, const QString &name,
                      const char *property)
 {
-    return QStringLiteral("RyToolBarManager::saveState(): 'objectName' not set for %1 %2 '%3', "
-                          "using '%4' instead")
-        .arg(QLatin1String(className), QString::asprintf("%p", address), name,
-             QLatin1String(property));
+    return QString("RyToolBarManager::saveState(): 'objectName' not set for %1 %2 '%3', using '%4' "
+                   "instead")
+        .arg(className, QString::asprintf("%p", address), shown(name), property);
 }
 
 } // namespace
@@ -241,11 +246,11 @@ SavedLayout ManagerModel::save(int version)
     return layout;
 }
 
-std::vector<QString> ManagerModel::savedNames(const Content &content)
+QStringList ManagerModel::savedNames(const Content &content)
 {
-    std::vector<QString> names;
+    QStringList names;
     for (QAction *action : content)
-        names.push_back(action ? savedName(action) : QString());
+        names.append(action ? savedName(action) : QString());
     return names;
 }
 
@@ -258,14 +263,13 @@ QString ManagerModel::savedName(QToolBar *toolBar)
     return state.title;
 }
 
-// An empty text is told from a null one: that is for separators alone.
 QString ManagerModel::savedName(QAction *action)
 {
     const WorldModel::Action &state = m_world->actions[action];
     if (!state.objectName.isEmpty())
         return state.objectName;
     m_warnings << noObjectName("QAction", action, state.text, "text");
-    return state.text.isNull() ? QStringLiteral("") : state.text;
+    return state.text;
 }
 
 bool ManagerModel::restore(const SavedLayout &layout, int version, std::deque<QToolBar *> &made)
@@ -298,7 +302,7 @@ void ManagerModel::restoreCustom(const SavedLayout::ToolBar &record, std::deque<
     setToolBar(toolBar, content);
 }
 
-Content ManagerModel::readContent(const std::vector<QString> &names)
+Content ManagerModel::readContent(const QStringList &names)
 {
     Content content;
     for (const QString &name : names) {

@@ -66,9 +66,9 @@ public:
     std::map<QToolBar *, ToolBar> toolBars;
 
 private:
-    Content readContent(const std::vector<QString> &names);
+    Content readContent(const QStringList &names);
     void restoreCustom(const SavedLayout::ToolBar &record, std::deque<QToolBar *> &made);
-    std::vector<QString> savedNames(const Content &content);
+    QStringList savedNames(const Content &content);
     QString savedName(QToolBar *toolBar);
     QString savedName(QAction *action);
 

@@ -2,11 +2,12 @@
 
 #include "actionlog.h"
 #include "host.h"
-#include "layout.h"
 #include "localecodec.h"
+#include "savedlayout.h"
 #include "statewriter.h"
 #include "testcase.h"
 #include "texts.h"
+#include "toolbarlines.h"
 #include "toolbarorder.h"
 
 #include <QBuffer>
@@ -359,7 +360,7 @@ void tst_RyToolBarManager_state::theBytesOfDefaultAndCustomToolBarsRestoreForEve
                                           "00000000"
                                           "00000008 006f 0070 0065 006e"),
                                       3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("default file 'File': open | save"), name("m1 'M€': | open")}));
 }
 
@@ -368,7 +369,7 @@ void tst_RyToolBarManager_state::theCurrentContentIsSaved()
     UsualHost host;
     host.manager.setToolBar(host.file, host.list(words("| find | | open")));
     host.manager.setToolBar(host.mine, {});
-    QCOMPARE(fieldsOf(host.manager.saveState(3)),
+    QCOMPARE(SavedLayout::of(host.manager.saveState(3)).fields(),
              words("255 3 FE 1 'file' 5 null 'find' null null 'open' "
                    "FD 1 '_Custom_Toolbar_1' 'Mine' 0"));
 }
@@ -379,7 +380,7 @@ void tst_RyToolBarManager_state::defaultToolBarsAreSavedInTheOrderOfTheirAddress
     const QList<QToolBar *> toolBars = toolBarsByAddress(host, 4);
     for (const int i : {2, 0, 3, 1})
         host.manager.addDefaultToolBar(toolBars.at(i), A);
-    QCOMPARE(fieldsOf(host.manager.saveState(3)),
+    QCOMPARE(SavedLayout::of(host.manager.saveState(3)).fields(),
              words("255 3 FE 4 't0' 0 't1' 0 't2' 0 't3' 0 FD 0"));
 }
 
@@ -399,7 +400,7 @@ void tst_RyToolBarManager_state::customToolBarsAreSavedInTheOrderOfTheirAddresse
         customs.at(i)->setObjectName(QStringLiteral("c%1").arg(i));
         customs.at(i)->setWindowTitle(QString::number(i));
     }
-    const QStringList fields = fieldsOf(host.manager.saveState(3));
+    const QStringList fields = SavedLayout::of(host.manager.saveState(3)).fields();
     QCOMPARE(fields.mid(fields.indexOf(name("FD"))),
              words("FD 4 'c0' '0' 0 'c1' '1' 0 'c2' '2' 0 'c3' '3' 0"));
 }
@@ -432,7 +433,7 @@ void tst_RyToolBarManager_state::savingWarnsOfNamelessToolBarsAndActionsInOrder(
     host.manager.setToolBar(toolBars.at(1), {two});
     QToolBar *const mine = host.manager.createToolBar(name("Mine"));
     host.manager.setToolBar(mine, {one});
-    const QStringList fields = fieldsOf(host.manager.saveState(3));
+    const QStringList fields = SavedLayout::of(host.manager.saveState(3)).fields();
     QCOMPARE(takeWarnings(),
              (QStringList{namelessToolBar(toolBars.at(0), name("First ä")),
                           namelessAction(one, name("One ö")), namelessAction(two, name("&Two")),
@@ -461,7 +462,8 @@ void tst_RyToolBarManager_state::savingDoesNotWarnOfANamelessCustomToolBar()
 {
     Host host;
     host.manager.createToolBar(name("Mine"))->setObjectName(QString());
-    QCOMPARE(fieldsOf(host.manager.saveState(3)), words("255 3 FE 0 FD 1 null 'Mine' 0"));
+    QCOMPARE(SavedLayout::of(host.manager.saveState(3)).fields(),
+             words("255 3 FE 0 FD 1 null 'Mine' 0"));
 }
 
 void tst_RyToolBarManager_state::savingShowsNamesInTheLocalEncoding()
@@ -492,7 +494,7 @@ void tst_RyToolBarManager_state::savingChangesNothing()
     QCOMPARE(host.manager.saveState(3), state);
     QCOMPARE(log.take(), QStringList());
     QCOMPARE(standingOnAll(host), standing);
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::saveStateDataWritesTheSectionsOnly()
@@ -520,7 +522,7 @@ void tst_RyToolBarManager_state::saveStateDataUsesTheStreamAsItIs()
     QDataStream reader(bytes);
     reader.setByteOrder(QDataStream::LittleEndian);
     QVERIFY(host.manager.restoreStateData(reader));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::everyWarningIsOneOfTheDefaultCategoryWithoutALocation()
@@ -563,7 +565,7 @@ void tst_RyToolBarManager_state::restoringAnUnchangedStateTouchesNothing()
     QCOMPARE(state, copy);
     QCOMPARE(log.take(), QStringList());
     QCOMPARE(standingOnAll(host), standing);
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoringRefusesAnotherVersion_data()
@@ -589,7 +591,7 @@ void tst_RyToolBarManager_state::restoringRefusesAnotherVersion()
                                  .customToolBar(name("new"), name("New"), {})
                                  .bytes();
     QVERIFY(!host.manager.restoreState(state, expected));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoringRefusesOtherBytes_data()
@@ -621,7 +623,7 @@ void tst_RyToolBarManager_state::restoringRefusesOtherBytes()
     const QList<QAction *> standing = standingOnAll(host);
     QVERIFY(!host.manager.restoreState(state, 3));
     QCOMPARE(standingOnAll(host), standing);
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoringRefusesAnotherDefaultMarker_data()
@@ -645,7 +647,7 @@ void tst_RyToolBarManager_state::restoringRefusesAnotherDefaultMarker()
     QVERIFY(!host.manager.restoreState(hex("000000ff 00000003") + sections, 3));
     QDataStream stream(sections);
     QVERIFY(!host.manager.restoreStateData(stream));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::anotherCustomMarkerLeavesTheDefaultToolBarsChanged_data()
@@ -666,7 +668,7 @@ void tst_RyToolBarManager_state::anotherCustomMarkerLeavesTheDefaultToolBarsChan
         version3().defaults(1).defaultToolBar(name("file"), words("find |")).bytes();
     QVERIFY(!host.manager.restoreState(
         defaults + (marker.isEmpty() ? QByteArray() : marker + customs), 3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': | open"),
                           name("default file 'File': find |")}));
 }
@@ -677,7 +679,7 @@ void tst_RyToolBarManager_state::restoringIgnoresTrailingBytes()
     const QByteArray state = host.manager.saveState(3);
     host.manager.setToolBars({{host.file, {}}, {host.mine, {}}});
     QVERIFY(host.manager.restoreState(state + hex("fe 00000001 ff 00"), 3));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoringDoesNotConsultTheStatusOfTheStream()
@@ -688,7 +690,7 @@ void tst_RyToolBarManager_state::restoringDoesNotConsultTheStatusOfTheStream()
     QDataStream stream(sections);
     stream.setStatus(QDataStream::ReadCorruptData);
     QVERIFY(host.manager.restoreStateData(stream));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::restoreStateDataReadsTheSectionsOnly()
@@ -707,7 +709,7 @@ void tst_RyToolBarManager_state::restoreStateDataReadsTheSectionsOnly()
     QCOMPARE(before, qint16(7));
     QCOMPARE(after, qint16(9));
     QVERIFY(stream.atEnd());
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::countsOfZeroAndLessReadNothing_data()
@@ -723,7 +725,7 @@ void tst_RyToolBarManager_state::countsOfZeroAndLessReadNothing()
     QFETCH(qint32, count);
     UsualHost host;
     QVERIFY(host.manager.restoreState(version3().defaults(count).customs(count).bytes(), 3));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
     // The counts of actions: each toolbar is emptied, and the next field is read.
     QVERIFY(host.manager.restoreState(version3()
                                           .defaults(1)
@@ -735,7 +737,7 @@ void tst_RyToolBarManager_state::countsOfZeroAndLessReadNothing()
                                           .number(count)
                                           .bytes(),
                                       3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'New': "), name("default file 'File': ")}));
 }
 
@@ -747,7 +749,7 @@ void tst_RyToolBarManager_state::restoringPutsTheContentBack()
     host.manager.setToolBar(host.mine, host.list(words("save save find")));
     host.mine->setWindowTitle(name("Renamed"));
     QVERIFY(host.manager.restoreState(state, 3));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
     QCOMPARE(contentOf(host.manager.defaultToolBars().value(host.file)), words("open | save"));
 }
 
@@ -762,14 +764,14 @@ void tst_RyToolBarManager_state::restoringIntoAFreshHostGivesTheSameLayout()
         host.manager.setToolBar(last, host.list(words("find | | save")));
         host.manager.setToolBar(host.file, host.list(words("| save |")));
         state = host.manager.saveState(3);
-        layout = layoutOf(host.manager);
+        layout = lines(host.manager);
     }
     Host fresh;
     fresh.defaultToolBar(name("file"), words("find save open"), A);
     QVERIFY(fresh.manager.restoreState(state, 3));
-    QCOMPARE(layoutOf(fresh.manager), layout);
+    QCOMPARE(lines(fresh.manager), layout);
     QVERIFY(fresh.manager.restoreState(state, 3));
-    QCOMPARE(layoutOf(fresh.manager), layout);
+    QCOMPARE(lines(fresh.manager), layout);
 }
 
 void tst_RyToolBarManager_state::restoringTakesRecordsInAnyOrder()
@@ -835,7 +837,7 @@ void tst_RyToolBarManager_state::unknownActionsAreDropped()
     QCOMPARE(takeWarnings(),
              noAction("first") + noAction("OPEN") + first(noAction("Open")) + noAction("last")
                  + noAction("only"));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': "),
                           name("default file 'File': | save open find")}));
 }
@@ -849,7 +851,7 @@ void tst_RyToolBarManager_state::unregisteredActionsAreUnknown()
     QVERIFY(host.manager.restoreState(state, 3));
     QCOMPARE(takeWarnings(), noAction("open") + noAction("open"));
     QCOMPARE(
-        layoutOf(host.manager),
+        lines(host.manager),
         (QStringList{name("_Custom_Toolbar_1 'Mine': |"), name("default file 'File': | save")}));
 }
 
@@ -864,7 +866,7 @@ void tst_RyToolBarManager_state::repeatedActionsKeepTheFirst()
             .customToolBar(name("_Custom_Toolbar_1"), name("Mine"), words("save save"))
             .bytes(),
         3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': save"),
                           name("default file 'File': open | save |")}));
 }
@@ -884,7 +886,7 @@ void tst_RyToolBarManager_state::unknownDefaultToolBarsAreSkipped()
                                       3));
     QCOMPARE(takeWarnings(), noToolBar("FILE") + noToolBar("other") + noToolBar(""));
     QCOMPARE(
-        layoutOf(host.manager),
+        lines(host.manager),
         (QStringList{name("_Custom_Toolbar_1 'Mine': | open"), name("default file 'File': save")}));
 }
 
@@ -899,7 +901,7 @@ void tst_RyToolBarManager_state::aDefaultRecordDoesNotFindACustomToolBar()
                                           .bytes(),
                                       3));
     QCOMPARE(takeWarnings(), noToolBar("_Custom_Toolbar_1") + noToolBar("Mine"));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::aNamelessDefaultToolBarIsFoundByItsTitle()
@@ -1002,7 +1004,7 @@ void tst_RyToolBarManager_state::aCustomRecordChangesTheToolBarOfItsObjectName()
             .customToolBar(name("_Custom_Toolbar_1"), name("Renamed €"), words("find |"))
             .bytes(),
         3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Renamed €': find |"),
                           name("default file 'File': open | save")}));
     QVERIFY(host.manager.toolBars().contains(host.mine));
@@ -1014,7 +1016,7 @@ void tst_RyToolBarManager_state::aCustomRecordDoesNotLookAtTitles()
     QVERIFY(host.manager.restoreState(
         version3().defaults(0).customs(1).customToolBar(name("Mine"), name("Mine"), {}).bytes(),
         3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("Mine 'Mine': "), name("_Custom_Toolbar_1 'Mine': | open"),
                           name("default file 'File': open | save")}));
 }
@@ -1030,7 +1032,7 @@ void tst_RyToolBarManager_state::aCustomRecordMayNameADefaultToolBar()
                                       .customToolBar(name("file"), name("Title"), words("| find"))
                                       .bytes(),
                                   3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': | open"),
                           name("default file 'Title': | find")}));
     QCOMPARE(contentOf(host.manager.defaultToolBars().value(host.file)), words("open | save"));
@@ -1051,12 +1053,12 @@ void tst_RyToolBarManager_state::aCustomRecordCreatesAMissingToolBar()
     QCOMPARE(takeWarnings(), noAction("unknown"));
     QToolBar *const made = host.manager.toolBarByName(name("theirs"));
     QVERIFY(made);
-    QCOMPARE(layoutOf(host.manager), usualLayout() + QStringList(name("theirs 'Theirs': open |")));
+    QCOMPARE(lines(host.manager), usualLayout() + QStringList(name("theirs 'Theirs': open |")));
     QCOMPARE(made->parent(), static_cast<QObject *>(&host.window));
     QCOMPARE(host.window.toolBarArea(made), Qt::TopToolBarArea);
     QVERIFY(!host.manager.isDefaultToolBar(made));
     host.manager.deleteToolBar(made);
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
 }
 
 void tst_RyToolBarManager_state::customRecordsWithoutAMainWindowAreSkipped()
@@ -1071,7 +1073,7 @@ void tst_RyToolBarManager_state::customRecordsWithoutAMainWindowAreSkipped()
                                           .bytes(),
                                       3));
     QCOMPARE(takeWarnings(), noAction("unknown"));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
     QCOMPARE(namesOf(host.window.findChildren<QToolBar *>()), words("file _Custom_Toolbar_1"));
 }
 
@@ -1088,7 +1090,7 @@ void tst_RyToolBarManager_state::customRecordsWithoutAMainWindowChangeExistingTo
             .customToolBar(name("_Custom_Toolbar_1"), name("Renamed"), words("save"))
             .bytes(),
         3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Renamed': save"),
                           name("default file 'File': find")}));
 }
@@ -1112,7 +1114,7 @@ void tst_RyToolBarManager_state::anEmptyStoredObjectNameIsSet()
                                           .bytes(),
                                       3));
     // The second record finds the toolbar of the first one.
-    QCOMPARE(layoutOf(host.manager), QStringList(name(" 'Y': save |")) + usualLayout());
+    QCOMPARE(lines(host.manager), QStringList(name(" 'Y': save |")) + usualLayout());
 }
 
 void tst_RyToolBarManager_state::anEmptyStoredObjectNameFindsANamelessToolBar()
@@ -1122,7 +1124,7 @@ void tst_RyToolBarManager_state::anEmptyStoredObjectNameFindsANamelessToolBar()
     QVERIFY(host.manager.restoreState(
         version3().defaults(0).customs(1).customToolBar(QString(), name("X"), words("|")).bytes(),
         3));
-    QCOMPARE(layoutOf(host.manager), QStringList(name("default  'X': |")));
+    QCOMPARE(lines(host.manager), QStringList(name("default  'X': |")));
 }
 
 void tst_RyToolBarManager_state::customRecordsOfOneObjectNameMakeOneToolBar()
@@ -1136,7 +1138,7 @@ void tst_RyToolBarManager_state::customRecordsOfOneObjectNameMakeOneToolBar()
                                           .customToolBar(name("x"), name("3"), words("find"))
                                           .bytes(),
                                       3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (usualLayout() + QStringList{name("x '3': find"), name("y '2': save")}));
 }
 
@@ -1220,7 +1222,7 @@ void tst_RyToolBarManager_state::numbersContinueAfterManyRestoredToolBars()
     }
     expected.sort();
     QVERIFY(host.manager.restoreState(writer.bytes(), 3));
-    QCOMPARE(layoutOf(host.manager), expected);
+    QCOMPARE(lines(host.manager), expected);
     QCOMPARE(host.manager.toolBarByName(numbered.arg(1)), first);
     QCOMPARE(host.manager.createToolBar(QString())->objectName(), numbered.arg(77));
     QCOMPARE(host.manager.createToolBar(QString())->objectName(), numbered.arg(count + 1));
@@ -1236,7 +1238,7 @@ void tst_RyToolBarManager_state::titlesAreRestoredEvenIfEmpty()
                                           .customToolBar(name("file"), QStringLiteral(""), {})
                                           .bytes(),
                                       3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("_Custom_Toolbar_1 '': "), name("default file '': ")}));
 }
 
@@ -1251,7 +1253,7 @@ void tst_RyToolBarManager_state::otherCustomToolBarsKeepTheirContent()
                                           .customToolBar(name("x"), name("X"), {})
                                           .bytes(),
                                       3));
-    QCOMPARE(layoutOf(host.manager),
+    QCOMPARE(lines(host.manager),
              (QStringList{name("_Custom_Toolbar_1 'Mine': | open"), name("default file 'File': "),
                           name("x 'X': ")}));
     QCOMPARE(host.mine->actions(), standing);
@@ -1305,7 +1307,7 @@ void tst_RyToolBarManager_state::savingAndRestoringEmitsNoSignal()
     host.manager.deleteToolBar(host.mine);
     QVERIFY(host.manager.restoreState(state, 3));
     QVERIFY(!host.manager.restoreState(state, 4));
-    QCOMPARE(layoutOf(host.manager), usualLayout());
+    QCOMPARE(lines(host.manager), usualLayout());
     // The check itself is in the destructor of Host.
 }
 

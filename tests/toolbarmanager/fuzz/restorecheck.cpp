@@ -4,11 +4,11 @@
 
 #include "fuzzhost.h"
 #include "hostsnapshot.h"
-#include "layout.h"
-#include "literalreader.h"
 #include "processuse.h"
+#include "restoremodel.h"
 #include "statewriter.h"
 #include "texts.h"
+#include "toolbarlines.h"
 
 #include <QSet>
 
@@ -54,19 +54,6 @@ QByteArray beginning()
     return StateWriter::ofVersion(StateVersion).byte(0xfe).bytes();
 }
 
-QString savedName(const QString &objectName, const QString &standIn)
-{
-    return objectName.isEmpty() ? standIn : objectName;
-}
-
-QString namelessWarning(const char *className, const void *object, const QString &standIn,
-                        const char *property)
-{
-    return QString::asprintf("RyToolBarManager::saveState(): 'objectName' not set for %s %p '%s', "
-                             "using '%s' instead",
-                             className, object, qPrintable(standIn), property);
-}
-
 QStringList textsOf(const QList<QPointer<QAction>> &actions)
 {
     QStringList texts;
@@ -99,12 +86,10 @@ private:
     void checkSeparators(const HostSnapshot &now);
     void checkRecordedToolBars(const HostSnapshot &now);
     QByteArray save();
-    void writeExpected(StateWriter &writer, QStringList &expected,
-                       const QList<QAction *> &content) const;
     void checkSaving();
     void checkNextRun(const QByteArray &saved);
     void checkResetting();
-    QStringList layout() const;
+    QStringList lines() const;
     void require(bool holds, const char *what, const QString &more = QString());
     void requireSame(const QStringList &actual, const QStringList &expected, const char *what);
 
@@ -114,7 +99,8 @@ private:
     RyToolBarManager &m_manager;
     // The host as it was before anything was restored.
     const HostSnapshot m_before;
-    const LiteralReader m_untouched;
+    RestoreModel m_model;
+    RestoreModel m_modelOfNextRun;
     const QMap<QToolBar *, QList<QAction *>> m_defaults;
     const QSet<QAction *> m_registered;
     QList<QPointer<QAction>> m_actions;
@@ -131,7 +117,8 @@ RestoreCheck::RestoreCheck(FuzzHost &host, const QByteArray &state, MemoryGauge 
     , m_host(host)
     , m_manager(m_host.manager)
     , m_before(host)
-    , m_untouched(m_manager)
+    , m_model(m_manager)
+    , m_modelOfNextRun(m_manager)
     , m_defaults(m_manager.defaultToolBars())
     , m_registered(m_manager.actions())
 {
@@ -154,16 +141,15 @@ QString RestoreCheck::run()
     return m_breaches.join(QLatin1Char('\n'));
 }
 
-// The result, the warnings and the layout are those of the plainest reader.
+// The result, the warnings and the layout are those of the model.
 void RestoreCheck::restore()
 {
-    LiteralReader reader(m_untouched);
-    const bool expected = reader.restore(m_state, StateVersion);
+    const bool expected = m_model.restore(m_state, StateVersion);
     bool result = false;
     restoreMeasured(&result);
     require(result == expected, "the result is another one");
-    requireSame(takeWarnings(), reader.warnings, "other warnings while restoring");
-    requireSame(layout(), reader.layout(), "another layout was restored");
+    requireSame(takeWarnings(), m_model.takeWarnings(), "other warnings while restoring");
+    requireSame(lines(), m_model.lines(), "another layout was restored");
     checkWhatMayChange(result);
 }
 
@@ -306,43 +292,16 @@ void RestoreCheck::checkRecordedToolBars(const HostSnapshot &now)
     }
 }
 
-// Saves, which changes nothing; the bytes and the warnings are those that the contents give.
+// Saves, which changes nothing; the bytes and the warnings are those of the model.
 QByteArray RestoreCheck::save()
 {
     const HostSnapshot before(m_host);
+    RestoreModel model(m_manager);
     const QByteArray saved = m_manager.saveState(StateVersion);
     require(HostSnapshot(m_host) == before, "saving changed something");
-
-    QStringList expected;
-    const auto defaults = before.toolBars(true);
-    const auto customs = before.toolBars(false);
-    StateWriter writer = StateWriter::ofVersion(StateVersion);
-    writer.defaults(defaults.size());
-    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
-        if (it->objectName.isEmpty())
-            expected << namelessWarning("QToolBar", it.key(), it->title, "windowTitle");
-        writer.text(savedName(it->objectName, it->title));
-        writeExpected(writer, expected, it->content);
-    }
-    writer.customs(customs.size());
-    for (auto it = customs.cbegin(); it != customs.cend(); ++it) {
-        writer.text(it->objectName).text(it->title);
-        writeExpected(writer, expected, it->content);
-    }
-    require(saved == writer.bytes(), "other bytes were saved");
-    requireSame(takeWarnings(), expected, "other warnings while saving");
+    require(saved == model.save(StateVersion), "other bytes were saved");
+    requireSame(takeWarnings(), model.takeWarnings(), "other warnings while saving");
     return saved;
-}
-
-void RestoreCheck::writeExpected(StateWriter &writer, QStringList &expected,
-                                 const QList<QAction *> &content) const
-{
-    writer.number(content.size());
-    for (const QAction *action : content) {
-        if (action && action->objectName().isEmpty())
-            expected << namelessWarning("QAction", action, action->text(), "text");
-        writer.text(action ? savedName(action->objectName(), action->text()) : QString());
-    }
 }
 
 /*
@@ -377,13 +336,13 @@ void RestoreCheck::checkSaving()
 // toolbars are not saved.
 void RestoreCheck::checkNextRun(const QByteArray &saved)
 {
-    LiteralReader next(m_untouched);
-    require(next.restore(saved, StateVersion), "a saved state was refused in the next run");
+    require(m_modelOfNextRun.restore(saved, StateVersion),
+            "a saved state was refused in the next run");
     for (QToolBar *toolBar : m_defaults.keys()) {
         if (toolBar->windowTitle() != m_before.toolBars().value(toolBar).title)
             return;
     }
-    requireSame(next.layout(), layout(), "the next run begins with another layout");
+    requireSame(m_modelOfNextRun.lines(), lines(), "the next run begins with another layout");
 }
 
 // Both resetting by the manager and giving the host its first layout back, which deletes toolbars.
@@ -402,14 +361,14 @@ void RestoreCheck::checkResetting()
     checkHost("after resetting");
 }
 
-// In the form of the plainest reader. What stands on the widgets is looked at elsewhere.
-QStringList RestoreCheck::layout() const
+// In the form of the model. The widgets are looked at elsewhere.
+QStringList RestoreCheck::lines() const
 {
     QStringList lines;
     const auto contents = m_manager.toolBarsActions();
     for (auto it = contents.cbegin(); it != contents.cend(); ++it)
-        lines << layoutLine(m_manager.isDefaultToolBar(it.key()), it.key()->objectName(),
-                            it.key()->windowTitle(), contentOf(it.value()));
+        lines << lineOf(m_manager.isDefaultToolBar(it.key()), it.key()->objectName(),
+                        it.key()->windowTitle(), contentOf(it.value()));
     lines.sort();
     return lines;
 }

@@ -39,9 +39,4 @@ private:
     QByteArray m_bytes;
 };
 
-// The fields of a saved state in order, read without the help of QDataStream: numbers in decimal,
-// markers in hexadecimal, texts in single quotes or null, and at last the count of surplus bytes
-// if there are any.
-QStringList fieldsOf(const QByteArray &state);
-
 #endif // STATEWRITER_H
