@@ -47,6 +47,6 @@ QString IsolatedRun::run(const Script &script, const Sequence::Meddle &meddle)
     int status = 0;
     waitpid(child, &status, 0);
     if (WIFSIGNALED(status))
-        return QStringLiteral("ended by signal %1").arg(WTERMSIG(status));
-    return WEXITSTATUS(status) == 0 ? QString() : result + QLatin1Char(' ');
+        return QString("ended by signal %1").arg(WTERMSIG(status));
+    return WEXITSTATUS(status) == 0 ? QString() : result + ' ';
 }

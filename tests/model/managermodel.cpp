@@ -133,9 +133,9 @@ QToolBar *ManagerModel::createToolBar(const QString &title, std::deque<QToolBar 
     QToolBar *const toolBar = made.front();
     made.pop_front();
     int number = 1;
-    while (toolBarByName(QStringLiteral("_Custom_Toolbar_%1").arg(number)))
+    while (toolBarByName(QString("_Custom_Toolbar_%1").arg(number)))
         ++number;
-    const QString name = QStringLiteral("_Custom_Toolbar_%1").arg(number);
+    const QString name = QString("_Custom_Toolbar_%1").arg(number);
     m_world->addToolBar(toolBar, {name, title, mainWindow, {}});
     toolBars[toolBar] = {false, {}, {}, {}};
     return toolBar;

@@ -69,6 +69,6 @@ QList<QAction *> Host::list(const QStringList &content)
 {
     QList<QAction *> actions;
     for (const QString &name : content)
-        actions << (name == QLatin1String("|") ? nullptr : action(name));
+        actions << (name == "|" ? nullptr : action(name));
     return actions;
 }

@@ -15,8 +15,7 @@ QStringList namesOf(const char *suffix)
 {
     const QDir dir(QString::fromUtf8(GoldenDir));
     QStringList names;
-    const auto files =
-        dir.entryInfoList({QLatin1String("*") + QLatin1String(suffix)}, QDir::Files, QDir::Name);
+    const auto files = dir.entryInfoList({"*" + QString(suffix)}, QDir::Files, QDir::Name);
     for (const QFileInfo &file : files)
         names << file.completeBaseName();
     return names;
@@ -24,7 +23,7 @@ QStringList namesOf(const char *suffix)
 
 QString pathOf(const QString &name, const char *suffix)
 {
-    return QString::fromUtf8(GoldenDir) + QLatin1Char('/') + name + QLatin1String(suffix);
+    return QString::fromUtf8(GoldenDir) + '/' + name + suffix;
 }
 
 QByteArray contentOf(const QString &path)

@@ -4,6 +4,7 @@
 
 #include "fuzzhost.h"
 #include "hostsnapshot.h"
+#include "managerrecords.h"
 #include "processuse.h"
 #include "restoremodel.h"
 #include "statewriter.h"
@@ -35,11 +36,11 @@ QStringList warnings;
 void recordWarning(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     const bool located = context.file || context.line || context.function;
-    const bool ofPlatform = text.startsWith(QLatin1String("This plugin does not support"));
-    if (type == QtWarningMsg && !located && text.startsWith(QLatin1String("RyToolBarManager::")))
+    const bool ofPlatform = text.startsWith("This plugin does not support");
+    if (type == QtWarningMsg && !located && text.startsWith("RyToolBarManager::"))
         warnings << text;
     else if (!ofPlatform)
-        warnings << QStringLiteral("unknown message: ") + text;
+        warnings << "unknown message: " + text;
 }
 
 QStringList takeWarnings()
@@ -62,7 +63,7 @@ QStringList textsOf(const QList<QPointer<QAction>> &actions)
             texts << action->objectName() << action->text()
                   << QString::number(action->isSeparator());
         else
-            texts << QStringLiteral("deleted");
+            texts << "deleted";
     }
     return texts;
 }
@@ -105,7 +106,7 @@ private:
     const QSet<QAction *> m_registered;
     QList<QPointer<QAction>> m_actions;
     QStringList m_actionTexts;
-    // What stands on the unmanaged toolbar.
+    // What is on the unmanaged toolbar.
     QList<QPointer<QAction>> m_elsewhere;
     bool m_hostIsAsBefore = false;
     QStringList m_breaches;
@@ -138,7 +139,7 @@ QString RestoreCheck::run()
     checkSaving();
     checkResetting();
     require(m_host.signalsEmitted == 0, "a signal was emitted");
-    return m_breaches.join(QLatin1Char('\n'));
+    return m_breaches.join('\n');
 }
 
 // The result, the warnings and the layout are those of the model.
@@ -192,7 +193,7 @@ void RestoreCheck::checkHost(const char *when)
     checkRegistry();
     checkWidgets();
     if (m_breaches.size() > known)
-        m_breaches << QLatin1String("  ") + QLatin1String(when);
+        m_breaches << "  " + QString(when);
 }
 
 void RestoreCheck::checkRegistry()
@@ -206,7 +207,7 @@ void RestoreCheck::checkRegistry()
     const auto standing = m_host.unmanaged->actions();
     require(standing.size() == elsewhere.size(), "an unmanaged toolbar has more or fewer actions");
     for (QAction *action : standing)
-        require(elsewhere.contains(action), "another action stands on an unmanaged toolbar");
+        require(elsewhere.contains(action), "another action is on an unmanaged toolbar");
 }
 
 void RestoreCheck::checkWidgets()
@@ -214,7 +215,7 @@ void RestoreCheck::checkWidgets()
     const HostSnapshot now(m_host);
     const auto &toolBars = now.toolBars();
     require(m_manager.toolBars() == toolBars.keys(), "toolBars() and the contents differ");
-    require(recordedStanding(m_manager).keys() == toolBars.keys(),
+    require(placedActions(m_manager).keys() == toolBars.keys(),
             "the two contents have different toolbars");
     const auto children =
         m_host.window.findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
@@ -234,16 +235,16 @@ void RestoreCheck::checkWidgets()
 // A null entry is a real separator of the manager's, any other entry the registered action itself.
 void RestoreCheck::checkToolBar(QToolBar *toolBar, const HostSnapshot::ToolBar &known)
 {
-    require(known.standing == known.recorded, "other actions stand on the widget than recorded");
+    require(known.standing == known.recorded, "other actions are on the widget than recorded");
     require(known.standing.size() == known.content.size(), "the contents have different lengths");
     QSet<QAction *> met;
     for (int i = 0; i < qMin(known.content.size(), known.standing.size()); ++i) {
         QAction *const action = known.standing.at(i);
-        require(!met.contains(action), "an action stands twice on a toolbar");
+        require(!met.contains(action), "an action is twice on a toolbar");
         met.insert(action);
         if (known.content.at(i)) {
-            require(action == known.content.at(i), "another action stands on the widget");
-            require(m_registered.contains(action), "an unregistered action stands on the widget");
+            require(action == known.content.at(i), "another action is on the widget");
+            require(m_registered.contains(action), "an unregistered action is on the widget");
         } else {
             require(action->isSeparator(), "a separator entry is no separator action");
             require(!m_registered.contains(action), "a separator entry is a registered action");
@@ -253,8 +254,8 @@ void RestoreCheck::checkToolBar(QToolBar *toolBar, const HostSnapshot::ToolBar &
     }
 }
 
-// Every separator that was made for a toolbar, and every one that the host gave, stands on one as
-// long as it lives.
+// Every separator that was made for a toolbar, and every one that the host gave, is on one as long
+// as it lives.
 void RestoreCheck::checkSeparators(const HostSnapshot &now)
 {
     QSet<QAction *> standing;
@@ -274,7 +275,7 @@ void RestoreCheck::checkSeparators(const HostSnapshot &now)
 
 void RestoreCheck::checkRecordedToolBars(const HostSnapshot &now)
 {
-    const auto recorded = recordedToolBars(m_manager);
+    const auto recorded = toolBarsOfActions(m_manager);
     QMap<QAction *, QSet<QToolBar *>> expected;
     for (auto it = now.toolBars().cbegin(); it != now.toolBars().cend(); ++it) {
         for (QAction *action : it.value().content) {
@@ -377,7 +378,7 @@ void RestoreCheck::require(bool holds, const char *what, const QString &more)
 {
     if (holds)
         return;
-    const QString breach = QLatin1String(what) + more;
+    const QString breach = what + more;
     if (!m_breaches.contains(breach))
         m_breaches << breach;
 }
@@ -387,10 +388,9 @@ void RestoreCheck::requireSame(const QStringList &actual, const QStringList &exp
 {
     if (actual == expected)
         return;
-    const QString joint = QStringLiteral("\n    ");
+    const QString joint = "\n    ";
     require(false, what,
-            joint + actual.join(joint) + QLatin1String("\n  instead of") + joint
-                + expected.join(joint));
+            joint + actual.join(joint) + "\n  instead of" + joint + expected.join(joint));
 }
 
 } // namespace
