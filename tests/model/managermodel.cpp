@@ -71,7 +71,7 @@ void ManagerModel::removeAction(QAction *action)
         removeAll(entry.second.content, action);
         removeAll(entry.second.defaultContent, action);
         auto &placed = entry.second.placed;
-        placed.erase(std::remove(placed.begin(), placed.end(), WorldModel::Standing{action, 0}),
+        placed.erase(std::remove(placed.begin(), placed.end(), WorldModel::Placed{action, 0}),
                      placed.end());
     }
     const auto category = categories.find(registered[action]);
@@ -108,10 +108,10 @@ void ManagerModel::addDefaultToolBar(QToolBar *toolBar, const QString &category)
     if (!toolBar || isManaged(toolBar))
         return;
     ToolBar managed{true, {}, {}, {}};
-    for (const WorldModel::Standing &standing : m_world->toolBars[toolBar].standing) {
-        addAction(standing.action, category);
-        managed.content.push_back(standing.action);
-        managed.placed.push_back(standing);
+    for (const WorldModel::Placed &placed : m_world->toolBars[toolBar].placed) {
+        addAction(placed.action, category);
+        managed.content.push_back(placed.action);
+        managed.placed.push_back(placed);
     }
     managed.defaultContent = managed.content;
     toolBars[toolBar] = managed;
@@ -155,9 +155,9 @@ void ManagerModel::setToolBar(QToolBar *toolBar, const Content &request)
         return;
     ToolBar &managed = toolBars[toolBar];
     managed.content = placeable(request);
-    for (const WorldModel::Standing &standing : managed.placed) {
-        m_world->take(toolBar, standing);
-        m_world->deleteSeparator(standing);
+    for (const WorldModel::Placed &placed : managed.placed) {
+        m_world->take(toolBar, placed);
+        m_world->deleteSeparator(placed);
     }
     managed.placed.clear();
     for (QAction *action : managed.content)

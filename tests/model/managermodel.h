@@ -14,7 +14,7 @@
  * What a toolbar manager must do, written in the plainest way. Maps that are keyed by a pointer are
  * ordered by its value, as the manager promises.
  *
- * Which address a new toolbar gets cannot be foretold: the model is told what was made.
+ * Which address a new toolbar gets cannot be foretold, so that the model takes what was made.
  */
 class ManagerModel
 {
@@ -24,7 +24,7 @@ public:
         bool isDefault;
         Content content;
         Content defaultContent;
-        std::vector<WorldModel::Standing> placed;
+        std::vector<WorldModel::Placed> placed;
     };
 
     // Changes the world as the manager does.
@@ -43,7 +43,7 @@ public:
     void setToolBars(const std::map<QToolBar *, Content> &requests);
     void resetToolBar(QToolBar *toolBar);
     void resetAllToolBars();
-    // What of a request may stand on a toolbar.
+    // What of a request may be placed on a toolbar.
     Content placeable(const Content &request) const;
 
     bool isManaged(QToolBar *toolBar) const;

@@ -67,8 +67,8 @@ class tst_Model : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void findingsStayMended_data();
-    void findingsStayMended();
+    void findingsStayFixed_data();
+    void findingsStayFixed();
     void theFullScriptPasses();
     void aFaultIsFound_data();
     void aFaultIsFound();
@@ -87,7 +87,7 @@ private:
     void addFaultsOfTheDialog();
 };
 
-void tst_Model::findingsStayMended_data()
+void tst_Model::findingsStayFixed_data()
 {
     QTest::addColumn<QString>("file");
     const auto files = QDir(QString(FINDINGS)).entryInfoList({"*.steps"});
@@ -96,7 +96,7 @@ void tst_Model::findingsStayMended_data()
         QTest::newRow(qPrintable(file.baseName())) << file.filePath();
 }
 
-void tst_Model::findingsStayMended()
+void tst_Model::findingsStayFixed()
 {
     QFETCH(QString, file);
     Script script;
@@ -147,14 +147,14 @@ void replaceSeparator(QToolBar *toolBar)
 
 void tst_Model::addFaultsOfObjects()
 {
-    addFault("standing on a toolbar", [](Stage &stage) {
+    addFault("actions on a toolbar", [](Stage &stage) {
         stage.toolBars[0]->removeAction(stage.toolBars[0]->actions().at(0));
     });
     addFault("separator:", [](Stage &stage) { replaceSeparator(stage.toolBars[0]); });
     addFault("deleted separator", [](Stage &stage) {
-        // What the model was not told, it believes to be gone.
+        // The model does not know of it, and takes it for gone.
         stage.world.deletedSeparators.push_back(
-            stage.world.toolBars[stage.toolBars[0]].standing[1].separator);
+            stage.world.toolBars[stage.toolBars[0]].placed[1].separator);
     });
     addFault("windowTitle", [](Stage &stage) { stage.toolBars[2]->setWindowTitle("x"); });
     addFault("objectName:", [](Stage &stage) { stage.toolBars[2]->setObjectName("x"); });
@@ -240,7 +240,7 @@ void tst_Model::aFaultIsFound()
     QFETCH(QString, what);
     QFETCH(Sequence::Meddle, meddle);
     const QString result = Sequence::run(fullScript(), meddle);
-    QVERIFY2(result.contains(what), qPrintable("told: " + result));
+    QVERIFY2(result.contains(what), qPrintable("reported: " + result));
 }
 
 void tst_Model::aCrashIsFound()

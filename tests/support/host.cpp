@@ -4,6 +4,9 @@
 
 #include <QtTest>
 
+#include <algorithm>
+#include <functional>
+
 namespace {
 
 QString capitalized(const QString &name)
@@ -71,4 +74,10 @@ QList<QAction *> Host::list(const QStringList &content)
     for (const QString &name : content)
         actions << (name == "|" ? nullptr : action(name));
     return actions;
+}
+
+QList<QToolBar *> byAddress(QList<QToolBar *> toolBars)
+{
+    std::sort(toolBars.begin(), toolBars.end(), std::less<QToolBar *>());
+    return toolBars;
 }

@@ -11,7 +11,7 @@
 
 namespace {
 
-// Far beyond what a busy machine needs, and short enough to tell which step it was.
+// Far beyond what a busy machine needs, and short enough to see which step it was.
 constexpr int patience = 20000;
 
 // Places of the pointer that are none on the screen.
@@ -21,7 +21,7 @@ const QPoint unknown(-2, -2);
 bool isSettled(const QWidget *window, const RealInput &input)
 {
     const QWindow *const handle = window->windowHandle();
-    // Not QWindow::isActive(), which counts a dialog of the active window as active too.
+    // Not QWindow::isActive(), for which a dialog of the active window is active too.
     return handle && handle->isExposed() && QGuiApplication::focusWindow() == handle
         && QApplication::activeWindow() == window
         && handle->mapToGlobal(QPoint()) == input.positionOf(handle);

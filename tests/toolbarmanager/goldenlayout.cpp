@@ -4,9 +4,6 @@
 
 #include <QRegularExpression>
 
-#include <algorithm>
-#include <functional>
-
 namespace {
 
 const char Quoted[] = R"re("((?:[^"\\]|\\.)*)")re";
@@ -193,13 +190,13 @@ GoldenLayout::ToolBar GoldenLayout::described(const Host &host, QToolBar *toolBa
 {
     ToolBar description{
         host.manager.isDefaultToolBar(toolBar), toolBar->objectName(), toolBar->windowTitle(), {}};
-    QList<QAction *> standing;
+    QList<QAction *> placed;
     const auto actions = toolBar->actions();
     for (QAction *action : actions) {
         description.content << described(action);
-        standing << (action->isSeparator() ? nullptr : action);
+        placed << (action->isSeparator() ? nullptr : action);
     }
-    if (standing != host.manager.actions(toolBar))
+    if (placed != host.manager.actions(toolBar))
         description.title += " (but the manager has recorded something else)";
     return description;
 }
@@ -209,12 +206,6 @@ GoldenLayout::Entry GoldenLayout::described(const QAction *action)
     if (action->isSeparator())
         return Entry{true, QString(), QString()};
     return Entry{false, action->objectName(), action->text()};
-}
-
-QList<QToolBar *> GoldenLayout::byAddress(QList<QToolBar *> toolBars)
-{
-    std::sort(toolBars.begin(), toolBars.end(), std::less<QToolBar *>());
-    return toolBars;
 }
 
 QList<GoldenLayout::ToolBar> GoldenLayout::toolBars(bool defaults) const
@@ -227,7 +218,7 @@ QList<GoldenLayout::ToolBar> GoldenLayout::toolBars(bool defaults) const
     return selected;
 }
 
-// Null for a separator and for an action that the host has not yet.
+// Null for a separator and for an action that the host does not have yet.
 QAction *GoldenLayout::findAction(const Host &host, const Entry &entry)
 {
     const auto actions = host.window.findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly);

@@ -4,9 +4,6 @@
 
 #include "texts.h"
 
-#include <algorithm>
-#include <functional>
-
 namespace {
 
 QString kindOf(const RyToolBarManager &manager, QToolBar *toolBar)
@@ -23,7 +20,7 @@ QList<QToolBar *> toolBarsByAddress(Host &host, int count)
     QList<QToolBar *> toolBars;
     for (int i = 0; i < count; ++i)
         toolBars << host.toolBar(QString());
-    std::sort(toolBars.begin(), toolBars.end(), std::less<QToolBar *>());
+    toolBars = byAddress(toolBars);
     for (int i = 0; i < count; ++i)
         toolBars.at(i)->setObjectName(QString("t%1").arg(i));
     return toolBars;

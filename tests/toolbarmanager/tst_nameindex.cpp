@@ -39,7 +39,7 @@ private Q_SLOTS:
     void theFirstOfTheListIsFound();
     void anIndexFindsAgainAndAgain();
     void namesAreReadOnce();
-    void toolBarsStandInWithTheirTitle();
+    void toolBarsAreFoundByTheirTitle();
 };
 
 void tst_NameIndex::theFirstOfTheListIsFound_data()
@@ -103,7 +103,7 @@ void tst_NameIndex::namesAreReadOnce()
     QCOMPARE(takeWarnings().size(), 3);
 }
 
-void tst_NameIndex::toolBarsStandInWithTheirTitle()
+void tst_NameIndex::toolBarsAreFoundByTheirTitle()
 {
     QToolBar first("Title");
     QToolBar second("Title");

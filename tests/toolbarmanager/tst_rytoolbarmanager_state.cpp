@@ -15,8 +15,6 @@
 #include <QDataStream>
 #include <QtTest>
 
-#include <algorithm>
-#include <functional>
 #include <limits>
 
 namespace {
@@ -245,7 +243,7 @@ void tst_RyToolBarManager_state::customToolBarsAreSavedInTheOrderOfTheirAddresse
     // The new one may take the place in memory that the first one left.
     host.manager.deleteToolBar(customs.takeFirst());
     customs << host.manager.createToolBar(QString());
-    std::sort(customs.begin(), customs.end(), std::less<QToolBar *>());
+    customs = byAddress(customs);
     for (int i = 0; i < customs.size(); ++i) {
         customs.at(i)->setObjectName(QString("c%1").arg(i));
         customs.at(i)->setWindowTitle(QString::number(i));

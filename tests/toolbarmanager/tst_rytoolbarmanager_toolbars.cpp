@@ -9,9 +9,6 @@
 #include <QPointer>
 #include <QtTest>
 
-#include <algorithm>
-#include <functional>
-
 namespace {
 
 const QString A = "A";
@@ -667,7 +664,7 @@ void tst_RyToolBarManager_toolbars::toolBarsAreInTheOrderOfTheirAddresses()
     QCOMPARE(host.manager.toolBars(), host.manager.defaultToolBars().keys());
     for (int i = 0; i < 4; ++i)
         toolBars << host.manager.createToolBar(QString());
-    std::sort(toolBars.begin(), toolBars.end(), std::less<QToolBar *>());
+    toolBars = byAddress(toolBars);
     QCOMPARE(host.manager.toolBars(), toolBars);
 }
 

@@ -2,22 +2,11 @@
 
 #include "fuzzhost.h"
 
+#include "host.h"
 #include "texts.h"
 
 #include <QCoreApplication>
 #include <QMenu>
-
-#include <algorithm>
-#include <functional>
-
-namespace {
-
-void sortByAddress(QList<QToolBar *> &toolBars)
-{
-    std::sort(toolBars.begin(), toolBars.end(), std::less<QToolBar *>());
-}
-
-} // namespace
 
 FuzzHost::FuzzHost(int shape)
     : unmanaged(window.addToolBar("x"))
@@ -143,7 +132,7 @@ void FuzzHost::addDefaultToolBars(const QStringList &names, const QStringList &t
     QList<QToolBar *> made;
     for (int i = 0; i < names.size(); ++i)
         made << window.addToolBar(QString());
-    sortByAddress(made);
+    made = byAddress(made);
     for (int i = 0; i < names.size(); ++i) {
         made.at(i)->setObjectName(names.at(i));
         made.at(i)->setWindowTitle(titles.at(i));
@@ -165,7 +154,7 @@ void FuzzHost::addCustomToolBars(const QStringList &names, const QStringList &ti
     QList<QToolBar *> made;
     for (int i = 0; i < names.size(); ++i)
         made << manager.createToolBar(QString());
-    sortByAddress(made);
+    made = byAddress(made);
     for (int i = 0; i < names.size(); ++i) {
         made.at(i)->setObjectName(names.at(i));
         made.at(i)->setWindowTitle(titles.at(i));
@@ -180,7 +169,7 @@ void FuzzHost::makeUsual()
     manager.setToolBar(manager.toolBarByName("e"), list("c a | ä€"));
 }
 
-// Without objectNames, so that texts and titles stand in for them.
+// Without objectNames, so that texts and titles replace them.
 void FuzzHost::makeNameless()
 {
     registered(QString(), "T");
@@ -190,7 +179,7 @@ void FuzzHost::makeNameless()
     manager.setToolBar(manager.toolBarByName("f"), list("S | T b"));
 }
 
-// Names that several things bear, that are empty or that are the titles and texts of others. What
+// Names that several things have, that are empty or that are the titles and texts of others. What
 // is saved of the toolbar without name and title goes to the one that has only a title, what is
 // saved of that one to the second "o", and what is saved of that one to the first.
 void FuzzHost::makeDoubles()
