@@ -193,6 +193,7 @@ private Q_SLOTS:
     void aToolBarMayBeDeletedWhileItIsSet();
     void aToolBarMayBeForgottenWhileItIsSet_data();
     void aToolBarMayBeForgottenWhileItIsSet();
+    void aToolBarMadeADefaultOneWhileItIsDeletedStays();
     void deletingAToolBarTwiceAtOnceDeletesItOnce();
     void aListSetWhileItsToolBarIsDeletedIsIgnored();
     void aNewToolBarInThePlaceOfADeletedOneIsLeftAlone();
@@ -450,6 +451,18 @@ void tst_RyToolBarManager_reentry::aToolBarMayBeForgottenWhileItIsSet()
     QCOMPARE(separatorsBelow(host.mine), 0);
     delete host.mine;
     unregister(host);
+    QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry::aToolBarMadeADefaultOneWhileItIsDeletedStays()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] { adoptMine(host); });
+    host.watch(&calls);
+    host.manager.deleteToolBar(host.mine);
+    QVERIFY(host.mine);
+    QVERIFY(host.manager.isDefaultToolBar(host.mine));
+    QCOMPARE(host.manager.toolBars().size(), 4);
     QCOMPARE(inconsistencyOf(host.manager), QString());
 }
 
