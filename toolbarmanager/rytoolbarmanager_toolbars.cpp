@@ -111,7 +111,8 @@ bool RyToolBarManager::isCustomToolBar(QToolBar *toolBar) const
 
 void RyToolBarManager::forgetToolBar(QToolBar *toolBar)
 {
-    if (!ContentChange(this, toolBar).empty())
+    // The host may have made it a default toolbar when it was emptied.
+    if (!ContentChange(this, toolBar).empty() || !isCustomToolBar(toolBar))
         return;
     m_toolBars.remove(toolBar);
     m_toolBarsWithSeparators.remove(toolBar);

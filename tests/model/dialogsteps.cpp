@@ -156,7 +156,7 @@ void DialogSteps::updatePage()
     for (const auto &entry : m_stage->managerModel.toolBars) {
         records[entry.first] = recordOfToolBar.value(entry.first);
         if (!records[entry.first])
-            m_differences->add("filled", QStringLiteral("a record"), QStringLiteral("none"));
+            m_differences->add("filled", "a record", "none");
     }
     m_model.fill(records);
 }
@@ -192,7 +192,7 @@ void DialogSteps::pressNew()
         if (!m_model.created.count(record))
             return m_model.newClicked(record);
     }
-    m_differences->add("New", QStringLiteral("a record"), QStringLiteral("none"));
+    m_differences->add("New", "a record", "none");
 }
 
 // Below the in-place editor no row can be clicked; everywhere else a click takes the focus from it.
@@ -235,7 +235,7 @@ void DialogSteps::clickItem(const Step &step, bool twice)
     const auto chosen = items[static_cast<std::size_t>(step.number(0)) % items.size()];
     QTreeWidgetItem *const item = itemOf(chosen.second);
     if (!item)
-        return m_differences->add("action tree", chosen.second.text, QStringLiteral("no item"));
+        return m_differences->add("action tree", chosen.second.text, "no item");
     m_real->click(item, twice);
     learnOrder();
     m_model.commitEditing();

@@ -24,21 +24,20 @@ public:
 
     void add(const char *what, const QString &expected, const QString &found)
     {
-        lines << QStringLiteral("%1: expected %2, found %3")
-                     .arg(QLatin1String(what), expected, found);
+        lines << QString("%1: expected %2, found %3").arg(what, expected, found);
     }
 
     QStringList lines;
 
 private:
-    static QString show(const QString &text) { return QLatin1Char('"') + text + QLatin1Char('"'); }
-    static QString show(const QStringList &texts) { return show(texts.join(QLatin1Char('\n'))); }
+    static QString show(const QString &text) { return '"' + text + '"'; }
+    static QString show(const QStringList &texts) { return show(texts.join('\n')); }
     static QString show(int number) { return QString::number(number); }
     static QString show(const void *address) { return QString::asprintf("%p", address); }
 
     template <typename K, typename V> static QString show(const std::pair<K, V> &pair)
     {
-        return show(pair.first) + QLatin1Char(':') + show(pair.second);
+        return show(pair.first) + ':' + show(pair.second);
     }
 
     template <typename List> static QString showAll(const List &list)
@@ -46,7 +45,7 @@ private:
         QStringList texts;
         for (const auto &entry : list)
             texts << show(entry);
-        return QLatin1Char('[') + texts.join(QLatin1Char(' ')) + QLatin1Char(']');
+        return '[' + texts.join(' ') + ']';
     }
 
     template <typename T> static QString show(const std::vector<T> &list) { return showAll(list); }

@@ -13,7 +13,7 @@ template <typename T> int placeOf(const std::vector<T> &list, const T &value)
     return static_cast<int>(std::find(list.begin(), list.end(), value) - list.begin());
 }
 
-const QString SeparatorText = QStringLiteral("< S E P A R A T O R >");
+const QString SeparatorText = "< S E P A R A T O R >";
 
 } // namespace
 
@@ -104,7 +104,7 @@ void EditorModel::newClicked(ToolBarItem *record)
         return;
     // Qt closes an open editor with its row, and takes over what was typed.
     commitEditing();
-    const QString name = QStringLiteral("Custom Toolbar");
+    const QString name = "Custom Toolbar";
     records[record] = {nullptr, name};
     working[record] = {};
     created.insert(record);

@@ -14,7 +14,7 @@ class ToolBarItem;
  *
  * The records' addresses name the toolbars here, since one command visits them in that order. The
  * order of rows with the same text, and the order in which apply creates toolbars, are nobody's
- * promise: the model is told both.
+ * promise: the model takes both from outside.
  */
 class EditorModel
 {
@@ -66,7 +66,7 @@ public:
     // A new page.
     void reset();
 
-    // Told before a command: where equal texts stand when it is done.
+    // Set before a command: where rows of equal texts are when it is done.
     void setTieOrder(const std::vector<ToolBarItem *> &rows, const std::vector<QAction *> &items);
 
     // The seven buttons; nothing happens if it is disabled.
@@ -78,7 +78,7 @@ public:
     void leftClicked();
     void rightClicked();
 
-    // The page's part in the dialog's buttons. Apply is told what toolbars were made, in order.
+    // The page's part in the dialog's buttons. Apply takes the toolbars that were made, in order.
     void apply(const std::vector<std::pair<ToolBarItem *, QToolBar *>> &made);
     void restoreDefaults();
 
@@ -93,7 +93,7 @@ public:
     void cancelEditing();
 
     bool filled = false;
-    // The records of the fill, some of them freed meanwhile.
+    // The records of the fill, some of them freed since.
     std::map<QToolBar *, ToolBarItem *> recordOfToolBar;
     std::map<ToolBarItem *, Record> records;
     std::map<ToolBarItem *, Content> working;

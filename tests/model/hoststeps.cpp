@@ -24,11 +24,11 @@ private:
     std::size_t m_place = 0;
 };
 
-std::vector<QString> namesFrom(Numbers &numbers)
+QStringList namesFrom(Numbers &numbers)
 {
-    std::vector<QString> names;
+    QStringList names;
     for (int left = numbers.next() % 5; left > 0; --left)
-        names.push_back(Stage::anyActionName(numbers.next()));
+        names.append(Stage::anyActionName(numbers.next()));
     return names;
 }
 
@@ -88,10 +88,10 @@ bool HostSteps::runForObjects(const Step &step)
         return nameToolBar(step), true;
     case Step::TitleToolBar:
         return titleToolBar(step), true;
-    case Step::Stand:
-        return stand(m_stage->toolBar(step.number(0)), m_stage->action(step.number(1))), true;
-    case Step::Unstand:
-        return unstand(step), true;
+    case Step::Place:
+        return place(m_stage->toolBar(step.number(0)), m_stage->action(step.number(1))), true;
+    case Step::TakeOff:
+        return takeOff(step), true;
     case Step::Scatter:
         return scatter(step.number(0)), true;
     default:
@@ -196,7 +196,7 @@ void HostSteps::newToolBar(const Step &step)
         m_stage->addToolBar(&m_stage->windows[step.number(0) % 2],
                             Stage::toolBarName(step.number(0)), Stage::title(step.number(1)));
     for (QAction *action : m_stage->content(step.from(2)))
-        stand(toolBar, action);
+        place(toolBar, action);
 }
 
 void HostSteps::dropToolBar(const Step &step)
@@ -226,8 +226,8 @@ void HostSteps::titleToolBar(const Step &step)
     m_stage->world.toolBars[toolBar].title = Stage::title(step.number(1));
 }
 
-// Separators are the toolbar's own; the action that is one already could stand on two.
-void HostSteps::stand(QToolBar *toolBar, QAction *action)
+// Separators are the toolbar's own; the action that is one already could be on two.
+void HostSteps::place(QToolBar *toolBar, QAction *action)
 {
     if (!toolBar || (action && !m_stage->world.actions.count(action)))
         return;
@@ -238,15 +238,15 @@ void HostSteps::stand(QToolBar *toolBar, QAction *action)
     m_stage->world.append(toolBar, action);
 }
 
-void HostSteps::unstand(const Step &step)
+void HostSteps::takeOff(const Step &step)
 {
     QToolBar *const toolBar = m_stage->toolBar(step.number(0));
-    if (!toolBar || m_stage->world.toolBars[toolBar].standing.empty())
+    if (!toolBar || m_stage->world.toolBars[toolBar].placed.empty())
         return;
-    const auto &standing = m_stage->world.toolBars[toolBar].standing;
-    const std::size_t place = static_cast<std::size_t>(step.number(1)) % standing.size();
+    const auto &placed = m_stage->world.toolBars[toolBar].placed;
+    const std::size_t place = static_cast<std::size_t>(step.number(1)) % placed.size();
     toolBar->removeAction(toolBar->actions().at(static_cast<int>(place)));
-    m_stage->world.take(toolBar, WorldModel::Standing(standing[place]));
+    m_stage->world.take(toolBar, WorldModel::Placed(placed[place]));
 }
 
 // Leaves free blocks of the sizes of toolbars and the editor's records here and there.

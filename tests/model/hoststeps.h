@@ -36,8 +36,8 @@ private:
     void dropToolBar(const Step &step);
     void nameToolBar(const Step &step);
     void titleToolBar(const Step &step);
-    void stand(QToolBar *toolBar, QAction *action);
-    void unstand(const Step &step);
+    void place(QToolBar *toolBar, QAction *action);
+    void takeOff(const Step &step);
     void scatter(int seed);
 
     void addAction(const Step &step);

@@ -16,9 +16,9 @@ const unsigned SecondsToHang = 600;
 {
     alarm(SecondsToHang);
     const QByteArray result = Sequence::run(script, meddle).toUtf8();
-    const bool told =
+    const bool isWritten =
         write(output, result.constData(), static_cast<std::size_t>(result.size())) == result.size();
-    _exit(result.isEmpty() && told ? 0 : 1);
+    _exit(result.isEmpty() && isWritten ? 0 : 1);
 }
 
 QByteArray readAll(int input)
@@ -47,6 +47,6 @@ QString IsolatedRun::run(const Script &script, const Sequence::Meddle &meddle)
     int status = 0;
     waitpid(child, &status, 0);
     if (WIFSIGNALED(status))
-        return QStringLiteral("ended by signal %1").arg(WTERMSIG(status));
-    return WEXITSTATUS(status) == 0 ? QString() : result + QLatin1Char(' ');
+        return QString("ended by signal %1").arg(WTERMSIG(status));
+    return WEXITSTATUS(status) == 0 ? QString() : result + ' ';
 }

@@ -106,11 +106,10 @@ void ManagerComparison::compareContent(const char *what, const Content &expected
 
 void ManagerComparison::compareState()
 {
-    SavedLayout found;
-    const bool complete = SavedLayout::read(m_stage->manager.saveState(7), found);
+    const SavedLayout found = SavedLayout::of(m_stage->manager.saveState(7));
     const SavedLayout expected = m_stage->managerModel.save(7);
-    if (!complete || !expected.matches(found))
-        m_differences->add("saveState()", expected.text(), found.text());
+    if (!expected.matches(found))
+        m_differences->add("saveState()", expected.fields().join(' '), found.fields().join(' '));
 }
 
 void ManagerComparison::compareWorld()
@@ -143,11 +142,11 @@ void ManagerComparison::compareWidget(QToolBar *toolBar, const WorldModel::ToolB
     m_differences->compare("windowTitle", expected.title, toolBar->windowTitle());
     m_differences->compare("area", int(Qt::TopToolBarArea),
                            int(expected.window->toolBarArea(toolBar)));
-    compareStanding(toolBar, expected);
+    comparePlaced(toolBar, expected);
 }
 
 // A separator of the same number must still be the same action.
-void ManagerComparison::compareStanding(QToolBar *toolBar, const WorldModel::ToolBar &expected)
+void ManagerComparison::comparePlaced(QToolBar *toolBar, const WorldModel::ToolBar &expected)
 {
     const auto found = toolBar->actions();
     Content actions;
@@ -156,13 +155,13 @@ void ManagerComparison::compareStanding(QToolBar *toolBar, const WorldModel::Too
         actions.push_back(action->isSeparator() ? nullptr : action);
     }
     Content expectedActions;
-    for (const WorldModel::Standing &standing : expected.standing)
-        expectedActions.push_back(standing.action);
-    m_differences->compare("standing on a toolbar", expectedActions, actions);
+    for (const WorldModel::Placed &placed : expected.placed)
+        expectedActions.push_back(placed.action);
+    m_differences->compare("actions on a toolbar", expectedActions, actions);
     if (expectedActions != actions)
         return;
     for (std::size_t place = 0; place < actions.size(); ++place) {
-        const int number = expected.standing[place].separator;
+        const int number = expected.placed[place].separator;
         if (!number)
             continue;
         QAction *const separator = found.at(static_cast<int>(place));

@@ -9,7 +9,7 @@
 #include <QPointer>
 
 /*
- * Compares everything that a manager and the host's objects tell with the models.
+ * Compares everything that a manager and the host's objects report with the models.
  */
 class ManagerComparison
 {
@@ -25,7 +25,7 @@ private:
     void compareState();
     void compareWorld();
     void compareWidget(QToolBar *toolBar, const WorldModel::ToolBar &expected);
-    void compareStanding(QToolBar *toolBar, const WorldModel::ToolBar &expected);
+    void comparePlaced(QToolBar *toolBar, const WorldModel::ToolBar &expected);
     void compareDeletedSeparators();
     void compareContent(const char *what, const Content &expected, const QList<QAction *> &found);
 

@@ -17,27 +17,32 @@ bool contains(const Content &content, QAction *action)
     return std::find(content.begin(), content.end(), action) != content.end();
 }
 
+// A text for %s is in the local encoding and ends at its first null character.
+QString shown(const QString &name)
+{
+    return QString::fromUtf8(name.toLocal8Bit().constData());
+}
+
 QString notFound(const char *className, const char *property, const QString &name)
 {
-    return QStringLiteral("RyToolBarManager::restoreState(): cannot find a %1 named '%2', trying "
-                          "to match using '%3' instead.")
-        .arg(QLatin1String(className), name, QLatin1String(property));
+    return QString("RyToolBarManager::restoreState(): cannot find a %1 named '%2', trying to match "
+                   "using '%3' instead.")
+        .arg(className, shown(name), property);
 }
 
 QString notFoundAtAll(const char *className, const char *property, const QString &name)
 {
-    return QStringLiteral("RyToolBarManager::restoreState(): cannot find a %1 with matching '%2' "
-                          "(looking for '%3').")
-        .arg(QLatin1String(className), QLatin1String(property), name);
+    return QString("RyToolBarManager::restoreState(): cannot find a %1 with matching '%2' (looking "
+                   "for '%3').")
+        .arg(className, property, shown(name));
 }
 
 QString noObjectName(const char *className, const void *address, const QString &name,
                      const char *property)
 {
-    return QStringLiteral("RyToolBarManager::saveState(): 'objectName' not set for %1 %2 '%3', "
-                          "using '%4' instead")
-        .arg(QLatin1String(className), QString::asprintf("%p", address), name,
-             QLatin1String(property));
+    return QString("RyToolBarManager::saveState(): 'objectName' not set for %1 %2 '%3', using '%4' "
+                   "instead")
+        .arg(className, QString::asprintf("%p", address), shown(name), property);
 }
 
 } // namespace
@@ -66,7 +71,7 @@ void ManagerModel::removeAction(QAction *action)
         removeAll(entry.second.content, action);
         removeAll(entry.second.defaultContent, action);
         auto &placed = entry.second.placed;
-        placed.erase(std::remove(placed.begin(), placed.end(), WorldModel::Standing{action, 0}),
+        placed.erase(std::remove(placed.begin(), placed.end(), WorldModel::Placed{action, 0}),
                      placed.end());
     }
     const auto category = categories.find(registered[action]);
@@ -103,10 +108,10 @@ void ManagerModel::addDefaultToolBar(QToolBar *toolBar, const QString &category)
     if (!toolBar || isManaged(toolBar))
         return;
     ToolBar managed{true, {}, {}, {}};
-    for (const WorldModel::Standing &standing : m_world->toolBars[toolBar].standing) {
-        addAction(standing.action, category);
-        managed.content.push_back(standing.action);
-        managed.placed.push_back(standing);
+    for (const WorldModel::Placed &placed : m_world->toolBars[toolBar].placed) {
+        addAction(placed.action, category);
+        managed.content.push_back(placed.action);
+        managed.placed.push_back(placed);
     }
     managed.defaultContent = managed.content;
     toolBars[toolBar] = managed;
@@ -128,9 +133,9 @@ QToolBar *ManagerModel::createToolBar(const QString &title, std::deque<QToolBar 
     QToolBar *const toolBar = made.front();
     made.pop_front();
     int number = 1;
-    while (toolBarByName(QStringLiteral("_Custom_Toolbar_%1").arg(number)))
+    while (toolBarByName(QString("_Custom_Toolbar_%1").arg(number)))
         ++number;
-    const QString name = QStringLiteral("_Custom_Toolbar_%1").arg(number);
+    const QString name = QString("_Custom_Toolbar_%1").arg(number);
     m_world->addToolBar(toolBar, {name, title, mainWindow, {}});
     toolBars[toolBar] = {false, {}, {}, {}};
     return toolBar;
@@ -150,9 +155,9 @@ void ManagerModel::setToolBar(QToolBar *toolBar, const Content &request)
         return;
     ToolBar &managed = toolBars[toolBar];
     managed.content = placeable(request);
-    for (const WorldModel::Standing &standing : managed.placed) {
-        m_world->take(toolBar, standing);
-        m_world->deleteSeparator(standing);
+    for (const WorldModel::Placed &placed : managed.placed) {
+        m_world->take(toolBar, placed);
+        m_world->deleteSeparator(placed);
     }
     managed.placed.clear();
     for (QAction *action : managed.content)
@@ -241,11 +246,11 @@ SavedLayout ManagerModel::save(int version)
     return layout;
 }
 
-std::vector<QString> ManagerModel::savedNames(const Content &content)
+QStringList ManagerModel::savedNames(const Content &content)
 {
-    std::vector<QString> names;
+    QStringList names;
     for (QAction *action : content)
-        names.push_back(action ? savedName(action) : QString());
+        names.append(action ? savedName(action) : QString());
     return names;
 }
 
@@ -258,14 +263,13 @@ QString ManagerModel::savedName(QToolBar *toolBar)
     return state.title;
 }
 
-// An empty text is told from a null one: that is for separators alone.
 QString ManagerModel::savedName(QAction *action)
 {
     const WorldModel::Action &state = m_world->actions[action];
     if (!state.objectName.isEmpty())
         return state.objectName;
     m_warnings << noObjectName("QAction", action, state.text, "text");
-    return state.text.isNull() ? QStringLiteral("") : state.text;
+    return state.text;
 }
 
 bool ManagerModel::restore(const SavedLayout &layout, int version, std::deque<QToolBar *> &made)
@@ -298,7 +302,7 @@ void ManagerModel::restoreCustom(const SavedLayout::ToolBar &record, std::deque<
     setToolBar(toolBar, content);
 }
 
-Content ManagerModel::readContent(const std::vector<QString> &names)
+Content ManagerModel::readContent(const QStringList &names)
 {
     Content content;
     for (const QString &name : names) {

@@ -14,7 +14,7 @@
  * What a toolbar manager must do, written in the plainest way. Maps that are keyed by a pointer are
  * ordered by its value, as the manager promises.
  *
- * Which address a new toolbar gets cannot be foretold: the model is told what was made.
+ * Which address a new toolbar gets cannot be foretold, so that the model takes what was made.
  */
 class ManagerModel
 {
@@ -24,7 +24,7 @@ public:
         bool isDefault;
         Content content;
         Content defaultContent;
-        std::vector<WorldModel::Standing> placed;
+        std::vector<WorldModel::Placed> placed;
     };
 
     // Changes the world as the manager does.
@@ -43,7 +43,7 @@ public:
     void setToolBars(const std::map<QToolBar *, Content> &requests);
     void resetToolBar(QToolBar *toolBar);
     void resetAllToolBars();
-    // What of a request may stand on a toolbar.
+    // What of a request may be placed on a toolbar.
     Content placeable(const Content &request) const;
 
     bool isManaged(QToolBar *toolBar) const;
@@ -66,9 +66,9 @@ public:
     std::map<QToolBar *, ToolBar> toolBars;
 
 private:
-    Content readContent(const std::vector<QString> &names);
+    Content readContent(const QStringList &names);
     void restoreCustom(const SavedLayout::ToolBar &record, std::deque<QToolBar *> &made);
-    std::vector<QString> savedNames(const Content &content);
+    QStringList savedNames(const Content &content);
     QString savedName(QToolBar *toolBar);
     QString savedName(QAction *action);
 

@@ -66,34 +66,29 @@ int runRange(std::uint64_t firstSeed, std::uint64_t count, int steps, bool shrin
 
 void addOptions(QCommandLineParser &parser)
 {
-    const QString number = QStringLiteral("number");
+    const QString number = "number";
     parser.addHelpOption();
     parser.addOptions({
-        {QStringLiteral("sequences"), QStringLiteral("How many scripts."), number,
-         QStringLiteral("500")},
-        {QStringLiteral("steps"), QStringLiteral("Steps of each."), number, QStringLiteral("200")},
-        {QStringLiteral("first-seed"), QStringLiteral("Seed of the first."), number,
-         QStringLiteral("1")},
-        {QStringLiteral("seed"), QStringLiteral("Run this one only."), number},
-        {QStringLiteral("replay"), QStringLiteral("Run the steps of a file."),
-         QStringLiteral("file")},
-        {QStringLiteral("print"), QStringLiteral("Print the steps of this seed."), number},
-        {QStringLiteral("no-shrink"), QStringLiteral("Only say which seed fails.")},
+        {"sequences", "How many scripts.", number, "500"},
+        {"steps", "Steps of each.", number, "200"},
+        {"first-seed", "Seed of the first.", number, "1"},
+        {"seed", "Run this one only.", number},
+        {"replay", "Run the steps of a file.", "file"},
+        {"print", "Print the steps of this seed.", number},
+        {"no-shrink", "Only say which seed fails."},
     });
 }
 
 int run(const QCommandLineParser &parser)
 {
-    const auto number = [&parser](const char *name) {
-        return parser.value(QLatin1String(name)).toULongLong();
-    };
+    const auto number = [&parser](const char *name) { return parser.value(name).toULongLong(); };
     const int steps = static_cast<int>(number("steps"));
-    const bool shrink = !parser.isSet(QStringLiteral("no-shrink"));
-    if (parser.isSet(QStringLiteral("replay")))
-        return replay(parser.value(QStringLiteral("replay")));
-    if (parser.isSet(QStringLiteral("print")))
+    const bool shrink = !parser.isSet("no-shrink");
+    if (parser.isSet("replay"))
+        return replay(parser.value("replay"));
+    if (parser.isSet("print"))
         return print(textOf(SequenceRange::scriptOf(number("print"), steps))), 0;
-    if (parser.isSet(QStringLiteral("seed")))
+    if (parser.isSet("seed"))
         return runRange(number("seed"), 1, steps, shrink);
     return runRange(number("first-seed"), number("sequences"), steps, shrink);
 }

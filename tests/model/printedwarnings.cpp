@@ -12,7 +12,7 @@ QtMessageHandler previousHandler = nullptr;
 void record(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     // What the platform without a display says of itself.
-    if (!text.startsWith(QLatin1String("This plugin does not support")))
+    if (!text.startsWith("This plugin does not support"))
         printed << text;
 }
 

@@ -31,7 +31,7 @@ public:
     void press(QWidget *widget, Qt::Key key);
     void type(const QString &text);
 
-    // Show and hide as the window system tells them.
+    // Shows and hides the dialog as the window system does.
     void minimizeAndRestore();
 
     // What Qt has put off: closing an editor after Return, deleting it.

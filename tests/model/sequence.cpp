@@ -25,10 +25,9 @@ QString Sequence::run(const Script &script, const Meddle &meddle)
         managerComparison.run();
         dialogSteps.compare();
         if (!differences.lines.isEmpty()) {
-            return QStringLiteral("step %1 (%2): %3")
+            return QString("step %1 (%2): %3")
                 .arg(place + 1)
-                .arg(QString::fromStdString(step.text()),
-                     differences.lines.join(QLatin1String("\n  ")));
+                .arg(QString::fromStdString(step.text()), differences.lines.join("\n  "));
         }
     }
     return QString();

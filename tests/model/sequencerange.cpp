@@ -60,7 +60,7 @@ std::uint64_t SequenceRange::failedSeed() const
 
 void SequenceRange::runHere() const
 {
-    // Not without the process that would tell the result.
+    // Not without the process that would report the result.
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     for (std::uint64_t i = 0; i < m_count; ++i) {
         *m_current = m_firstSeed + i;

@@ -32,7 +32,7 @@ Stage::Stage()
     : managerModel(&world)
     , editorModel(&world, &managerModel)
     , m_separator(new QAction)
-    , m_stranger(new QAction(QStringLiteral("Stranger")))
+    , m_stranger(new QAction("Stranger"))
 {
     m_separator->setSeparator(true);
     const auto count = [this] { ++emitted; };
@@ -110,14 +110,14 @@ QString Stage::anyToolBarName(int number)
     if (number % 3 == 0)
         return title(number / 3);
     return number % 3 == 1 ? toolBarName(number / 3)
-                           : QStringLiteral("_Custom_Toolbar_%1").arg(1 + number / 3 % 5);
+                           : QString("_Custom_Toolbar_%1").arg(1 + number / 3 % 5);
 }
 
 // Several actions may have the name "same".
 QString Stage::actionName(int slot, int number)
 {
     static const char *const names[] = {"act%1", "new%1", "", "same"};
-    return pick(names, number).replace(QLatin1String("%1"), QString::number(slot));
+    return pick(names, number).replace("%1", QString::number(slot));
 }
 
 QString Stage::actionText(int slot, int number)

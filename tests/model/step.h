@@ -24,8 +24,8 @@ struct Step
         DropToolBar, // toolbar
         NameToolBar, // toolbar, name
         TitleToolBar, // toolbar, title
-        Stand, // toolbar, action: placed behind the manager's back
-        Unstand, // toolbar, place
+        Place, // toolbar, action: placed behind the manager's back
+        TakeOff, // toolbar, place
         Scatter, // so that the next objects get addresses in another order
 
         // The manager.

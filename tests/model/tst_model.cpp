@@ -37,7 +37,7 @@ const char *const FullScript = "main-window 1\n"
 Script scriptOf(const QString &text)
 {
     Script script;
-    const auto lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const auto lines = text.split('\n', Qt::SkipEmptyParts);
     for (const QString &line : lines)
         script.push_back(Step::of(line.toStdString()));
     return script;
@@ -45,7 +45,7 @@ Script scriptOf(const QString &text)
 
 Script fullScript()
 {
-    return scriptOf(QLatin1String(FullScript));
+    return scriptOf(FullScript);
 }
 
 QWidget *dialog()
@@ -67,8 +67,8 @@ class tst_Model : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void findingsStayMended_data();
-    void findingsStayMended();
+    void findingsStayFixed_data();
+    void findingsStayFixed();
     void theFullScriptPasses();
     void aFaultIsFound_data();
     void aFaultIsFound();
@@ -87,16 +87,16 @@ private:
     void addFaultsOfTheDialog();
 };
 
-void tst_Model::findingsStayMended_data()
+void tst_Model::findingsStayFixed_data()
 {
     QTest::addColumn<QString>("file");
-    const auto files = QDir(QStringLiteral(FINDINGS)).entryInfoList({QStringLiteral("*.steps")});
+    const auto files = QDir(QString(FINDINGS)).entryInfoList({"*.steps"});
     QVERIFY(!files.isEmpty());
     for (const QFileInfo &file : files)
         QTest::newRow(qPrintable(file.baseName())) << file.filePath();
 }
 
-void tst_Model::findingsStayMended()
+void tst_Model::findingsStayFixed()
 {
     QFETCH(QString, file);
     Script script;
@@ -132,7 +132,7 @@ namespace {
 
 void addFault(const char *what, const Sequence::Meddle &meddle)
 {
-    QTest::newRow(what) << QString::fromUtf8(what) << meddle;
+    QTest::newRow(what) << what << meddle;
 }
 
 // An action that is one already keeps its place.
@@ -147,21 +147,18 @@ void replaceSeparator(QToolBar *toolBar)
 
 void tst_Model::addFaultsOfObjects()
 {
-    addFault("standing on a toolbar", [](Stage &stage) {
+    addFault("actions on a toolbar", [](Stage &stage) {
         stage.toolBars[0]->removeAction(stage.toolBars[0]->actions().at(0));
     });
     addFault("separator:", [](Stage &stage) { replaceSeparator(stage.toolBars[0]); });
     addFault("deleted separator", [](Stage &stage) {
-        // What the model was not told, it believes to be gone.
+        // The model does not know of it, and takes it for gone.
         stage.world.deletedSeparators.push_back(
-            stage.world.toolBars[stage.toolBars[0]].standing[1].separator);
+            stage.world.toolBars[stage.toolBars[0]].placed[1].separator);
     });
-    addFault("windowTitle",
-             [](Stage &stage) { stage.toolBars[2]->setWindowTitle(QStringLiteral("x")); });
-    addFault("objectName:",
-             [](Stage &stage) { stage.toolBars[2]->setObjectName(QStringLiteral("x")); });
-    addFault("text of an action",
-             [](Stage &stage) { stage.actions[0]->setText(QStringLiteral("x")); });
+    addFault("windowTitle", [](Stage &stage) { stage.toolBars[2]->setWindowTitle("x"); });
+    addFault("objectName:", [](Stage &stage) { stage.toolBars[2]->setObjectName("x"); });
+    addFault("text of an action", [](Stage &stage) { stage.actions[0]->setText("x"); });
     addFault("toolbars of a window", [](Stage &stage) { stage.windows[1].addToolBar(QString()); });
     addFault("area", [](Stage &stage) {
         stage.windows[0].addToolBar(Qt::LeftToolBarArea, stage.toolBars[2]);
@@ -171,26 +168,24 @@ void tst_Model::addFaultsOfObjects()
 void tst_Model::addFaultsOfTheManager()
 {
     addFault("actions()", [](Stage &stage) { stage.manager.removeAction(stage.actions[3]); });
-    addFault("categories()", [](Stage &stage) { stage.manager.addCategory(QStringLiteral("x")); });
+    addFault("categories()", [](Stage &stage) { stage.manager.addCategory("x"); });
     addFault("categoryActions()",
              [](Stage &stage) { stage.manager.addCategory(Stage::category(0)); });
     addFault("toolBarsActions()",
              [](Stage &stage) { stage.manager.setToolBar(stage.toolBars[2], {}); });
     addFault("toolBars()", [](Stage &stage) { stage.manager.createToolBar(QString()); });
     addFault("mainWindow()", [](Stage &stage) { stage.manager.setMainWindow(nullptr); });
-    addFault("saveState()",
-             [](Stage &stage) { stage.actions[1]->setObjectName(QStringLiteral("x")); });
+    addFault("saveState()", [](Stage &stage) { stage.actions[1]->setObjectName("x"); });
     addFault("emitted signals", [](Stage &stage) { Q_EMIT stage.manager.toolBarRemoved(nullptr); });
     addFault("warnings", [](Stage &) { qWarning("x"); });
 }
 
 void tst_Model::addFaultsOfRows()
 {
-    addFault("name of a record",
-             [](Stage &) { views().toolBarList->item(0)->setText(QStringLiteral("x")); });
+    addFault("name of a record", [](Stage &) { views().toolBarList->item(0)->setText("x"); });
     addFault("text of a toolbar row", [](Stage &) {
         const QSignalBlocker unheard(views().toolBarList);
-        views().toolBarList->item(0)->setText(QStringLiteral("x"));
+        views().toolBarList->item(0)->setText("x");
     });
     addFault("color of a row",
              [](Stage &) { views().toolBarList->item(0)->setForeground(Qt::red); });
@@ -199,7 +194,7 @@ void tst_Model::addFaultsOfRows()
     addFault("current record", [](Stage &) { views().toolBarList->setCurrentRow(0); });
     addFault("current entry", [](Stage &) { views().currentToolBarList->setCurrentRow(0); });
     addFault("text of an entry",
-             [](Stage &) { views().currentToolBarList->item(2)->setText(QStringLiteral("x")); });
+             [](Stage &) { views().currentToolBarList->item(2)->setText("x"); });
     addFault("icon of an entry",
              [](Stage &) { views().currentToolBarList->item(0)->setIcon(QIcon()); });
     addFault("alignment of an entry", [](Stage &) {
@@ -216,10 +211,9 @@ void tst_Model::addFaultsOfRows()
 void tst_Model::addFaultsOfTheTree()
 {
     addFault("text of a top item",
-             [](Stage &) { views().actionTree->topLevelItem(0)->setText(0, QStringLiteral("x")); });
-    addFault("text of an action item", [](Stage &) {
-        views().actionTree->topLevelItem(1)->child(0)->setText(0, QStringLiteral("x"));
-    });
+             [](Stage &) { views().actionTree->topLevelItem(0)->setText(0, "x"); });
+    addFault("text of an action item",
+             [](Stage &) { views().actionTree->topLevelItem(1)->child(0)->setText(0, "x"); });
     addFault("top items", [](Stage &) { delete views().actionTree->takeTopLevelItem(2); });
     addFault("expanded", [](Stage &) { views().actionTree->expandAll(); });
     addFault("draggable item", [](Stage &) {
@@ -246,14 +240,14 @@ void tst_Model::aFaultIsFound()
     QFETCH(QString, what);
     QFETCH(Sequence::Meddle, meddle);
     const QString result = Sequence::run(fullScript(), meddle);
-    QVERIFY2(result.contains(what), qPrintable(QLatin1String("told: ") + result));
+    QVERIFY2(result.contains(what), qPrintable("reported: " + result));
 }
 
 void tst_Model::aCrashIsFound()
 {
     QCOMPARE(IsolatedRun::run(fullScript()), QString());
     const auto crash = [](Stage &) { std::raise(SIGKILL); };
-    QCOMPARE(IsolatedRun::run(fullScript(), crash), QStringLiteral("ended by signal 9"));
+    QCOMPARE(IsolatedRun::run(fullScript(), crash), QString("ended by signal 9"));
 }
 
 void tst_Model::aStepThatIsWrittenCanBeRead()

@@ -28,25 +28,25 @@ void WorldModel::removeToolBar(QToolBar *toolBar)
 void WorldModel::removeAction(QAction *action)
 {
     for (auto &toolBar : toolBars)
-        removeAll(toolBar.second.standing, Standing{action, 0});
+        removeAll(toolBar.second.placed, Placed{action, 0});
     actions.erase(action);
 }
 
-WorldModel::Standing WorldModel::append(QToolBar *toolBar, QAction *action)
+WorldModel::Placed WorldModel::append(QToolBar *toolBar, QAction *action)
 {
-    const Standing standing{action, action ? 0 : ++m_separators};
-    take(toolBar, standing);
-    toolBars[toolBar].standing.push_back(standing);
-    return standing;
+    const Placed placed{action, action ? 0 : ++m_separators};
+    take(toolBar, placed);
+    toolBars[toolBar].placed.push_back(placed);
+    return placed;
 }
 
-void WorldModel::take(QToolBar *toolBar, const Standing &standing)
+void WorldModel::take(QToolBar *toolBar, const Placed &placed)
 {
-    removeAll(toolBars[toolBar].standing, standing);
+    removeAll(toolBars[toolBar].placed, placed);
 }
 
-void WorldModel::deleteSeparator(const Standing &standing)
+void WorldModel::deleteSeparator(const Placed &placed)
 {
-    if (!standing.action)
-        deletedSeparators.push_back(standing.separator);
+    if (!placed.action)
+        deletedSeparators.push_back(placed.separator);
 }

@@ -16,7 +16,7 @@ class QToolBar;
 using Content = std::vector<QAction *>;
 
 /*
- * What is true of the host's objects: names, titles, what stands where. Pointers are only names of
+ * What is true of the host's objects: names, titles, what is where. Pointers are only names of
  * objects here and in the other models, compared but never followed.
  */
 class WorldModel
@@ -29,7 +29,7 @@ public:
     };
 
     // An action, or null and the number of a separator.
-    struct Standing
+    struct Placed
     {
         QAction *action;
         int separator;
@@ -40,17 +40,17 @@ public:
         QString objectName;
         QString title;
         QMainWindow *window;
-        std::vector<Standing> standing;
+        std::vector<Placed> placed;
     };
 
     void addToolBar(QToolBar *toolBar, const ToolBar &state);
     void removeToolBar(QToolBar *toolBar);
     void removeAction(QAction *action);
 
-    // As the widget has it: an action that stands there already moves to the end.
-    Standing append(QToolBar *toolBar, QAction *action);
-    void take(QToolBar *toolBar, const Standing &standing);
-    void deleteSeparator(const Standing &standing);
+    // As the widget has it: an action that is there already moves to the end.
+    Placed append(QToolBar *toolBar, QAction *action);
+    void take(QToolBar *toolBar, const Placed &placed);
+    void deleteSeparator(const Placed &placed);
 
     std::map<QAction *, Action> actions;
     std::map<QToolBar *, ToolBar> toolBars;
@@ -65,7 +65,7 @@ private:
     int m_separators = 0;
 };
 
-inline bool operator==(const WorldModel::Standing &a, const WorldModel::Standing &b)
+inline bool operator==(const WorldModel::Placed &a, const WorldModel::Placed &b)
 {
     return a.action == b.action && a.separator == b.separator;
 }

@@ -36,8 +36,7 @@ QStringList connectedSignals(const QObject *sender)
         // What SIGNAL() puts before the signature.
         const QByteArray signature = '2' + method.methodSignature();
         if (const int count = receiversOf(sender, signature.constData()))
-            texts << QStringLiteral("%1 %2").arg(count).arg(
-                QLatin1String(method.methodSignature()));
+            texts << QString("%1 %2").arg(count).arg(QString(method.methodSignature()));
     }
     return texts;
 }

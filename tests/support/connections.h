@@ -7,7 +7,7 @@
 #include <QStringList>
 
 /*
- * What is connected, which Qt tells only to subclasses.
+ * What is connected, which Qt lets only subclasses see.
  */
 
 // The number of connections of a signal, given with SIGNAL().

@@ -19,7 +19,7 @@ QWidget *pageBelow(QWidget *ancestor)
 
 template <typename Widget> Widget *child(QWidget *page, const char *name)
 {
-    return page->findChild<Widget *>(QLatin1String(name));
+    return page->findChild<Widget *>(name);
 }
 
 template <typename View, typename Item> QPoint centerOf(View *view, Item *item)
@@ -66,7 +66,7 @@ QStringList EditorViews::enabledButtons() const
 QStringList EditorViews::currentRows() const
 {
     QStringList rows = rowsOf(currentToolBarList);
-    rows.replaceInStrings(QStringLiteral("< S E P A R A T O R >"), QStringLiteral("|"));
+    rows.replaceInStrings("< S E P A R A T O R >", "|");
     return rows;
 }
 

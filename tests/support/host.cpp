@@ -4,6 +4,9 @@
 
 #include <QtTest>
 
+#include <algorithm>
+#include <functional>
+
 namespace {
 
 QString capitalized(const QString &name)
@@ -69,6 +72,12 @@ QList<QAction *> Host::list(const QStringList &content)
 {
     QList<QAction *> actions;
     for (const QString &name : content)
-        actions << (name == QLatin1String("|") ? nullptr : action(name));
+        actions << (name == "|" ? nullptr : action(name));
     return actions;
+}
+
+QList<QToolBar *> byAddress(QList<QToolBar *> toolBars)
+{
+    std::sort(toolBars.begin(), toolBars.end(), std::less<QToolBar *>());
+    return toolBars;
 }

@@ -46,4 +46,7 @@ private:
     QSignalSpy m_changed;
 };
 
+// In ascending order of their addresses, as the manager visits them.
+QList<QToolBar *> byAddress(QList<QToolBar *> toolBars);
+
 #endif // HOST_H

@@ -38,15 +38,14 @@ QString inconsistencyOf(const RyToolBarManager &manager)
         const QStringList recorded = contentOf(manager.actions(toolBar));
         const QStringList standing = standingOn(toolBar);
         if (recorded != standing)
-            return QStringLiteral("%1 holds %2, but for the manager %3")
-                .arg(toolBar->windowTitle(), standing.join(QLatin1Char(' ')),
-                     recorded.join(QLatin1Char(' ')));
+            return QString("%1 holds %2, but for the manager %3")
+                .arg(toolBar->windowTitle(), standing.join(' '), recorded.join(' '));
         if (toolBar->layout()->count() != standing.size())
-            return toolBar->windowTitle() + QLatin1String(" has buttons without an action");
+            return toolBar->windowTitle() + " has buttons without an action";
         const auto content = manager.actions(toolBar);
         for (QAction *action : content) {
             if (action && !manager.actions().contains(action))
-                return toolBar->windowTitle() + QLatin1String(" holds an unregistered action");
+                return toolBar->windowTitle() + " holds an unregistered action";
         }
     }
     return QString();

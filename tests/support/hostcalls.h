@@ -35,7 +35,7 @@ private:
     int m_count = 0;
 };
 
-// What of the toolbars does not fit together: the records of the manager, what stands on the
+// What of the toolbars does not fit together: the records of the manager, what is on the
 // widget, and its buttons. Null if everything does.
 QString inconsistencyOf(const RyToolBarManager &manager);
 

@@ -13,7 +13,7 @@ namespace {
 
 QString keyOf(QSizePolicy::Policy policy)
 {
-    return QLatin1String(QMetaEnum::fromType<QSizePolicy::Policy>().valueToKey(policy));
+    return QMetaEnum::fromType<QSizePolicy::Policy>().valueToKey(policy);
 }
 
 QString nameOf(QLayoutItem *item)
@@ -25,10 +25,10 @@ QString nameOf(QLayoutItem *item)
         name = layout->objectName();
     } else if (QSpacerItem *const spacer = item->spacerItem()) {
         const QSize size = spacer->sizeHint();
-        name = QStringLiteral("spacer %1x%2 ").arg(size.width()).arg(size.height())
+        name = QString("spacer %1x%2 ").arg(size.width()).arg(size.height())
             + textOf(spacer->sizePolicy());
     }
-    return item->alignment() ? name + QLatin1String(" aligned") : name;
+    return item->alignment() ? name + " aligned" : name;
 }
 
 // What follows from the style, the screen, the parent and the layout.
@@ -58,7 +58,7 @@ QStringList cellsOf(const QGridLayout *layout)
         int row, column, rowSpan, columnSpan;
         layout->getItemPosition(i, &row, &column, &rowSpan, &columnSpan);
         cells << nameOf(layout->itemAt(i))
-                + QStringLiteral(" %1,%2 %3x%4").arg(row).arg(column).arg(rowSpan).arg(columnSpan);
+                + QString(" %1,%2 %3x%4").arg(row).arg(column).arg(rowSpan).arg(columnSpan);
     }
     return cells;
 }
@@ -68,7 +68,7 @@ QStringList itemsOf(const QBoxLayout *layout)
     QStringList items;
     for (int i = 0; i < layout->count(); ++i) {
         const QString name = nameOf(layout->itemAt(i));
-        items << (layout->stretch(i) ? name + QLatin1String(" stretched") : name);
+        items << (layout->stretch(i) ? name + " stretched" : name);
     }
     return items;
 }
@@ -77,20 +77,19 @@ QString textOf(const QSizePolicy &policy)
 {
     QStringList parts{keyOf(policy.horizontalPolicy()), keyOf(policy.verticalPolicy())};
     if (policy.controlType() != QSizePolicy::DefaultType)
-        parts << QStringLiteral("control %1").arg(policy.controlType());
+        parts << QString("control %1").arg(policy.controlType());
     if (policy.horizontalStretch() || policy.verticalStretch())
-        parts << QStringLiteral("stretched");
+        parts << "stretched";
     if (policy.hasHeightForWidth())
-        parts << QStringLiteral("height for width");
-    return parts.join(QLatin1Char(' '));
+        parts << "height for width";
+    return parts.join(' ');
 }
 
 QStringList childrenOf(const QObject *parent)
 {
     QStringList children;
     for (const QObject *child : parent->children())
-        children << QLatin1String(child->metaObject()->className()) + QLatin1Char(' ')
-                + child->objectName();
+        children << QString(child->metaObject()->className()) + ' ' + child->objectName();
     return children;
 }
 
@@ -112,7 +111,7 @@ QStringList differingProperties(const QObject *widget, const QObject *fresh)
     for (int i = 0; i < metaObject->propertyCount(); ++i) {
         const QMetaProperty property = metaObject->property(i);
         if (!isGeometry(property.name()) && property.read(widget) != property.read(fresh))
-            names << QLatin1String(property.name());
+            names << property.name();
     }
     return names;
 }
@@ -130,8 +129,8 @@ QStringList propertiesBelow(const QWidget *widget)
             // Qt has a type here that it cannot read.
             if (qstrcmp(property.name(), "selectionBehaviorOnRemove") == 0)
                 continue;
-            properties << QStringLiteral("%1 %2: %3")
-                              .arg(each->objectName(), QLatin1String(property.name()),
+            properties << QString("%1 %2: %3")
+                              .arg(each->objectName(), property.name(),
                                    valueText(property.read(each)));
         }
     }

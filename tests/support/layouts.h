@@ -36,7 +36,7 @@ QStringList focusChainOf(const QWidget *page);
 // left out.
 QStringList differingProperties(const QObject *widget, const QObject *fresh);
 
-// "name property: value" of everything that the widget and its descendants tell of themselves.
+// "name property: value" of all properties of the widget and its descendants.
 QStringList propertiesBelow(const QWidget *widget);
 
 #endif // LAYOUTS_H

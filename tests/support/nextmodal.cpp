@@ -24,7 +24,7 @@ void NextModal::look()
     const QPointer<QWidget> modal = QApplication::activeModalWidget();
     if (!modal || modal == m_before || !modal->isVisible())
         return;
-    // A window that is closed before the X server has mapped it cannot be shown again in peace.
+    // A window that is closed before the X server has mapped it cannot be shown again safely.
     if (!modal->windowHandle() || !modal->windowHandle()->isExposed())
         return;
     m_timer.stop();

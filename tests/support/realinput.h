@@ -41,7 +41,7 @@ public:
     // What the user does with the close button of the window's title bar.
     void closeByWindowManager(const QWindow *window);
 
-    // Where the window's inside stands on the screen as the server has it.
+    // Where the window's inside is on the screen as the server has it.
     QPoint positionOf(const QWindow *window) const;
 
 private:

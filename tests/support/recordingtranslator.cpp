@@ -33,9 +33,9 @@ QString RecordingTranslator::translate(const char *context, const char *text,
     Q_UNUSED(n);
     if (context[0] == 'Q')
         return QString();
-    QString lookUp = QString::fromUtf8(context) + QLatin1String(": ") + QString::fromUtf8(text);
+    QString lookUp = QString::fromUtf8(context) + ": " + QString::fromUtf8(text);
     if (disambiguation)
-        lookUp += QStringLiteral(" (%1)").arg(QString::fromUtf8(disambiguation));
+        lookUp += QString(" (%1)").arg(disambiguation);
     m_lookUps << lookUp;
-    return QLatin1String("translated ") + QString::fromUtf8(text);
+    return "translated " + QString::fromUtf8(text);
 }

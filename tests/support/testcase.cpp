@@ -20,9 +20,9 @@ QtMessageHandler previousHandler = nullptr;
 // of the window manager went while Qt looked for the window below the pointer.
 bool isOfPlatform(const QString &text)
 {
-    return text.startsWith(QLatin1String("This plugin does not support"))
-        || (text.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)"))
-            && text.contains(QLatin1String("(TranslateCoords)")));
+    return text.startsWith("This plugin does not support")
+        || (text.startsWith("QXcbConnection: XCB error: 3 (BadWindow)")
+            && text.contains("(TranslateCoords)"));
 }
 
 void recordMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
@@ -31,9 +31,8 @@ void recordMessage(QtMsgType type, const QMessageLogContext &context, const QStr
         previousHandler(type, context, text);
         return;
     }
-    const QString source = QStringLiteral("%1:%2 %3")
-                               .arg(QLatin1String(context.file), QString::number(context.line),
-                                    QLatin1String(context.function));
+    const QString source =
+        QString("%1:%2 %3").arg(context.file, QString::number(context.line), context.function);
     warnings.append({text, source});
 }
 
@@ -50,9 +49,8 @@ QString describe(const QSet<QWidget *> &widgets)
 {
     QStringList descriptions;
     for (QWidget *widget : widgets)
-        descriptions << QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')
-                + widget->objectName();
-    return descriptions.join(QLatin1String(", "));
+        descriptions << QString(widget->metaObject()->className()) + ' ' + widget->objectName();
+    return descriptions.join(", ");
 }
 
 } // namespace
@@ -70,7 +68,7 @@ QStringList TestCase::takeLocatedWarnings()
 {
     QStringList texts;
     for (const Warning &warning : qAsConst(warnings))
-        texts << warning.source + QLatin1Char(' ') + warning.text;
+        texts << warning.source + ' ' + warning.text;
     warnings.clear();
     return texts;
 }
@@ -90,9 +88,8 @@ void TestCase::cleanup()
     qInstallMessageHandler(previousHandler);
     const QStringList unexpected = takeWarnings();
     const QSet<QWidget *> left = topLevels() - m_topLevels;
-    QVERIFY2(unexpected.isEmpty(),
-             qPrintable(QLatin1String("unexpected: ") + unexpected.join(QLatin1Char('\n'))));
-    QVERIFY2(left.isEmpty(), qPrintable(QLatin1String("left behind: ") + describe(left)));
+    QVERIFY2(unexpected.isEmpty(), qPrintable("unexpected: " + unexpected.join('\n')));
+    QVERIFY2(left.isEmpty(), qPrintable("left behind: " + describe(left)));
 }
 
 void TestCase::prepare()

@@ -12,13 +12,13 @@ QString nameOf(const QAction *action)
 {
     if (!action->objectName().isEmpty())
         return action->objectName();
-    return QLatin1Char('"') + action->text() + QLatin1Char('"');
+    return '"' + action->text() + '"';
 }
 
 void appendItems(QStringList &texts, const QTreeWidgetItem *parent, int depth)
 {
     for (int i = 0; i < parent->childCount(); ++i) {
-        texts << QString(2 * depth, QLatin1Char(' ')) + parent->child(i)->text(0);
+        texts << QString(2 * depth, ' ') + parent->child(i)->text(0);
         appendItems(texts, parent->child(i), depth + 1);
     }
 }
@@ -27,14 +27,14 @@ void appendItems(QStringList &texts, const QTreeWidgetItem *parent, int depth)
 
 QStringList words(const char *text)
 {
-    return QString::fromUtf8(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return QString::fromUtf8(text).split(' ', Qt::SkipEmptyParts);
 }
 
 QStringList contentOf(const QList<QAction *> &actions)
 {
     QStringList names;
     for (const QAction *action : actions)
-        names << (action ? nameOf(action) : QStringLiteral("|"));
+        names << (action ? nameOf(action) : "|");
     return names;
 }
 
@@ -43,7 +43,7 @@ QStringList standingOn(const QWidget *widget)
     QStringList names;
     const auto actions = widget->actions();
     for (const QAction *action : actions)
-        names << (action->isSeparator() ? QStringLiteral("|") : nameOf(action));
+        names << (action->isSeparator() ? "|" : nameOf(action));
     return names;
 }
 

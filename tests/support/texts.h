@@ -20,7 +20,7 @@ QStringList words(const char *text);
 // The objectName of each action, its text in quotes without one, and "|" for null.
 QStringList contentOf(const QList<QAction *> &actions);
 
-// What stands on a toolbar or any other widget, with "|" for a separator action.
+// What is on a toolbar or any other widget, with "|" for a separator action.
 QStringList standingOn(const QWidget *widget);
 
 // The texts of the rows.

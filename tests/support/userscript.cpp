@@ -11,7 +11,7 @@
 
 namespace {
 
-// Far beyond what a busy machine needs, and short enough to tell which step it was.
+// Far beyond what a busy machine needs, and short enough to see which step it was.
 constexpr int patience = 20000;
 
 // Places of the pointer that are none on the screen.
@@ -21,7 +21,7 @@ const QPoint unknown(-2, -2);
 bool isSettled(const QWidget *window, const RealInput &input)
 {
     const QWindow *const handle = window->windowHandle();
-    // Not QWindow::isActive(), which counts a dialog of the active window as active too.
+    // Not QWindow::isActive(), for which a dialog of the active window is active too.
     return handle && handle->isExposed() && QGuiApplication::focusWindow() == handle
         && QApplication::activeWindow() == window
         && handle->mapToGlobal(QPoint()) == input.positionOf(handle);
@@ -55,7 +55,7 @@ void UserScript::waitFor(const QString &name, const std::function<bool()> &done)
 
 void UserScript::act(const std::function<void()> &action)
 {
-    step(QStringLiteral("act"), action, [] { return true; });
+    step("act", action, [] { return true; });
 }
 
 void UserScript::moveTo(const std::function<QWidget *()> &widget,
@@ -66,8 +66,7 @@ void UserScript::moveTo(const std::function<QWidget *()> &widget,
         moveBeside(widget, target);
     m_hasMoved = true;
     step(
-        QStringLiteral("move"), [=] { movePointer(target()); },
-        [=] { return m_pointer == target(); });
+        "move", [=] { movePointer(target()); }, [=] { return m_pointer == target(); });
 }
 
 // Qt makes no move to the place where it saw the pointer last, which may be the target, before the
@@ -80,8 +79,7 @@ void UserScript::moveBeside(const std::function<QWidget *()> &widget,
         return target() + QPoint(isRight ? -1 : 1, 0);
     };
     step(
-        QStringLiteral("move beside"), [=] { movePointer(beside()); },
-        [=] { return m_pointer == beside(); });
+        "move beside", [=] { movePointer(beside()); }, [=] { return m_pointer == beside(); });
 }
 
 void UserScript::moveTo(QWidget *widget, const QPoint &place)
@@ -92,35 +90,35 @@ void UserScript::moveTo(QWidget *widget, const QPoint &place)
 void UserScript::dragOut()
 {
     step(
-        QStringLiteral("drag out"), [this] { input.moveTo(QPoint(0, 0)); },
+        "drag out", [this] { input.moveTo(QPoint(0, 0)); },
         [this] { return m_pointer == outside; });
 }
 
 void UserScript::press(Qt::MouseButton button)
 {
     step(
-        QStringLiteral("press"), [this, button] { input.press(button); },
+        "press", [this, button] { input.press(button); },
         [button] { return QGuiApplication::mouseButtons().testFlag(button); });
 }
 
 void UserScript::release(Qt::MouseButton button)
 {
     step(
-        QStringLiteral("release"), [this, button] { input.release(button); },
+        "release", [this, button] { input.release(button); },
         [button] { return !QGuiApplication::mouseButtons().testFlag(button); });
 }
 
 void UserScript::pressKey(Qt::Key key)
 {
     step(
-        QStringLiteral("press key"), [this, key] { input.pressKey(key); },
+        "press key", [this, key] { input.pressKey(key); },
         [this, key] { return m_heldKeys.contains(key); });
 }
 
 void UserScript::releaseKey(Qt::Key key)
 {
     step(
-        QStringLiteral("release key"), [this, key] { input.releaseKey(key); },
+        "release key", [this, key] { input.releaseKey(key); },
         [this, key] { return !m_heldKeys.contains(key); });
 }
 
@@ -134,38 +132,37 @@ void UserScript::click(QWidget *widget)
 void UserScript::doubleClick(const std::function<bool()> &done)
 {
     step(
-        QStringLiteral("double click"), [this] { input.doubleClick(); }, done);
+        "double click", [this] { input.doubleClick(); }, done);
 }
 
 void UserScript::clickKey(Qt::Key key, const std::function<bool()> &done)
 {
     step(
-        QStringLiteral("click key"), [this, key] { input.clickKey(key); }, done);
+        "click key", [this, key] { input.clickKey(key); }, done);
 }
 
 void UserScript::type(const QString &text, const std::function<bool()> &done)
 {
     step(
-        QStringLiteral("type ") + text, [this, text] { input.type(text); }, done);
+        "type " + text, [this, text] { input.type(text); }, done);
 }
 
 void UserScript::waitForWindow(QWidget *window)
 {
-    waitFor(QStringLiteral("window"), [this, window] { return isSettled(window, input); });
+    waitFor("window", [this, window] { return isSettled(window, input); });
 }
 
 void UserScript::drop(Qt::MouseButton button)
 {
     step(
-        QStringLiteral("drop"), [this, button] { input.release(button); },
+        "drop", [this, button] { input.release(button); },
         [this] { return !inNestedLoop() && !QGuiApplication::mouseButtons(); });
 }
 
 void UserScript::cancelDrag()
 {
     step(
-        QStringLiteral("cancel"), [this] { input.clickKey(Qt::Key_Escape); },
-        [this] { return !inNestedLoop(); });
+        "cancel", [this] { input.clickKey(Qt::Key_Escape); }, [this] { return !inNestedLoop(); });
 }
 
 void UserScript::start()
@@ -258,7 +255,7 @@ bool UserScript::inNestedLoop() const
 // Ends what the test is in, so that it can fail.
 void UserScript::giveUp()
 {
-    m_failure = QStringLiteral("step %1, %2, was not done; last seen at %3, %4")
+    m_failure = QString("step %1, %2, was not done; last seen at %3, %4")
                     .arg(QString::number(m_index + 1), m_steps.at(m_index).name,
                          QString::number(m_pointer.x()), QString::number(m_pointer.y()));
     end();

@@ -55,7 +55,7 @@ public:
     void clickKey(Qt::Key key, const std::function<bool()> &done);
     void type(const QString &text, const std::function<bool()> &done);
 
-    // Waits until a window is active and stands where Qt believes it to stand.
+    // Waits until a window is active and is where Qt believes it to be.
     void waitForWindow(QWidget *window);
 
     // Inside a drag, which takes all input for itself: moves off our windows, and two ways to end
@@ -64,7 +64,7 @@ public:
     void drop(Qt::MouseButton button = Qt::LeftButton);
     void cancelDrag();
 
-    // Takes the steps, each once: run(), or start(), what blocks, and finish(). The texts tell
+    // Takes the steps, each once: run(), or start(), what blocks, and finish(). The texts say
     // which step was never done, and are empty if all were.
     void start();
     QString finish();

@@ -36,7 +36,7 @@ bool ActionLog::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionRemoved) {
         QAction *const action = static_cast<QActionEvent *>(event)->action();
         const bool added = event->type() == QEvent::ActionAdded;
-        m_lines << watched->objectName() + QLatin1String(added ? "+" : "-")
+        m_lines << watched->objectName() + (added ? "+" : "-")
                 + contentOf({action->isSeparator() ? nullptr : action}).constFirst();
         if (m_callback)
             m_callback();

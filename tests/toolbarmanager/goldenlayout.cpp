@@ -4,29 +4,26 @@
 
 #include <QRegularExpression>
 
-#include <algorithm>
-#include <functional>
-
 namespace {
 
 const char Quoted[] = R"re("((?:[^"\\]|\\.)*)")re";
 
 QString quoted(QString text)
 {
-    text.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
-    text.replace(QLatin1Char('"'), QLatin1String("\\\""));
-    text.replace(QLatin1Char('\n'), QLatin1String("\\n"));
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    text.replace('\\', "\\\\");
+    text.replace('"', "\\\"");
+    text.replace('\n', "\\n");
+    return '"' + text + '"';
 }
 
 QString unquoted(const QString &text)
 {
     QString plain;
     for (int i = 0; i < text.size(); ++i) {
-        if (text.at(i) != QLatin1Char('\\'))
+        if (text.at(i) != '\\')
             plain += text.at(i);
-        else if (text.at(++i) == QLatin1Char('n'))
-            plain += QLatin1Char('\n');
+        else if (text.at(++i) == 'n')
+            plain += '\n';
         else
             plain += text.at(i);
     }
@@ -37,38 +34,37 @@ QString unquoted(const QString &text)
 
 GoldenLayout::GoldenLayout(const QString &text)
 {
-    const QStringList lines = text.split(QLatin1Char('\n'));
+    const QStringList lines = text.split('\n');
     for (const QString &line : lines) {
-        if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')))
+        if (!line.isEmpty() && !line.startsWith('#'))
             readLine(line);
     }
 }
 
 void GoldenLayout::readLine(const QString &line)
 {
-    static const QRegularExpression versionLine(QStringLiteral("^version (-?\\d+)$"));
+    static const QRegularExpression versionLine("^version (-?\\d+)$");
     static const QRegularExpression toolBarLine(
-        QStringLiteral("^(default|custom) toolbar (?:%1|without a name), titled %1: (.+)$")
-            .arg(QLatin1String(Quoted)));
+        QString("^(default|custom) toolbar (?:%1|without a name), titled %1: (.+)$").arg(Quoted));
     const auto version = versionLine.match(line);
     const auto match = toolBarLine.match(line);
     QList<Entry> content;
     if (version.hasMatch()) {
         m_version = version.captured(1).toInt();
     } else if (match.hasMatch() && readContent(match.captured(4), &content)) {
-        m_toolBars << ToolBar{match.captured(1) == QLatin1String("default"),
-                              unquoted(match.captured(2)), unquoted(match.captured(3)), content};
+        m_toolBars << ToolBar{match.captured(1) == "default", unquoted(match.captured(2)),
+                              unquoted(match.captured(3)), content};
     } else {
-        m_error += line + QLatin1Char('\n');
+        m_error += line + '\n';
     }
 }
 
 bool GoldenLayout::readContent(const QString &text, QList<Entry> *content)
 {
-    if (text == QLatin1String("nothing"))
+    if (text == "nothing")
         return true;
     static const QRegularExpression entry(
-        QStringLiteral("\\G(?:(separator)|(the text )?%1)(?:, |$)").arg(QLatin1String(Quoted)));
+        QString("\\G(?:(separator)|(the text )?%1)(?:, |$)").arg(Quoted));
     int end = 0;
     for (auto it = entry.globalMatch(text); it.hasNext();) {
         const auto match = it.next();
@@ -107,19 +103,18 @@ QString GoldenLayout::lineOf(const ToolBar &toolBar)
     QStringList entries;
     for (const Entry &entry : toolBar.content) {
         if (entry.isSeparator)
-            entries << QStringLiteral("separator");
+            entries << "separator";
         else if (entry.objectName.isEmpty())
-            entries << QLatin1String("the text ") + quoted(entry.text);
+            entries << "the text " + quoted(entry.text);
         else
             entries << quoted(entry.objectName);
     }
     if (entries.isEmpty())
-        entries << QStringLiteral("nothing");
-    const QString name = toolBar.objectName.isEmpty() ? QStringLiteral("without a name")
-                                                      : quoted(toolBar.objectName);
-    return QLatin1String(toolBar.isDefault ? "default toolbar " : "custom toolbar ") + name
-        + QLatin1String(", titled ") + quoted(toolBar.title) + QLatin1String(": ")
-        + entries.join(QLatin1String(", "));
+        entries << "nothing";
+    const QString name =
+        toolBar.objectName.isEmpty() ? "without a name" : quoted(toolBar.objectName);
+    return (toolBar.isDefault ? "default toolbar " : "custom toolbar ") + name + ", titled "
+        + quoted(toolBar.title) + ": " + entries.join(", ");
 }
 
 std::unique_ptr<Host> GoldenLayout::host() const
@@ -131,18 +126,18 @@ std::unique_ptr<Host> GoldenLayout::host() const
                 continue;
             QAction *const action = new QAction(entry.text, &host->window);
             action->setObjectName(entry.objectName);
-            host->manager.addAction(action, QStringLiteral("A"));
+            host->manager.addAction(action, "A");
         }
     }
     const QList<ToolBar> defaults = toolBars(true);
     QList<QToolBar *> made;
     for (int i = 0; i < defaults.size(); ++i)
-        made << host->toolBar(QString(), {QStringLiteral("before"), QStringLiteral("|")});
+        made << host->toolBar(QString(), {"before", "|"});
     made = byAddress(made);
     for (int i = 0; i < defaults.size(); ++i) {
         made.at(i)->setObjectName(defaults.at(i).objectName);
         made.at(i)->setWindowTitle(defaults.at(i).title);
-        host->manager.addDefaultToolBar(made.at(i), QStringLiteral("A"));
+        host->manager.addDefaultToolBar(made.at(i), "A");
     }
     return host;
 }
@@ -152,7 +147,7 @@ void GoldenLayout::addCustomToolBars(Host &host) const
     const QList<ToolBar> customs = toolBars(false);
     QList<QToolBar *> made;
     for (int i = 0; i < customs.size(); ++i)
-        made << host.manager.createToolBar(QStringLiteral("before"));
+        made << host.manager.createToolBar("before");
     made = byAddress(made);
     for (int i = 0; i < customs.size(); ++i)
         made.at(i)->setObjectName(customs.at(i).objectName);
@@ -195,14 +190,14 @@ GoldenLayout::ToolBar GoldenLayout::described(const Host &host, QToolBar *toolBa
 {
     ToolBar description{
         host.manager.isDefaultToolBar(toolBar), toolBar->objectName(), toolBar->windowTitle(), {}};
-    QList<QAction *> standing;
+    QList<QAction *> placed;
     const auto actions = toolBar->actions();
     for (QAction *action : actions) {
         description.content << described(action);
-        standing << (action->isSeparator() ? nullptr : action);
+        placed << (action->isSeparator() ? nullptr : action);
     }
-    if (standing != host.manager.actions(toolBar))
-        description.title += QLatin1String(" (but the manager has recorded something else)");
+    if (placed != host.manager.actions(toolBar))
+        description.title += " (but the manager has recorded something else)";
     return description;
 }
 
@@ -211,12 +206,6 @@ GoldenLayout::Entry GoldenLayout::described(const QAction *action)
     if (action->isSeparator())
         return Entry{true, QString(), QString()};
     return Entry{false, action->objectName(), action->text()};
-}
-
-QList<QToolBar *> GoldenLayout::byAddress(QList<QToolBar *> toolBars)
-{
-    std::sort(toolBars.begin(), toolBars.end(), std::less<QToolBar *>());
-    return toolBars;
 }
 
 QList<GoldenLayout::ToolBar> GoldenLayout::toolBars(bool defaults) const
@@ -229,7 +218,7 @@ QList<GoldenLayout::ToolBar> GoldenLayout::toolBars(bool defaults) const
     return selected;
 }
 
-// Null for a separator and for an action that the host has not yet.
+// Null for a separator and for an action that the host does not have yet.
 QAction *GoldenLayout::findAction(const Host &host, const Entry &entry)
 {
     const auto actions = host.window.findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly);

@@ -45,7 +45,7 @@ public:
     void apply(Host &host) const;
 
     // The toolbars of a host as lines, in the order of their addresses, the default ones first. A
-    // line says so if other actions stand on the widget than the manager has recorded.
+    // line says so if other actions are on the widget than the manager has recorded.
     static QStringList linesOf(const Host &host);
 
 private:
@@ -69,7 +69,6 @@ private:
     static QString lineOf(const ToolBar &toolBar);
     static ToolBar described(const Host &host, QToolBar *toolBar);
     static Entry described(const QAction *action);
-    static QList<QToolBar *> byAddress(QList<QToolBar *> toolBars);
     QList<ToolBar> toolBars(bool defaults) const;
     static QAction *findAction(const Host &host, const Entry &entry);
 

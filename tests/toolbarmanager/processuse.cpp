@@ -12,7 +12,7 @@ namespace {
 
 qint64 statusBytes(const char *key)
 {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status("/proc/self/status");
     if (!status.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return -1;
     const QByteArray text = status.readAll();
@@ -43,7 +43,7 @@ qint64 peakResidentBytes()
 
 void forgetPeak()
 {
-    QFile file(QStringLiteral("/proc/self/clear_refs"));
+    QFile file("/proc/self/clear_refs");
     QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     QCOMPARE(file.write("5"), qint64(1));
 }

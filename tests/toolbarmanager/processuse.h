@@ -9,7 +9,7 @@
  * What this process uses of the machine.
  */
 
-// Processor time so far; what other processes do meanwhile does not count.
+// Processor time so far, without that of other processes.
 qint64 usedMilliseconds();
 
 // Resident memory now, and the most since the last call of forgetPeak(), in bytes.

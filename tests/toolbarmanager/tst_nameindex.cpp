@@ -16,8 +16,8 @@ public:
     explicit NamedActions(const QStringList &names)
     {
         for (const QString &name : names) {
-            QAction *const action = new QAction(name.section(QLatin1Char('/'), 1), &m_parent);
-            action->setObjectName(name.section(QLatin1Char('/'), 0, 0));
+            QAction *const action = new QAction(name.section('/', 1), &m_parent);
+            action->setObjectName(name.section('/', 0, 0));
             list << action;
         }
     }
@@ -39,7 +39,7 @@ private Q_SLOTS:
     void theFirstOfTheListIsFound();
     void anIndexFindsAgainAndAgain();
     void namesAreReadOnce();
-    void toolBarsStandInWithTheirTitle();
+    void toolBarsAreFoundByTheirTitle();
 };
 
 void tst_NameIndex::theFirstOfTheListIsFound_data()
@@ -47,16 +47,16 @@ void tst_NameIndex::theFirstOfTheListIsFound_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("found");
     QTest::addColumn<int>("warnings");
-    QTest::newRow("objectName") << QStringLiteral("b") << 1 << 0;
-    QTest::newRow("objectName of several") << QStringLiteral("same") << 3 << 0;
-    QTest::newRow("objectName behind a text") << QStringLiteral("late") << 6 << 0;
-    QTest::newRow("text") << QStringLiteral("B") << 1 << 1;
-    QTest::newRow("text of several") << QStringLiteral("Same") << 2 << 1;
-    QTest::newRow("text of a nameless one") << QStringLiteral("Nameless") << 5 << 1;
-    QTest::newRow("empty") << QStringLiteral("") << 5 << 0;
+    QTest::newRow("objectName") << "b" << 1 << 0;
+    QTest::newRow("objectName of several") << "same" << 3 << 0;
+    QTest::newRow("objectName behind a text") << "late" << 6 << 0;
+    QTest::newRow("text") << "B" << 1 << 1;
+    QTest::newRow("text of several") << "Same" << 2 << 1;
+    QTest::newRow("text of a nameless one") << "Nameless" << 5 << 1;
+    QTest::newRow("empty") << "" << 5 << 0;
     QTest::newRow("null") << QString() << 5 << 0;
-    QTest::newRow("other case") << QStringLiteral("SAME") << -1 << 2;
-    QTest::newRow("unknown") << QStringLiteral("x") << -1 << 2;
+    QTest::newRow("other case") << "SAME" << -1 << 2;
+    QTest::newRow("unknown") << "x" << -1 << 2;
 }
 
 void tst_NameIndex::theFirstOfTheListIsFound()
@@ -64,10 +64,8 @@ void tst_NameIndex::theFirstOfTheListIsFound()
     QFETCH(QString, name);
     QFETCH(int, found);
     QFETCH(int, warnings);
-    const NamedActions actions({QStringLiteral("a/late"), QStringLiteral("b/B"),
-                                QStringLiteral("c/Same"), QStringLiteral("same/x y"),
-                                QStringLiteral("same/Same"), QStringLiteral("/Nameless"),
-                                QStringLiteral("late/Late")});
+    const NamedActions actions(
+        {"a/late", "b/B", "c/Same", "same/x y", "same/Same", "/Nameless", "late/Late"});
     QAction *const expected = actions.list.value(found);
     NameIndex<QAction> index(actions.list);
     QCOMPARE(index.find(name), expected);
@@ -78,12 +76,12 @@ void tst_NameIndex::theFirstOfTheListIsFound()
 
 void tst_NameIndex::anIndexFindsAgainAndAgain()
 {
-    const NamedActions actions({QStringLiteral("a/A"), QStringLiteral("b/B")});
+    const NamedActions actions({"a/A", "b/B"});
     NameIndex<QAction> index(actions.list);
     for (int i = 0; i < 3; ++i) {
-        QCOMPARE(index.find(QStringLiteral("B")), actions.list.at(1));
-        QCOMPARE(index.find(QStringLiteral("a")), actions.list.at(0));
-        QVERIFY(!index.find(QStringLiteral("c")));
+        QCOMPARE(index.find("B"), actions.list.at(1));
+        QCOMPARE(index.find("a"), actions.list.at(0));
+        QVERIFY(!index.find("c"));
         QCOMPARE(takeWarnings().size(), 3);
     }
     NameIndex<QAction> empty((Actions()));
@@ -95,28 +93,28 @@ void tst_NameIndex::anIndexFindsAgainAndAgain()
 // Reading every name for each one that is searched would take quadratic time.
 void tst_NameIndex::namesAreReadOnce()
 {
-    const NamedActions actions({QStringLiteral("a/A")});
+    const NamedActions actions({"a/A"});
     NameIndex<QAction> index(actions.list);
-    actions.list.first()->setObjectName(QStringLiteral("b"));
-    QCOMPARE(index.find(QStringLiteral("a")), actions.list.first());
-    QVERIFY(!index.find(QStringLiteral("b")));
-    actions.list.first()->setText(QStringLiteral("B"));
-    QCOMPARE(index.find(QStringLiteral("A")), actions.list.first());
+    actions.list.first()->setObjectName("b");
+    QCOMPARE(index.find("a"), actions.list.first());
+    QVERIFY(!index.find("b"));
+    actions.list.first()->setText("B");
+    QCOMPARE(index.find("A"), actions.list.first());
     QCOMPARE(takeWarnings().size(), 3);
 }
 
-void tst_NameIndex::toolBarsStandInWithTheirTitle()
+void tst_NameIndex::toolBarsAreFoundByTheirTitle()
 {
-    QToolBar first(QStringLiteral("Title"));
-    QToolBar second(QStringLiteral("Title"));
-    second.setObjectName(QStringLiteral("second"));
+    QToolBar first("Title");
+    QToolBar second("Title");
+    second.setObjectName("second");
     const QList<QToolBar *> toolBars{&first, &second};
     NameIndex<QToolBar> index(toolBars);
-    QCOMPARE(index.find(QStringLiteral("second")), &second);
-    QCOMPARE(index.find(QStringLiteral("Title")), &first);
+    QCOMPARE(index.find("second"), &second);
+    QCOMPARE(index.find("Title"), &first);
     const QString warning =
-        QStringLiteral("RyToolBarManager::restoreState(): cannot find a QToolBar named 'Title', "
-                       "trying to match using 'windowTitle' instead.");
+        "RyToolBarManager::restoreState(): cannot find a QToolBar named 'Title', "
+        "trying to match using 'windowTitle' instead.";
     QCOMPARE(takeWarnings(), QStringList{warning});
 }
 

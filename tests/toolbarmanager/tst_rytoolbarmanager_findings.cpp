@@ -30,10 +30,10 @@ private:
 
 QFileInfoList inputsIn(const char *folder)
 {
-    const QDir dir(QStringLiteral(RY_FUZZ_DIR "/") + QLatin1String(folder));
+    const QDir dir(QString(RY_FUZZ_DIR "/") + folder);
     QFileInfoList files = dir.entryInfoList(QDir::Files, QDir::Name);
     for (int i = files.size() - 1; i >= 0; --i) {
-        if (files.at(i).suffix() == QLatin1String("md"))
+        if (files.at(i).suffix() == "md")
             files.removeAt(i);
     }
     return files;
@@ -90,7 +90,7 @@ void tst_RyToolBarManager_findings::replay(const QFileInfoList &files)
         QFile file(info.filePath());
         QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(info.filePath()));
         const QString breach = breachOf(file.readAll(), &m_gauge);
-        QVERIFY2(breach.isEmpty(), qPrintable(info.fileName() + QLatin1String(": ") + breach));
+        QVERIFY2(breach.isEmpty(), qPrintable(info.fileName() + ": " + breach));
     }
 }
 

@@ -2,30 +2,14 @@
 
 #include "fuzzhost.h"
 
+#include "host.h"
 #include "texts.h"
 
 #include <QCoreApplication>
 #include <QMenu>
 
-#include <algorithm>
-#include <functional>
-
-namespace {
-
-QString name(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-void sortByAddress(QList<QToolBar *> &toolBars)
-{
-    std::sort(toolBars.begin(), toolBars.end(), std::less<QToolBar *>());
-}
-
-} // namespace
-
 FuzzHost::FuzzHost(int shape)
-    : unmanaged(window.addToolBar(name("x")))
+    : unmanaged(window.addToolBar("x"))
     , m_shape(shape)
 {
     const auto count = [this] { ++signalsEmitted; };
@@ -33,10 +17,10 @@ FuzzHost::FuzzHost(int shape)
     QObject::connect(&manager, &RyToolBarManager::toolBarRemoved, count);
     QObject::connect(&manager, &RyToolBarManager::toolBarChanged, count);
     manager.setMainWindow(&window);
-    unmanaged->setObjectName(name("x"));
+    unmanaged->setObjectName("x");
     for (const char *each : {"a", "b", "c", "d", "ä€"})
-        registered(name(each));
-    action(name("u"), name("U"));
+        registered(QString(each));
+    action("u", "U");
     fill(unmanaged, "a | u");
     switch (shape) {
     case Usual:
@@ -109,7 +93,7 @@ QAction *FuzzHost::registered(const QString &objectName)
 QAction *FuzzHost::registered(const QString &objectName, const QString &text)
 {
     QAction *const made = action(objectName, text);
-    manager.addAction(made, name("A"));
+    manager.addAction(made, "A");
     return made;
 }
 
@@ -148,14 +132,14 @@ void FuzzHost::addDefaultToolBars(const QStringList &names, const QStringList &t
     QList<QToolBar *> made;
     for (int i = 0; i < names.size(); ++i)
         made << window.addToolBar(QString());
-    sortByAddress(made);
+    made = byAddress(made);
     for (int i = 0; i < names.size(); ++i) {
         made.at(i)->setObjectName(names.at(i));
         made.at(i)->setWindowTitle(titles.at(i));
         fill(made.at(i), contents.at(i));
     }
     for (QToolBar *toolBar : qAsConst(made)) {
-        manager.addDefaultToolBar(toolBar, name("B"));
+        manager.addDefaultToolBar(toolBar, "B");
         const auto standing = toolBar->actions();
         for (QAction *each : standing) {
             if (each->isSeparator() && !separators.contains(each))
@@ -170,7 +154,7 @@ void FuzzHost::addCustomToolBars(const QStringList &names, const QStringList &ti
     QList<QToolBar *> made;
     for (int i = 0; i < names.size(); ++i)
         made << manager.createToolBar(QString());
-    sortByAddress(made);
+    made = byAddress(made);
     for (int i = 0; i < names.size(); ++i) {
         made.at(i)->setObjectName(names.at(i));
         made.at(i)->setWindowTitle(titles.at(i));
@@ -182,37 +166,35 @@ void FuzzHost::makeUsual()
 {
     addDefaultToolBars(words("e f v"), words("E F V"), {"| | c", "a | b", ""});
     addCustomToolBars(words("_Custom_Toolbar_1 m"), words("M M2"), {"| a d", ""});
-    manager.setToolBar(manager.toolBarByName(name("e")), list("c a | ä€"));
+    manager.setToolBar(manager.toolBarByName("e"), list("c a | ä€"));
 }
 
-// Without objectNames, so that texts and titles stand in for them.
+// Without objectNames, so that texts and titles replace them.
 void FuzzHost::makeNameless()
 {
-    registered(QString(), name("T"));
-    registered(QString(), name("S"));
-    addDefaultToolBars({QString(), name("f"), QString()}, words("N F P"), {"T | a", "S b", "| c"});
+    registered(QString(), "T");
+    registered(QString(), "S");
+    addDefaultToolBars({QString(), "f", QString()}, words("N F P"), {"T | a", "S b", "| c"});
     addCustomToolBars(words("m"), {QString()}, {"T b"});
-    manager.setToolBar(manager.toolBarByName(name("f")), list("S | T b"));
+    manager.setToolBar(manager.toolBarByName("f"), list("S | T b"));
 }
 
-// Names that several things bear, that are empty or that are the titles and texts of others. What
+// Names that several things have, that are empty or that are the titles and texts of others. What
 // is saved of the toolbar without name and title goes to the one that has only a title, what is
 // saved of that one to the second "o", and what is saved of that one to the first.
 void FuzzHost::makeDoubles()
 {
-    QAction *const second = registered(name("a"), name("T"));
+    QAction *const second = registered("a", "T");
     QAction *const empty = registered(QString(), QString());
-    QAction *const shadowed = registered(QString(), name("a"));
-    registered(name("g"), name("T"));
-    registered(QString(), name("T"));
-    addDefaultToolBars({name("o"), name("o"), QString(), QString(), name("f"), name("f")},
-                       {name("G"), name("t"), name("t"), QString(), name("F"), name("F")},
+    QAction *const shadowed = registered(QString(), "a");
+    registered("g", "T");
+    registered(QString(), "T");
+    addDefaultToolBars({"o", "o", QString(), QString(), "f", "f"},
+                       {"G", "t", "t", QString(), "F", "F"},
                        {"a |", "b | T", "g", "| |", "c", "d"});
-    addCustomToolBars({name("c"), name("c"), name("f"), name("m"), QString(), QStringLiteral("")},
-                      {name("C"), name("C2"), name("F"), QString(), name("M"), name("o")},
+    addCustomToolBars({"c", "c", "f", "m", QString(), ""}, {"C", "C2", "F", QString(), "M", "o"},
                       {"a", "b | g", "c", "|", "d T", "a"});
-    manager.setToolBar(manager.toolBarByName(name("m")),
-                       list("a |") << second << empty << shadowed);
+    manager.setToolBar(manager.toolBarByName("m"), list("a |") << second << empty << shadowed);
 }
 
 void FuzzHost::makeManyCustomToolBars()
@@ -222,7 +204,7 @@ void FuzzHost::makeManyCustomToolBars()
     QStringList titles;
     QList<const char *> contents;
     for (int i = 1; i <= 24; ++i) {
-        names << name("_Custom_Toolbar_") + QString::number(i);
+        names << "_Custom_Toolbar_" + QString::number(i);
         titles << QString::number(i % 7);
         contents << (i % 3 ? "b" : "| a |");
     }
@@ -233,9 +215,9 @@ void FuzzHost::makeManyCustomToolBars()
 // after it was registered.
 void FuzzHost::makeSharedSeparators()
 {
-    QAction *const later = registered(name("s"));
-    QAction *const shared = action(name("h"), QString());
-    QAction *const elsewhere = action(name("i"), QString());
+    QAction *const later = registered("s");
+    QAction *const shared = action("h", QString());
+    QAction *const elsewhere = action("i", QString());
     for (QAction *each : {shared, elsewhere})
         each->setSeparator(true);
     QMenu *const menu = new QMenu(&window);

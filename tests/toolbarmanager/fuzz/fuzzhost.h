@@ -37,9 +37,9 @@ public:
 
     QMainWindow window;
     RyToolBarManager manager;
-    // Stands in the window, but the manager does not know it.
+    // In the window, but the manager does not know it.
     QToolBar *const unmanaged;
-    // Every separator that stands on a default toolbar as it is registered.
+    // Every separator that is on a default toolbar when it is registered.
     QList<QPointer<QAction>> separators;
     int signalsEmitted = 0;
 

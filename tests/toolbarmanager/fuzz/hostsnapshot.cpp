@@ -2,30 +2,11 @@
 
 #include "hostsnapshot.h"
 
+#include "managerrecords.h"
+
 #include <QHash>
 
 namespace {
-
-// Explicit instantiations may name private members; each hands its one to a function.
-struct Standing
-{
-    using Field = QMap<QToolBar *, QList<QAction *>> RyToolBarManager::*;
-    friend Field fieldOf(Standing);
-};
-
-struct ToolBarsOfActions
-{
-    using Field = QMap<QAction *, QList<QToolBar *>> RyToolBarManager::*;
-    friend Field fieldOf(ToolBarsOfActions);
-};
-
-template <typename Tag, typename Tag::Field field> struct Opened
-{
-    friend typename Tag::Field fieldOf(Tag) { return field; }
-};
-
-template struct Opened<Standing, &RyToolBarManager::m_toolBarsWithSeparators>;
-template struct Opened<ToolBarsOfActions, &RyToolBarManager::m_actionToToolBars>;
 
 template <typename Object>
 void insertFirst(QHash<QString, Object *> &index, const QString &name, Object *object)
@@ -35,16 +16,6 @@ void insertFirst(QHash<QString, Object *> &index, const QString &name, Object *o
 }
 
 } // namespace
-
-QMap<QToolBar *, QList<QAction *>> recordedStanding(const RyToolBarManager &manager)
-{
-    return manager.*fieldOf(Standing());
-}
-
-QMap<QAction *, QList<QToolBar *>> recordedToolBars(const RyToolBarManager &manager)
-{
-    return manager.*fieldOf(ToolBarsOfActions());
-}
 
 bool HostSnapshot::ToolBar::operator==(const ToolBar &other) const
 {
@@ -57,7 +28,7 @@ HostSnapshot::HostSnapshot(const FuzzHost &host)
     , m_defaults(host.manager.defaultToolBars().keys())
 {
     const auto contents = host.manager.toolBarsActions();
-    const auto recorded = recordedStanding(host.manager);
+    const auto recorded = placedActions(host.manager);
     for (auto it = contents.cbegin(); it != contents.cend(); ++it) {
         QToolBar *const toolBar = it.key();
         m_toolBars.insert(toolBar,

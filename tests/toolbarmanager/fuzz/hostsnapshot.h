@@ -15,7 +15,7 @@ public:
     {
         QString objectName;
         QString title;
-        // As the manager tells it, as it stands on the widget, and as the manager remembers that.
+        // As the manager reports it, as it is on the widget, and as the manager has recorded that.
         QList<QAction *> content;
         QList<QAction *> standing;
         QList<QAction *> recorded;
@@ -47,9 +47,5 @@ private:
     QList<QToolBar *> m_defaults;
     QMap<QToolBar *, ToolBar> m_toolBars;
 };
-
-// Both are private in the manager.
-QMap<QToolBar *, QList<QAction *>> recordedStanding(const RyToolBarManager &manager);
-QMap<QAction *, QList<QToolBar *>> recordedToolBars(const RyToolBarManager &manager);
 
 #endif // HOSTSNAPSHOT_H

@@ -4,11 +4,12 @@
 
 #include "fuzzhost.h"
 #include "hostsnapshot.h"
-#include "layout.h"
-#include "literalreader.h"
+#include "managerrecords.h"
 #include "processuse.h"
+#include "restoremodel.h"
 #include "statewriter.h"
 #include "texts.h"
+#include "toolbarlines.h"
 
 #include <QSet>
 
@@ -35,11 +36,11 @@ QStringList warnings;
 void recordWarning(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     const bool located = context.file || context.line || context.function;
-    const bool ofPlatform = text.startsWith(QLatin1String("This plugin does not support"));
-    if (type == QtWarningMsg && !located && text.startsWith(QLatin1String("RyToolBarManager::")))
+    const bool ofPlatform = text.startsWith("This plugin does not support");
+    if (type == QtWarningMsg && !located && text.startsWith("RyToolBarManager::"))
         warnings << text;
     else if (!ofPlatform)
-        warnings << QStringLiteral("unknown message: ") + text;
+        warnings << "unknown message: " + text;
 }
 
 QStringList takeWarnings()
@@ -54,19 +55,6 @@ QByteArray beginning()
     return StateWriter::ofVersion(StateVersion).byte(0xfe).bytes();
 }
 
-QString savedName(const QString &objectName, const QString &standIn)
-{
-    return objectName.isEmpty() ? standIn : objectName;
-}
-
-QString namelessWarning(const char *className, const void *object, const QString &standIn,
-                        const char *property)
-{
-    return QString::asprintf("RyToolBarManager::saveState(): 'objectName' not set for %s %p '%s', "
-                             "using '%s' instead",
-                             className, object, qPrintable(standIn), property);
-}
-
 QStringList textsOf(const QList<QPointer<QAction>> &actions)
 {
     QStringList texts;
@@ -75,7 +63,7 @@ QStringList textsOf(const QList<QPointer<QAction>> &actions)
             texts << action->objectName() << action->text()
                   << QString::number(action->isSeparator());
         else
-            texts << QStringLiteral("deleted");
+            texts << "deleted";
     }
     return texts;
 }
@@ -99,12 +87,10 @@ private:
     void checkSeparators(const HostSnapshot &now);
     void checkRecordedToolBars(const HostSnapshot &now);
     QByteArray save();
-    void writeExpected(StateWriter &writer, QStringList &expected,
-                       const QList<QAction *> &content) const;
     void checkSaving();
     void checkNextRun(const QByteArray &saved);
     void checkResetting();
-    QStringList layout() const;
+    QStringList lines() const;
     void require(bool holds, const char *what, const QString &more = QString());
     void requireSame(const QStringList &actual, const QStringList &expected, const char *what);
 
@@ -114,12 +100,13 @@ private:
     RyToolBarManager &m_manager;
     // The host as it was before anything was restored.
     const HostSnapshot m_before;
-    const LiteralReader m_untouched;
+    RestoreModel m_model;
+    RestoreModel m_modelOfNextRun;
     const QMap<QToolBar *, QList<QAction *>> m_defaults;
     const QSet<QAction *> m_registered;
     QList<QPointer<QAction>> m_actions;
     QStringList m_actionTexts;
-    // What stands on the unmanaged toolbar.
+    // What is on the unmanaged toolbar.
     QList<QPointer<QAction>> m_elsewhere;
     bool m_hostIsAsBefore = false;
     QStringList m_breaches;
@@ -131,7 +118,8 @@ RestoreCheck::RestoreCheck(FuzzHost &host, const QByteArray &state, MemoryGauge 
     , m_host(host)
     , m_manager(m_host.manager)
     , m_before(host)
-    , m_untouched(m_manager)
+    , m_model(m_manager)
+    , m_modelOfNextRun(m_manager)
     , m_defaults(m_manager.defaultToolBars())
     , m_registered(m_manager.actions())
 {
@@ -151,19 +139,18 @@ QString RestoreCheck::run()
     checkSaving();
     checkResetting();
     require(m_host.signalsEmitted == 0, "a signal was emitted");
-    return m_breaches.join(QLatin1Char('\n'));
+    return m_breaches.join('\n');
 }
 
-// The result, the warnings and the layout are those of the plainest reader.
+// The result, the warnings and the layout are those of the model.
 void RestoreCheck::restore()
 {
-    LiteralReader reader(m_untouched);
-    const bool expected = reader.restore(m_state, StateVersion);
+    const bool expected = m_model.restore(m_state, StateVersion);
     bool result = false;
     restoreMeasured(&result);
     require(result == expected, "the result is another one");
-    requireSame(takeWarnings(), reader.warnings, "other warnings while restoring");
-    requireSame(layout(), reader.layout(), "another layout was restored");
+    requireSame(takeWarnings(), m_model.takeWarnings(), "other warnings while restoring");
+    requireSame(lines(), m_model.lines(), "another layout was restored");
     checkWhatMayChange(result);
 }
 
@@ -206,7 +193,7 @@ void RestoreCheck::checkHost(const char *when)
     checkRegistry();
     checkWidgets();
     if (m_breaches.size() > known)
-        m_breaches << QLatin1String("  ") + QLatin1String(when);
+        m_breaches << "  " + QString(when);
 }
 
 void RestoreCheck::checkRegistry()
@@ -220,7 +207,7 @@ void RestoreCheck::checkRegistry()
     const auto standing = m_host.unmanaged->actions();
     require(standing.size() == elsewhere.size(), "an unmanaged toolbar has more or fewer actions");
     for (QAction *action : standing)
-        require(elsewhere.contains(action), "another action stands on an unmanaged toolbar");
+        require(elsewhere.contains(action), "another action is on an unmanaged toolbar");
 }
 
 void RestoreCheck::checkWidgets()
@@ -228,7 +215,7 @@ void RestoreCheck::checkWidgets()
     const HostSnapshot now(m_host);
     const auto &toolBars = now.toolBars();
     require(m_manager.toolBars() == toolBars.keys(), "toolBars() and the contents differ");
-    require(recordedStanding(m_manager).keys() == toolBars.keys(),
+    require(placedActions(m_manager).keys() == toolBars.keys(),
             "the two contents have different toolbars");
     const auto children =
         m_host.window.findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
@@ -248,16 +235,16 @@ void RestoreCheck::checkWidgets()
 // A null entry is a real separator of the manager's, any other entry the registered action itself.
 void RestoreCheck::checkToolBar(QToolBar *toolBar, const HostSnapshot::ToolBar &known)
 {
-    require(known.standing == known.recorded, "other actions stand on the widget than recorded");
+    require(known.standing == known.recorded, "other actions are on the widget than recorded");
     require(known.standing.size() == known.content.size(), "the contents have different lengths");
     QSet<QAction *> met;
     for (int i = 0; i < qMin(known.content.size(), known.standing.size()); ++i) {
         QAction *const action = known.standing.at(i);
-        require(!met.contains(action), "an action stands twice on a toolbar");
+        require(!met.contains(action), "an action is twice on a toolbar");
         met.insert(action);
         if (known.content.at(i)) {
-            require(action == known.content.at(i), "another action stands on the widget");
-            require(m_registered.contains(action), "an unregistered action stands on the widget");
+            require(action == known.content.at(i), "another action is on the widget");
+            require(m_registered.contains(action), "an unregistered action is on the widget");
         } else {
             require(action->isSeparator(), "a separator entry is no separator action");
             require(!m_registered.contains(action), "a separator entry is a registered action");
@@ -267,8 +254,8 @@ void RestoreCheck::checkToolBar(QToolBar *toolBar, const HostSnapshot::ToolBar &
     }
 }
 
-// Every separator that was made for a toolbar, and every one that the host gave, stands on one as
-// long as it lives.
+// Every separator that was made for a toolbar, and every one that the host gave, is on one as long
+// as it lives.
 void RestoreCheck::checkSeparators(const HostSnapshot &now)
 {
     QSet<QAction *> standing;
@@ -288,7 +275,7 @@ void RestoreCheck::checkSeparators(const HostSnapshot &now)
 
 void RestoreCheck::checkRecordedToolBars(const HostSnapshot &now)
 {
-    const auto recorded = recordedToolBars(m_manager);
+    const auto recorded = toolBarsOfActions(m_manager);
     QMap<QAction *, QSet<QToolBar *>> expected;
     for (auto it = now.toolBars().cbegin(); it != now.toolBars().cend(); ++it) {
         for (QAction *action : it.value().content) {
@@ -306,43 +293,16 @@ void RestoreCheck::checkRecordedToolBars(const HostSnapshot &now)
     }
 }
 
-// Saves, which changes nothing; the bytes and the warnings are those that the contents give.
+// Saves, which changes nothing; the bytes and the warnings are those of the model.
 QByteArray RestoreCheck::save()
 {
     const HostSnapshot before(m_host);
+    RestoreModel model(m_manager);
     const QByteArray saved = m_manager.saveState(StateVersion);
     require(HostSnapshot(m_host) == before, "saving changed something");
-
-    QStringList expected;
-    const auto defaults = before.toolBars(true);
-    const auto customs = before.toolBars(false);
-    StateWriter writer = StateWriter::ofVersion(StateVersion);
-    writer.defaults(defaults.size());
-    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
-        if (it->objectName.isEmpty())
-            expected << namelessWarning("QToolBar", it.key(), it->title, "windowTitle");
-        writer.text(savedName(it->objectName, it->title));
-        writeExpected(writer, expected, it->content);
-    }
-    writer.customs(customs.size());
-    for (auto it = customs.cbegin(); it != customs.cend(); ++it) {
-        writer.text(it->objectName).text(it->title);
-        writeExpected(writer, expected, it->content);
-    }
-    require(saved == writer.bytes(), "other bytes were saved");
-    requireSame(takeWarnings(), expected, "other warnings while saving");
+    require(saved == model.save(StateVersion), "other bytes were saved");
+    requireSame(takeWarnings(), model.takeWarnings(), "other warnings while saving");
     return saved;
-}
-
-void RestoreCheck::writeExpected(StateWriter &writer, QStringList &expected,
-                                 const QList<QAction *> &content) const
-{
-    writer.number(content.size());
-    for (const QAction *action : content) {
-        if (action && action->objectName().isEmpty())
-            expected << namelessWarning("QAction", action, action->text(), "text");
-        writer.text(action ? savedName(action->objectName(), action->text()) : QString());
-    }
 }
 
 /*
@@ -377,13 +337,13 @@ void RestoreCheck::checkSaving()
 // toolbars are not saved.
 void RestoreCheck::checkNextRun(const QByteArray &saved)
 {
-    LiteralReader next(m_untouched);
-    require(next.restore(saved, StateVersion), "a saved state was refused in the next run");
+    require(m_modelOfNextRun.restore(saved, StateVersion),
+            "a saved state was refused in the next run");
     for (QToolBar *toolBar : m_defaults.keys()) {
         if (toolBar->windowTitle() != m_before.toolBars().value(toolBar).title)
             return;
     }
-    requireSame(next.layout(), layout(), "the next run begins with another layout");
+    requireSame(m_modelOfNextRun.lines(), lines(), "the next run begins with another layout");
 }
 
 // Both resetting by the manager and giving the host its first layout back, which deletes toolbars.
@@ -402,14 +362,14 @@ void RestoreCheck::checkResetting()
     checkHost("after resetting");
 }
 
-// In the form of the plainest reader. What stands on the widgets is looked at elsewhere.
-QStringList RestoreCheck::layout() const
+// In the form of the model. The widgets are looked at elsewhere.
+QStringList RestoreCheck::lines() const
 {
     QStringList lines;
     const auto contents = m_manager.toolBarsActions();
     for (auto it = contents.cbegin(); it != contents.cend(); ++it)
-        lines << layoutLine(m_manager.isDefaultToolBar(it.key()), it.key()->objectName(),
-                            it.key()->windowTitle(), contentOf(it.value()));
+        lines << lineOf(m_manager.isDefaultToolBar(it.key()), it.key()->objectName(),
+                        it.key()->windowTitle(), contentOf(it.value()));
     lines.sort();
     return lines;
 }
@@ -418,7 +378,7 @@ void RestoreCheck::require(bool holds, const char *what, const QString &more)
 {
     if (holds)
         return;
-    const QString breach = QLatin1String(what) + more;
+    const QString breach = what + more;
     if (!m_breaches.contains(breach))
         m_breaches << breach;
 }
@@ -428,10 +388,9 @@ void RestoreCheck::requireSame(const QStringList &actual, const QStringList &exp
 {
     if (actual == expected)
         return;
-    const QString joint = QStringLiteral("\n    ");
+    const QString joint = "\n    ";
     require(false, what,
-            joint + actual.join(joint) + QLatin1String("\n  instead of") + joint
-                + expected.join(joint));
+            joint + actual.join(joint) + "\n  instead of" + joint + expected.join(joint));
 }
 
 } // namespace
