@@ -92,7 +92,7 @@ check_with_cppcheck() {
     # Without style checks for the tests.
     {
         run_cppcheck warning,style,performance,portability "${library[@]}" examples &&
-            run_cppcheck warning,performance,portability tests
+            run_cppcheck warning,performance,portability tests tools/pictures
     } 2>&1 | findings
 }
 
@@ -131,7 +131,7 @@ try 'cppcheck' check_with_cppcheck
 try 'clazy' clazy "${library[@]}"
 try 'clang-tidy' tidy "${library[@]}"
 if [ "$others" = ON ]; then
-    try 'clazy over the examples and tests' clazy examples tests
-    try 'clang-tidy over the examples and tests' tidy examples tests
+    try 'clazy over the examples and tests' clazy examples tests tools/pictures
+    try 'clang-tidy over the examples and tests' tidy examples tests tools/pictures
 fi
 finish 'nothing was found'

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Compares the library with bare Qt code that does the same, in less than five minutes. Needs nothing
-# but this folder on a Debian or Ubuntu system. Installs missing packages with apt; everything else
-# stays in build/: the table as CSV and JSON, the curves as a picture.
+# Compares the library with bare Qt code that does the same. Needs nothing but this folder on a Debian
+# or Ubuntu system. Installs missing packages with apt; everything else stays in build/: the table as
+# CSV and JSON, the curves as a picture.
 #
 # usage: bench.sh [--update]
 #   --update  also writes the table and the curves into docs/

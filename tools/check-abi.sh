@@ -54,8 +54,8 @@ layouts() {
     describe layouts "${flags[@]}" -Idialog -Itoolbarmanager -Itoolbareditor -Iribbon
 }
 
-# A description of all functions and types of our own headers, without Qt's types: these would make
-# two thousand kilobytes and change with each version of Qt.
+# A description of all functions and types of our own headers, without Qt's types: these would take
+# most of the room and change with each version of Qt.
 abi_description() {
     local headers=build/abi-headers
     mkdir -p "$headers"
