@@ -188,7 +188,7 @@ QList<Row> rows()
         {"openDialog",
          text("Open the dialog, 200 toolbars"),
          Row::Ratio,
-         1.30,
+         1.60,
          {dialogOfToolBars(200)}},
         {"addAndRemoveEntry",
          text("Add and remove an entry in a list of 1,000"),
