@@ -39,6 +39,7 @@ private Q_SLOTS:
     void aToolBarDeletedByItsNewTitleIsNotTouched();
     void aToolBarDeletedByItsNewNameIsNotTouched();
     void anActionDeletedWhileRestoringIsNotTouched();
+    void anActionRegisteredWhileRestoringIsFound();
     void anActionReplacedWhileRestoringIsFound();
     void actionsChangedTwiceWhileRestoringAreReadAgain();
     void restoringWhileRestoringIsDone();
@@ -192,6 +193,21 @@ void tst_RyToolBarManager_reentry_restore::anActionDeletedWhileRestoringIsNotTou
     TestCase::takeWarnings();
     QCOMPARE(contentOf(host.manager.actions(host.yours)), QStringList("\"Nameless\""));
     QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry_restore::anActionRegisteredWhileRestoringIsFound()
+{
+    BusyHost host;
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] { host.registered("late", A); });
+    host.watch(&calls);
+    const QByteArray state = StateWriter::ofVersion(1)
+                                 .defaults(2)
+                                 .defaultToolBar("file", words("paste"))
+                                 .defaultToolBar("edit", words("late"))
+                                 .customs(0)
+                                 .bytes();
+    QVERIFY(host.manager.restoreState(state, 1));
+    QCOMPARE(contentOf(host.manager.actions(host.edit)), words("late"));
 }
 
 void tst_RyToolBarManager_reentry_restore::anActionReplacedWhileRestoringIsFound()
