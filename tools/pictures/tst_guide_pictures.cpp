@@ -70,16 +70,15 @@ private Q_SLOTS:
 
 private:
     void save(const QPixmap &picture, const char *name);
-    void takeMenu();
+    void takeMenu(MainWindow *window);
     void takeDialog(QWidget *dialog);
     void takeOverview(QWidget *dialog, const EditorViews &editor);
     void takeAdding(QWidget *dialog, const EditorViews &editor);
     void takeNaming(QWidget *dialog, const EditorViews &editor);
-    void takeWindow();
+    void takeWindow(MainWindow *window);
 
     QTemporaryDir m_scratch;
     QString m_folder;
-    MainWindow *m_window = nullptr;
 };
 
 void tst_guide_pictures::initTestCase()
@@ -99,15 +98,14 @@ void tst_guide_pictures::takesAllPictures()
 {
     QSettings settings(m_scratch.filePath(QStringLiteral("pictures.ini")), QSettings::IniFormat);
     MainWindow window(&settings);
-    m_window = &window;
     window.resize(760, 420);
     window.show();
     QVERIFY(window.openFile(QStringLiteral(GUIDE_DOCUMENT)));
-    takeMenu();
+    takeMenu(&window);
     const NextModal modal([this](QWidget *dialog) { takeDialog(dialog); });
     window.customizeToolBars();
     QVERIFY(modal.wasShown());
-    takeWindow();
+    takeWindow(&window);
 }
 
 void tst_guide_pictures::save(const QPixmap &picture, const char *name)
@@ -119,21 +117,21 @@ void tst_guide_pictures::save(const QPixmap &picture, const char *name)
     QVERIFY2(image.save(path, "PNG", 0), qPrintable(path));
 }
 
-void tst_guide_pictures::takeMenu()
+void tst_guide_pictures::takeMenu(MainWindow *window)
 {
     QMenu *menu = nullptr;
-    const auto actions = m_window->menuBar()->actions();
+    const auto actions = window->menuBar()->actions();
     for (const QAction *action : actions) {
         if (action->text() == QStringLiteral("&Settings"))
             menu = action->menu();
     }
     QVERIFY(menu);
     QAction *const customize =
-        m_window->findChild<QAction *>(QStringLiteral("tools_customize_toolbars"));
-    const QPoint corner = m_window->menuBar()->actionGeometry(menu->menuAction()).bottomLeft();
-    menu->popup(m_window->menuBar()->mapToGlobal(corner));
+        window->findChild<QAction *>(QStringLiteral("tools_customize_toolbars"));
+    const QPoint corner = window->menuBar()->actionGeometry(menu->menuAction()).bottomLeft();
+    menu->popup(window->menuBar()->mapToGlobal(corner));
     menu->setActiveAction(customize);
-    QPixmap picture = m_window->grab();
+    QPixmap picture = window->grab();
     {
         QPainter painter(&picture);
         painter.drawPixmap(corner, menu->grab());
@@ -214,22 +212,22 @@ void tst_guide_pictures::takeNaming(QWidget *dialog, const EditorViews &editor)
     QCOMPARE(currentOf(editor.toolBarList), QStringLiteral("My Tools"));
 }
 
-void tst_guide_pictures::takeWindow()
+void tst_guide_pictures::takeWindow(MainWindow *window)
 {
     QToolBar *mine = nullptr;
-    const auto toolBars = m_window->findChildren<QToolBar *>();
+    const auto toolBars = window->findChildren<QToolBar *>();
     for (QToolBar *toolBar : toolBars) {
         if (toolBar->windowTitle() == QStringLiteral("My Tools"))
             mine = toolBar;
     }
     QVERIFY(mine);
     QCOMPARE(standingOn(mine), words("file_new | edit_replace edit_select_all"));
-    m_window->addToolBar(Qt::LeftToolBarArea, mine);
+    window->addToolBar(Qt::LeftToolBarArea, mine);
     QTRY_VERIFY(mine->isVisible() && mine->height() > mine->width());
-    QPixmap picture = m_window->grab();
+    QPixmap picture = window->grab();
     {
         QPainter painter(&picture);
-        drawFrame(&painter, areaOf(mine, m_window).adjusted(2, 2, -2, 2));
+        drawFrame(&painter, areaOf(mine, window).adjusted(2, 2, -2, 2));
     }
     save(picture.copy(0, 0, picture.width(), 320), "window");
 }
