@@ -37,8 +37,10 @@ void RyCToolBarWidget::applyClicked()
     // At once, so that an apply during this one does not delete and create them as well.
     m_removedRecords.clear();
     m_createdRecords.clear();
-    for (const Edit &edit : removed)
+    for (const Edit &edit : removed) {
+        m_workingActions.remove(edit.record);
         deleteItem(edit.record);
+    }
 
     const QPointer<RyCToolBarWidget> editor(this);
     RyToolBarManager *const manager = m_manager;
@@ -76,9 +78,9 @@ void RyCToolBarWidget::defaultClicked()
     const auto defaults = m_manager->defaultToolBars();
     for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
         // Null for a toolbar that was registered after the fill. The entry of a deleted toolbar
-        // outlives its record, and a new toolbar may have been given its address.
+        // outlives its record, and new ones may have been given their addresses.
         ToolBarItem *const record = m_recordOfToolBar.value(it.key());
-        if (m_workingActions.contains(record))
+        if (m_ownedRecords.contains(record) && toolBarOf(record) == it.key())
             m_workingActions.insert(record, it.value());
     }
     currentToolBarChanged(m_listItemOfRecord.value(m_currentRecord));
