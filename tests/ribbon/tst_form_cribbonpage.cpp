@@ -116,6 +116,12 @@ void tst_Form_CRibbonPage::everyPropertyIsTheToolBarEditorsForms()
     page.ensurePolished();
     otherPage.ensurePolished();
     QCOMPARE(propertiesBelow(&page), renamed(propertiesBelow(&otherPage)));
+    // The stretch factors are not in the text of a size policy.
+    const auto widgets = page.findChildren<QWidget *>();
+    const auto otherWidgets = otherPage.findChildren<QWidget *>();
+    QCOMPARE(widgets.size(), otherWidgets.size());
+    for (int i = 0; i < widgets.size(); ++i)
+        QCOMPARE(widgets.at(i)->sizePolicy(), otherWidgets.at(i)->sizePolicy());
 }
 
 void tst_Form_CRibbonPage::theTextsAreTranslatedInOrder()
