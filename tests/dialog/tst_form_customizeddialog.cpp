@@ -82,15 +82,15 @@ void tst_Form_CustomizedDialog::anUnnamedDialogIsNamed()
 {
     QDialog dialog;
     const Form form(&dialog);
-    QCOMPARE(dialog.objectName(), QStringLiteral("CustomizedDialog"));
+    QCOMPARE(dialog.objectName(), "CustomizedDialog");
 }
 
 void tst_Form_CustomizedDialog::aNamedDialogKeepsItsName()
 {
     QDialog dialog;
-    dialog.setObjectName(QStringLiteral("mine"));
+    dialog.setObjectName("mine");
     const Form form(&dialog);
-    QCOMPARE(dialog.objectName(), QStringLiteral("mine"));
+    QCOMPARE(dialog.objectName(), "mine");
 }
 
 void tst_Form_CustomizedDialog::theDialogIsResized()
@@ -108,7 +108,7 @@ void tst_Form_CustomizedDialog::theDialogsSizePolicyIsReplaced()
     policy.setVerticalStretch(3);
     dialog.setSizePolicy(policy);
     const Form form(&dialog);
-    QCOMPARE(textOf(dialog.sizePolicy()), QStringLiteral("Expanding Minimum"));
+    QCOMPARE(textOf(dialog.sizePolicy()), "Expanding Minimum");
 }
 
 void tst_Form_CustomizedDialog::theDialogsHeightForWidthIsTakenOver_data()
@@ -142,9 +142,8 @@ void tst_Form_CustomizedDialog::theWidgetsAreCreatedInOrder()
 {
     QDialog dialog;
     const Form form(&dialog);
-    const QStringList expected{QStringLiteral("QVBoxLayout verticalLayout"),
-                               QStringLiteral("QTabWidget m_optionTabWidget"),
-                               QStringLiteral("QDialogButtonBox m_dialogButtonBox")};
+    const QStringList expected{"QVBoxLayout verticalLayout", "QTabWidget m_optionTabWidget",
+                               "QDialogButtonBox m_dialogButtonBox"};
     QCOMPARE(childrenOf(&dialog), expected);
 }
 
@@ -152,10 +151,10 @@ void tst_Form_CustomizedDialog::theMembersAreNamedAfterThemselves()
 {
     QDialog dialog;
     const Form form(&dialog);
-    QCOMPARE(form.verticalLayout->objectName(), QStringLiteral("verticalLayout"));
-    QCOMPARE(form.m_optionTabWidget->objectName(), QStringLiteral("m_optionTabWidget"));
-    QCOMPARE(form.tab_2->objectName(), QStringLiteral("tab_2"));
-    QCOMPARE(form.m_dialogButtonBox->objectName(), QStringLiteral("m_dialogButtonBox"));
+    QCOMPARE(form.verticalLayout->objectName(), "verticalLayout");
+    QCOMPARE(form.m_optionTabWidget->objectName(), "m_optionTabWidget");
+    QCOMPARE(form.tab_2->objectName(), "tab_2");
+    QCOMPARE(form.m_dialogButtonBox->objectName(), "m_dialogButtonBox");
 }
 
 void tst_Form_CustomizedDialog::theLayoutHoldsTheTabsAboveTheButtons()
@@ -163,8 +162,7 @@ void tst_Form_CustomizedDialog::theLayoutHoldsTheTabsAboveTheButtons()
     QDialog dialog;
     const Form form(&dialog);
     QCOMPARE(dialog.layout(), form.verticalLayout);
-    const QStringList expected{QStringLiteral("m_optionTabWidget"),
-                               QStringLiteral("m_dialogButtonBox")};
+    const QStringList expected{"m_optionTabWidget", "m_dialogButtonBox"};
     QCOMPARE(itemsOf(form.verticalLayout), expected);
     QCOMPARE(form.verticalLayout->direction(), QBoxLayout::TopToBottom);
 }
@@ -175,7 +173,7 @@ void tst_Form_CustomizedDialog::thePlaceholderIsTheOnlyTab()
     const Form form(&dialog);
     QCOMPARE(form.m_optionTabWidget->count(), 1);
     QCOMPARE(form.m_optionTabWidget->widget(0), form.tab_2);
-    QCOMPARE(form.m_optionTabWidget->tabText(0), QStringLiteral("Tab 1"));
+    QCOMPARE(form.m_optionTabWidget->tabText(0), "Tab 1");
     QCOMPARE(form.m_optionTabWidget->currentIndex(), 0);
     QCOMPARE(form.tab_2->metaObject(), &QWidget::staticMetaObject);
     QVERIFY(form.m_optionTabWidget->isAncestorOf(form.tab_2));
@@ -197,12 +195,12 @@ void tst_Form_CustomizedDialog::theTitleIsTranslated()
 {
     QDialog dialog;
     const Form form(&dialog);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Options"));
+    QCOMPARE(dialog.windowTitle(), "Options");
     RecordingTranslator translator;
     QDialog translated;
     const Form translatedForm(&translated);
-    QCOMPARE(translated.windowTitle(), QStringLiteral("translated Options"));
-    QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("CustomizedDialog: Options")});
+    QCOMPARE(translated.windowTitle(), "translated Options");
+    QCOMPARE(translator.takeLookUps(), QStringList{"CustomizedDialog: Options"});
 }
 
 void tst_Form_CustomizedDialog::thePlaceholdersTitleIsNotTranslated()
@@ -210,33 +208,33 @@ void tst_Form_CustomizedDialog::thePlaceholdersTitleIsNotTranslated()
     RecordingTranslator translator;
     QDialog dialog;
     const Form form(&dialog);
-    QCOMPARE(form.m_optionTabWidget->tabText(0), QStringLiteral("Tab 1"));
+    QCOMPARE(form.m_optionTabWidget->tabText(0), "Tab 1");
 }
 
 void tst_Form_CustomizedDialog::retranslatingResetsTheTitleOnly()
 {
     QDialog dialog;
     Form form(&dialog);
-    form.m_optionTabWidget->setTabText(0, QStringLiteral("other"));
-    form.m_optionTabWidget->addTab(new QWidget, QStringLiteral("second"));
+    form.m_optionTabWidget->setTabText(0, "other");
+    form.m_optionTabWidget->addTab(new QWidget, "second");
     form.m_optionTabWidget->setCurrentIndex(1);
     dialog.resize(800, 600);
     const QStringList before = propertiesBelow(&dialog);
-    dialog.setWindowTitle(QStringLiteral("other"));
+    dialog.setWindowTitle("other");
     form.retranslateUi(&dialog);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Options"));
+    QCOMPARE(dialog.windowTitle(), "Options");
     QCOMPARE(propertiesBelow(&dialog), before);
-    QCOMPARE(form.m_optionTabWidget->tabText(0), QStringLiteral("other"));
+    QCOMPARE(form.m_optionTabWidget->tabText(0), "other");
 }
 
 void tst_Form_CustomizedDialog::slotsAreConnectedByNameInTheEnd()
 {
     ListeningDialog dialog;
-    dialog.setObjectName(QStringLiteral("listening"));
+    dialog.setObjectName("listening");
     const Form form(&dialog);
     QCOMPARE(dialog.titleChanges, 0);
     QCOMPARE(dialog.currentChanges, 0);
-    dialog.setWindowTitle(QStringLiteral("other"));
+    dialog.setWindowTitle("other");
     QCOMPARE(dialog.titleChanges, 1);
     form.m_optionTabWidget->clear();
     QCOMPARE(dialog.currentChanges, 1);
@@ -250,14 +248,12 @@ void tst_Form_CustomizedDialog::nothingElseIsSet()
     const Form form(&dialog);
     QDialog fresh;
     // QDialog has the property "modal" of its base once more.
-    const QStringList ofDialog{QStringLiteral("objectName"),     QStringLiteral("modal"),
-                               QStringLiteral("windowModality"), QStringLiteral("sizePolicy"),
-                               QStringLiteral("windowTitle"),    QStringLiteral("modal")};
+    const QStringList ofDialog{"objectName", "modal",       "windowModality",
+                               "sizePolicy", "windowTitle", "modal"};
     QCOMPARE(differingProperties(&dialog, &fresh), ofDialog);
-    const QStringList ofTabs{QStringLiteral("objectName"), QStringLiteral("currentIndex"),
-                             QStringLiteral("count")};
+    const QStringList ofTabs{"objectName", "currentIndex", "count"};
     QCOMPARE(differingProperties(form.m_optionTabWidget, new QTabWidget(&fresh)), ofTabs);
-    const QStringList ofBox{QStringLiteral("objectName"), QStringLiteral("standardButtons")};
+    const QStringList ofBox{"objectName", "standardButtons"};
     QCOMPARE(differingProperties(form.m_dialogButtonBox, new QDialogButtonBox(&fresh)), ofBox);
     const QVBoxLayout layout(&fresh);
     QCOMPARE(form.verticalLayout->contentsMargins(), layout.contentsMargins());

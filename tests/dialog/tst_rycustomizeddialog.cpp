@@ -74,7 +74,7 @@ public:
 
     bool eventFilter(QObject *object, QEvent *event) override
     {
-        if (object->objectName() == QLatin1String("tab_2") && event->type() == QEvent::Show)
+        if (object->objectName() == "tab_2" && event->type() == QEvent::Show)
             wasShown = true;
         return false;
     }
@@ -84,12 +84,12 @@ public:
 
 QTabWidget *tabsOf(const RyCustomizedDialog &dialog)
 {
-    return dialog.findChild<QTabWidget *>(QStringLiteral("m_optionTabWidget"));
+    return dialog.findChild<QTabWidget *>("m_optionTabWidget");
 }
 
 QDialogButtonBox *boxOf(const RyCustomizedDialog &dialog)
 {
-    return dialog.findChild<QDialogButtonBox *>(QStringLiteral("m_dialogButtonBox"));
+    return dialog.findChild<QDialogButtonBox *>("m_dialogButtonBox");
 }
 
 template <typename Dialog, typename = void> struct HasCancelButton : std::false_type
@@ -151,21 +151,19 @@ private Q_SLOTS:
 void tst_RyCustomizedDialog::okCreatesTheToolBarThatTheUserMade()
 {
     Host host;
-    host.defaultToolBar(QStringLiteral("file"),
-                        {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                        QStringLiteral("File"));
+    host.defaultToolBar("file", {"open", "|", "save"}, "File");
     RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
     dialog.show();
     const EditorViews editor(&dialog);
     editor.click(editor.newButton);
-    editor.typeName(QStringLiteral("Mine"));
-    editor.doubleClick(editor.actionTree, QStringLiteral("Save"));
+    editor.typeName("Mine");
+    editor.doubleClick(editor.actionTree, "Save");
     QTest::mouseClick(dialog.okButton(), Qt::LeftButton);
 
-    QToolBar *const made = host.manager.toolBarByName(QStringLiteral("_Custom_Toolbar_1"));
+    QToolBar *const made = host.manager.toolBarByName("_Custom_Toolbar_1");
     QVERIFY(made);
-    QCOMPARE(made->windowTitle(), QStringLiteral("Mine"));
-    QCOMPARE(standingOn(made), QStringList{QStringLiteral("save")});
+    QCOMPARE(made->windowTitle(), "Mine");
+    QCOMPARE(standingOn(made), QStringList{"save"});
 }
 
 void tst_RyCustomizedDialog::hasSixPrivateSlotsInOrder()
@@ -177,12 +175,11 @@ void tst_RyCustomizedDialog::hasSixPrivateSlotsInOrder()
         QCOMPARE(method.methodType(), QMetaMethod::Slot);
         QCOMPARE(method.access(), QMetaMethod::Private);
         QCOMPARE(method.typeName(), "void");
-        slotNames << QString::fromLatin1(method.methodSignature());
+        slotNames << method.methodSignature();
     }
     const QStringList expected{
-        QStringLiteral("slotAccepted()"), QStringLiteral("slotRejected()"),
-        QStringLiteral("slotApply()"),    QStringLiteral("slotUiModeChanged(bool)"),
-        QStringLiteral("slotHelp()"),     QStringLiteral("slotRestorDefault()"),
+        "slotAccepted()",          "slotRejected()", "slotApply()",
+        "slotUiModeChanged(bool)", "slotHelp()",     "slotRestorDefault()",
     };
     QCOMPARE(slotNames, expected);
     const int index = metaObject.indexOfSlot("slotUiModeChanged(bool)");
@@ -219,7 +216,7 @@ void tst_RyCustomizedDialog::keepsItsFormThenItsPages()
     const Ui_CustomizedDialog *const ui = fieldsOf(dialog).ui;
     QCOMPARE(ui->verticalLayout, dialog.layout());
     QCOMPARE(ui->m_optionTabWidget, tabsOf(dialog));
-    QCOMPARE(ui->tab_2, dialog.findChild<QWidget *>(QStringLiteral("tab_2")));
+    QCOMPARE(ui->tab_2, dialog.findChild<QWidget *>("tab_2"));
     QCOMPARE(ui->m_dialogButtonBox, boxOf(dialog));
 }
 
@@ -311,7 +308,7 @@ void tst_RyCustomizedDialog::isModalAndTitledOptions()
     RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
     QVERIFY(dialog.isModal());
     QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Options"));
+    QCOMPARE(dialog.windowTitle(), "Options");
     dialog.show();
     QCOMPARE(QApplication::activeModalWidget(), &dialog);
 }
@@ -320,11 +317,10 @@ void tst_RyCustomizedDialog::isSetUpByItsForm()
 {
     Host host;
     const RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    QCOMPARE(dialog.objectName(), QStringLiteral("CustomizedDialog"));
+    QCOMPARE(dialog.objectName(), "CustomizedDialog");
     QCOMPARE(dialog.size(), QSize(740, 460));
-    QCOMPARE(textOf(dialog.sizePolicy()), QStringLiteral("Expanding Minimum"));
-    const QStringList items{QStringLiteral("m_optionTabWidget"),
-                            QStringLiteral("m_dialogButtonBox")};
+    QCOMPARE(textOf(dialog.sizePolicy()), "Expanding Minimum");
+    const QStringList items{"m_optionTabWidget", "m_dialogButtonBox"};
     QCOMPARE(itemsOf(qobject_cast<QVBoxLayout *>(dialog.layout())), items);
     QCOMPARE(boxOf(dialog)->standardButtons(),
              QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help
@@ -338,8 +334,8 @@ void tst_RyCustomizedDialog::showsTwoTabsAndTheFirstIsCurrent()
     RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
     const QTabWidget *const tabs = tabsOf(dialog);
     QCOMPARE(tabs->count(), 2);
-    QCOMPARE(tabs->tabText(0), QStringLiteral("ToolBar"));
-    QCOMPARE(tabs->tabText(1), QStringLiteral("Ribbon"));
+    QCOMPARE(tabs->tabText(0), "ToolBar");
+    QCOMPARE(tabs->tabText(1), "Ribbon");
     QCOMPARE(tabs->currentIndex(), 0);
     dialog.show();
     QCOMPARE(tabs->currentIndex(), 0);
@@ -353,7 +349,7 @@ void tst_RyCustomizedDialog::thePlaceholderStaysAHiddenChild()
     QPointer<QWidget> placeholder;
     {
         const RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-        placeholder = dialog.findChild<QWidget *>(QStringLiteral("tab_2"));
+        placeholder = dialog.findChild<QWidget *>("tab_2");
         QVERIFY(placeholder);
         QVERIFY(tabsOf(dialog)->isAncestorOf(placeholder));
         QCOMPARE(tabsOf(dialog)->indexOf(placeholder), -1);
@@ -367,13 +363,13 @@ void tst_RyCustomizedDialog::thePlaceholderIsNeverShown()
     const PlaceholderWatch watch;
     Host host;
     RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    const QWidget *const placeholder = dialog.findChild<QWidget *>(QStringLiteral("tab_2"));
+    const QWidget *const placeholder = dialog.findChild<QWidget *>("tab_2");
     dialog.show();
     for (int tab : {1, 0}) {
         tabsOf(dialog)->setCurrentIndex(tab);
         QVERIFY(!placeholder->isVisible());
         for (int i = 0; i < tabsOf(dialog)->count(); ++i)
-            QVERIFY(tabsOf(dialog)->tabText(i) != QLatin1String("Tab 1"));
+            QVERIFY(tabsOf(dialog)->tabText(i) != "Tab 1");
     }
     QVERIFY(!watch.wasShown);
 }
@@ -404,18 +400,17 @@ void tst_RyCustomizedDialog::everyTextIsLookedUpOnceAndInOrder()
     RecordingTranslator translator;
     const RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
     QStringList lookUps = translator.takeLookUps();
-    QCOMPARE(lookUps.filter(QRegularExpression(QStringLiteral("^CToolBarPage: "))).size(), 19);
-    QCOMPARE(lookUps.filter(QRegularExpression(QStringLiteral("^CRibbonPage: "))).size(), 19);
+    QCOMPARE(lookUps.filter(QRegularExpression("^CToolBarPage: ")).size(), 19);
+    QCOMPARE(lookUps.filter(QRegularExpression("^CRibbonPage: ")).size(), 19);
     // One entry is left of each form, so that its place in the order shows.
-    const QRegularExpression others(QStringLiteral("^(CToolBarPage|CRibbonPage): (?!Display)"));
+    const QRegularExpression others("^(CToolBarPage|CRibbonPage): (?!Display)");
     for (const QString &text : lookUps.filter(others))
         lookUps.removeAll(text);
     const QStringList expected{
-        QStringLiteral("CustomizedDialog: Options"), QStringLiteral("CToolBarPage: Display"),
-        QStringLiteral("RyCToolBarPage: ToolBar"),   QStringLiteral("CRibbonPage: Display"),
-        QStringLiteral("RyCRibbonPage: Ribbon"),
+        "CustomizedDialog: Options", "CToolBarPage: Display", "RyCToolBarPage: ToolBar",
+        "CRibbonPage: Display",      "RyCRibbonPage: Ribbon",
     };
-    lookUps.removeAll(QStringLiteral("RyCToolBarWidget: < S E P A R A T O R >"));
+    lookUps.removeAll("RyCToolBarWidget: < S E P A R A T O R >");
     QCOMPARE(lookUps, expected);
 }
 
@@ -424,9 +419,9 @@ void tst_RyCustomizedDialog::everyTextPassesThroughTranslation()
     Host host;
     RecordingTranslator translator;
     const RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("translated Options"));
-    QCOMPARE(tabsOf(dialog)->tabText(0), QStringLiteral("translated ToolBar"));
-    QCOMPARE(tabsOf(dialog)->tabText(1), QStringLiteral("translated Ribbon"));
+    QCOMPARE(dialog.windowTitle(), "translated Options");
+    QCOMPARE(tabsOf(dialog)->tabText(0), "translated ToolBar");
+    QCOMPARE(tabsOf(dialog)->tabText(1), "translated Ribbon");
 }
 
 void tst_RyCustomizedDialog::aNullRibbonManagerIsAccepted()
@@ -461,8 +456,7 @@ void tst_RyCustomizedDialog::furtherManagersAreIgnored()
 {
     Host host;
     Host other;
-    QToolBar *const others = other.defaultToolBar(QStringLiteral("other"), {QStringLiteral("cut")},
-                                                  QStringLiteral("Edit"));
+    QToolBar *const others = other.defaultToolBar("other", {"cut"}, "Edit");
     other.manager.setToolBar(others, {});
     std::unique_ptr<RyAbstatcManager> deleted(new RyAbstatcManager);
     const QList<RyAbstatcManager *> managers{&host.manager, nullptr, &other.manager, nullptr,
@@ -499,11 +493,11 @@ void tst_RyCustomizedDialog::takesTheListByValue()
 {
     Host host;
     QList<RyAbstatcManager *> managers{&host.manager, nullptr};
-    host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open")}, QStringLiteral("File"));
+    host.defaultToolBar("file", {"open"}, "File");
     RyCustomizedDialog dialog(managers, &host.window);
     managers.clear();
     dialog.show();
-    QCOMPARE(rowsOf(EditorViews(&dialog).toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(EditorViews(&dialog).toolBarList), QStringList{"File"});
 }
 
 void tst_RyCustomizedDialog::theDialogLeavesTheHostAlone_data()
@@ -517,9 +511,7 @@ void tst_RyCustomizedDialog::theDialogLeavesTheHostAlone()
 {
     QFETCH(bool, shown);
     Host host;
-    QToolBar *const file =
-        host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open"), QStringLiteral("|")},
-                            QStringLiteral("File"));
+    QToolBar *const file = host.defaultToolBar("file", {"open", "|"}, "File");
     const QByteArray state = host.manager.saveState(1);
     const QList<QAction *> actions = file->actions();
     {
@@ -529,7 +521,7 @@ void tst_RyCustomizedDialog::theDialogLeavesTheHostAlone()
     }
     QCOMPARE(host.manager.saveState(1), state);
     QCOMPARE(file->actions(), actions);
-    QCOMPARE(file->windowTitle(), QStringLiteral("File"));
+    QCOMPARE(file->windowTitle(), "File");
     QCOMPARE(host.window.findChildren<QDialog *>().size(), 0);
 }
 
@@ -547,9 +539,7 @@ void tst_RyCustomizedDialog::destroyingAShownDialogLeavesTheHostAlone()
     QFETCH(int, tab);
     QFETCH(bool, renaming);
     Host host;
-    QToolBar *const file = host.defaultToolBar(QStringLiteral("file"),
-                                               {QStringLiteral("open"), QStringLiteral("save")},
-                                               QStringLiteral("File"));
+    QToolBar *const file = host.defaultToolBar("file", {"open", "save"}, "File");
     const QByteArray state = host.manager.saveState(1);
     {
         RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
@@ -562,7 +552,7 @@ void tst_RyCustomizedDialog::destroyingAShownDialogLeavesTheHostAlone()
         tabsOf(dialog)->setCurrentIndex(tab);
     }
     QCOMPARE(host.manager.saveState(1), state);
-    const QStringList content{QStringLiteral("open"), QStringLiteral("save")};
+    const QStringList content{"open", "save"};
     QCOMPARE(standingOn(file), content);
     QCOMPARE(host.window.findChildren<QToolBar *>(), QList<QToolBar *>{file});
 }
@@ -583,17 +573,16 @@ void tst_RyCustomizedDialog::theParentDeletesTheDialog()
 void tst_RyCustomizedDialog::severalDialogsMayShareAManager()
 {
     Host host;
-    QToolBar *const file = host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open")},
-                                               QStringLiteral("File"));
+    QToolBar *const file = host.defaultToolBar("file", {"open"}, "File");
     for (int i = 0; i < 2; ++i) {
         RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
         dialog.show();
         const EditorViews editor(&dialog);
         QCOMPARE(rowsOf(editor.currentToolBarList).size(), 1 + i);
-        editor.doubleClick(editor.actionTree, QStringLiteral("< S E P A R A T O R >"));
+        editor.doubleClick(editor.actionTree, "< S E P A R A T O R >");
         dialog.okButton()->click();
     }
-    const QStringList content{QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("|")};
+    const QStringList content{"open", "|", "|"};
     QCOMPARE(standingOn(file), content);
 }
 

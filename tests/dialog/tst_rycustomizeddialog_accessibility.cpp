@@ -26,7 +26,7 @@ namespace {
 
 QString roleOf(const QAccessibleInterface *interface)
 {
-    return QLatin1String(QMetaEnum::fromType<QAccessible::Role>().valueToKey(interface->role()));
+    return QMetaEnum::fromType<QAccessible::Role>().valueToKey(interface->role());
 }
 
 // The states that matter here, by name.
@@ -41,7 +41,7 @@ QStringList statesOf(const QAccessibleInterface *interface)
     QStringList names;
     for (const auto &entry : all) {
         if (entry.first)
-            names << QLatin1String(entry.second);
+            names << entry.second;
     }
     return names;
 }
@@ -60,15 +60,14 @@ QAccessibleInterface *accessible(QObject *object)
 // "Role 'name' states", for views without their items.
 QString lineOf(const QAccessibleInterface *interface)
 {
-    return QStringLiteral("%1 '%2' %3")
-        .arg(roleOf(interface), interface->text(QAccessible::Name),
-             statesOf(interface).join(QLatin1Char(' ')))
+    return QString("%1 '%2' %3")
+        .arg(roleOf(interface), interface->text(QAccessible::Name), statesOf(interface).join(' '))
         .trimmed();
 }
 
 void appendLines(QStringList &lines, const QAccessibleInterface *interface, int depth)
 {
-    lines << QString(2 * depth, QLatin1Char(' ')) + lineOf(interface);
+    lines << QString(2 * depth, ' ') + lineOf(interface);
     if (interface->role() == QAccessible::Tree || interface->role() == QAccessible::List)
         return;
     for (int i = 0; i < interface->childCount(); ++i)
@@ -83,9 +82,7 @@ QStringList itemsReported(QAbstractItemView *view)
     for (int i = 0; i < interface->childCount(); ++i) {
         const QAccessibleInterface *const item = interface->child(i);
         if (item->role() != QAccessible::ColumnHeader)
-            lines << (item->text(QAccessible::Name) + QLatin1Char(' ')
-                      + statesOf(item).join(QLatin1Char(' ')))
-                         .trimmed();
+            lines << (item->text(QAccessible::Name) + " " + statesOf(item).join(' ')).trimmed();
     }
     return lines;
 }
@@ -100,7 +97,7 @@ void press(QObject *object)
 
 QStringList lines(const char *text)
 {
-    return QString::fromLatin1(text).split(QLatin1Char('\n'));
+    return QString(text).split('\n');
 }
 
 // The dialog of a host with a default and a custom toolbar, which is current; every button can be
@@ -112,14 +109,14 @@ struct Stage
         , views(&dialog)
         , tabs(dialog.findChild<QTabWidget *>())
     {
-        host.defaultToolBar(QStringLiteral("file"), words("open save"), QStringLiteral("File"));
+        host.defaultToolBar("file", words("open save"), "File");
         for (const QString &name : words("cut copy paste"))
-            host.registered(name, QStringLiteral("Edit"));
-        mine = host.manager.createToolBar(QStringLiteral("Mine"));
+            host.registered(name, "Edit");
+        mine = host.manager.createToolBar("Mine");
         host.manager.setToolBar(mine, host.list(words("cut | copy")));
         dialog.show();
         QApplication::setActiveWindow(&dialog);
-        views.toolBarList->setCurrentItem(itemNamed(views.toolBarList, QStringLiteral("Mine")));
+        views.toolBarList->setCurrentItem(itemNamed(views.toolBarList, "Mine"));
         views.currentToolBarList->setCurrentRow(1);
     }
 
@@ -177,11 +174,11 @@ void tst_RyCustomizedDialog_Accessibility::everythingHasARole()
     appendLines(found, accessible(&stage.dialog), 0);
     // The page that is not shown has a test of its own, and the scroll buttons of tabs belong to
     // Qt. Qt calls the current tab focused, wherever the focus is.
-    const int ribbon = found.indexOf(QStringLiteral("      Client '' invisible"));
+    const int ribbon = found.indexOf("      Client '' invisible");
     QVERIFY(ribbon > 0);
-    while (found.at(ribbon).startsWith(QLatin1String("      ")))
+    while (found.at(ribbon).startsWith("      "))
         found.removeAt(ribbon);
-    for (const QString &line : found.filter(QStringLiteral("'Scroll ")))
+    for (const QString &line : found.filter("'Scroll "))
         found.removeAll(line);
     QCOMPARE(found,
              lines("Dialog 'Options'\n"
@@ -248,8 +245,7 @@ void tst_RyCustomizedDialog_Accessibility::toolTipsAreTheDescriptionsOfButtons()
     QFETCH(QString, name);
     QFETCH(QString, description);
     Stage stage;
-    QWidget *const button =
-        stage.views.page->findChild<QWidget *>(QLatin1String(QTest::currentDataTag()));
+    QWidget *const button = stage.views.page->findChild<QWidget *>(QTest::currentDataTag());
     QCOMPARE(accessible(button)->role(), QAccessible::Button);
     QCOMPARE(accessible(button)->text(QAccessible::Name), name);
     QCOMPARE(accessible(button)->text(QAccessible::Description), description);
@@ -263,9 +259,8 @@ void tst_RyCustomizedDialog_Accessibility::theActionTreeTellsCategoriesAndAction
     Stage stage;
     QCOMPARE(itemsReported(stage.views.actionTree),
              lines("< S E P A R A T O R > focused selected\nEdit expandable\nFile expandable"));
-    stage.views.actionTree->expandItem(itemNamed(stage.views.actionTree, QStringLiteral("Edit")));
-    stage.views.actionTree->setCurrentItem(
-        itemNamed(stage.views.actionTree, QStringLiteral("Cut")));
+    stage.views.actionTree->expandItem(itemNamed(stage.views.actionTree, "Edit"));
+    stage.views.actionTree->setCurrentItem(itemNamed(stage.views.actionTree, "Cut"));
     QCOMPARE(itemsReported(stage.views.actionTree),
              lines("< S E P A R A T O R >\nEdit expandable expanded\nCopy\nCut focused selected\n"
                    "Paste\nFile expandable"));
@@ -280,7 +275,7 @@ void tst_RyCustomizedDialog_Accessibility::theHiddenHeaderIsReported()
     Stage stage;
     const QAccessibleInterface *const header = accessible(stage.views.actionTree)->child(0);
     QCOMPARE(header->role(), QAccessible::ColumnHeader);
-    QCOMPARE(lineOf(header), QStringLiteral("ColumnHeader '1' invisible"));
+    QCOMPARE(lineOf(header), "ColumnHeader '1' invisible");
 }
 
 // Only their color marks default toolbars, and nothing marks the rows that can be renamed.
@@ -307,8 +302,8 @@ void tst_RyCustomizedDialog_Accessibility::theCurrentToolBarTellsItsActions()
     QFETCH(QString, reported);
     Stage stage;
     stage.views.toolBarList->setCurrentItem(
-        itemNamed(stage.views.toolBarList, QLatin1String(QTest::currentDataTag())));
-    QCOMPARE(itemsReported(stage.views.currentToolBarList), reported.split(QLatin1Char('\n')));
+        itemNamed(stage.views.toolBarList, QTest::currentDataTag()));
+    QCOMPARE(itemsReported(stage.views.currentToolBarList), reported.split('\n'));
 }
 
 void tst_RyCustomizedDialog_Accessibility::disabledButtonsOfferNothing()
@@ -344,7 +339,7 @@ void tst_RyCustomizedDialog_Accessibility::pressingAButtonDoesWhatAClickDoes()
     QFETCH(QString, rows);
     QFETCH(QString, toolBars);
     Stage stage;
-    press(stage.views.page->findChild<QWidget *>(QLatin1String(QTest::currentDataTag())));
+    press(stage.views.page->findChild<QWidget *>(QTest::currentDataTag()));
     QTRY_COMPARE(stage.views.currentRows(), words(qPrintable(rows)));
     QCOMPARE(rowsOf(stage.views.toolBarList), words(qPrintable(toolBars)));
 }
@@ -360,17 +355,17 @@ void tst_RyCustomizedDialog_Accessibility::newAndRenameOpenALineWithTheName()
 {
     QFETCH(QString, name);
     Stage stage;
-    press(stage.views.page->findChild<QWidget *>(QLatin1String(QTest::currentDataTag())));
+    press(stage.views.page->findChild<QWidget *>(QTest::currentDataTag()));
     QTRY_VERIFY(stage.views.renameEditor());
     QAccessibleInterface *const line = accessible(stage.views.renameEditor());
     QCOMPARE(line->role(), QAccessible::EditableText);
     QCOMPARE(line->text(QAccessible::Name), QString());
     QCOMPARE(line->text(QAccessible::Value), name);
     QVERIFY(line->state().focused);
-    line->setText(QAccessible::Value, QStringLiteral("Spoken"));
+    line->setText(QAccessible::Value, "Spoken");
     QTest::keyClick(stage.views.renameEditor(), Qt::Key_Return);
     QTRY_VERIFY(!stage.views.renameEditor());
-    QVERIFY(itemNamed(stage.views.toolBarList, QStringLiteral("Spoken")));
+    QVERIFY(itemNamed(stage.views.toolBarList, "Spoken"));
     QVERIFY(stage.dialog.isVisible());
 }
 
@@ -423,15 +418,14 @@ void tst_RyCustomizedDialog_Accessibility::tabsAreReportedAndPressed()
 void tst_RyCustomizedDialog_Accessibility::theRibbonPageIsReportedAsInvisible()
 {
     Stage stage;
-    QWidget *const ribbon = stage.dialog.findChild<QWidget *>(QStringLiteral("CRibbonPage"));
-    QWidget *const button = ribbon->findChild<QWidget *>(QStringLiteral("newButton_4"));
-    QCOMPARE(lineOf(accessible(ribbon)), QStringLiteral("Client '' invisible"));
-    QCOMPARE(lineOf(accessible(button)), QStringLiteral("Button 'New' invisible"));
+    QWidget *const ribbon = stage.dialog.findChild<QWidget *>("CRibbonPage");
+    QWidget *const button = ribbon->findChild<QWidget *>("newButton_4");
+    QCOMPARE(lineOf(accessible(ribbon)), "Client '' invisible");
+    QCOMPARE(lineOf(accessible(button)), "Button 'New' invisible");
     stage.tabs->setCurrentIndex(1);
-    QCOMPARE(lineOf(accessible(ribbon)), QStringLiteral("Client ''"));
-    QCOMPARE(lineOf(accessible(button)), QStringLiteral("Button 'New'"));
-    QCOMPARE(lineOf(accessible(stage.views.newButton)),
-             QStringLiteral("Button 'New' invisible disabled"));
+    QCOMPARE(lineOf(accessible(ribbon)), "Client ''");
+    QCOMPARE(lineOf(accessible(button)), "Button 'New'");
+    QCOMPARE(lineOf(accessible(stage.views.newButton)), "Button 'New' invisible disabled");
 }
 
 void tst_RyCustomizedDialog_Accessibility::everyButtonTakesTheFocus()
@@ -473,8 +467,7 @@ void tst_RyCustomizedDialog_Accessibility::noOtherKeyDoesAnything()
         view->setFocus();
         QTest::keyClick(view, Qt::Key(key), alt ? Qt::AltModifier : Qt::NoModifier);
         // Arrows move the current row, with Alt too; nothing is changed.
-        stage.views.toolBarList->setCurrentItem(
-            itemNamed(stage.views.toolBarList, QStringLiteral("Mine")));
+        stage.views.toolBarList->setCurrentItem(itemNamed(stage.views.toolBarList, "Mine"));
         QCOMPARE(stage.views.currentRows(), words("Cut | Copy"));
         QCOMPARE(rowsOf(stage.views.toolBarList), words("File Mine"));
         QVERIFY(!stage.views.renameEditor());
@@ -485,8 +478,8 @@ void tst_RyCustomizedDialog_Accessibility::noOtherKeyDoesAnything()
 void tst_RyCustomizedDialog_Accessibility::captionsAndButtonsHaveNoAccelerators()
 {
     Stage stage;
-    const auto parts = stage.views.page->findChildren<QWidget *>(
-        QRegularExpression(QStringLiteral("^label|Button$")));
+    const auto parts =
+        stage.views.page->findChildren<QWidget *>(QRegularExpression("^label|Button$"));
     QCOMPARE(parts.size(), 10);
     for (QWidget *part : parts)
         QCOMPARE(accessible(part)->text(QAccessible::Accelerator), QString());
@@ -495,7 +488,7 @@ void tst_RyCustomizedDialog_Accessibility::captionsAndButtonsHaveNoAccelerators(
 void tst_RyCustomizedDialog_Accessibility::mnemonicsAreReportedAsTheyStand()
 {
     Stage stage;
-    stage.host.action(QStringLiteral("open"))->setText(QStringLiteral("&Open"));
+    stage.host.action("open")->setText("&Open");
     stage.views.toolBarList->setCurrentRow(0);
     QCOMPARE(itemsReported(stage.views.currentToolBarList), lines("&Open focused selected\nSave"));
 }
@@ -517,8 +510,7 @@ void tst_RyCustomizedDialog_Accessibility::selectingAnItemDoesNotMakeItCurrent()
     QFETCH(QString, selected);
     QFETCH(QString, current);
     Stage stage;
-    QListWidget *const list =
-        stage.views.page->findChild<QListWidget *>(QLatin1String(QTest::currentDataTag()));
+    QListWidget *const list = stage.views.page->findChild<QListWidget *>(QTest::currentDataTag());
     QAccessibleInterface *const item = accessible(list)->child(0);
     QCOMPARE(item->text(QAccessible::Name), selected);
     QCOMPARE(actionsOf(item), QStringList{QAccessibleActionInterface::toggleAction()});

@@ -17,19 +17,18 @@
 
 namespace {
 
-const QStringList defaultContent{QStringLiteral("open"), QStringLiteral("|"),
-                                 QStringLiteral("save")};
-const QStringList changedContent{QStringLiteral("save")};
-const QStringList editedContent{QStringLiteral("save"), QStringLiteral("open")};
-const QStringList editedRows{QStringLiteral("Save"), QStringLiteral("Open")};
+const QStringList defaultContent{"open", "|", "save"};
+const QStringList changedContent{"save"};
+const QStringList editedContent{"save", "open"};
+const QStringList editedRows{"Save", "Open"};
 
 // A host whose default toolbar no longer has its default content and that has a custom toolbar, and
 // the shown dialog.
 struct Session : Host
 {
     Session()
-        : file(defaultToolBar(QStringLiteral("file"), defaultContent, QStringLiteral("File")))
-        , custom(manager.createToolBar(QStringLiteral("Custom")))
+        : file(defaultToolBar("file", defaultContent, "File"))
+        , custom(manager.createToolBar("Custom"))
         , dialog({&manager, nullptr}, &window)
         , editor(&dialog)
         , box(dialog.findChild<QDialogButtonBox *>())
@@ -37,11 +36,11 @@ struct Session : Host
     {
         manager.setToolBar(file, list(changedContent));
         dialog.show();
-        editor.click(editor.toolBarList, QStringLiteral("File"));
+        editor.click(editor.toolBarList, "File");
     }
 
     // Appends the action "open" to the default toolbar in the working copy.
-    void edit() const { editor.doubleClick(editor.actionTree, QStringLiteral("Open")); }
+    void edit() const { editor.doubleClick(editor.actionTree, "Open"); }
 
     void press(QDialogButtonBox::StandardButton which) const
     {
@@ -65,7 +64,7 @@ struct Session : Host
     QTabWidget *const tabs;
 };
 
-const QStringList titles{QStringLiteral("File"), QStringLiteral("Custom")};
+const QStringList titles{"File", "Custom"};
 
 // What the message box of Help says of itself.
 struct MessageBox
@@ -256,7 +255,7 @@ void tst_RyCustomizedDialog_Buttons::applyStaysOpenAndKeepsTheEdits()
     QVERIFY(session.dialog.isVisible());
     QCOMPARE(finished.count(), 0);
     QCOMPARE(session.tabs->currentIndex(), 0);
-    QCOMPARE(currentOf(session.editor.toolBarList), QStringLiteral("File"));
+    QCOMPARE(currentOf(session.editor.toolBarList), "File");
     QCOMPARE(rowsOf(session.editor.currentToolBarList), editedRows);
 }
 
@@ -266,7 +265,7 @@ void tst_RyCustomizedDialog_Buttons::applyThenOkAppliesAgain()
     Session session;
     session.edit();
     session.press(QDialogButtonBox::Apply);
-    session.file->setWindowTitle(QStringLiteral("Renamed"));
+    session.file->setWindowTitle("Renamed");
     session.manager.setToolBar(session.file, {});
     session.press(QDialogButtonBox::Ok);
     QCOMPARE(session.state(), editedContent + titles);
@@ -300,9 +299,8 @@ void tst_RyCustomizedDialog_Buttons::restoreDefaultsChangesOnlyTheWorkingCopy()
     session.press(QDialogButtonBox::RestoreDefaults);
     QVERIFY(session.dialog.isVisible());
     QCOMPARE(session.state(), changedContent + titles);
-    QCOMPARE(rowsOf(session.editor.toolBarList), QStringList{QStringLiteral("File")});
-    const QStringList rows{QStringLiteral("Open"), QStringLiteral("< S E P A R A T O R >"),
-                           QStringLiteral("Save")};
+    QCOMPARE(rowsOf(session.editor.toolBarList), QStringList{"File"});
+    const QStringList rows{"Open", "< S E P A R A T O R >", "Save"};
     QCOMPARE(rowsOf(session.editor.currentToolBarList), rows);
 }
 
@@ -329,7 +327,7 @@ void tst_RyCustomizedDialog_Buttons::restoreDefaultsThenOkResetsTheHost()
     session.press(QDialogButtonBox::RestoreDefaults);
     session.press(which);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(session.state(), defaultContent + QStringList{QStringLiteral("File")});
+    QCOMPARE(session.state(), defaultContent + QStringList{"File"});
     QVERIFY(!session.custom);
     QCOMPARE(session.manager.toolBarsActions().keys(), QList<QToolBar *>{session.file});
 }
@@ -363,14 +361,13 @@ void tst_RyCustomizedDialog_Buttons::restoreDefaultsSkipsAToolBarRegisteredMeanw
 {
     QFETCH(QDialogButtonBox::StandardButton, which);
     Session session;
-    QToolBar *const late = session.defaultToolBar(QStringLiteral("late"), {QStringLiteral("cut")},
-                                                  QStringLiteral("Edit"));
-    session.manager.setToolBar(late, session.list({QStringLiteral("cut"), QStringLiteral("|")}));
+    QToolBar *const late = session.defaultToolBar("late", {"cut"}, "Edit");
+    session.manager.setToolBar(late, session.list({"cut", "|"}));
     session.press(QDialogButtonBox::RestoreDefaults);
     session.press(which);
-    const QStringList kept{QStringLiteral("cut"), QStringLiteral("|")};
+    const QStringList kept{"cut", "|"};
     QCOMPARE(standingOn(late), kept);
-    QCOMPARE(late->windowTitle(), QStringLiteral("Late"));
+    QCOMPARE(late->windowTitle(), "Late");
     QVERIFY(session.manager.isDefaultToolBar(late));
     QCOMPARE(standingOn(session.file), defaultContent);
 }
@@ -382,8 +379,8 @@ void tst_RyCustomizedDialog_Buttons::helpShowsAMessage()
     const NextModal help([&seen](QWidget *modal) { press(modal, &seen); });
     session.press(QDialogButtonBox::Help);
     QVERIFY(help.wasShown());
-    QCOMPARE(seen.title, QStringLiteral("help"));
-    QCOMPARE(seen.text, QStringLiteral("KORVA help  doc!"));
+    QCOMPARE(seen.title, "help");
+    QCOMPARE(seen.text, "KORVA help  doc!");
     QCOMPARE(seen.informativeText, QString());
     QCOMPARE(seen.parent, &session.dialog);
     QCOMPARE(seen.buttons, 1);
@@ -415,12 +412,11 @@ void tst_RyCustomizedDialog_Buttons::helpIsTranslated()
     const NextModal help([&seen](QWidget *modal) { press(modal, &seen); });
     session.press(QDialogButtonBox::Help);
     QVERIFY(help.wasShown());
-    QCOMPARE(seen.title, QStringLiteral("translated help"));
-    QCOMPARE(seen.text, QStringLiteral("translated KORVA help  doc!"));
+    QCOMPARE(seen.title, "translated help");
+    QCOMPARE(seen.text, "translated KORVA help  doc!");
     QStringList lookUps = translator.takeLookUps();
     lookUps.sort();
-    const QStringList expected{QStringLiteral("RyCustomizedDialog: KORVA help  doc!"),
-                               QStringLiteral("RyCustomizedDialog: help")};
+    const QStringList expected{"RyCustomizedDialog: KORVA help  doc!", "RyCustomizedDialog: help"};
     QCOMPARE(lookUps, expected);
 }
 
@@ -452,7 +448,7 @@ void tst_RyCustomizedDialog_Buttons::helpIsShownAtEachPress()
         const NextModal help([&seen](QWidget *modal) { press(modal, &seen); });
         session.press(QDialogButtonBox::Help);
         QVERIFY(help.wasShown());
-        QCOMPARE(seen.text, QStringLiteral("KORVA help  doc!"));
+        QCOMPARE(seen.text, "KORVA help  doc!");
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!session.dialog.findChild<QMessageBox *>());
     }

@@ -49,17 +49,17 @@ Dealing keyOn(QDialogButtonBox::StandardButton which, Qt::Key pressed)
 void edit(QWidget *dialog)
 {
     const EditorViews editor(dialog);
-    editor.doubleClick(editor.actionTree, QStringLiteral("Open"));
+    editor.doubleClick(editor.actionTree, "Open");
 }
 
-const QStringList defaultContent{QStringLiteral("open"), QStringLiteral("save")};
-const QStringList oldContent{QStringLiteral("save")};
-const QStringList newContent{QStringLiteral("save"), QStringLiteral("open")};
+const QStringList defaultContent{"open", "save"};
+const QStringList oldContent{"save"};
+const QStringList newContent{"save", "open"};
 
 struct FileHost : Host
 {
     FileHost()
-        : file(defaultToolBar(QStringLiteral("file"), defaultContent, QStringLiteral("File")))
+        : file(defaultToolBar("file", defaultContent, "File"))
     {
         manager.setToolBar(file, list(oldContent));
         window.show();
@@ -246,7 +246,7 @@ void tst_RyCustomizedDialog_Exec::helpRunsAboveIt()
         mouse(QDialogButtonBox::Ok)(widget);
     });
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    QCOMPARE(text, QStringLiteral("KORVA help  doc!"));
+    QCOMPARE(text, "KORVA help  doc!");
     QVERIFY(stayedOpen);
     QCOMPARE(standingOn(host.file), oldContent);
 }
@@ -290,7 +290,7 @@ void tst_RyCustomizedDialog_Exec::enterInTheListsPressesOk()
         RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
         const NextModal modal([name](QWidget *widget) {
             QVERIFY(QTest::qWaitForWindowActive(widget));
-            widget->findChild<QWidget *>(QLatin1String(name))->setFocus();
+            widget->findChild<QWidget *>(name)->setFocus();
             key(widget, Qt::Key_Enter);
         });
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));

@@ -25,9 +25,8 @@ class FilledHost : public Host
 {
 public:
     FilledHost()
-        : file(
-            defaultToolBar(QStringLiteral("file"), words("open | save"), QStringLiteral("Files")))
-        , mine(manager.createToolBar(QStringLiteral("Mine")))
+        : file(defaultToolBar("file", words("open | save"), "Files"))
+        , mine(manager.createToolBar("Mine"))
     {
         manager.setToolBar(mine, list(words("save")));
     }
@@ -48,9 +47,9 @@ public:
     OwningWindow()
     {
         manager.setMainWindow(this);
-        QToolBar *const toolBar = addToolBar(QStringLiteral("File"));
-        toolBar->addAction(QStringLiteral("Open"));
-        manager.addDefaultToolBar(toolBar, QStringLiteral("Files"));
+        QToolBar *const toolBar = addToolBar("File");
+        toolBar->addAction("Open");
+        manager.addDefaultToolBar(toolBar, "Files");
     }
 
     RyToolBarManager manager;
@@ -60,7 +59,7 @@ public:
 void edit(RyCustomizedDialog *dialog)
 {
     const EditorViews views(dialog);
-    views.click(views.toolBarList, QStringLiteral("File"));
+    views.click(views.toolBarList, "File");
     views.click(views.leftButton);
     QCOMPARE(rowsOf(views.currentToolBarList).size(), 2);
 }
@@ -201,7 +200,7 @@ void tst_RyCustomizedDialog_Hosts::goesWithTheWindowThatHoldsItsManager()
         new RyCustomizedDialog({&window->manager, nullptr}, window));
     dialog->show();
     const EditorViews views(dialog);
-    QCOMPARE(rowsOf(views.currentToolBarList), QStringList(QStringLiteral("Open")));
+    QCOMPARE(rowsOf(views.currentToolBarList), QStringList("Open"));
     views.click(views.newButton);
     delete window;
     QVERIFY(!dialog);
@@ -247,7 +246,7 @@ void tst_RyCustomizedDialog_Hosts::oneAfterTheOtherSeesWhatWasApplied()
         const std::unique_ptr<RyCustomizedDialog> dialog(host.newDialog());
         const NextModal next([&](QWidget *) {
             const EditorViews views(dialog.get());
-            views.click(views.toolBarList, QStringLiteral("File"));
+            views.click(views.toolBarList, "File");
             views.click(views.leftButton);
             dialog->okButton()->click();
         });
@@ -268,7 +267,7 @@ void tst_RyCustomizedDialog_Hosts::twoAtOnceApplyInTurn()
     second->show();
     edit(first.get());
     const EditorViews views(second.get());
-    views.click(views.toolBarList, QStringLiteral("Mine"));
+    views.click(views.toolBarList, "Mine");
     views.click(views.removeButton);
     first->applyButton()->click();
     QCOMPARE(standingOn(host.file), words("| save"));
@@ -307,8 +306,8 @@ void tst_RyCustomizedDialog_Hosts::anotherLanguageKeepsTextsAndEdits()
     QTabWidget *const tabs = dialog->findChild<QTabWidget *>();
     const RecordingTranslator translator;
     QCoreApplication::processEvents();
-    QCOMPARE(dialog->windowTitle(), QStringLiteral("Options"));
-    QCOMPARE(tabs->tabText(0), QStringLiteral("ToolBar"));
+    QCOMPARE(dialog->windowTitle(), "Options");
+    QCOMPARE(tabs->tabText(0), "ToolBar");
     dialog->okButton()->click();
     QCOMPARE(standingOn(host.file), words("| save"));
 }
@@ -322,7 +321,7 @@ void tst_RyCustomizedDialog_Hosts::changesOfTheAppearanceKeepTheEdits()
     dialog->setLayoutDirection(Qt::RightToLeft);
     dialog->setFont(QFont(dialog->font().family(), 24));
     dialog->setPalette(QPalette(Qt::darkGreen));
-    dialog->setStyleSheet(QStringLiteral("* { margin: 3px; }"));
+    dialog->setStyleSheet("* { margin: 3px; }");
     dialog->resize(300, 200);
     QCoreApplication::processEvents();
     dialog->okButton()->click();

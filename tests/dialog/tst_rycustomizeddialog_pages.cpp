@@ -19,7 +19,7 @@ namespace {
 
 QStringList log(const char *lines)
 {
-    return QString::fromLatin1(lines).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString(lines).split('\n', Qt::SkipEmptyParts);
 }
 
 const char applied[] = "toolbar apply\nribbon apply\n";
@@ -31,8 +31,8 @@ struct Opened
 {
     Opened()
     {
-        ofToolBars.setObjectName(QStringLiteral("first"));
-        ofRibbon.setObjectName(QStringLiteral("second"));
+        ofToolBars.setObjectName("first");
+        ofRibbon.setObjectName("second");
         dialog.reset(new RyCustomizedDialog({&ofToolBars, &ofRibbon}, nullptr));
         dialog->show();
         RecordingPage::takeLog();
@@ -67,17 +67,17 @@ public:
 
     void accept() override
     {
-        calls << QStringLiteral("accept");
+        calls << "accept";
         RyCustomizedDialog::accept();
     }
     void reject() override
     {
-        calls << QStringLiteral("reject");
+        calls << "reject";
         RyCustomizedDialog::reject();
     }
     void done(int result) override
     {
-        calls << QStringLiteral("done %1").arg(result);
+        calls << QString("done %1").arg(result);
         RyCustomizedDialog::done(result);
     }
 
@@ -138,9 +138,9 @@ private:
 void tst_RyCustomizedDialog_Pages::thePagesAreMadeInOrder()
 {
     RyAbstatcManager first;
-    first.setObjectName(QStringLiteral("first"));
+    first.setObjectName("first");
     RyAbstatcManager second;
-    second.setObjectName(QStringLiteral("second"));
+    second.setObjectName("second");
     RecordingPage::takeLog();
     const RyCustomizedDialog dialog({&first, &second}, nullptr);
     QCOMPARE(RecordingPage::takeLog(),
@@ -155,7 +155,7 @@ void tst_RyCustomizedDialog_Pages::thePagesAreMadeInOrder()
 void tst_RyCustomizedDialog_Pages::aNullRibbonManagerIsPassedOn()
 {
     RyAbstatcManager first;
-    first.setObjectName(QStringLiteral("first"));
+    first.setObjectName("first");
     RecordingPage::takeLog();
     const RyCustomizedDialog dialog({&first, nullptr}, nullptr);
     const QStringList made = RecordingPage::takeLog().mid(0, 2);
@@ -165,7 +165,7 @@ void tst_RyCustomizedDialog_Pages::aNullRibbonManagerIsPassedOn()
 void tst_RyCustomizedDialog_Pages::furtherManagersAreIgnored()
 {
     RyAbstatcManager first;
-    first.setObjectName(QStringLiteral("first"));
+    first.setObjectName("first");
     RyAbstatcManager third;
     std::unique_ptr<RyAbstatcManager> deleted(new RyAbstatcManager);
     const QList<RyAbstatcManager *> managers{&first, nullptr, &third, nullptr, deleted.get()};
@@ -181,17 +181,17 @@ void tst_RyCustomizedDialog_Pages::thePagesAreTheTabs()
     const Opened opened;
     const QTabWidget *const tabs = opened.dialog->findChild<QTabWidget *>();
     QCOMPARE(tabs->count(), 2);
-    QCOMPARE(tabs->tabText(0), QStringLiteral("toolbar"));
-    QCOMPARE(tabs->tabText(1), QStringLiteral("ribbon"));
-    QCOMPARE(tabs->widget(0)->objectName(), QStringLiteral("toolbar"));
-    QCOMPARE(tabs->widget(1)->objectName(), QStringLiteral("ribbon"));
+    QCOMPARE(tabs->tabText(0), "toolbar");
+    QCOMPARE(tabs->tabText(1), "ribbon");
+    QCOMPARE(tabs->widget(0)->objectName(), "toolbar");
+    QCOMPARE(tabs->widget(1)->objectName(), "ribbon");
 }
 
 void tst_RyCustomizedDialog_Pages::thePageWidgetsMoveIntoTheTabs()
 {
     const Opened opened;
     const QTabWidget *const tabs = opened.dialog->findChild<QTabWidget *>();
-    for (const QString &name : {QStringLiteral("toolbar"), QStringLiteral("ribbon")}) {
+    for (const char *const name : {"toolbar", "ribbon"}) {
         const QWidget *const widget = opened.dialog->findChild<QWidget *>(name);
         QVERIFY(tabs->isAncestorOf(widget));
         QVERIFY(widget->parentWidget() != opened.dialog.get());
@@ -227,10 +227,9 @@ void tst_RyCustomizedDialog_Pages::addButtons()
     QTest::addColumn<QByteArray>("calls");
     QTest::addColumn<bool>("open");
     const QByteArray accepting = QByteArray(applied) + finished;
-    for (const QString &how : {QStringLiteral("mouse"), QStringLiteral("space"),
-                               QStringLiteral("enter"), QStringLiteral("click()")}) {
+    for (const char *const how : {"mouse", "space", "enter", "click()"}) {
         const auto row = [&how](const char *name) -> QTestData & {
-            return QTest::addRow("%s by %s", name, qPrintable(how));
+            return QTest::addRow("%s by %s", name, how);
         };
         row("OK") << QDialogButtonBox::Ok << how << accepting << false;
         row("Apply") << QDialogButtonBox::Apply << how << QByteArray(applied) << true;
@@ -239,24 +238,24 @@ void tst_RyCustomizedDialog_Pages::addButtons()
                                 << true;
     }
     QTest::newRow("OK by enter elsewhere")
-        << QDialogButtonBox::Ok << QStringLiteral("enter elsewhere") << accepting << false;
+        << QDialogButtonBox::Ok << "enter elsewhere" << accepting << false;
 }
 
 void tst_RyCustomizedDialog_Pages::press(QPushButton *button, const QString &how)
 {
     QVERIFY(QTest::qWaitForWindowActive(button->window()));
     QWindow *const window = button->window()->windowHandle();
-    if (how == QLatin1String("mouse")) {
+    if (how == "mouse") {
         QTest::mouseClick(button, Qt::LeftButton);
-    } else if (how == QLatin1String("click()")) {
+    } else if (how == "click()") {
         button->click();
-    } else if (how == QLatin1String("enter elsewhere")) {
+    } else if (how == "enter elsewhere") {
         button->window()->findChild<QTabBar *>()->setFocus();
         QTest::keyClick(window, Qt::Key_Return);
     } else {
         button->setFocus();
         QVERIFY(button->hasFocus());
-        QTest::keyClick(window, how == QLatin1String("space") ? Qt::Key_Space : Qt::Key_Enter);
+        QTest::keyClick(window, how == "space" ? Qt::Key_Space : Qt::Key_Enter);
     }
 }
 
@@ -422,7 +421,7 @@ void tst_RyCustomizedDialog_Pages::noPageIsReachedAfterADeletion()
                                  "ribbon deleted before its widget\n");
     const QStringList found = RecordingPage::takeLog();
     QCOMPARE(found.mid(0, expected.size() + 2), expected + ends);
-    QCOMPARE(found.filter(QStringLiteral("widget gone")), found.mid(expected.size() + 2));
+    QCOMPARE(found.filter("widget gone"), found.mid(expected.size() + 2));
 }
 
 void tst_RyCustomizedDialog_Pages::applyThenOkAppliesTwice()
@@ -458,8 +457,8 @@ void tst_RyCustomizedDialog_Pages::okAndCancelBypassOverriddenFunctions_data()
 {
     QTest::addColumn<QDialogButtonBox::StandardButton>("which");
     QTest::addColumn<QString>("done");
-    QTest::newRow("OK") << QDialogButtonBox::Ok << QStringLiteral("done 1");
-    QTest::newRow("Cancel") << QDialogButtonBox::Cancel << QStringLiteral("done 0");
+    QTest::newRow("OK") << QDialogButtonBox::Ok << "done 1";
+    QTest::newRow("Cancel") << QDialogButtonBox::Cancel << "done 0";
 }
 
 // The dialog calls QDialog's accept() and reject(), which end in the virtual done().
@@ -475,7 +474,7 @@ void tst_RyCustomizedDialog_Pages::okAndCancelBypassOverriddenFunctions()
 
 void tst_RyCustomizedDialog_Pages::escapeAndCloseCallTheVirtualReject()
 {
-    const QStringList expected{QStringLiteral("reject"), QStringLiteral("done 0")};
+    const QStringList expected{"reject", "done 0"};
     OverridingDialog dialog;
     dialog.show();
     QTest::keyClick(&dialog, Qt::Key_Escape);

@@ -13,9 +13,7 @@ namespace {
 QString protocolsOf(const QWidget *window)
 {
     QProcess process;
-    process.start(
-        QStringLiteral("xprop"),
-        {QStringLiteral("-id"), QString::number(window->winId()), QStringLiteral("WM_PROTOCOLS")});
+    process.start("xprop", {"-id", QString::number(window->winId()), "WM_PROTOCOLS"});
     if (!process.waitForFinished() || process.exitCode() != 0)
         QTest::qFail("xprop failed", __FILE__, __LINE__);
     return QString::fromUtf8(process.readAllStandardOutput());
@@ -40,7 +38,7 @@ void tst_RyCustomizedDialog_TitleBar::offersToClose()
     RyCustomizedDialog dialog({&host.manager, nullptr}, nullptr);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QVERIFY(protocolsOf(&dialog).contains(QLatin1String("WM_DELETE_WINDOW")));
+    QVERIFY(protocolsOf(&dialog).contains("WM_DELETE_WINDOW"));
 }
 
 void tst_RyCustomizedDialog_TitleBar::offersNoContextHelp()
@@ -49,7 +47,7 @@ void tst_RyCustomizedDialog_TitleBar::offersNoContextHelp()
     RyCustomizedDialog dialog({&host.manager, nullptr}, nullptr);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QVERIFY(!protocolsOf(&dialog).contains(QLatin1String("_NET_WM_CONTEXT_HELP")));
+    QVERIFY(!protocolsOf(&dialog).contains("_NET_WM_CONTEXT_HELP"));
 }
 
 void tst_RyCustomizedDialog_TitleBar::offersContextHelpForOtherDialogs()
@@ -57,7 +55,7 @@ void tst_RyCustomizedDialog_TitleBar::offersContextHelpForOtherDialogs()
     QDialog dialog;
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QVERIFY(protocolsOf(&dialog).contains(QLatin1String("_NET_WM_CONTEXT_HELP")));
+    QVERIFY(protocolsOf(&dialog).contains("_NET_WM_CONTEXT_HELP"));
 }
 
 QTEST_MAIN(tst_RyCustomizedDialog_TitleBar)

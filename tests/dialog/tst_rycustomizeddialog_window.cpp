@@ -24,10 +24,10 @@ struct Stage : DialogStage
 {
     Stage()
     {
-        host.defaultToolBar(QStringLiteral("file"), words("open | save"), QStringLiteral("File"));
-        host.registered(QStringLiteral("cut"), QStringLiteral("Edit"));
-        host.registered(QStringLiteral("paste"), QStringLiteral("Edit"));
-        mine = host.manager.createToolBar(QStringLiteral("Mine"));
+        host.defaultToolBar("file", words("open | save"), "File");
+        host.registered("cut", "Edit");
+        host.registered("paste", "Edit");
+        mine = host.manager.createToolBar("Mine");
         host.manager.setToolBar(mine, host.list(words("cut")));
         host.window.resize(1000, 800);
     }
@@ -39,7 +39,7 @@ struct Stage : DialogStage
         moveTo(list, text);
         user.press();
         user.release();
-        user.waitFor(QStringLiteral("row"), [list, text] { return currentOf(list) == text; });
+        user.waitFor("row", [list, text] { return currentOf(list) == text; });
     }
 
     void clickTab(int index)
@@ -48,14 +48,12 @@ struct Stage : DialogStage
         user.moveTo([bar] { return bar; }, [bar, index] { return bar->tabRect(index).center(); });
         user.press();
         user.release();
-        user.waitFor(QStringLiteral("tab"),
-                     [this, index] { return tabs->currentIndex() == index; });
+        user.waitFor("tab", [this, index] { return tabs->currentIndex() == index; });
     }
 
     template <typename View> void moveTo(View *view, const QString &text)
     {
-        user.waitFor(QStringLiteral("item ") + text,
-                     [view, text] { return itemNamed(view, text); });
+        user.waitFor("item " + text, [view, text] { return itemNamed(view, text); });
         user.moveTo([view] { return view->viewport(); },
                     [view, text] { return view->visualItemRect(itemNamed(view, text)).center(); });
     }
@@ -77,8 +75,7 @@ struct Stage : DialogStage
     void pressButton(QToolButton *button, const char *rows)
     {
         user.click(button);
-        user.waitFor(QLatin1String(rows),
-                     [this, rows] { return views.currentRows() == words(rows); });
+        user.waitFor(rows, [this, rows] { return views.currentRows() == words(rows); });
     }
 
     void newToolBar(const QString &name)
@@ -123,7 +120,7 @@ void tst_RyCustomizedDialog_Window::okAccepts()
     Stage stage;
     stage.waitForDialog();
     stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.exec(), "accepted");
     QVERIFY(!stage.dialog.isVisible());
     QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
     QCOMPARE(standingOn(stage.mine), words("cut"));
@@ -134,7 +131,7 @@ void tst_RyCustomizedDialog_Window::cancelRejects()
     Stage stage;
     stage.waitForDialog();
     stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.exec(), "rejected");
 }
 
 void tst_RyCustomizedDialog_Window::escapeRejects()
@@ -142,7 +139,7 @@ void tst_RyCustomizedDialog_Window::escapeRejects()
     Stage stage;
     stage.waitForDialog();
     stage.user.clickKey(Qt::Key_Escape, [&] { return !stage.dialog.isVisible(); });
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.exec(), "rejected");
 }
 
 void tst_RyCustomizedDialog_Window::closingTheWindowRejects()
@@ -150,20 +147,19 @@ void tst_RyCustomizedDialog_Window::closingTheWindowRejects()
     Stage stage;
     stage.waitForDialog();
     stage.user.step(
-        QStringLiteral("close"),
-        [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
+        "close", [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
         [&] { return !stage.dialog.isVisible(); });
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.exec(), "rejected");
 }
 
 void tst_RyCustomizedDialog_Window::returnPressesOk()
 {
     Stage stage;
     stage.waitForDialog();
-    stage.click(stage.views.toolBarList, QStringLiteral("Mine"));
+    stage.click(stage.views.toolBarList, "Mine");
     stage.user.click(stage.views.leftButton);
     stage.user.clickKey(Qt::Key_Return, [&] { return !stage.dialog.isVisible(); });
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.exec(), "accepted");
     QCOMPARE(standingOn(stage.mine), QStringList());
 }
 
@@ -174,7 +170,7 @@ void tst_RyCustomizedDialog_Window::theWindowHasNoHelpButtonAndIsModal()
     stage.waitForDialog();
     stage.user.act([&] { modal = QApplication::activeModalWidget() == &stage.dialog; });
     stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.exec(), "rejected");
     QVERIFY(modal);
     const QDialog plain(&stage.host.window);
     QCOMPARE(stage.dialog.windowFlags(),
@@ -184,8 +180,8 @@ void tst_RyCustomizedDialog_Window::theWindowHasNoHelpButtonAndIsModal()
 void tst_RyCustomizedDialog_Window::theHostTakesNoClicksMeanwhile()
 {
     Stage stage;
-    QSignalSpy triggered(stage.host.action(QStringLiteral("cut")), &QAction::triggered);
-    QWidget *const button = stage.mine->widgetForAction(stage.host.action(QStringLiteral("cut")));
+    QSignalSpy triggered(stage.host.action("cut"), &QAction::triggered);
+    QWidget *const button = stage.mine->widgetForAction(stage.host.action("cut"));
     stage.waitForDialog();
     stage.user.act([&] {
         stage.user.input.moveTo(button->mapToGlobal(button->rect().center()));
@@ -194,7 +190,7 @@ void tst_RyCustomizedDialog_Window::theHostTakesNoClicksMeanwhile()
     // The server reports it before it reports this.
     stage.clickTab(1);
     stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.exec(), "rejected");
     QCOMPARE(triggered.count(), 0);
 
     UserScript later;
@@ -207,25 +203,25 @@ void tst_RyCustomizedDialog_Window::theUserMakesAToolBar()
 {
     Stage stage;
     stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("My Tools"));
-    stage.openCategory(QStringLiteral("Edit"));
-    stage.addByDoubleClick(QStringLiteral("Cut"), "Cut");
-    stage.addByDoubleClick(QStringLiteral("< S E P A R A T O R >"), "Cut |");
-    stage.addByDoubleClick(QStringLiteral("Paste"), "Cut | Paste");
+    stage.newToolBar("My Tools");
+    stage.openCategory("Edit");
+    stage.addByDoubleClick("Cut", "Cut");
+    stage.addByDoubleClick("< S E P A R A T O R >", "Cut |");
+    stage.addByDoubleClick("Paste", "Cut | Paste");
     stage.pressButton(stage.views.upButton, "Cut Paste |");
     stage.pressButton(stage.views.upButton, "Paste Cut |");
     stage.pressButton(stage.views.downButton, "Cut Paste |");
     stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QToolBar *const made = stage.host.manager.toolBarByName(QStringLiteral("_Custom_Toolbar_2"));
+    QCOMPARE(stage.exec(), "accepted");
+    QToolBar *const made = stage.host.manager.toolBarByName("_Custom_Toolbar_2");
     QVERIFY(made);
-    QCOMPARE(made->windowTitle(), QStringLiteral("My Tools"));
+    QCOMPARE(made->windowTitle(), "My Tools");
     QCOMPARE(standingOn(made), words("cut paste |"));
     QVERIFY(made->isVisible());
     QCOMPARE(made->window(), &stage.host.window);
 
     // It is no picture: its buttons work.
-    QAction *const paste = stage.host.action(QStringLiteral("paste"));
+    QAction *const paste = stage.host.action("paste");
     QSignalSpy triggered(paste, &QAction::triggered);
     UserScript later;
     later.click(made->widgetForAction(paste));
@@ -237,9 +233,9 @@ void tst_RyCustomizedDialog_Window::cancelDropsWhatTheUserMade()
 {
     Stage stage;
     stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("My Tools"));
+    stage.newToolBar("My Tools");
     stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.exec(), "rejected");
     QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
 }
 
@@ -247,12 +243,11 @@ void tst_RyCustomizedDialog_Window::closingTheWindowDropsWhatTheUserMade()
 {
     Stage stage;
     stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("My Tools"));
+    stage.newToolBar("My Tools");
     stage.user.step(
-        QStringLiteral("close"),
-        [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
+        "close", [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
         [&] { return !stage.dialog.isVisible(); });
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.exec(), "rejected");
     QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
 }
 
@@ -261,15 +256,14 @@ void tst_RyCustomizedDialog_Window::applyShowsItAndKeepsTheDialog()
     Stage stage;
     bool openAfterApply = false;
     stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("Tools"));
+    stage.newToolBar("Tools");
     stage.user.click(stage.dialog.applyButton());
-    stage.user.waitFor(QStringLiteral("toolbar"), [&] {
-        return toolBarTitlesIn(stage.host.window) == words("File Mine Tools");
-    });
+    stage.user.waitFor(
+        "toolbar", [&] { return toolBarTitlesIn(stage.host.window) == words("File Mine Tools"); });
     stage.user.act([&] { openAfterApply = stage.dialog.isVisible(); });
-    stage.newToolBar(QStringLiteral("Dropped"));
+    stage.newToolBar("Dropped");
     stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.exec(), "rejected");
     QVERIFY(openAfterApply);
     QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine Tools"));
 }
@@ -280,15 +274,13 @@ void tst_RyCustomizedDialog_Window::escapeInTheNameEditorKeepsTheDialogAndTheNam
     bool openAfterEscape = false;
     stage.waitForDialog();
     stage.user.click(stage.views.newButton);
-    stage.typeName(QStringLiteral("Other"));
+    stage.typeName("Other");
     stage.user.clickKey(Qt::Key_Escape, [&] { return !stage.nameEditor(); });
     stage.user.act([&] { openAfterEscape = stage.dialog.isVisible(); });
     stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.exec(), "accepted");
     QVERIFY(openAfterEscape);
-    QCOMPARE(toolBarTitlesIn(stage.host.window),
-             (QStringList{QStringLiteral("Custom Toolbar"), QStringLiteral("File"),
-                          QStringLiteral("Mine")}));
+    QCOMPARE(toolBarTitlesIn(stage.host.window), (QStringList{"Custom Toolbar", "File", "Mine"}));
 }
 
 void tst_RyCustomizedDialog_Window::theUserRenamesAToolBar()
@@ -296,15 +288,15 @@ void tst_RyCustomizedDialog_Window::theUserRenamesAToolBar()
     Stage stage;
     QStringList rows;
     stage.waitForDialog();
-    stage.click(stage.views.toolBarList, QStringLiteral("Mine"));
+    stage.click(stage.views.toolBarList, "Mine");
     stage.user.click(stage.views.renameButton);
-    stage.typeName(QStringLiteral("Afterwards"));
+    stage.typeName("Afterwards");
     stage.user.clickKey(Qt::Key_Return, [&] { return !stage.nameEditor(); });
     stage.user.act([&] { rows = rowsOf(stage.views.toolBarList); });
     stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.exec(), "accepted");
     QCOMPARE(rows, words("Afterwards File"));
-    QCOMPARE(stage.mine->windowTitle(), QStringLiteral("Afterwards"));
+    QCOMPARE(stage.mine->windowTitle(), "Afterwards");
     QCOMPARE(standingOn(stage.mine), words("cut"));
 }
 
@@ -313,12 +305,12 @@ void tst_RyCustomizedDialog_Window::theUserRemovesAToolBar()
     Stage stage;
     const QPointer<QToolBar> mine = stage.mine;
     stage.waitForDialog();
-    stage.click(stage.views.toolBarList, QStringLiteral("Mine"));
+    stage.click(stage.views.toolBarList, "Mine");
     stage.user.click(stage.views.removeButton);
-    stage.user.waitFor(QStringLiteral("row gone"),
+    stage.user.waitFor("row gone",
                        [&] { return rowsOf(stage.views.toolBarList) == words("File"); });
     stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.exec(), "accepted");
     QTRY_VERIFY(!mine);
     QCOMPARE(toolBarTitlesIn(stage.host.window), words("File"));
 }
@@ -327,16 +319,15 @@ void tst_RyCustomizedDialog_Window::theUserReordersAndRemovesActions()
 {
     Stage stage;
     stage.waitForDialog();
-    stage.click(stage.views.toolBarList, QStringLiteral("File"));
-    stage.click(stage.views.currentToolBarList, QStringLiteral("Save"));
+    stage.click(stage.views.toolBarList, "File");
+    stage.click(stage.views.currentToolBarList, "Save");
     stage.pressButton(stage.views.upButton, "Open Save |");
     stage.pressButton(stage.views.upButton, "Save Open |");
-    stage.moveTo(stage.views.currentToolBarList, QStringLiteral("Open"));
+    stage.moveTo(stage.views.currentToolBarList, "Open");
     stage.user.doubleClick([&] { return stage.views.currentRows() == words("Save |"); });
     stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(standingOn(stage.host.window.findChild<QToolBar *>(QStringLiteral("file"))),
-             words("save |"));
+    QCOMPARE(stage.exec(), "accepted");
+    QCOMPARE(standingOn(stage.host.window.findChild<QToolBar *>("file")), words("save |"));
 }
 
 void tst_RyCustomizedDialog_Window::switchingTabsDiscardsTheEdits()
@@ -344,12 +335,12 @@ void tst_RyCustomizedDialog_Window::switchingTabsDiscardsTheEdits()
     Stage stage;
     QStringList rows;
     stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("Lost"));
+    stage.newToolBar("Lost");
     stage.clickTab(1);
     stage.clickTab(0);
     stage.user.act([&] { rows = rowsOf(stage.views.toolBarList); });
     stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.exec(), "accepted");
     QCOMPARE(rows, words("File Mine"));
     QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
 }
@@ -360,11 +351,11 @@ void tst_RyCustomizedDialog_Window::restoreDefaultsRemovesCustomToolBars()
     QStringList titlesBeforeOk;
     stage.waitForDialog();
     stage.user.click(stage.dialog.RestoreDefaultButton());
-    stage.user.waitFor(QStringLiteral("row gone"),
+    stage.user.waitFor("row gone",
                        [&] { return rowsOf(stage.views.toolBarList) == words("File"); });
     stage.user.act([&] { titlesBeforeOk = toolBarTitlesIn(stage.host.window); });
     stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
+    QCOMPARE(stage.exec(), "accepted");
     QCOMPARE(titlesBeforeOk, words("File Mine"));
     QTRY_COMPARE(toolBarTitlesIn(stage.host.window), words("File"));
 }
@@ -377,7 +368,7 @@ void tst_RyCustomizedDialog_Window::helpShowsItsMessage()
     const auto box = [] { return qobject_cast<QMessageBox *>(QApplication::activeWindow()); };
     stage.waitForDialog();
     stage.user.click(stage.dialog.helpButton());
-    stage.user.waitFor(QStringLiteral("message"), [=] {
+    stage.user.waitFor("message", [=] {
         return box() && box()->windowHandle() == QGuiApplication::focusWindow();
     });
     stage.user.act([&] {
@@ -388,9 +379,9 @@ void tst_RyCustomizedDialog_Window::helpShowsItsMessage()
     stage.user.clickKey(Qt::Key_Return,
                         [&] { return QApplication::activeModalWidget() == &stage.dialog; });
     stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-    QCOMPARE(title, QStringLiteral("help"));
-    QCOMPARE(text, QStringLiteral("KORVA help  doc!"));
+    QCOMPARE(stage.exec(), "rejected");
+    QCOMPARE(title, "help");
+    QCOMPARE(text, "KORVA help  doc!");
 }
 
 QTEST_MAIN(tst_RyCustomizedDialog_Window)

@@ -20,10 +20,8 @@ struct ChangedHost : Host
 {
     ChangedHost()
     {
-        file = defaultToolBar(QStringLiteral("file"),
-                              {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                              QStringLiteral("File"));
-        manager.setToolBar(file, list({QStringLiteral("save")}));
+        file = defaultToolBar("file", {"open", "|", "save"}, "File");
+        manager.setToolBar(file, list({"save"}));
     }
 
     QToolBar *file;
@@ -42,12 +40,10 @@ template <auto... Fields> struct FieldOffsets
 
 template struct FieldOffsets<&RyCToolBarPage::m_widget, &RyCToolBarPage::m_manager>;
 
-const QStringList defaultContent{QStringLiteral("open"), QStringLiteral("|"),
-                                 QStringLiteral("save")};
-const QStringList changedContent{QStringLiteral("save")};
-const QStringList defaultRows{QStringLiteral("Open"), QStringLiteral("< S E P A R A T O R >"),
-                              QStringLiteral("Save")};
-const QStringList changedRows{QStringLiteral("Save")};
+const QStringList defaultContent{"open", "|", "save"};
+const QStringList changedContent{"save"};
+const QStringList defaultRows{"Open", "< S E P A R A T O R >", "Save"};
+const QStringList changedRows{"Save"};
 
 } // namespace
 
@@ -95,17 +91,17 @@ void tst_RyCToolBarPage::theFieldsStandInTheirOrder()
 void tst_RyCToolBarPage::isNamedToolBar()
 {
     const RyCToolBarPage page(nullptr);
-    QCOMPARE(page.name(), QStringLiteral("ToolBar"));
+    QCOMPARE(page.name(), "ToolBar");
 }
 
 void tst_RyCToolBarPage::itsNameIsLookedUpAtEachCall()
 {
     const RyCToolBarPage page(nullptr);
     RecordingTranslator translator;
-    QCOMPARE(page.name(), QStringLiteral("translated ToolBar"));
-    QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("RyCToolBarPage: ToolBar")});
+    QCOMPARE(page.name(), "translated ToolBar");
+    QCOMPARE(translator.takeLookUps(), QStringList{"RyCToolBarPage: ToolBar"});
     page.name();
-    QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("RyCToolBarPage: ToolBar")});
+    QCOMPARE(translator.takeLookUps(), QStringList{"RyCToolBarPage: ToolBar"});
 }
 
 void tst_RyCToolBarPage::beforeCreatePageTheButtonsDoNothing()
@@ -142,7 +138,7 @@ void tst_RyCToolBarPage::theEditorShowsWhatTheManagerHolds()
     const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
     widget->show();
     const EditorViews editor(widget.get());
-    QCOMPARE(rowsOf(editor.toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(editor.toolBarList), QStringList{"File"});
     QCOMPARE(rowsOf(editor.currentToolBarList), changedRows);
 }
 
@@ -163,10 +159,10 @@ void tst_RyCToolBarPage::applyWritesTheWorkingCopy()
     const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
     widget->show();
     const EditorViews editor(widget.get());
-    editor.doubleClick(editor.actionTree, QStringLiteral("Open"));
+    editor.doubleClick(editor.actionTree, "Open");
     QCOMPARE(standingOn(host.file), changedContent);
     page.apply();
-    const QStringList written{QStringLiteral("save"), QStringLiteral("open")};
+    const QStringList written{"save", "open"};
     QCOMPARE(standingOn(host.file), written);
     QCOMPARE(contentOf(host.manager.toolBarsActions().value(host.file)), written);
 }
@@ -179,7 +175,7 @@ void tst_RyCToolBarPage::finishDoesNothing()
     page.finish();
     widget->show();
     const EditorViews editor(widget.get());
-    editor.doubleClick(editor.actionTree, QStringLiteral("Open"));
+    editor.doubleClick(editor.actionTree, "Open");
     const QStringList rows = rowsOf(editor.currentToolBarList);
     const QStringList buttons = editor.enabledButtons();
     page.finish();
@@ -204,7 +200,7 @@ void tst_RyCToolBarPage::restoreDefaultsResetsTheWorkingCopyOnly()
 void tst_RyCToolBarPage::restoreDefaultsThenApplyResetsTheHost()
 {
     ChangedHost host;
-    QToolBar *const custom = host.manager.createToolBar(QStringLiteral("Mine"));
+    QToolBar *const custom = host.manager.createToolBar("Mine");
     const QPointer<QToolBar> guard = custom;
     RyCToolBarPage page(&host.manager);
     const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
@@ -223,10 +219,10 @@ void tst_RyCToolBarPage::applyTwiceWritesTwice()
     const std::unique_ptr<QWidget> widget(page.createPage(nullptr));
     widget->show();
     for (int i = 0; i < 2; ++i) {
-        host.file->setWindowTitle(QStringLiteral("Renamed by the host"));
+        host.file->setWindowTitle("Renamed by the host");
         host.manager.setToolBar(host.file, {});
         page.apply();
-        QCOMPARE(host.file->windowTitle(), QStringLiteral("File"));
+        QCOMPARE(host.file->windowTitle(), "File");
         QCOMPARE(standingOn(host.file), changedContent);
     }
 }
@@ -296,9 +292,9 @@ void tst_RyCToolBarPage::theEditorWorksWithoutItsPage()
         widget->show();
     }
     const EditorViews editor(widget.get());
-    editor.doubleClick(editor.actionTree, QStringLiteral("Open"));
+    editor.doubleClick(editor.actionTree, "Open");
     QVERIFY(QMetaObject::invokeMethod(widget.get(), "applyClicked"));
-    const QStringList written{QStringLiteral("save"), QStringLiteral("open")};
+    const QStringList written{"save", "open"};
     QCOMPARE(standingOn(host.file), written);
 }
 

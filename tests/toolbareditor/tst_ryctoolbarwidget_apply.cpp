@@ -14,7 +14,7 @@
 
 namespace {
 
-const QString Separator = QStringLiteral("< S E P A R A T O R >");
+const QString Separator = "< S E P A R A T O R >";
 
 // Writes down in order what happens to the toolbars of a host: content, titles, creation, deletion.
 class ToolBarRecorder : public QObject
@@ -39,14 +39,14 @@ public:
                 noteChild(static_cast<QChildEvent *>(event));
             break;
         case QEvent::ActionAdded:
-            note(QLatin1String("+") + contentOf({static_cast<QActionEvent *>(event)->action()})[0]
-                 + QLatin1String(" on ") + name);
+            note("+" + contentOf({static_cast<QActionEvent *>(event)->action()})[0] + " on "
+                 + name);
             break;
         case QEvent::ActionRemoved:
-            note(QLatin1String("content of ") + name);
+            note("content of " + name);
             break;
         case QEvent::WindowTitleChange:
-            note(static_cast<QWidget *>(watched)->windowTitle() + QLatin1String(" titles ") + name);
+            note(static_cast<QWidget *>(watched)->windowTitle() + " titles " + name);
             break;
         default:
             break;
@@ -68,10 +68,10 @@ private:
         if (!event->child()->isWidgetType())
             return;
         if (event->added()) {
-            watch(event->child(), QStringLiteral("new"));
-            note(QStringLiteral("created"));
+            watch(event->child(), "new");
+            note("created");
         } else if (event->removed()) {
-            note(QLatin1String("deleted ") + m_names.value(event->child()));
+            note("deleted " + m_names.value(event->child()));
         }
     }
 
@@ -92,14 +92,11 @@ class FilledHost : public Host
 public:
     FilledHost()
     {
-        defaultToolBar(QStringLiteral("file"),
-                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                       QStringLiteral("Files"));
+        defaultToolBar("file", {"open", "|", "save"}, "Files");
         for (const char *name : {"copy", "cut", "paste", "zoom"})
-            registered(QLatin1String(name), QStringLiteral("Edits"));
-        customToolBar(*this, QStringLiteral("Mine"),
-                      {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
-        customToolBar(*this, QStringLiteral("Tools"), {QStringLiteral("|"), QStringLiteral("cut")});
+            registered(name, "Edits");
+        customToolBar(*this, "Mine", {"cut", "copy", "paste"});
+        customToolBar(*this, "Tools", {"|", "cut"});
     }
 };
 
@@ -185,7 +182,7 @@ private Q_SLOTS:
 void tst_RyCToolBarWidget_Apply::applyWithoutEditsTouchesNoContent()
 {
     FilledHost host;
-    QToolBar *const file = toolBarTitled(host.manager, QStringLiteral("File"));
+    QToolBar *const file = toolBarTitled(host.manager, "File");
     const auto standing = file->actions();
     ShownEditor editor(&host.manager);
     ToolBarRecorder recorder(host);
@@ -202,8 +199,7 @@ void tst_RyCToolBarWidget_Apply::applyWritesToolBarsThatWereNotEdited()
     ShownEditor editor(&host.manager);
     const QStringList before = toolBarsOf(host.manager);
     for (const char *title : {"File", "Mine", "Tools"})
-        host.manager.setToolBar(toolBarTitled(host.manager, QLatin1String(title)),
-                                host.list({QStringLiteral("zoom"), QStringLiteral("|")}));
+        host.manager.setToolBar(toolBarTitled(host.manager, title), host.list({"zoom", "|"}));
     QVERIFY(toolBarsOf(host.manager) != before);
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager), before);
@@ -213,69 +209,74 @@ void tst_RyCToolBarWidget_Apply::applyWritesTheEditedContent()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("File");
+    editor.views.doubleClick(editor.views.actionTree, "Zoom");
+    editor.selectToolBar("Mine");
     editor.views.doubleClick(editor.views.currentToolBarList, 1);
     editor.views.doubleClick(editor.views.actionTree, Separator);
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open zoom | save"),
-                          QStringLiteral("Mine: cut paste |"), QStringLiteral("Tools: | cut")}));
+             QStringList({"File: open zoom | save", "Mine: cut paste |", "Tools: | cut"}));
 }
 
 void tst_RyCToolBarWidget_Apply::applyAlwaysSetsTheTitle()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    QToolBar *const file = toolBarTitled(host.manager, QStringLiteral("File"));
-    QToolBar *const mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
-    file->setWindowTitle(QStringLiteral("Changed by the host"));
+    QToolBar *const file = toolBarTitled(host.manager, "File");
+    QToolBar *const mine = toolBarTitled(host.manager, "Mine");
+    file->setWindowTitle("Changed by the host");
     mine->setWindowTitle(QString());
     editor.widget.applyClicked();
-    QCOMPARE(file->windowTitle(), QStringLiteral("File"));
-    QCOMPARE(mine->windowTitle(), QStringLiteral("Mine"));
+    QCOMPARE(file->windowTitle(), "File");
+    QCOMPARE(mine->windowTitle(), "Mine");
 }
 
 void tst_RyCToolBarWidget_Apply::applyWorksInPhases()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Tools"));
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom"), Separator});
+    removeToolBar(editor, "Tools");
+    makeToolBar(editor, "Yours", {"Zoom", Separator});
     ToolBarRecorder recorder(host);
     for (const char *title : {"File", "Mine"}) {
-        editor.selectToolBar(QLatin1String(title));
+        editor.selectToolBar(title);
         editor.selectEntry(0);
         editor.call("leftClicked");
-        toolBarTitled(host.manager, QLatin1String(title))->setWindowTitle(QStringLiteral("Host's"));
+        toolBarTitled(host.manager, title)->setWindowTitle("Host's");
     }
     recorder.events.clear();
     QStringList expected;
     const auto records = EditorFields::of(editor.widget).workingActions.keys();
     for (const ToolBarItem *record : records) {
-        if (record->toolBarName() == QLatin1String("File"))
-            expected << QStringLiteral("content of File") << QStringLiteral("+\"\" on File")
-                     << QStringLiteral("+save on File") << QStringLiteral("File titles File");
-        else if (record->toolBarName() == QLatin1String("Mine"))
-            expected << QStringLiteral("content of Mine") << QStringLiteral("+copy on Mine")
-                     << QStringLiteral("+paste on Mine") << QStringLiteral("Mine titles Mine");
+        if (record->toolBarName() == "File")
+            expected << "content of File"
+                     << "+\"\" on File"
+                     << "+save on File"
+                     << "File titles File";
+        else if (record->toolBarName() == "Mine")
+            expected << "content of Mine"
+                     << "+copy on Mine"
+                     << "+paste on Mine"
+                     << "Mine titles Mine";
     }
-    expected << QStringLiteral("content of Tools") << QStringLiteral("deleted Tools")
-             << QStringLiteral("created") << QStringLiteral("Yours titles new")
-             << QStringLiteral("+zoom on new") << QStringLiteral("+\"\" on new");
+    expected << "content of Tools"
+             << "deleted Tools"
+             << "created"
+             << "Yours titles new"
+             << "+zoom on new"
+             << "+\"\" on new";
     editor.widget.applyClicked();
-    QCOMPARE(recorder.events.join(QLatin1Char('\n')), expected.join(QLatin1Char('\n')));
+    QCOMPARE(recorder.events.join('\n'), expected.join('\n'));
     QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: | save"), QStringLiteral("Mine: copy paste"),
-                          QStringLiteral("Yours: zoom |")}));
+             QStringList({"File: | save", "Mine: copy paste", "Yours: zoom |"}));
 }
 
 void tst_RyCToolBarWidget_Apply::applyWritesTheToolBarsInTheOrderOfTheRecords()
 {
     FilledHost host;
     for (int i = 0; i < 8; ++i)
-        customToolBar(host, QStringLiteral("Toolbar %1").arg(i), {});
+        customToolBar(host, QString("Toolbar %1").arg(i), {});
     ShownEditor editor(&host.manager);
     // Freed records come back in another order.
     editor.widget.hide();
@@ -284,8 +285,8 @@ void tst_RyCToolBarWidget_Apply::applyWritesTheToolBarsInTheOrderOfTheRecords()
     const auto records = EditorFields::of(editor.widget).workingActions.keys();
     QVERIFY(std::is_sorted(records.cbegin(), records.cend(), std::less<ToolBarItem *>()));
     for (ToolBarItem *record : records) {
-        expected << record->toolBarName() + QStringLiteral(" titles Host's");
-        record->toolBar()->setWindowTitle(QStringLiteral("Host's"));
+        expected << record->toolBarName() + " titles Host's";
+        record->toolBar()->setWindowTitle("Host's");
     }
     ToolBarRecorder recorder(host);
     editor.widget.applyClicked();
@@ -295,31 +296,29 @@ void tst_RyCToolBarWidget_Apply::applyWritesTheToolBarsInTheOrderOfTheRecords()
 void tst_RyCToolBarWidget_Apply::aToolBarIsFilledBeforeItIsTitled()
 {
     Host host;
-    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Mine"), {});
+    host.registered("cut", "Edits");
+    customToolBar(host, "Mine", {});
     ShownEditor editor(&host.manager);
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Cut"));
+    editor.views.doubleClick(editor.views.actionTree, "Cut");
     editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Yours"));
+    editor.views.typeName("Yours");
     ToolBarRecorder recorder(host);
     editor.widget.applyClicked();
-    QCOMPARE(recorder.events,
-             QStringList({QStringLiteral("+cut on Mine"), QStringLiteral("Yours titles Mine")}));
+    QCOMPARE(recorder.events, QStringList({"+cut on Mine", "Yours titles Mine"}));
 }
 
 void tst_RyCToolBarWidget_Apply::aCreatedToolBarGetsItsNameAndThenItsContent()
 {
     Host host;
-    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-    host.registered(QStringLiteral("zoom"), QStringLiteral("Edits"));
+    host.registered("cut", "Edits");
+    host.registered("zoom", "Edits");
     ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Cut"), QStringLiteral("Zoom")});
+    makeToolBar(editor, "Yours", {"Cut", "Zoom"});
     ToolBarRecorder recorder(host);
     editor.widget.applyClicked();
     QCOMPARE(recorder.events,
-             QStringList({QStringLiteral("created"), QStringLiteral("Yours titles new"),
-                          QStringLiteral("+cut on new"), QStringLiteral("+zoom on new")}));
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("Yours: cut zoom")});
+             QStringList({"created", "Yours titles new", "+cut on new", "+zoom on new"}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"Yours: cut zoom"});
     QVERIFY(!host.manager.isDefaultToolBar(host.manager.toolBars().first()));
 }
 
@@ -327,10 +326,10 @@ void tst_RyCToolBarWidget_Apply::aCreatedToolBarIsAnExistingOneFromThenOn()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
+    makeToolBar(editor, "Yours", {"Zoom"});
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
     editor.widget.applyClicked();
-    QToolBar *const made = toolBarTitled(host.manager, QStringLiteral("Yours"));
+    QToolBar *const made = toolBarTitled(host.manager, "Yours");
     QVERIFY(made);
     QCOMPARE(record->toolBar(), made);
     EditorFields fields = EditorFields::of(editor.widget);
@@ -340,12 +339,12 @@ void tst_RyCToolBarWidget_Apply::aCreatedToolBarIsAnExistingOneFromThenOn()
     QCOMPARE(editor.inconsistency(), QString());
 
     // Edited again it is the same toolbar.
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Cut"));
+    editor.views.doubleClick(editor.views.actionTree, "Cut");
     editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Theirs"));
+    editor.views.typeName("Theirs");
     editor.widget.applyClicked();
-    QCOMPARE(made->windowTitle(), QStringLiteral("Theirs"));
-    QCOMPARE(standingOn(made), QStringList({QStringLiteral("zoom"), QStringLiteral("cut")}));
+    QCOMPARE(made->windowTitle(), "Theirs");
+    QCOMPARE(standingOn(made), QStringList({"zoom", "cut"}));
     QCOMPARE(host.manager.toolBars().size(), 4);
 
     // Removed it is deleted from the host.
@@ -361,25 +360,23 @@ void tst_RyCToolBarWidget_Apply::aCreatedToolBarGetsTheNextFreeObjectName()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    makeToolBar(editor, QStringLiteral("Yours"), {});
+    removeToolBar(editor, "Mine");
+    makeToolBar(editor, "Yours", {});
     editor.widget.applyClicked();
     // Deletion comes before creation, so that the number is free again.
-    QCOMPARE(host.manager.toolBarByName(QStringLiteral("_Custom_Toolbar_1"))->windowTitle(),
-             QStringLiteral("Yours"));
+    QCOMPARE(host.manager.toolBarByName("_Custom_Toolbar_1")->windowTitle(), "Yours");
 }
 
 void tst_RyCToolBarWidget_Apply::severalToolBarsAreCreatedAndDeleted()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    removeToolBar(editor, QStringLiteral("Tools"));
-    makeToolBar(editor, QStringLiteral("One"), {QStringLiteral("Cut")});
-    makeToolBar(editor, QStringLiteral("Two"), {QStringLiteral("Cut"), QStringLiteral("Copy")});
-    makeToolBar(editor, QStringLiteral("Two"), {});
-    const QStringList expected = {QStringLiteral("File: open | save"), QStringLiteral("One: cut"),
-                                  QStringLiteral("Two:"), QStringLiteral("Two: cut copy")};
+    removeToolBar(editor, "Mine");
+    removeToolBar(editor, "Tools");
+    makeToolBar(editor, "One", {"Cut"});
+    makeToolBar(editor, "Two", {"Cut", "Copy"});
+    makeToolBar(editor, "Two", {});
+    const QStringList expected = {"File: open | save", "One: cut", "Two:", "Two: cut copy"};
     QCOMPARE(editor.workingCopy(), expected);
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager), expected);
@@ -390,14 +387,13 @@ void tst_RyCToolBarWidget_Apply::severalToolBarsAreCreatedAndDeleted()
 void tst_RyCToolBarWidget_Apply::aRemovedToolBarIsDeleted()
 {
     FilledHost host;
-    const QPointer<QToolBar> mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
+    const QPointer<QToolBar> mine = toolBarTitled(host.manager, "Mine");
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
+    removeToolBar(editor, "Mine");
     QVERIFY(mine);
     editor.widget.applyClicked();
     QVERIFY(!mine);
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: open | save", "Tools: | cut"}));
     const EditorFields fields = EditorFields::of(editor.widget);
     QVERIFY(fields.removedRecords.isEmpty());
     QCOMPARE(fields.ownedRecords.size(), 2);
@@ -408,8 +404,8 @@ void tst_RyCToolBarWidget_Apply::applyingTwiceCreatesAndDeletesNothing()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom"), Separator});
+    removeToolBar(editor, "Mine");
+    makeToolBar(editor, "Yours", {"Zoom", Separator});
     editor.widget.applyClicked();
     const QStringList applied = toolBarsOf(host.manager);
     const auto toolBars = host.manager.toolBars();
@@ -421,7 +417,7 @@ void tst_RyCToolBarWidget_Apply::applyingTwiceCreatesAndDeletesNothing()
     QCOMPARE(host.manager.toolBars(), toolBars);
     // But the existing ones are written, the created one included.
     for (QToolBar *toolBar : toolBars) {
-        toolBar->setWindowTitle(QStringLiteral("Host's"));
+        toolBar->setWindowTitle("Host's");
         host.manager.setToolBar(toolBar, {});
     }
     editor.widget.applyClicked();
@@ -432,18 +428,18 @@ void tst_RyCToolBarWidget_Apply::applyLeavesTheViewsAsTheyAre()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Tools"));
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
-    editor.selectToolBar(QStringLiteral("Mine"));
+    removeToolBar(editor, "Tools");
+    makeToolBar(editor, "Yours", {"Zoom"});
+    editor.selectToolBar("Mine");
     editor.selectEntry(1);
-    editor.selectAction(QStringLiteral("Paste"));
+    editor.selectAction("Paste");
     const QListWidgetItem *const toolBar = editor.views.toolBarList->currentItem();
     const QListWidgetItem *const entry = editor.views.currentToolBarList->currentItem();
     const QTreeWidgetItem *const action = editor.views.actionTree->currentItem();
     const QStringList rows = rowsOf(editor.views.toolBarList);
     const QStringList buttons = editor.views.enabledButtons();
     // Known to the manager, but not shown before the next fill.
-    host.registered(QStringLiteral("late"), QStringLiteral("Edits"));
+    host.registered("late", "Edits");
 
     editor.widget.applyClicked();
     QCOMPARE(editor.views.toolBarList->currentItem(), toolBar);
@@ -451,7 +447,7 @@ void tst_RyCToolBarWidget_Apply::applyLeavesTheViewsAsTheyAre()
     QCOMPARE(editor.views.actionTree->currentItem(), action);
     QCOMPARE(rowsOf(editor.views.toolBarList), rows);
     QCOMPARE(editor.views.enabledButtons(), buttons);
-    QVERIFY(!itemNamed(editor.views.actionTree, QStringLiteral("Late")));
+    QVERIFY(!itemNamed(editor.views.actionTree, "Late"));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -463,22 +459,22 @@ void tst_RyCToolBarWidget_Apply::applyWhileTheNameIsEditedTakesTheOldName()
     QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
     QVERIFY(name);
     name->selectAll();
-    QTest::keyClicks(name, QStringLiteral("Yours"));
+    QTest::keyClicks(name, "Yours");
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("Custom Toolbar:")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"Custom Toolbar:"});
     QCOMPARE(editor.views.renameEditor(), name);
     QTest::keyClick(name, Qt::Key_Return);
     QTRY_VERIFY(!editor.views.renameEditor());
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("Yours:")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"Yours:"});
 }
 
 void tst_RyCToolBarWidget_Apply::applyIsDoneWhenItReturns()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
+    removeToolBar(editor, "Mine");
+    makeToolBar(editor, "Yours", {"Zoom"});
     editor.widget.applyClicked();
     const QStringList applied = toolBarsOf(host.manager);
     const int toolBars = host.window.findChildren<QToolBar *>().size();
@@ -495,13 +491,13 @@ void tst_RyCToolBarWidget_Apply::withoutAMainWindowNothingIsCreated()
     host.manager.setMainWindow(nullptr);
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
+    makeToolBar(editor, "Yours", {"Zoom"});
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager), before);
     QVERIFY(!record->toolBar());
     QVERIFY(EditorFields::of(editor.widget).createdRecords.isEmpty());
-    QVERIFY(itemNamed(editor.views.toolBarList, QStringLiteral("Yours")));
+    QVERIFY(itemNamed(editor.views.toolBarList, "Yours"));
 
     // It is treated as applied, so that it is not tried again.
     editor.widget.applyClicked();
@@ -522,29 +518,28 @@ void tst_RyCToolBarWidget_Apply::anActionThatTheHostTookAwayIsLeftOut()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    host.manager.removeAction(host.action(QStringLiteral("cut")));
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    host.manager.removeAction(host.action("cut"));
+    editor.selectToolBar("Mine");
+    editor.views.doubleClick(editor.views.actionTree, "Zoom");
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"),
-                          QStringLiteral("Mine: zoom copy paste"), QStringLiteral("Tools: |")}));
+             QStringList({"File: open | save", "Mine: zoom copy paste", "Tools: |"}));
 }
 
 void tst_RyCToolBarWidget_Apply::aToolBarThatTheHostDeletedIsLeftAlone()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Yours"));
-    host.manager.deleteToolBar(toolBarTitled(host.manager, QStringLiteral("Mine")));
+    editor.views.typeName("Yours");
+    host.manager.deleteToolBar(toolBarTitled(host.manager, "Mine"));
     editor.widget.applyClicked();
-    const QStringList left = {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")};
+    const QStringList left = {"File: open | save", "Tools: | cut"};
     QCOMPARE(toolBarsOf(host.manager), left);
     // Its row stays until it is removed or the editor is shown again.
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Yours"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Yours");
     editor.views.click(editor.views.removeButton);
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager), left);
@@ -555,29 +550,27 @@ void tst_RyCToolBarWidget_Apply::aRemovedToolBarThatTheHostDeletedIsLeftAlone()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    host.manager.deleteToolBar(toolBarTitled(host.manager, QStringLiteral("Mine")));
+    removeToolBar(editor, "Mine");
+    host.manager.deleteToolBar(toolBarTitled(host.manager, "Mine"));
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: open | save", "Tools: | cut"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::aToolBarThatTheManagerForgotStillGetsItsTitle()
 {
     FilledHost host;
-    QToolBar *const forgotten = toolBarTitled(host.manager, QStringLiteral("Mine"));
+    QToolBar *const forgotten = toolBarTitled(host.manager, "Mine");
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Yours"));
+    editor.views.typeName("Yours");
     host.manager.removeDefaultToolBar(forgotten);
     editor.widget.applyClicked();
-    QCOMPARE(forgotten->windowTitle(), QStringLiteral("Yours"));
+    QCOMPARE(forgotten->windowTitle(), "Yours");
     // Its content is the host's alone.
     QCOMPARE(standingOn(forgotten), QStringList());
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: open | save", "Tools: | cut"}));
 }
 
 void tst_RyCToolBarWidget_Apply::applyKeepsTheRecordsOfTheFill()
@@ -586,8 +579,8 @@ void tst_RyCToolBarWidget_Apply::applyKeepsTheRecordsOfTheFill()
     ShownEditor editor(&host.manager);
     const auto before = EditorFields::of(editor.widget).recordOfToolBar;
     QCOMPARE(before.size(), 3);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    makeToolBar(editor, QStringLiteral("Yours"), {});
+    removeToolBar(editor, "Mine");
+    makeToolBar(editor, "Yours", {});
     editor.widget.applyClicked();
     QCOMPARE(EditorFields::of(editor.widget).recordOfToolBar, before);
 }
@@ -596,19 +589,17 @@ void tst_RyCToolBarWidget_Apply::anUntitledToolBarIsRenamedAndRemoved()
 {
     FilledHost host;
     const QStringList others = toolBarsOf(host.manager);
-    const QPointer<QToolBar> untitled = customToolBar(host, QString(), {QStringLiteral("cut")});
+    const QPointer<QToolBar> untitled = customToolBar(host, QString(), {"cut"});
     ShownEditor editor(&host.manager);
-    QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({QString(), QStringLiteral("File"), QStringLiteral("Mine"),
-                          QStringLiteral("Tools")}));
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({QString(), "File", "Mine", "Tools"}));
     editor.selectToolBar(QString());
-    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{QStringLiteral("Cut")});
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{"Cut"});
+    editor.views.doubleClick(editor.views.actionTree, "Zoom");
     editor.widget.applyClicked();
     QCOMPARE(untitled->windowTitle(), QString());
-    QCOMPARE(standingOn(untitled), QStringList({QStringLiteral("cut"), QStringLiteral("zoom")}));
+    QCOMPARE(standingOn(untitled), QStringList({"cut", "zoom"}));
 
-    for (const QString &name : {QStringLiteral("Named"), QString()}) {
+    for (const QString &name : QStringList({"Named", QString()})) {
         editor.views.click(editor.views.renameButton);
         editor.views.typeName(name);
         QCOMPARE(editor.views.toolBarList->currentItem()->text(), name);
@@ -626,18 +617,18 @@ void tst_RyCToolBarWidget_Apply::anUntitledToolBarIsRenamedAndRemoved()
 void tst_RyCToolBarWidget_Apply::anUntitledDefaultToolBarStaysUntitled()
 {
     Host host;
-    QToolBar *const untitled = host.toolBar(QStringLiteral("file"), {QStringLiteral("open")});
+    QToolBar *const untitled = host.toolBar("file", {"open"});
     untitled->setWindowTitle(QString());
-    host.manager.addDefaultToolBar(untitled, QStringLiteral("Files"));
+    host.manager.addDefaultToolBar(untitled, "Files");
     ShownEditor editor(&host.manager);
     QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QString()});
     editor.call("renameClicked");
     QVERIFY(!editor.views.renameEditor());
     editor.call("removeClicked");
     editor.call("leftClicked");
-    untitled->setWindowTitle(QStringLiteral("Changed by the host"));
+    untitled->setWindowTitle("Changed by the host");
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral(":")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{":"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -645,7 +636,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsChangesTheWorkingCopyOnly()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.call("leftClicked");
     editor.widget.applyClicked();
     const QStringList before = toolBarsOf(host.manager);
@@ -653,25 +644,24 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsChangesTheWorkingCopyOnly()
     editor.widget.defaultClicked();
     QCOMPARE(toolBarsOf(host.manager), before);
     QCOMPARE(recorder.events, QStringList());
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsResetsTheContentOfDefaultToolBars()
 {
     FilledHost host;
-    host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom")}, QStringLiteral("View"));
-    host.defaultToolBar(QStringLiteral("help"), {}, QStringLiteral("Help"));
+    host.defaultToolBar("view", {"zoom"}, "View");
+    host.defaultToolBar("help", {}, "Help");
     // Edited before, edited now, not at all.
-    host.manager.setToolBar(toolBarTitled(host.manager, QStringLiteral("View")), {});
+    host.manager.setToolBar(toolBarTitled(host.manager, "View"), {});
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.call("downClicked");
-    editor.selectToolBar(QStringLiteral("Help"));
+    editor.selectToolBar("Help");
     editor.call("rightClicked");
     editor.widget.defaultClicked();
-    const QStringList defaults = {QStringLiteral("File: open | save"), QStringLiteral("Help:"),
-                                  QStringLiteral("View: zoom")};
+    const QStringList defaults = {"File: open | save", "Help:", "View: zoom"};
     QCOMPARE(editor.workingCopy(), defaults);
     QCOMPARE(editor.inconsistency(), QString());
     editor.widget.applyClicked();
@@ -682,13 +672,12 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsTheDefaultContent()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.views.doubleClick(editor.views.currentToolBarList, 2);
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    editor.views.doubleClick(editor.views.actionTree, "Zoom");
     editor.widget.defaultClicked();
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("File"));
-    QCOMPARE(rowsOf(editor.views.currentToolBarList),
-             QStringList({QStringLiteral("Open"), Separator, QStringLiteral("Save")}));
+    QCOMPARE(currentOf(editor.views.toolBarList), "File");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList({"Open", Separator, "Save"}));
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 0);
     QCOMPARE(editor.inconsistency(), QString());
 }
@@ -697,16 +686,16 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsTheDefaultContent()
 void tst_RyCToolBarWidget_Apply::restoreDefaultsRefreshesTheToolBarThatIsShown()
 {
     FilledHost host;
-    host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom")}, QStringLiteral("View"));
+    host.defaultToolBar("view", {"zoom"}, "View");
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
-    QListWidgetItem *const view = itemNamed(editor.views.toolBarList, QStringLiteral("View"));
+    editor.selectToolBar("File");
+    QListWidgetItem *const view = itemNamed(editor.views.toolBarList, "View");
     QVERIFY(QMetaObject::invokeMethod(&editor.widget, "currentToolBarChanged", Qt::DirectConnection,
                                       Q_ARG(QListWidgetItem *, view)));
     editor.call("leftClicked");
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{QStringLiteral("Zoom")});
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{"Zoom"});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsNothingWithoutACurrentToolBar()
@@ -717,34 +706,34 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsNothingWithoutACurrentToolB
     editor.widget.defaultClicked();
     QVERIFY(!editor.views.toolBarList->currentItem());
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"File"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsRemovesCustomToolBars()
 {
     FilledHost host;
-    const QPointer<QToolBar> mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
-    const QPointer<QToolBar> tools = toolBarTitled(host.manager, QStringLiteral("Tools"));
+    const QPointer<QToolBar> mine = toolBarTitled(host.manager, "Mine");
+    const QPointer<QToolBar> tools = toolBarTitled(host.manager, "Tools");
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"File"});
     QVERIFY(mine);
     QVERIFY(tools);
     QCOMPARE(EditorFields::of(editor.widget).removedRecords.size(), 2);
     editor.widget.applyClicked();
     QVERIFY(!mine);
     QVERIFY(!tools);
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"File: open | save"});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsFreesNewToolBars()
 {
     Host host;
-    host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open")}, QStringLiteral("Files"));
+    host.defaultToolBar("file", {"open"}, "Files");
     ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Open")});
-    makeToolBar(editor, QStringLiteral("Theirs"), {});
+    makeToolBar(editor, "Yours", {"Open"});
+    makeToolBar(editor, "Theirs", {});
     editor.widget.defaultClicked();
     const EditorFields fields = EditorFields::of(editor.widget);
     QVERIFY(fields.createdRecords.isEmpty());
@@ -753,7 +742,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsFreesNewToolBars()
     ToolBarRecorder recorder(host);
     editor.widget.applyClicked();
     QCOMPARE(recorder.events, QStringList());
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: open")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"File: open"});
 }
 
 // The editor kept no record of it from the fill.
@@ -761,29 +750,29 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsRemovesToolBarsThatWereCreatedAn
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
+    makeToolBar(editor, "Yours", {"Zoom"});
     editor.widget.applyClicked();
-    const QPointer<QToolBar> made = toolBarTitled(host.manager, QStringLiteral("Yours"));
+    const QPointer<QToolBar> made = toolBarTitled(host.manager, "Yours");
     QVERIFY(made);
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"File"});
     editor.widget.applyClicked();
     QVERIFY(!made);
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"File: open | save"});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsLeavesRemovedToolBarsRemoved()
 {
     FilledHost host;
-    const QPointer<QToolBar> mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
+    const QPointer<QToolBar> mine = toolBarTitled(host.manager, "Mine");
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
+    removeToolBar(editor, "Mine");
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"File"});
     QCOMPARE(EditorFields::of(editor.widget).removedRecords.size(), 2);
     editor.widget.applyClicked();
     QVERIFY(!mine);
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"File: open | save"});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsSelectsTheRowThatTakesThePlace_data()
@@ -803,17 +792,15 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsSelectsTheRowThatTakesThePlace()
     QFETCH(QString, custom);
     QFETCH(QString, current);
     Host host;
-    host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open")}, QStringLiteral("Files"));
-    host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom")}, QStringLiteral("View"));
-    customToolBar(host, custom, {QStringLiteral("zoom"), QStringLiteral("open")});
+    host.defaultToolBar("file", {"open"}, "Files");
+    host.defaultToolBar("view", {"zoom"}, "View");
+    customToolBar(host, custom, {"zoom", "open"});
     ShownEditor editor(&host.manager);
     editor.selectToolBar(custom);
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({QStringLiteral("File"), QStringLiteral("View")}));
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({"File", "View"}));
     QCOMPARE(currentOf(editor.views.toolBarList), current);
-    const QString content =
-        current == QLatin1String("File") ? QStringLiteral("Open") : QStringLiteral("Zoom");
+    const QString content = current == "File" ? "Open" : "Zoom";
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{content});
     QCOMPARE(editor.inconsistency(), QString());
 }
@@ -821,9 +808,9 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsSelectsTheRowThatTakesThePlace()
 void tst_RyCToolBarWidget_Apply::restoreDefaultsWithCustomToolBarsOnlyLeavesNone()
 {
     Host host;
-    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("cut")});
-    customToolBar(host, QStringLiteral("Yours"), {QStringLiteral("cut")});
+    host.registered("cut", "Edits");
+    customToolBar(host, "Mine", {"cut"});
+    customToolBar(host, "Yours", {"cut"});
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
     QCOMPARE(rowsOf(editor.views.toolBarList), QStringList());
@@ -837,30 +824,30 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsKeepsTheNames()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    QToolBar *const file = toolBarTitled(host.manager, QStringLiteral("File"));
-    file->setWindowTitle(QStringLiteral("Changed by the host"));
+    QToolBar *const file = toolBarTitled(host.manager, "File");
+    file->setWindowTitle("Changed by the host");
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"File"});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     editor.widget.applyClicked();
-    QCOMPARE(file->windowTitle(), QStringLiteral("File"));
+    QCOMPARE(file->windowTitle(), "File");
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsDoesNotBringUnregisteredActionsBack()
 {
     FilledHost host;
-    host.manager.removeAction(host.action(QStringLiteral("open")));
+    host.manager.removeAction(host.action("open"));
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: | save"});
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: | save")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"File: | save"});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsThenHidingChangesNothing()
 {
     FilledHost host;
-    host.manager.setToolBar(toolBarTitled(host.manager, QStringLiteral("File")), {});
+    host.manager.setToolBar(toolBarTitled(host.manager, "File"), {});
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
@@ -875,17 +862,15 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsThenHidingChangesNothing()
 void tst_RyCToolBarWidget_Apply::restoreDefaultsThenApplyEqualsTheDefaults()
 {
     FilledHost host;
-    host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom"), QStringLiteral("|")},
-                        QStringLiteral("View"));
+    host.defaultToolBar("view", {"zoom", "|"}, "View");
     const auto toolBars = host.manager.toolBars();
     for (QToolBar *toolBar : toolBars)
-        host.manager.setToolBar(toolBar, host.list({QStringLiteral("paste")}));
+        host.manager.setToolBar(toolBar, host.list({"paste"}));
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
     editor.widget.applyClicked();
     QCOMPARE(host.manager.toolBarsActions(), host.manager.defaultToolBars());
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("View: zoom |")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: open | save", "View: zoom |"}));
     QCOMPARE(editor.workingCopy(), toolBarsOf(host.manager));
 }
 
@@ -893,10 +878,10 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsTwiceIsAsOnce()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.widget.defaultClicked();
     editor.widget.defaultClicked();
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -905,17 +890,17 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileTheNameIsEdited()
     FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
-    QTest::keyClicks(editor.views.renameEditor(), QStringLiteral("Yours"));
+    QTest::keyClicks(editor.views.renameEditor(), "Yours");
     editor.widget.defaultClicked();
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileHiddenHasNoEffect()
 {
     FilledHost host;
-    host.manager.setToolBar(toolBarTitled(host.manager, QStringLiteral("File")), {});
+    host.manager.setToolBar(toolBarTitled(host.manager, "File"), {});
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
     editor.widget.hide();
@@ -939,21 +924,20 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsAfterToolBarsWereDeleted()
 {
     FilledHost host;
     for (int i = 0; i < 8; ++i)
-        customToolBar(host, QStringLiteral("Toolbar %1").arg(i), {});
+        customToolBar(host, QString("Toolbar %1").arg(i), {});
     ShownEditor editor(&host.manager);
     const auto titles = rowsOf(editor.views.toolBarList);
     for (const QString &title : titles) {
-        if (title != QLatin1String("File"))
+        if (title != "File")
             removeToolBar(editor, title);
     }
     editor.widget.applyClicked();
     for (int i = 0; i < 8; ++i) {
-        host.defaultToolBar(QStringLiteral("late%1").arg(i), {QStringLiteral("zoom")},
-                            QStringLiteral("View"));
+        host.defaultToolBar(QString("late%1").arg(i), {"zoom"}, "View");
         editor.views.click(editor.views.newButton);
     }
     editor.widget.defaultClicked();
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
     editor.widget.applyClicked();
     QCOMPARE(host.manager.toolBarsActions(), host.manager.defaultToolBars());
@@ -964,15 +948,13 @@ void tst_RyCToolBarWidget_Apply::aDefaultToolBarRegisteredAfterTheFillIsLeftAlon
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    QToolBar *const late =
-        host.defaultToolBar(QStringLiteral("late"), {QStringLiteral("zoom")}, QString());
-    host.manager.setToolBar(late, host.list({QStringLiteral("cut")}));
+    QToolBar *const late = host.defaultToolBar("late", {"zoom"}, QString());
+    host.manager.setToolBar(late, host.list({"cut"}));
     editor.widget.defaultClicked();
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Late: cut")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: open | save", "Late: cut"}));
 }
 
 QTEST_MAIN(tst_RyCToolBarWidget_Apply)

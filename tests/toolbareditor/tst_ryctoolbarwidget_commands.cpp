@@ -15,8 +15,8 @@
 
 namespace {
 
-const QString Separator = QStringLiteral("< S E P A R A T O R >");
-const QString NewName = QStringLiteral("Custom Toolbar");
+const QString Separator = "< S E P A R A T O R >";
+const QString NewName = "Custom Toolbar";
 
 // A default toolbar, two custom ones and two actions that stand on none.
 class FilledHost : public Host
@@ -24,26 +24,23 @@ class FilledHost : public Host
 public:
     FilledHost()
     {
-        defaultToolBar(QStringLiteral("file"),
-                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                       QStringLiteral("Files"));
+        defaultToolBar("file", {"open", "|", "save"}, "Files");
         for (const char *name : {"copy", "cut", "paste", "undo", "zoom"})
-            registered(QLatin1String(name), QStringLiteral("Edits"));
-        customToolBar(*this, QStringLiteral("Mine"),
-                      {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
-        customToolBar(*this, QStringLiteral("Tools"), {QStringLiteral("|"), QStringLiteral("cut")});
+            registered(name, "Edits");
+        customToolBar(*this, "Mine", {"cut", "copy", "paste"});
+        customToolBar(*this, "Tools", {"|", "cut"});
     }
 };
 
 // All toolbars of the host, with "Mine" in the given state.
 QStringList withMine(const QString &mine)
 {
-    return {QStringLiteral("File: open | save"), mine, QStringLiteral("Tools: | cut")};
+    return {"File: open | save", mine, "Tools: | cut"};
 }
 
 QListWidgetItem *addForeignRow(QListWidget *list)
 {
-    return new QListWidgetItem(QStringLiteral("Foreign"), list);
+    return new QListWidgetItem("Foreign", list);
 }
 
 } // namespace
@@ -154,7 +151,7 @@ void tst_RyCToolBarWidget_Commands::newMakesAnEmptyCurrentToolBar()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.click(editor.views.newButton);
     QCOMPARE(currentOf(editor.views.toolBarList), NewName);
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
@@ -165,29 +162,27 @@ void tst_RyCToolBarWidget_Commands::newMakesAnEmptyCurrentToolBar()
     QCOMPARE(row->flags(), QListWidgetItem().flags() | Qt::ItemIsEditable);
     QVERIFY(!row->data(Qt::ForegroundRole).isValid());
     applyAndCompare(host, editor,
-                    {NewName + QLatin1Char(':'), QStringLiteral("File: open | save"),
-                     QStringLiteral("Mine: cut copy paste"), QStringLiteral("Tools: | cut")});
+                    {NewName + ":", "File: open | save", "Mine: cut copy paste", "Tools: | cut"});
 }
 
 void tst_RyCToolBarWidget_Commands::newNamesInTheUsersLanguage()
 {
-    const Translations german("RyCToolBarWidget", {{NewName, QStringLiteral("Eigene Leiste")}});
+    const Translations german("RyCToolBarWidget", {{NewName, "Eigene Leiste"}});
     Host host;
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("Eigene Leiste")});
-    applyAndCompare(host, editor, {QStringLiteral("Eigene Leiste:")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"Eigene Leiste"});
+    applyAndCompare(host, editor, {"Eigene Leiste:"});
 }
 
 void tst_RyCToolBarWidget_Commands::newKeepsTheListSorted()
 {
     FilledHost host;
-    host.defaultToolBar(QStringLiteral("about"), {}, QStringLiteral("Help"));
+    host.defaultToolBar("about", {}, "Help");
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
     QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({QStringLiteral("About"), NewName, QStringLiteral("File"),
-                          QStringLiteral("Mine"), QStringLiteral("Tools")}));
+             QStringList({"About", NewName, "File", "Mine", "Tools"}));
     QCOMPARE(editor.views.toolBarList->currentRow(), 1);
 }
 
@@ -199,14 +194,11 @@ void tst_RyCToolBarWidget_Commands::newOpensTheEditorOfTheName()
     const QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
     QVERIFY(name);
     QCOMPARE(name->text(), NewName);
-    editor.views.typeName(QStringLiteral("Zebra"));
-    QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({QStringLiteral("File"), QStringLiteral("Mine"), QStringLiteral("Tools"),
-                          QStringLiteral("Zebra")}));
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Zebra"));
+    editor.views.typeName("Zebra");
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({"File", "Mine", "Tools", "Zebra"}));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Zebra");
     applyAndCompare(host, editor,
-                    {QStringLiteral("File: open | save"), QStringLiteral("Mine: cut copy paste"),
-                     QStringLiteral("Tools: | cut"), QStringLiteral("Zebra:")});
+                    {"File: open | save", "Mine: cut copy paste", "Tools: | cut", "Zebra:"});
 }
 
 // The row becomes current before it is known.
@@ -214,22 +206,20 @@ void tst_RyCToolBarWidget_Commands::newLeavesNoToolBarCurrentForAMoment()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     QVERIFY(editor.views.rightButton->isEnabled());
     QStringList seen;
     const QObject watching;
     connect(editor.views.toolBarList, &QListWidget::currentItemChanged, &watching,
             [&seen, &editor](const QListWidgetItem *current) {
                 const EditorFields fields = EditorFields::of(editor.widget);
-                seen << current->text()
-                     << rowsOf(editor.views.currentToolBarList).join(QLatin1Char(' '))
-                     << editor.views.enabledButtons().join(QLatin1Char(' '))
-                     << (fields.currentRecord ? QStringLiteral("current") : QString());
+                seen << current->text() << rowsOf(editor.views.currentToolBarList).join(' ')
+                     << editor.views.enabledButtons().join(' ')
+                     << (fields.currentRecord ? "current" : QString());
             });
     editor.views.click(editor.views.newButton);
     QCOMPARE(seen.mid(0, 4),
-             QStringList({NewName, QString(), QStringLiteral("newButton removeButton renameButton"),
-                          QString()}));
+             QStringList({NewName, QString(), "newButton removeButton renameButton", QString()}));
     QVERIFY(editor.views.rightButton->isEnabled());
     QVERIFY(EditorFields::of(editor.widget).currentRecord);
 }
@@ -249,10 +239,10 @@ void tst_RyCToolBarWidget_Commands::newTwiceMakesTwoToolBarsOfOneName()
     QTRY_COMPARE(editor.views.toolBarList->viewport()->findChildren<QLineEdit *>().size(), 1);
     QCOMPARE(editor.views.toolBarList->itemWidget(second), editor.views.renameEditor());
     QVERIFY(!editor.views.toolBarList->itemWidget(first));
-    editor.views.typeName(QStringLiteral("Other"));
+    editor.views.typeName("Other");
     QCOMPARE(first->text(), NewName);
-    QCOMPARE(second->text(), QStringLiteral("Other"));
-    applyAndCompare(host, editor, {NewName + QLatin1Char(':'), QStringLiteral("Other:")});
+    QCOMPARE(second->text(), "Other");
+    applyAndCompare(host, editor, {NewName + ":", "Other:"});
 }
 
 void tst_RyCToolBarWidget_Commands::newAgainKeepsTheNameThatWasBeingTyped()
@@ -263,16 +253,14 @@ void tst_RyCToolBarWidget_Commands::newAgainKeepsTheNameThatWasBeingTyped()
     QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
     QVERIFY(name);
     name->selectAll();
-    QTest::keyClicks(name, QStringLiteral("Zebra"));
+    QTest::keyClicks(name, "Zebra");
     editor.views.click(editor.views.newButton);
     QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({NewName, QStringLiteral("File"), QStringLiteral("Mine"),
-                          QStringLiteral("Tools"), QStringLiteral("Zebra")}));
+             QStringList({NewName, "File", "Mine", "Tools", "Zebra"}));
     QCOMPARE(currentOf(editor.views.toolBarList), NewName);
-    applyAndCompare(host, editor,
-                    {NewName + QLatin1Char(':'), QStringLiteral("File: open | save"),
-                     QStringLiteral("Mine: cut copy paste"), QStringLiteral("Tools: | cut"),
-                     QStringLiteral("Zebra:")});
+    applyAndCompare(
+        host, editor,
+        {NewName + ":", "File: open | save", "Mine: cut copy paste", "Tools: | cut", "Zebra:"});
 }
 
 void tst_RyCToolBarWidget_Commands::newDoesNotTouchTheHost()
@@ -306,15 +294,13 @@ void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent_data()
     QTest::addColumn<QString>("removed");
     QTest::addColumn<QString>("current");
     QTest::addColumn<QStringList>("content");
-    const QStringList open = {QStringLiteral("Open"), Separator, QStringLiteral("Save")};
+    const QStringList open = {"Open", Separator, "Save"};
     QTest::newRow("first") << "Above"
                            << "File" << open;
     QTest::newRow("middle") << "Mine"
-                            << "Tools" << QStringList({Separator, QStringLiteral("Cut")});
+                            << "Tools" << QStringList({Separator, "Cut"});
     QTest::newRow("last") << "Tools"
-                          << "Mine"
-                          << QStringList({QStringLiteral("Cut"), QStringLiteral("Copy"),
-                                          QStringLiteral("Paste")});
+                          << "Mine" << QStringList({"Cut", "Copy", "Paste"});
 }
 
 void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent()
@@ -323,7 +309,7 @@ void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent()
     QFETCH(QString, current);
     QFETCH(QStringList, content);
     FilledHost host;
-    customToolBar(host, QStringLiteral("Above"), {QStringLiteral("zoom")});
+    customToolBar(host, "Above", {"zoom"});
     ShownEditor editor(&host.manager);
     QStringList rows = rowsOf(editor.views.toolBarList);
     QStringList expected = editor.workingCopy();
@@ -333,7 +319,7 @@ void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent()
     QCOMPARE(rowsOf(editor.views.toolBarList), rows);
     QCOMPARE(currentOf(editor.views.toolBarList), current);
     QCOMPARE(rowsOf(editor.views.currentToolBarList), content);
-    expected = expected.filter(QRegularExpression(QStringLiteral("^(?!%1)").arg(removed)));
+    expected = expected.filter(QRegularExpression(QString("^(?!%1)").arg(removed)));
     QCOMPARE(expected.size(), 3);
     applyAndCompare(host, editor, expected);
 }
@@ -341,8 +327,8 @@ void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent()
 void tst_RyCToolBarWidget_Commands::removingTheOnlyToolBarLeavesNoneCurrent()
 {
     Host host;
-    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("cut")});
+    host.registered("cut", "Edits");
+    customToolBar(host, "Mine", {"cut"});
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.removeButton);
     QCOMPARE(rowsOf(editor.views.toolBarList), QStringList());
@@ -350,8 +336,7 @@ void tst_RyCToolBarWidget_Commands::removingTheOnlyToolBarLeavesNoneCurrent()
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
     QVERIFY(!EditorFields::of(editor.widget).currentRecord);
     QCOMPARE(editor.views.enabledButtons(),
-             QStringList({QStringLiteral("newButton"), QStringLiteral("removeButton"),
-                          QStringLiteral("renameButton")}));
+             QStringList({"newButton", "removeButton", "renameButton"}));
     // There is nothing left to remove.
     editor.views.click(editor.views.removeButton);
     applyAndCompare(host, editor, {});
@@ -364,8 +349,8 @@ void tst_RyCToolBarWidget_Commands::removingANewToolBarLeavesNothing()
     const auto toolBars = host.window.findChildren<QToolBar *>();
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
-    editor.views.typeName(QStringLiteral("Yours"));
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    editor.views.typeName("Yours");
+    editor.views.doubleClick(editor.views.actionTree, "Zoom");
     editor.views.click(editor.views.removeButton);
     const EditorFields fields = EditorFields::of(editor.widget);
     QVERIFY(fields.createdRecords.isEmpty());
@@ -379,7 +364,7 @@ void tst_RyCToolBarWidget_Commands::removingAnExistingToolBarKeepsItForTheApply(
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
     QToolBar *const toolBar = record->toolBar();
     editor.views.click(editor.views.removeButton);
@@ -396,16 +381,15 @@ void tst_RyCToolBarWidget_Commands::removingWhileTheNameIsEdited()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.click(editor.views.renameButton);
     QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
     QVERIFY(name);
-    QTest::keyClicks(name, QStringLiteral("Zebra"));
+    QTest::keyClicks(name, "Zebra");
     editor.views.click(editor.views.removeButton);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Tools"));
-    applyAndCompare(host, editor,
-                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")});
+    QCOMPARE(currentOf(editor.views.toolBarList), "Tools");
+    applyAndCompare(host, editor, {"File: open | save", "Tools: | cut"});
 }
 
 void tst_RyCToolBarWidget_Commands::removeWithoutACurrentRowDoesNothing()
@@ -415,7 +399,7 @@ void tst_RyCToolBarWidget_Commands::removeWithoutACurrentRowDoesNothing()
     editor.views.toolBarList->setCurrentItem(nullptr);
     QVERIFY(editor.views.removeButton->isEnabled());
     editor.views.click(editor.views.removeButton);
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::removeOfAForeignRowDoesNothing()
@@ -427,7 +411,7 @@ void tst_RyCToolBarWidget_Commands::removeOfAForeignRowDoesNothing()
     editor.views.click(editor.views.removeButton);
     QCOMPARE(editor.views.toolBarList->count(), 4);
     delete foreign;
-    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    compare(editor, withMine("Mine: cut copy paste"));
 }
 
 // Even while the editor shows no toolbar's content.
@@ -435,29 +419,28 @@ void tst_RyCToolBarWidget_Commands::removeTakesTheToolBarOfTheCurrentRow()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     QListWidgetItem *const none = nullptr;
     QVERIFY(QMetaObject::invokeMethod(&editor.widget, "currentToolBarChanged", Qt::DirectConnection,
                                       Q_ARG(QListWidgetItem *, none)));
     editor.views.click(editor.views.removeButton);
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Tools"));
-    applyAndCompare(host, editor,
-                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")});
+    QCOMPARE(currentOf(editor.views.toolBarList), "Tools");
+    applyAndCompare(host, editor, {"File: open | save", "Tools: | cut"});
 }
 
 void tst_RyCToolBarWidget_Commands::aDefaultToolBarCannotBeRemoved()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     QVERIFY(!editor.views.removeButton->isEnabled());
     editor.views.click(editor.views.removeButton);
     editor.call("removeClicked");
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
     QVERIFY(QMetaObject::invokeMethod(&editor.widget, "removeToolBar", Qt::DirectConnection,
                                       Q_ARG(ToolBarItem *, record)));
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("File"));
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    QCOMPARE(currentOf(editor.views.toolBarList), "File");
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::anUnknownRecordCannotBeRemoved_data()
@@ -474,7 +457,7 @@ void tst_RyCToolBarWidget_Commands::anUnknownRecordCannotBeRemoved()
     QFETCH(QString, toolBar);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     QToolBar *found = nullptr;
     const auto toolBars = host.manager.toolBars();
     for (QToolBar *candidate : toolBars) {
@@ -482,27 +465,26 @@ void tst_RyCToolBarWidget_Commands::anUnknownRecordCannotBeRemoved()
             found = candidate;
     }
     ToolBarItem foreign(found, toolBar);
-    ToolBarItem *const record = toolBar == QLatin1String("null") ? nullptr : &foreign;
+    ToolBarItem *const record = toolBar == "null" ? nullptr : &foreign;
     QVERIFY(QMetaObject::invokeMethod(&editor.widget, "removeToolBar", Qt::DirectConnection,
                                       Q_ARG(ToolBarItem *, record)));
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Mine"));
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Mine");
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::removingAToolBarThatIsNotCurrentKeepsTheCurrentOne()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
-    editor.selectToolBar(QStringLiteral("Tools"));
+    editor.selectToolBar("Tools");
     editor.selectEntry(1);
     QVERIFY(QMetaObject::invokeMethod(&editor.widget, "removeToolBar", Qt::DirectConnection,
                                       Q_ARG(ToolBarItem *, record)));
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Tools"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Tools");
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 1);
-    applyAndCompare(host, editor,
-                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")});
+    applyAndCompare(host, editor, {"File: open | save", "Tools: | cut"});
 }
 
 void tst_RyCToolBarWidget_Commands::isDefaultToolBarGoesByTheToolBar()
@@ -519,9 +501,9 @@ void tst_RyCToolBarWidget_Commands::isDefaultToolBarGoesByTheToolBar()
     const auto toolBars = host.manager.toolBars();
     for (QToolBar *toolBar : toolBars) {
         ToolBarItem record(toolBar, QString());
-        QCOMPARE(isDefault(&record), QVariant(toolBar->windowTitle() == QLatin1String("File")));
+        QCOMPARE(isDefault(&record), QVariant(toolBar->windowTitle() == "File"));
     }
-    ToolBarItem without(QStringLiteral("File"));
+    ToolBarItem without("File");
     QCOMPARE(isDefault(&without), QVariant(false));
     QCOMPARE(isDefault(nullptr), QVariant(false));
 }
@@ -530,16 +512,14 @@ void tst_RyCToolBarWidget_Commands::renameOpensTheEditorOfTheName()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.click(editor.views.renameButton);
     const QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
     QVERIFY(name);
-    QCOMPARE(name->text(), QStringLiteral("Mine"));
-    editor.views.typeName(QStringLiteral("Yours"));
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Yours"));
-    applyAndCompare(host, editor,
-                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut"),
-                     QStringLiteral("Yours: cut copy paste")});
+    QCOMPARE(name->text(), "Mine");
+    editor.views.typeName("Yours");
+    QCOMPARE(currentOf(editor.views.toolBarList), "Yours");
+    applyAndCompare(host, editor, {"File: open | save", "Tools: | cut", "Yours: cut copy paste"});
 }
 
 // Even while another row of the list is current.
@@ -547,14 +527,14 @@ void tst_RyCToolBarWidget_Commands::renameTakesTheToolBarThatIsShown()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    QListWidgetItem *const tools = itemNamed(editor.views.toolBarList, QStringLiteral("Tools"));
+    editor.selectToolBar("Mine");
+    QListWidgetItem *const tools = itemNamed(editor.views.toolBarList, "Tools");
     QVERIFY(QMetaObject::invokeMethod(&editor.widget, "currentToolBarChanged", Qt::DirectConnection,
                                       Q_ARG(QListWidgetItem *, tools)));
     editor.views.click(editor.views.renameButton);
     const QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
     QVERIFY(name);
-    QCOMPARE(name->text(), QStringLiteral("Tools"));
+    QCOMPARE(name->text(), "Tools");
 }
 
 void tst_RyCToolBarWidget_Commands::renameWithoutACurrentToolBarDoesNothing()
@@ -571,7 +551,7 @@ void tst_RyCToolBarWidget_Commands::aDefaultToolBarCannotBeRenamed()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     QVERIFY(!editor.views.renameButton->isEnabled());
     editor.call("renameClicked");
     QVERIFY(!editor.views.renameEditor());
@@ -583,15 +563,15 @@ void tst_RyCToolBarWidget_Commands::renameWhileTheEditorIsOpenKeepsItOpen()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.click(editor.views.renameButton);
     QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
     QVERIFY(name);
     name->selectAll();
-    QTest::keyClicks(name, QStringLiteral("Yo"));
+    QTest::keyClicks(name, "Yo");
     editor.views.click(editor.views.renameButton);
     QCOMPARE(editor.views.renameEditor(), name);
-    QCOMPARE(name->text(), QStringLiteral("Yo"));
+    QCOMPARE(name->text(), "Yo");
 }
 
 void tst_RyCToolBarWidget_Commands::everyNameIsAccepted_data()
@@ -611,13 +591,13 @@ void tst_RyCToolBarWidget_Commands::everyNameIsAccepted()
     QFETCH(QString, name);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     const ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
     editor.views.click(editor.views.renameButton);
     editor.views.typeName(name);
     QCOMPARE(record->toolBarName(), name);
     QCOMPARE(editor.views.toolBarList->currentItem()->text(), name);
-    QStringList expected = withMine(name + QStringLiteral(": cut copy paste"));
+    QStringList expected = withMine(name + ": cut copy paste");
     expected.sort();
     applyAndCompare(host, editor, expected);
     QCOMPARE(record->toolBar()->windowTitle(), name);
@@ -627,21 +607,17 @@ void tst_RyCToolBarWidget_Commands::aRenamedToolBarIsSortedAndStaysCurrent()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.selectEntry(1);
     editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Zebra"));
-    QCOMPARE(
-        rowsOf(editor.views.toolBarList),
-        QStringList({QStringLiteral("File"), QStringLiteral("Tools"), QStringLiteral("Zebra")}));
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Zebra"));
+    editor.views.typeName("Zebra");
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({"File", "Tools", "Zebra"}));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Zebra");
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 1);
     editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Aardvark"));
-    QCOMPARE(
-        rowsOf(editor.views.toolBarList),
-        QStringList({QStringLiteral("Aardvark"), QStringLiteral("File"), QStringLiteral("Tools")}));
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Aardvark"));
+    editor.views.typeName("Aardvark");
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({"Aardvark", "File", "Tools"}));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Aardvark");
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -678,9 +654,9 @@ void tst_RyCToolBarWidget_Commands::escapeKeepsTheOldName()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.click(editor.views.renameButton);
-    QTest::keyClicks(editor.views.renameEditor(), QStringLiteral("Yours"));
+    QTest::keyClicks(editor.views.renameEditor(), "Yours");
     QTest::keyClick(editor.views.renameEditor(), Qt::Key_Escape);
     QTRY_VERIFY(!editor.views.renameEditor());
     QVERIFY(editor.widget.isVisible());
@@ -689,8 +665,8 @@ void tst_RyCToolBarWidget_Commands::escapeKeepsTheOldName()
     QVERIFY(editor.views.renameEditor());
     QTest::keyClick(editor.views.renameEditor(), Qt::Key_Escape);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Mine"));
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Mine");
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::losingTheFocusKeepsTheNewName()
@@ -699,33 +675,27 @@ void tst_RyCToolBarWidget_Commands::losingTheFocusKeepsTheNewName()
     ShownEditor editor(&host.manager);
     editor.widget.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&editor.widget));
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.click(editor.views.renameButton);
     QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
     QTRY_VERIFY(name && name->hasFocus());
     name->selectAll();
-    QTest::keyClicks(name, QStringLiteral("Yours"));
+    QTest::keyClicks(name, "Yours");
     editor.views.actionTree->setFocus();
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Yours"));
-    applyAndCompare(host, editor,
-                    {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut"),
-                     QStringLiteral("Yours: cut copy paste")});
+    QCOMPARE(currentOf(editor.views.toolBarList), "Yours");
+    applyAndCompare(host, editor, {"File: open | save", "Tools: | cut", "Yours: cut copy paste"});
 }
 
 void tst_RyCToolBarWidget_Commands::anotherRowCanBeRenamed()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
-    itemNamed(editor.views.toolBarList, QStringLiteral("Mine"))->setText(QStringLiteral("Above"));
-    QCOMPARE(
-        rowsOf(editor.views.toolBarList),
-        QStringList({QStringLiteral("Above"), QStringLiteral("File"), QStringLiteral("Tools")}));
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("File"));
-    applyAndCompare(host, editor,
-                    {QStringLiteral("Above: cut copy paste"), QStringLiteral("File: open | save"),
-                     QStringLiteral("Tools: | cut")});
+    editor.selectToolBar("File");
+    itemNamed(editor.views.toolBarList, "Mine")->setText("Above");
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({"Above", "File", "Tools"}));
+    QCOMPARE(currentOf(editor.views.toolBarList), "File");
+    applyAndCompare(host, editor, {"Above: cut copy paste", "File: open | save", "Tools: | cut"});
 }
 
 void tst_RyCToolBarWidget_Commands::aRenameWithoutACurrentToolBarIsIgnored()
@@ -733,11 +703,9 @@ void tst_RyCToolBarWidget_Commands::aRenameWithoutACurrentToolBarIsIgnored()
     FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.toolBarList->setCurrentItem(nullptr);
-    itemNamed(editor.views.toolBarList, QStringLiteral("Mine"))->setText(QStringLiteral("Zebra"));
-    QCOMPARE(
-        rowsOf(editor.views.toolBarList),
-        QStringList({QStringLiteral("File"), QStringLiteral("Zebra"), QStringLiteral("Tools")}));
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    itemNamed(editor.views.toolBarList, "Mine")->setText("Zebra");
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({"File", "Zebra", "Tools"}));
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::aRenameOfAForeignRowIsIgnored()
@@ -745,34 +713,34 @@ void tst_RyCToolBarWidget_Commands::aRenameOfAForeignRowIsIgnored()
     FilledHost host;
     ShownEditor editor(&host.manager);
     QListWidgetItem *const foreign = addForeignRow(editor.views.toolBarList);
-    foreign->setText(QStringLiteral("Above"));
+    foreign->setText("Above");
     QCOMPARE(editor.views.toolBarList->row(foreign), 3);
     delete foreign;
-    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    compare(editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::changesOfARowThatAreNoRenameAreHarmless()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    QListWidgetItem *const row = itemNamed(editor.views.toolBarList, QStringLiteral("Mine"));
+    QListWidgetItem *const row = itemNamed(editor.views.toolBarList, "Mine");
     row->setForeground(Qt::red);
-    row->setToolTip(QStringLiteral("Toolbar"));
+    row->setToolTip("Toolbar");
     row->setFlags(Qt::ItemIsEnabled);
-    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    compare(editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::renamingDoesNotTouchTheHost()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     QToolBar *const toolBar = EditorFields::of(editor.widget).currentRecord->toolBar();
     editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Yours"));
-    QCOMPARE(toolBar->windowTitle(), QStringLiteral("Mine"));
+    editor.views.typeName("Yours");
+    QCOMPARE(toolBar->windowTitle(), "Mine");
     editor.widget.applyClicked();
-    QCOMPARE(toolBar->windowTitle(), QStringLiteral("Yours"));
+    QCOMPARE(toolBar->windowTitle(), "Yours");
 }
 
 void tst_RyCToolBarWidget_Commands::hidingWhileTheNameIsEditedDiscardsIt()
@@ -780,11 +748,11 @@ void tst_RyCToolBarWidget_Commands::hidingWhileTheNameIsEditedDiscardsIt()
     FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
-    QTest::keyClicks(editor.views.renameEditor(), QStringLiteral("Yours"));
+    QTest::keyClicks(editor.views.renameEditor(), "Yours");
     editor.widget.hide();
     QTRY_VERIFY(!editor.views.renameEditor());
     editor.widget.show();
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::upAndDownMoveTheEntry_data()
@@ -809,7 +777,7 @@ void tst_RyCToolBarWidget_Commands::upAndDownMoveTheEntry()
     QFETCH(QString, content);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.selectEntry(entry);
     const QListWidgetItem *const moved = editor.views.currentToolBarList->currentItem();
     editor.views.click(up ? editor.views.upButton : editor.views.downButton);
@@ -824,7 +792,7 @@ void tst_RyCToolBarWidget_Commands::movingWithoutACurrentEntryDoesNothing()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.selectEntry(-1);
     editor.call("upClicked");
     editor.call("downClicked");
@@ -832,7 +800,7 @@ void tst_RyCToolBarWidget_Commands::movingWithoutACurrentEntryDoesNothing()
     editor.views.toolBarList->setCurrentItem(nullptr);
     editor.call("upClicked");
     editor.call("downClicked");
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 // The slots themselves, as the buttons are disabled there.
@@ -840,31 +808,28 @@ void tst_RyCToolBarWidget_Commands::upAndDownStopAtTheEnds()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.selectEntry(0);
     editor.call("upClicked");
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 0);
-    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    compare(editor, withMine("Mine: cut copy paste"));
     editor.selectEntry(2);
     editor.call("downClicked");
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 2);
-    compare(editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    compare(editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::movingTakesSeparatorsAlong()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.selectEntry(1);
     editor.views.click(editor.views.upButton);
-    QCOMPARE(rowsOf(editor.views.currentToolBarList),
-             QStringList({Separator, QStringLiteral("Open"), QStringLiteral("Save")}));
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList({Separator, "Open", "Save"}));
     editor.views.click(editor.views.downButton);
     editor.views.click(editor.views.downButton);
-    applyAndCompare(host, editor,
-                    {QStringLiteral("File: open save |"), QStringLiteral("Mine: cut copy paste"),
-                     QStringLiteral("Tools: | cut")});
+    applyAndCompare(host, editor, {"File: open save |", "Mine: cut copy paste", "Tools: | cut"});
 }
 
 void tst_RyCToolBarWidget_Commands::leftRemovesTheEntry_data()
@@ -887,7 +852,7 @@ void tst_RyCToolBarWidget_Commands::leftRemovesTheEntry()
     QFETCH(QString, content);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.selectEntry(entry);
     editor.views.click(editor.views.leftButton);
     QCOMPARE(currentOf(editor.views.currentToolBarList), current);
@@ -898,40 +863,36 @@ void tst_RyCToolBarWidget_Commands::aDoubleClickOnAnEntryRemovesIt()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.views.doubleClick(editor.views.currentToolBarList, 1);
-    QCOMPARE(rowsOf(editor.views.currentToolBarList),
-             QStringList({QStringLiteral("Open"), QStringLiteral("Save")}));
-    QCOMPARE(currentOf(editor.views.currentToolBarList), QStringLiteral("Save"));
-    applyAndCompare(host, editor,
-                    {QStringLiteral("File: open save"), QStringLiteral("Mine: cut copy paste"),
-                     QStringLiteral("Tools: | cut")});
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList({"Open", "Save"}));
+    QCOMPARE(currentOf(editor.views.currentToolBarList), "Save");
+    applyAndCompare(host, editor, {"File: open save", "Mine: cut copy paste", "Tools: | cut"});
 }
 
 void tst_RyCToolBarWidget_Commands::leftWithoutACurrentEntryDoesNothing()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.selectEntry(-1);
     editor.call("leftClicked");
     editor.views.toolBarList->setCurrentItem(nullptr);
     editor.call("leftClicked");
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::leftEmptiesTheToolBarAtTheEnd()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     for (int i = 0; i < 3; ++i)
         editor.views.click(editor.views.leftButton);
     QCOMPARE(editor.views.currentToolBarList->currentRow(), -1);
     QCOMPARE(editor.views.enabledButtons(),
-             QStringList({QStringLiteral("newButton"), QStringLiteral("removeButton"),
-                          QStringLiteral("renameButton"), QStringLiteral("rightButton")}));
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine:")));
+             QStringList({"newButton", "removeButton", "renameButton", "rightButton"}));
+    applyAndCompare(host, editor, withMine("Mine:"));
 }
 
 void tst_RyCToolBarWidget_Commands::rightAddsAnAction_data()
@@ -940,11 +901,11 @@ void tst_RyCToolBarWidget_Commands::rightAddsAnAction_data()
     QTest::addColumn<int>("entry");
     QTest::addColumn<int>("current");
     QTest::addColumn<QString>("content");
-    const QString zoom = QStringLiteral("Zoom");
-    const QString cut = QStringLiteral("Cut");
-    const QString copy = QStringLiteral("Copy");
-    const QString paste = QStringLiteral("Paste");
-    const QString unchanged = QStringLiteral("Mine: cut copy paste");
+    const QString zoom = "Zoom";
+    const QString cut = "Cut";
+    const QString copy = "Copy";
+    const QString paste = "Paste";
+    const QString unchanged = "Mine: cut copy paste";
     QTest::newRow("new after the first") << zoom << 0 << 1 << "Mine: cut zoom copy paste";
     QTest::newRow("new after the middle") << zoom << 1 << 2 << "Mine: cut copy zoom paste";
     QTest::newRow("new after the last") << zoom << 2 << 3 << "Mine: cut copy paste zoom";
@@ -971,7 +932,7 @@ void tst_RyCToolBarWidget_Commands::rightAddsAnAction()
     QFETCH(QString, content);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.selectEntry(entry);
     editor.selectAction(action);
     editor.views.click(editor.views.rightButton);
@@ -979,7 +940,7 @@ void tst_RyCToolBarWidget_Commands::rightAddsAnAction()
     QCOMPARE(editor.views.currentToolBarList->currentRow(), current);
     // Neither the action nor the toolbar is another one now.
     QCOMPARE(currentOf(editor.views.actionTree), action);
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Mine"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Mine");
     applyAndCompare(host, editor, withMine(content));
 }
 
@@ -987,29 +948,29 @@ void tst_RyCToolBarWidget_Commands::aDoubleClickOnAnActionAddsIt()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Undo"));
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut zoom undo copy paste")));
+    editor.selectToolBar("Mine");
+    editor.views.doubleClick(editor.views.actionTree, "Zoom");
+    editor.views.doubleClick(editor.views.actionTree, "Undo");
+    applyAndCompare(host, editor, withMine("Mine: cut zoom undo copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::aDoubleClickOnTheSeparatorEntryAddsOne()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.doubleClick(editor.views.actionTree, Separator);
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut | copy paste")));
+    applyAndCompare(host, editor, withMine("Mine: cut | copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::aDoubleClickOnACategoryAddsNothing()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Edits"));
-    QCOMPARE(currentOf(editor.views.actionTree), QStringLiteral("Edits"));
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    editor.selectToolBar("Mine");
+    editor.views.doubleClick(editor.views.actionTree, "Edits");
+    QCOMPARE(currentOf(editor.views.actionTree), "Edits");
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::rightWithoutAnActionDoesNothing_data()
@@ -1024,11 +985,11 @@ void tst_RyCToolBarWidget_Commands::rightWithoutAnActionDoesNothing()
     QFETCH(QString, treeItem);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.actionTree->setCurrentItem(itemNamed(editor.views.actionTree, treeItem));
     QVERIFY(!editor.views.rightButton->isEnabled());
     editor.call("rightClicked");
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::rightWithoutACurrentToolBarDoesNothing()
@@ -1036,25 +997,25 @@ void tst_RyCToolBarWidget_Commands::rightWithoutACurrentToolBarDoesNothing()
     FilledHost host;
     ShownEditor editor(&host.manager);
     editor.views.toolBarList->setCurrentItem(nullptr);
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    editor.views.doubleClick(editor.views.actionTree, "Zoom");
     editor.views.doubleClick(editor.views.actionTree, Separator);
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut copy paste")));
+    applyAndCompare(host, editor, withMine("Mine: cut copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::anAddedActionLooksLikeTheAction()
 {
     FilledHost host;
-    QAction *const action = host.action(QStringLiteral("zoom"));
+    QAction *const action = host.action("zoom");
     QPixmap pixmap(16, 16);
     pixmap.fill(Qt::red);
     action->setIcon(QIcon(pixmap));
-    action->setText(QStringLiteral("&Zoom..."));
+    action->setText("&Zoom...");
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("&Zoom..."));
+    editor.selectToolBar("Mine");
+    editor.views.doubleClick(editor.views.actionTree, "&Zoom...");
     const QListWidgetItem *const entry = editor.views.currentToolBarList->currentItem();
-    QCOMPARE(entry->text(), QStringLiteral("&Zoom..."));
+    QCOMPARE(entry->text(), "&Zoom...");
     QCOMPARE(entry->icon().cacheKey(), action->icon().cacheKey());
     QCOMPARE(entry->textAlignment(), 0x881);
 }
@@ -1063,7 +1024,7 @@ void tst_RyCToolBarWidget_Commands::anAddedSeparatorIsPlain()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.doubleClick(editor.views.actionTree, Separator);
     QListWidgetItem *const entry = editor.views.currentToolBarList->currentItem();
     QCOMPARE(entry->text(), Separator);
@@ -1078,35 +1039,33 @@ void tst_RyCToolBarWidget_Commands::oneActionStandsOnSeveralToolBars()
     FilledHost host;
     ShownEditor editor(&host.manager);
     for (const char *title : {"File", "Mine", "Tools"}) {
-        editor.selectToolBar(QLatin1String(title));
-        editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+        editor.selectToolBar(title);
+        editor.views.doubleClick(editor.views.actionTree, "Zoom");
     }
     applyAndCompare(host, editor,
-                    {QStringLiteral("File: open zoom | save"),
-                     QStringLiteral("Mine: cut zoom copy paste"),
-                     QStringLiteral("Tools: | zoom cut")});
+                    {"File: open zoom | save", "Mine: cut zoom copy paste", "Tools: | zoom cut"});
 }
 
 void tst_RyCToolBarWidget_Commands::separatorsAreAddedAnyNumberOfTimes()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.selectAction(Separator);
     for (int i = 0; i < 3; ++i)
         editor.views.click(editor.views.rightButton);
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: cut | | | copy paste")));
+    applyAndCompare(host, editor, withMine("Mine: cut | | | copy paste"));
 }
 
 void tst_RyCToolBarWidget_Commands::aRemovedActionCanBeAddedAgain()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.doubleClick(editor.views.currentToolBarList, 0);
     editor.selectEntry(1);
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Cut"));
-    applyAndCompare(host, editor, withMine(QStringLiteral("Mine: copy paste cut")));
+    editor.views.doubleClick(editor.views.actionTree, "Cut");
+    applyAndCompare(host, editor, withMine("Mine: copy paste cut"));
 }
 
 // Itself, not only because another row becomes current.
@@ -1114,19 +1073,17 @@ void tst_RyCToolBarWidget_Commands::aCommandSetsTheButtons()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.selectAction(QStringLiteral("Zoom"));
+    editor.selectToolBar("Mine");
+    editor.selectAction("Zoom");
     const QSignalBlocker unheard(editor.views.currentToolBarList);
     const auto enabled = [&editor](const char *slot) {
         editor.call(slot);
-        return editor.views.enabledButtons().join(QLatin1Char(' '));
+        return editor.views.enabledButtons().join(' ');
     };
-    const QString first =
-        QStringLiteral("newButton removeButton renameButton leftButton rightButton downButton");
-    const QString middle = QStringLiteral(
-        "newButton removeButton renameButton upButton leftButton rightButton downButton");
-    const QString last =
-        QStringLiteral("newButton removeButton renameButton upButton leftButton rightButton");
+    const QString first = "newButton removeButton renameButton leftButton rightButton downButton";
+    const QString middle =
+        "newButton removeButton renameButton upButton leftButton rightButton downButton";
+    const QString last = "newButton removeButton renameButton upButton leftButton rightButton";
     QCOMPARE(enabled("downClicked"), middle);
     QCOMPARE(enabled("downClicked"), last);
     QCOMPARE(enabled("upClicked"), middle);
@@ -1142,9 +1099,9 @@ void tst_RyCToolBarWidget_Commands::removingAToolBarSetsTheButtons()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     for (QToolButton *button : {editor.views.newButton, editor.views.rightButton})
         button->setEnabled(false);
     for (QToolButton *button : {editor.views.removeButton, editor.views.renameButton})
@@ -1153,8 +1110,7 @@ void tst_RyCToolBarWidget_Commands::removingAToolBarSetsTheButtons()
     QVERIFY(QMetaObject::invokeMethod(&editor.widget, "removeToolBar", Qt::DirectConnection,
                                       Q_ARG(ToolBarItem *, record)));
     QCOMPARE(editor.views.enabledButtons(),
-             QStringList({QStringLiteral("newButton"), QStringLiteral("leftButton"),
-                          QStringLiteral("rightButton"), QStringLiteral("downButton")}));
+             QStringList({"newButton", "leftButton", "rightButton", "downButton"}));
 }
 
 void tst_RyCToolBarWidget_Commands::noCommandTouchesTheHost()
@@ -1162,17 +1118,17 @@ void tst_RyCToolBarWidget_Commands::noCommandTouchesTheHost()
     FilledHost host;
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
-    editor.selectAction(QStringLiteral("Zoom"));
+    editor.selectToolBar("File");
+    editor.selectAction("Zoom");
     for (const char *slot : {"rightClicked", "upClicked", "downClicked", "leftClicked",
                              "newClicked", "rightClicked", "removeClicked", "newClicked"}) {
         editor.call(slot);
         QCOMPARE(toolBarsOf(host.manager), before);
     }
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("removeClicked");
-    editor.selectToolBar(QStringLiteral("Tools"));
-    editor.views.toolBarList->currentItem()->setText(QStringLiteral("Mine"));
+    editor.selectToolBar("Tools");
+    editor.views.toolBarList->currentItem()->setText("Mine");
     QCOMPARE(toolBarsOf(host.manager), before);
 }
 

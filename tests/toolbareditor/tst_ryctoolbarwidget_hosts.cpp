@@ -29,13 +29,12 @@ class FilledHost : public Host
 {
 public:
     FilledHost()
-        : file(
-            defaultToolBar(QStringLiteral("file"), words("open | save"), QStringLiteral("Files")))
+        : file(defaultToolBar("file", words("open | save"), "Files"))
     {
         for (const char *name : {"copy", "cut", "paste"})
-            registered(QLatin1String(name), QStringLiteral("Edits"));
-        mine = customToolBar(*this, QStringLiteral("Mine"), words("cut | copy"));
-        yours = customToolBar(*this, QStringLiteral("Yours"), words("paste"));
+            registered(name, "Edits");
+        mine = customToolBar(*this, "Mine", words("cut | copy"));
+        yours = customToolBar(*this, "Yours", words("paste"));
     }
 
     QToolBar *file;
@@ -74,9 +73,9 @@ template struct RecordFunctions<&RyCToolBarWidget::createItem, &RyCToolBarWidget
 // One edit of each kind: "Yours" goes, "Mine" loses its first entry, and a new toolbar gets one.
 void removeEditAndCreate(ShownEditor &editor)
 {
-    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.selectToolBar("Yours");
     editor.call("removeClicked");
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     editor.call("newClicked");
     editor.call("rightClicked");
@@ -95,7 +94,7 @@ QToolBar *reborn(Host &host, QToolBar *toolBar, const std::function<void()> &del
 {
     memory = {toolBar, sizeof(QToolBar), false};
     deletion();
-    QToolBar *const created = host.manager.createToolBar(QStringLiteral("Reborn"));
+    QToolBar *const created = host.manager.createToolBar("Reborn");
     QTest::qCompare(created, toolBar, "created", "deleted", __FILE__, __LINE__);
     memory = {nullptr, 0, false};
     return created;
@@ -213,14 +212,14 @@ void tst_RyCToolBarWidget_Hosts::aDeletedToolBarIsLeftAlone()
     QFETCH(bool, isCurrent);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(isCurrent ? QStringLiteral("Mine") : QStringLiteral("File"));
+    editor.selectToolBar(isCurrent ? "Mine" : "File");
     host.manager.deleteToolBar(host.mine);
     for (const char *slot : {"rightClicked", "upClicked", "downClicked", "leftClicked"})
         editor.call(slot);
-    editor.selectToolBar(QStringLiteral("File"));
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("File");
+    editor.selectToolBar("Mine");
     editor.call("renameClicked");
-    editor.views.typeName(QStringLiteral("Ours"));
+    editor.views.typeName("Ours");
     editor.widget.applyClicked();
     QCOMPARE(editor.inconsistency(), QString());
     editor.call("removeClicked");
@@ -246,7 +245,7 @@ void tst_RyCToolBarWidget_Hosts::aNewToolBarAtTheAddressOfADeletedOneIsLeftAlone
     QFETCH(bool, removed);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call(removed ? "removeClicked" : "leftClicked");
     QToolBar *const other = reborn(host, host.mine);
     host.manager.setToolBar(other, host.list(words("open | paste")));
@@ -254,7 +253,7 @@ void tst_RyCToolBarWidget_Hosts::aNewToolBarAtTheAddressOfADeletedOneIsLeftAlone
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager), before);
     if (!removed) {
-        editor.selectToolBar(QStringLiteral("Mine"));
+        editor.selectToolBar("Mine");
         editor.call("removeClicked");
     }
     editor.widget.applyClicked();
@@ -291,7 +290,7 @@ void tst_RyCToolBarWidget_Hosts::aDefaultToolBarAtTheAddressOfADeletedOneIsNotRe
     QFETCH(bool, byTheEditor);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     const auto byEditor = [&] {
         editor.call("removeClicked");
         editor.widget.applyClicked();
@@ -299,8 +298,8 @@ void tst_RyCToolBarWidget_Hosts::aDefaultToolBarAtTheAddressOfADeletedOneIsNotRe
     QToolBar *const other =
         byTheEditor ? reborn(host, host.mine, byEditor) : reborn(host, host.mine);
     host.manager.removeDefaultToolBar(other);
-    other->addAction(host.action(QStringLiteral("open")));
-    host.manager.addDefaultToolBar(other, QStringLiteral("Late"));
+    other->addAction(host.action("open"));
+    host.manager.addDefaultToolBar(other, "Late");
     host.manager.setToolBar(other, host.list(words("paste")));
     editor.widget.defaultClicked();
     QCOMPARE(editor.inconsistency(), QString());
@@ -314,12 +313,12 @@ void tst_RyCToolBarWidget_Hosts::aToolBarDeletedByItsOwnWindowIsLeftAlone()
     FilledHost host;
     std::unique_ptr<QMainWindow> second(new QMainWindow);
     host.manager.setMainWindow(second.get());
-    QPointer<QToolBar> far = customToolBar(host, QStringLiteral("Far"), words("cut"));
+    QPointer<QToolBar> far = customToolBar(host, "Far", words("cut"));
     ShownEditor editor(&host.manager);
     host.manager.deleteToolBar(far);
     second.reset();
     host.manager.setMainWindow(&host.window);
-    editor.selectToolBar(QStringLiteral("Far"));
+    editor.selectToolBar("Far");
     editor.call("leftClicked");
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager),
@@ -329,19 +328,19 @@ void tst_RyCToolBarWidget_Hosts::aToolBarDeletedByItsOwnWindowIsLeftAlone()
 void tst_RyCToolBarWidget_Hosts::aDeletedActionIsShownAsBefore()
 {
     FilledHost host;
-    QAction *const cut = host.action(QStringLiteral("cut"));
+    QAction *const cut = host.action("cut");
     const QIcon icon(QPixmap(16, 16));
     cut->setIcon(icon);
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     host.manager.removeAction(cut);
     delete cut;
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     QCOMPARE(rowsOf(editor.views.currentToolBarList),
              lines({"Cut", "< S E P A R A T O R >", "Copy"}));
     QCOMPARE(editor.views.currentToolBarList->item(0)->icon().cacheKey(), icon.cacheKey());
-    editor.selectToolBar(QStringLiteral("Yours"));
-    editor.selectAction(QStringLiteral("Cut"));
+    editor.selectToolBar("Yours");
+    editor.selectAction("Cut");
     editor.call("rightClicked");
     QCOMPARE(rowsOf(editor.views.currentToolBarList), lines({"Paste", "Cut"}));
     editor.call("upClicked");
@@ -352,13 +351,13 @@ void tst_RyCToolBarWidget_Hosts::aDeletedActionThatHasNoTreeItemIsShownWithoutTe
 {
     FilledHost host;
     // Takes the actions out of their category, but not off their toolbars.
-    host.manager.addCategory(QStringLiteral("Edits"));
+    host.manager.addCategory("Edits");
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
-    QAction *const cut = host.action(QStringLiteral("cut"));
+    editor.selectToolBar("File");
+    QAction *const cut = host.action("cut");
     host.manager.removeAction(cut);
     delete cut;
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     QCOMPARE(rowsOf(editor.views.currentToolBarList), lines({"", "< S E P A R A T O R >", "Copy"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
@@ -368,14 +367,14 @@ void tst_RyCToolBarWidget_Hosts::aDeletedActionIsNotLookedUpWhileTheEditorIsEmpt
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
-    QAction *const cut = host.action(QStringLiteral("cut"));
+    editor.selectToolBar("File");
+    QAction *const cut = host.action("cut");
     host.manager.removeAction(cut);
     delete cut;
     int entries = 0;
     const QObject listening;
     connect(editor.views.actionTree->model(), &QAbstractItemModel::modelReset, &listening, [&] {
-        editor.selectToolBar(QStringLiteral("Mine"));
+        editor.selectToolBar("Mine");
         entries += editor.views.currentToolBarList->count();
     });
     editor.widget.hide();
@@ -388,11 +387,11 @@ void tst_RyCToolBarWidget_Hosts::aDeletedActionIsLeftOutOfTheApply()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    QAction *const cut = host.action(QStringLiteral("cut"));
+    QAction *const cut = host.action("cut");
     host.manager.removeAction(cut);
     delete cut;
-    editor.selectToolBar(QStringLiteral("Yours"));
-    editor.selectAction(QStringLiteral("Cut"));
+    editor.selectToolBar("Yours");
+    editor.selectAction("Cut");
     editor.call("rightClicked");
     editor.call("newClicked");
     editor.call("rightClicked");
@@ -405,51 +404,51 @@ void tst_RyCToolBarWidget_Hosts::changesOfActionsAreShownOnlyByNewEntries()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    QAction *const cut = host.action(QStringLiteral("cut"));
-    cut->setText(QStringLiteral("Snip"));
-    cut->setObjectName(QStringLiteral("snip"));
-    QCOMPARE(rowsOf(editor.views.currentToolBarList).constFirst(), QStringLiteral("Cut"));
-    QVERIFY(itemNamed(editor.views.actionTree, QStringLiteral("Cut")));
-    editor.selectToolBar(QStringLiteral("File"));
-    editor.selectAction(QStringLiteral("Cut"));
+    editor.selectToolBar("Mine");
+    QAction *const cut = host.action("cut");
+    cut->setText("Snip");
+    cut->setObjectName("snip");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList).constFirst(), "Cut");
+    QVERIFY(itemNamed(editor.views.actionTree, "Cut"));
+    editor.selectToolBar("File");
+    editor.selectAction("Cut");
     editor.call("rightClicked");
     QCOMPARE(rowsOf(editor.views.currentToolBarList),
              lines({"Open", "Snip", "< S E P A R A T O R >", "Save"}));
-    editor.selectToolBar(QStringLiteral("Mine"));
-    QCOMPARE(rowsOf(editor.views.currentToolBarList).constFirst(), QStringLiteral("Snip"));
+    editor.selectToolBar("Mine");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList).constFirst(), "Snip");
     editor.widget.applyClicked();
     QCOMPARE(contentOf(host.manager.actions(host.file)), words("open snip | save"));
-    QCOMPARE(host.manager.findAction(QStringLiteral("snip")), cut);
+    QCOMPARE(host.manager.findAction("snip"), cut);
 }
 
 void tst_RyCToolBarWidget_Hosts::anActionThatIsDisabledOrHiddenIsStillPlaced()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    host.action(QStringLiteral("cut"))->setEnabled(false);
-    host.action(QStringLiteral("copy"))->setVisible(false);
-    editor.selectToolBar(QStringLiteral("Yours"));
+    host.action("cut")->setEnabled(false);
+    host.action("copy")->setVisible(false);
+    editor.selectToolBar("Yours");
     for (const char *text : {"Cut", "Copy"}) {
-        editor.selectAction(QLatin1String(text));
+        editor.selectAction(text);
         editor.call("rightClicked");
     }
     editor.widget.applyClicked();
     QCOMPARE(contentOf(host.manager.actions(host.yours)), words("paste cut copy"));
-    QVERIFY(!host.action(QStringLiteral("cut"))->isEnabled());
-    QVERIFY(!host.action(QStringLiteral("copy"))->isVisible());
+    QVERIFY(!host.action("cut")->isEnabled());
+    QVERIFY(!host.action("copy")->isVisible());
 }
 
 void tst_RyCToolBarWidget_Hosts::anActionThatBecameASeparatorIsStillAnAction()
 {
     FilledHost host;
-    const QPointer<QAction> cut = host.action(QStringLiteral("cut"));
+    const QPointer<QAction> cut = host.action("cut");
     ShownEditor editor(&host.manager);
     cut->setSeparator(true);
-    editor.selectToolBar(QStringLiteral("Yours"));
-    editor.selectAction(QStringLiteral("Cut"));
+    editor.selectToolBar("Yours");
+    editor.selectAction("Cut");
     editor.call("rightClicked");
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     editor.widget.applyClicked();
     QVERIFY(cut);
@@ -466,7 +465,7 @@ void tst_RyCToolBarWidget_Hosts::theEditorMayBeHiddenWhileItApplies()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.call("leftClicked");
     removeEditAndCreate(editor);
     HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] { editor.widget.hide(); });
@@ -485,7 +484,7 @@ void tst_RyCToolBarWidget_Hosts::theEditorMayBeShownAgainWhileItApplies()
     FilledHost host;
     ShownEditor editor(&host.manager);
     for (const char *title : {"Mine", "Yours", "File"}) {
-        editor.selectToolBar(QLatin1String(title));
+        editor.selectToolBar(title);
         editor.call("leftClicked");
     }
     editor.call("newClicked");
@@ -553,7 +552,7 @@ void tst_RyCToolBarWidget_Hosts::restoringDefaultsDuringTheApplyKeepsWhatIsAppli
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     editor.call("newClicked");
     HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once,
@@ -582,7 +581,7 @@ void tst_RyCToolBarWidget_Hosts::aCreatedToolBarMayBeRemovedWhileItIsApplied()
     FilledHost host;
     ShownEditor editor(&host.manager);
     editor.call("newClicked");
-    editor.selectAction(QStringLiteral("Cut"));
+    editor.selectAction("Cut");
     editor.call("rightClicked");
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
     HostCalls removal({QEvent::ActionAdded}, HostCalls::Once,
@@ -597,7 +596,7 @@ void tst_RyCToolBarWidget_Hosts::aCreatedToolBarMayBeRemovedWhileItIsApplied()
     editor.widget.applyClicked();
     QCOMPARE(removal.count(), filled ? 1 : 0);
     QCOMPARE(creation.count(), 1);
-    QVERIFY(!itemNamed(editor.views.toolBarList, QStringLiteral("Custom Toolbar")));
+    QVERIFY(!itemNamed(editor.views.toolBarList, "Custom Toolbar"));
     QCOMPARE(editor.inconsistency(), QString());
     const QStringList applied =
         lines({"Custom Toolbar: cut", "File: open | save", "Mine: cut | copy", "Yours: paste"});
@@ -663,14 +662,14 @@ void tst_RyCToolBarWidget_Hosts::aToolBarDeletedDuringTheApplyIsNotTitled()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     QToolBar *other = nullptr;
     HostCalls calls({QEvent::ActionAdded}, HostCalls::Once,
                     [&] { other = reborn(host, host.mine); });
     host.mine->installEventFilter(&calls);
     editor.widget.applyClicked();
-    QCOMPARE(other->windowTitle(), QStringLiteral("Reborn"));
+    QCOMPARE(other->windowTitle(), "Reborn");
     QCOMPARE(standingOn(other), QStringList());
     QCOMPARE(inconsistencyOf(host.manager), QString());
 }
@@ -680,7 +679,7 @@ void tst_RyCToolBarWidget_Hosts::toolBarsDeletedDuringTheApplyAreLeftAlone()
     FilledHost host;
     ShownEditor editor(&host.manager);
     for (const char *title : {"Mine", "Yours", "File"}) {
-        editor.selectToolBar(QLatin1String(title));
+        editor.selectToolBar(title);
         editor.call("leftClicked");
     }
     HostCalls calls({QEvent::ActionRemoved}, HostCalls::Once, [&] {
@@ -698,7 +697,7 @@ void tst_RyCToolBarWidget_Hosts::aMessageBoxDuringTheApplyLosesNothing()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     editor.call("newClicked");
     HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] {
@@ -721,7 +720,7 @@ void tst_RyCToolBarWidget_Hosts::restoringAStateDuringTheApplyLosesNoToolBar()
     FilledHost host;
     const QByteArray state = host.manager.saveState(1);
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     editor.call("newClicked");
     HostCalls calls({QEvent::ActionRemoved, QEvent::ChildAdded}, HostCalls::Always,
@@ -753,7 +752,7 @@ void tst_RyCToolBarWidget_Hosts::anyEditDuringTheApplyKeepsTheEditorConsistent()
     editor.call("newClicked");
     editor.call("rightClicked");
     for (const char *title : {"Yours", "File", "Mine"}) {
-        editor.selectToolBar(QLatin1String(title));
+        editor.selectToolBar(title);
         editor.call("leftClicked");
     }
     HostCalls calls({QEvent::ActionRemoved, QEvent::ActionAdded, QEvent::ChildAdded},
@@ -782,9 +781,9 @@ void tst_RyCToolBarWidget_Hosts::twoEditorsOfOneManagerWriteWhatEachShows()
     FilledHost host;
     ShownEditor first(&host.manager);
     ShownEditor second(&host.manager);
-    first.selectToolBar(QStringLiteral("Mine"));
+    first.selectToolBar("Mine");
     first.call("leftClicked");
-    second.selectToolBar(QStringLiteral("Yours"));
+    second.selectToolBar("Yours");
     second.call("rightClicked");
     first.call("newClicked");
     first.widget.applyClicked();
@@ -808,12 +807,12 @@ void tst_RyCToolBarWidget_Hosts::aToolBarRemovedInOneEditorIsLeftAloneByTheOther
     ShownEditor first(&host.manager);
     ShownEditor second(&host.manager);
     for (ShownEditor *editor : {&first, &second}) {
-        editor->selectToolBar(QStringLiteral("Mine"));
+        editor->selectToolBar("Mine");
         editor->call("removeClicked");
     }
-    first.selectToolBar(QStringLiteral("Yours"));
+    first.selectToolBar("Yours");
     first.call("removeClicked");
-    second.selectToolBar(QStringLiteral("Yours"));
+    second.selectToolBar("Yours");
     second.call("rightClicked");
     first.widget.applyClicked();
     second.widget.applyClicked();
@@ -831,13 +830,13 @@ void tst_RyCToolBarWidget_Hosts::theManagerMayGoBeforeAShownEditor()
     QMainWindow window;
     std::unique_ptr<RyToolBarManager> manager(new RyToolBarManager);
     manager->setMainWindow(&window);
-    QAction cut(QStringLiteral("Cut"), nullptr);
-    manager->addAction(&cut, QStringLiteral("Edits"));
-    manager->setToolBar(manager->createToolBar(QStringLiteral("Mine")), {&cut});
+    QAction cut("Cut", nullptr);
+    manager->addAction(&cut, "Edits");
+    manager->setToolBar(manager->createToolBar("Mine"), {&cut});
     std::unique_ptr<ShownEditor> editor(new ShownEditor(manager.get()));
     manager.reset();
     editor->views.toolBarList->setCurrentItem(nullptr);
-    editor->selectToolBar(QStringLiteral("Mine"));
+    editor->selectToolBar("Mine");
     QCOMPARE(rowsOf(editor->views.currentToolBarList), lines({"Cut"}));
     QCOMPARE(editor->views.enabledButtons(), QStringList());
     editor->call("newClicked");
@@ -863,7 +862,7 @@ void tst_RyCToolBarWidget_Hosts::theApplyLeavesAreaAndVisibilityAlone()
     host.mine->hide();
     ShownEditor editor(&host.manager);
     for (const char *title : {"Mine", "Yours", "File"}) {
-        editor.selectToolBar(QLatin1String(title));
+        editor.selectToolBar(title);
         editor.call("leftClicked");
     }
     editor.widget.applyClicked();
@@ -883,9 +882,9 @@ void tst_RyCToolBarWidget_Hosts::theApplyReachesToolBarsInAnotherWindow()
     second.addToolBar(host.mine);
     second.addToolBar(host.yours);
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
-    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.selectToolBar("Yours");
     editor.call("removeClicked");
     editor.widget.applyClicked();
     QVERIFY(!host.yours);
@@ -904,9 +903,9 @@ void tst_RyCToolBarWidget_Hosts::theApplyReachesFloatingToolBars()
         QVERIFY(toolBar->isFloating());
     }
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
-    editor.selectToolBar(QStringLiteral("Yours"));
+    editor.selectToolBar("Yours");
     editor.call("removeClicked");
     editor.widget.applyClicked();
     QVERIFY(!host.yours);
@@ -918,13 +917,13 @@ void tst_RyCToolBarWidget_Hosts::theApplyReachesFloatingToolBars()
 void tst_RyCToolBarWidget_Hosts::aWidgetOnAToolBarSurvivesTheApply()
 {
     Host host;
-    QToolBar *const file = host.toolBar(QStringLiteral("file"), words("open"));
+    QToolBar *const file = host.toolBar("file", words("open"));
     const QPointer<QWidget> box = new QListWidget;
     QAction *const boxAction = file->addWidget(box);
-    boxAction->setObjectName(QStringLiteral("box"));
-    boxAction->setText(QStringLiteral("Box"));
-    file->addAction(host.action(QStringLiteral("save")));
-    host.manager.addDefaultToolBar(file, QStringLiteral("Files"));
+    boxAction->setObjectName("box");
+    boxAction->setText("Box");
+    file->addAction(host.action("save"));
+    host.manager.addDefaultToolBar(file, "Files");
     host.window.show();
     ShownEditor editor(&host.manager);
     editor.selectEntry(1);
@@ -948,13 +947,13 @@ void tst_RyCToolBarWidget_Hosts::aWidgetOnAToolBarSurvivesTheApply()
 void tst_RyCToolBarWidget_Hosts::aWidgetOfTwoToolBarsStaysWhereItWas()
 {
     Host host;
-    QToolBar *const file = host.toolBar(QStringLiteral("file"));
+    QToolBar *const file = host.toolBar("file");
     QWidget *const box = new QListWidget;
     QAction *const boxAction = file->addWidget(box);
-    boxAction->setObjectName(QStringLiteral("box"));
-    boxAction->setText(QStringLiteral("Box"));
-    host.manager.addDefaultToolBar(file, QStringLiteral("Files"));
-    QToolBar *const mine = host.manager.createToolBar(QStringLiteral("Mine"));
+    boxAction->setObjectName("box");
+    boxAction->setText("Box");
+    host.manager.addDefaultToolBar(file, "Files");
+    QToolBar *const mine = host.manager.createToolBar("Mine");
     host.window.show();
     host.manager.setToolBar(mine, {boxAction});
     QCOMPARE(file->widgetForAction(boxAction), box);
@@ -972,10 +971,10 @@ void tst_RyCToolBarWidget_Hosts::aCreatedWidgetStandsOnEachToolBar()
     };
     Host host;
     Maker maker(nullptr);
-    maker.setObjectName(QStringLiteral("maker"));
-    host.manager.addAction(&maker, QStringLiteral("Files"));
-    QToolBar *const mine = host.manager.createToolBar(QStringLiteral("Mine"));
-    QToolBar *const yours = host.manager.createToolBar(QStringLiteral("Yours"));
+    maker.setObjectName("maker");
+    host.manager.addAction(&maker, "Files");
+    QToolBar *const mine = host.manager.createToolBar("Mine");
+    QToolBar *const yours = host.manager.createToolBar("Yours");
     host.manager.setToolBars({{mine, {&maker}}, {yours, {&maker}}});
     QVERIFY(qobject_cast<QListWidget *>(mine->widgetForAction(&maker)));
     QVERIFY(qobject_cast<QListWidget *>(yours->widgetForAction(&maker)));
@@ -999,17 +998,17 @@ void tst_RyCToolBarWidget_Hosts::changesOfTheAppearanceKeepTheEdits()
     QFETCH(int, change);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     editor.call("newClicked");
     editor.call("rightClicked");
     const QStringList edited = editor.workingCopy();
     const QStringList entries = rowsOf(editor.views.currentToolBarList);
     const QFont font = QApplication::font();
-    QProxyStyle style(QStringLiteral("windows"));
+    QProxyStyle style("windows");
     const std::function<void()> changes[] = {
         [&] { editor.widget.setStyle(&style); },
-        [&] { editor.widget.setStyleSheet(QStringLiteral("QListWidget { padding: 9px; }")); },
+        [&] { editor.widget.setStyleSheet("QListWidget { padding: 9px; }"); },
         [&] { editor.widget.setPalette(QPalette(Qt::darkBlue)); },
         [&] { editor.widget.setFont(QFont(font.family(), 30)); },
         [&] { editor.widget.setLayoutDirection(Qt::RightToLeft); },
@@ -1031,7 +1030,7 @@ void tst_RyCToolBarWidget_Hosts::anotherLanguageKeepsTheEditsAndTheTexts()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     const QStringList edited = editor.workingCopy();
     const QStringList entries = rowsOf(editor.views.currentToolBarList);
@@ -1041,11 +1040,11 @@ void tst_RyCToolBarWidget_Hosts::anotherLanguageKeepsTheEditsAndTheTexts()
     QCOMPARE(editor.workingCopy(), edited);
     QCOMPARE(rowsOf(editor.views.currentToolBarList), entries);
     QCOMPARE(editor.views.renameButton->text(), rename);
-    editor.selectAction(QStringLiteral("< S E P A R A T O R >"));
+    editor.selectAction("< S E P A R A T O R >");
     editor.call("rightClicked");
-    QCOMPARE(currentOf(editor.views.currentToolBarList), QStringLiteral("< S E P A R A T O R >"));
+    QCOMPARE(currentOf(editor.views.currentToolBarList), "< S E P A R A T O R >");
     editor.call("newClicked");
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("translated Custom Toolbar"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "translated Custom Toolbar");
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -1053,7 +1052,7 @@ void tst_RyCToolBarWidget_Hosts::becomingAnotherWindowDiscardsTheEdits()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("leftClicked");
     editor.call("newClicked");
     editor.widget.setWindowFlags(Qt::Dialog);

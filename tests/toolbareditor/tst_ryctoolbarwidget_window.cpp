@@ -22,12 +22,11 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         Q_UNUSED(watched);
-        const QString kind =
-            event->spontaneous() ? QStringLiteral("spontaneous ") : QStringLiteral("own ");
+        const QString kind = event->spontaneous() ? "spontaneous " : "own ";
         if (event->type() == QEvent::Show)
-            events << kind + QLatin1String("show");
+            events << kind + "show";
         else if (event->type() == QEvent::Hide)
-            events << kind + QLatin1String("hide");
+            events << kind + "hide";
         return false;
     }
 
@@ -39,11 +38,9 @@ class FilledHost : public Host
 public:
     FilledHost()
     {
-        defaultToolBar(QStringLiteral("file"),
-                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                       QStringLiteral("Files"));
-        registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-        customToolBar(*this, QStringLiteral("Mine"), {QStringLiteral("cut")});
+        defaultToolBar("file", {"open", "|", "save"}, "Files");
+        registered("cut", "Edits");
+        customToolBar(*this, "Mine", {"cut"});
     }
 };
 
@@ -104,11 +101,11 @@ void tst_RyCToolBarWidget_Window::activate(ShownEditor &editor)
 // Into the open editor of a toolbar that has another name.
 void tst_RyCToolBarWidget_Window::typeNewName(ShownEditor &editor)
 {
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     clickInWindow(editor.views.renameButton);
     QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
-    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    typeInWindow(&editor.widget, "yours");
+    QTRY_COMPARE(nameEditor(editor)->text(), "yours");
 }
 
 void tst_RyCToolBarWidget_Window::theNameOfANewToolBarIsTypedAtOnce()
@@ -118,17 +115,15 @@ void tst_RyCToolBarWidget_Window::theNameOfANewToolBarIsTypedAtOnce()
     activate(editor);
     clickInWindow(editor.views.newButton);
     QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    QCOMPARE(nameEditor(editor)->selectedText(), QStringLiteral("Custom Toolbar"));
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
-    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    QCOMPARE(nameEditor(editor)->selectedText(), "Custom Toolbar");
+    typeInWindow(&editor.widget, "yours");
+    QTRY_COMPARE(nameEditor(editor)->text(), "yours");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Return);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("yours"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "yours");
     QVERIFY(editor.views.toolBarList->hasFocus());
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Mine: cut"),
-                          QStringLiteral("yours:")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: open | save", "Mine: cut", "yours:"}));
 }
 
 void tst_RyCToolBarWidget_Window::escapeEndsTheRenaming()
@@ -140,8 +135,7 @@ void tst_RyCToolBarWidget_Window::escapeEndsTheRenaming()
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Escape);
     QTRY_VERIFY(!editor.views.renameEditor());
     QVERIFY(editor.widget.isVisible());
-    QCOMPARE(editor.workingCopy(),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Mine: cut")}));
+    QCOMPARE(editor.workingCopy(), QStringList({"File: open | save", "Mine: cut"}));
 }
 
 void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming_data()
@@ -164,8 +158,7 @@ void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming()
     clickInWindow(target->viewport(), target->viewport()->rect().bottomLeft() + QPoint(5, -5));
     QTRY_VERIFY(!editor.views.renameEditor());
     QVERIFY(target->hasFocus());
-    QCOMPARE(editor.workingCopy(),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("yours: cut")}));
+    QCOMPARE(editor.workingCopy(), QStringList({"File: open | save", "yours: cut"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -180,10 +173,10 @@ void tst_RyCToolBarWidget_Window::theButtonsTakeNoFocusFromTheName()
     clickInWindow(editor.views.rightButton);
     QTRY_COMPARE(editor.views.currentToolBarList->count(), 2);
     QVERIFY(nameEditor(editor)->hasFocus());
-    QCOMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    QCOMPARE(nameEditor(editor)->text(), "yours");
     clickInWindow(editor.views.removeButton);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -194,17 +187,16 @@ void tst_RyCToolBarWidget_Window::newTwiceTypesTheSecondName()
     activate(editor);
     clickInWindow(editor.views.newButton);
     QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("one"));
-    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("one"));
+    typeInWindow(&editor.widget, "one");
+    QTRY_COMPARE(nameEditor(editor)->text(), "one");
     clickInWindow(editor.views.newButton);
     QTRY_COMPARE(editor.views.toolBarList->viewport()->findChildren<QLineEdit *>().size(), 1);
     QTRY_VERIFY(nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("two"));
+    typeInWindow(&editor.widget, "two");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Return);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({QStringLiteral("one"), QStringLiteral("two")}));
-    QCOMPARE(editor.workingCopy(), QStringList({QStringLiteral("one:"), QStringLiteral("two:")}));
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({"one", "two"}));
+    QCOMPARE(editor.workingCopy(), QStringList({"one:", "two:"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -214,16 +206,16 @@ void tst_RyCToolBarWidget_Window::f2RenamesCustomToolBarsOnly()
     ShownEditor editor(&host.manager);
     activate(editor);
     editor.views.toolBarList->setFocus();
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_F2);
     QVERIFY(!editor.views.renameEditor());
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_F2);
     QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    typeInWindow(&editor.widget, "yours");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Return);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("yours"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "yours");
 }
 
 void tst_RyCToolBarWidget_Window::minimizingKeepsTheEdits()
@@ -232,24 +224,22 @@ void tst_RyCToolBarWidget_Window::minimizingKeepsTheEdits()
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
     activate(editor);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.call("leftClicked");
     editor.call("newClicked");
-    editor.views.typeName(QStringLiteral("Yours"));
+    editor.views.typeName("Yours");
     const QStringList edited = editor.workingCopy();
     QVERIFY(edited != before);
 
     VisibilityRecorder recorder(&editor.widget);
     editor.widget.showMinimized();
-    QTRY_COMPARE(recorder.events, QStringList{QStringLiteral("spontaneous hide")});
+    QTRY_COMPARE(recorder.events, QStringList{"spontaneous hide"});
     QCOMPARE(editor.workingCopy(), edited);
     editor.widget.showNormal();
-    QTRY_COMPARE(
-        recorder.events,
-        QStringList({QStringLiteral("spontaneous hide"), QStringLiteral("spontaneous show")}));
+    QTRY_COMPARE(recorder.events, QStringList({"spontaneous hide", "spontaneous show"}));
     QVERIFY(QTest::qWaitForWindowExposed(&editor.widget));
     QCOMPARE(editor.workingCopy(), edited);
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Yours"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Yours");
     QCOMPARE(editor.inconsistency(), QString());
     QCOMPARE(toolBarsOf(host.manager), before);
     editor.widget.applyClicked();
@@ -267,22 +257,19 @@ void tst_RyCToolBarWidget_Window::minimizingAWindowAroundKeepsTheEdits()
     window.resize(widget->size());
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    views.click(views.toolBarList, QStringLiteral("File"));
+    views.click(views.toolBarList, "File");
     views.click(views.leftButton);
     const QStringList content = rowsOf(views.currentToolBarList);
     QCOMPARE(content.size(), 2);
 
     VisibilityRecorder recorder(widget);
     window.showMinimized();
-    QTRY_COMPARE(recorder.events, QStringList{QStringLiteral("spontaneous hide")});
+    QTRY_COMPARE(recorder.events, QStringList{"spontaneous hide"});
     window.showNormal();
-    QTRY_COMPARE(
-        recorder.events,
-        QStringList({QStringLiteral("spontaneous hide"), QStringLiteral("spontaneous show")}));
+    QTRY_COMPARE(recorder.events, QStringList({"spontaneous hide", "spontaneous show"}));
     QCOMPARE(rowsOf(views.currentToolBarList), content);
     widget->applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: | save"), QStringLiteral("Mine: cut")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: | save", "Mine: cut"}));
 }
 
 void tst_RyCToolBarWidget_Window::closingTheWindowDiscardsTheEdits()
@@ -293,7 +280,7 @@ void tst_RyCToolBarWidget_Window::closingTheWindowDiscardsTheEdits()
     activate(editor);
     clickInWindow(editor.views.newButton);
     QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    typeInWindow(&editor.widget, "yours");
     editor.widget.close();
     QVERIFY(EditorFields::of(editor.widget).ownedRecords.isEmpty());
     editor.widget.show();

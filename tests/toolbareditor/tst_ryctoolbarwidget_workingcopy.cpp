@@ -21,33 +21,31 @@ namespace {
 
 const int EntryAlignment = 0x881;
 
-const QString Separator = QStringLiteral("< S E P A R A T O R >");
+const QString Separator = "< S E P A R A T O R >";
 
 const QStringList AllButtons = {
-    QStringLiteral("newButton"),  QStringLiteral("removeButton"), QStringLiteral("renameButton"),
-    QStringLiteral("upButton"),   QStringLiteral("leftButton"),   QStringLiteral("rightButton"),
-    QStringLiteral("downButton"),
+    "newButton",  "removeButton", "renameButton", "upButton",
+    "leftButton", "rightButton",  "downButton",
 };
 
 QString accessOf(const QMetaMethod &method)
 {
     switch (method.access()) {
     case QMetaMethod::Private:
-        return QStringLiteral("private");
+        return "private";
     case QMetaMethod::Protected:
-        return QStringLiteral("protected");
+        return "protected";
     case QMetaMethod::Public:
-        return QStringLiteral("public");
+        return "public";
     }
     return QString();
 }
 
 QString described(const QMetaMethod &method)
 {
-    return QStringLiteral("%1 %2 %3 (%4)")
-        .arg(accessOf(method), QLatin1String(method.typeName()),
-             QLatin1String(method.methodSignature()),
-             QLatin1String(method.parameterNames().join(", ")));
+    return QString("%1 %2 %3 (%4)")
+        .arg(accessOf(method), method.typeName(), method.methodSignature(),
+             method.parameterNames().join(", "));
 }
 
 QIcon coloredIcon(const QColor &color)
@@ -160,15 +158,12 @@ class FilledHost : public Host
 public:
     FilledHost()
     {
-        defaultToolBar(QStringLiteral("file"),
-                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                       QStringLiteral("Files"));
+        defaultToolBar("file", {"open", "|", "save"}, "Files");
         for (const char *name : {"copy", "cut", "paste"})
-            registered(QLatin1String(name), QStringLiteral("Edits"));
-        customToolBar(*this, QStringLiteral("Empty"), {});
-        customToolBar(*this, QStringLiteral("Mine"),
-                      {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
-        customToolBar(*this, QStringLiteral("Single"), {QStringLiteral("|")});
+            registered(name, "Edits");
+        customToolBar(*this, "Empty", {});
+        customToolBar(*this, "Mine", {"cut", "copy", "paste"});
+        customToolBar(*this, "Single", {"|"});
     }
 };
 
@@ -278,25 +273,25 @@ void tst_RyCToolBarWidget_WorkingCopy::theSlotsStandInTheirOrder()
     }
     QCOMPARE(methods,
              QStringList({
-                 QStringLiteral("public void applyClicked() ()"),
-                 QStringLiteral("public void defaultClicked() ()"),
-                 QStringLiteral("private void newClicked() ()"),
-                 QStringLiteral("private void removeClicked() ()"),
-                 QStringLiteral("private void upClicked() ()"),
-                 QStringLiteral("private void downClicked() ()"),
-                 QStringLiteral("private void rightClicked() ()"),
-                 QStringLiteral("private void leftClicked() ()"),
-                 QStringLiteral("private void renameClicked() ()"),
-                 QStringLiteral("private void toolBarRenamed(QListWidgetItem*) (item)"),
-                 QStringLiteral("private void currentActionChanged(QTreeWidgetItem*) (current)"),
-                 QStringLiteral("private void currentToolBarChanged(QListWidgetItem*) (current)"),
-                 QStringLiteral("private void currentToolBarActionChanged(QListWidgetItem*) "
-                                "(current)"),
-                 QStringLiteral("private void removeToolBar(ToolBarItem*) (item)"),
-                 QStringLiteral("private bool isDefaultToolBar(ToolBarItem*) (item)"),
-                 QStringLiteral("private void setButtons() ()"),
-                 QStringLiteral("private void clearOld() ()"),
-                 QStringLiteral("private void fillNew() ()"),
+                 "public void applyClicked() ()",
+                 "public void defaultClicked() ()",
+                 "private void newClicked() ()",
+                 "private void removeClicked() ()",
+                 "private void upClicked() ()",
+                 "private void downClicked() ()",
+                 "private void rightClicked() ()",
+                 "private void leftClicked() ()",
+                 "private void renameClicked() ()",
+                 "private void toolBarRenamed(QListWidgetItem*) (item)",
+                 "private void currentActionChanged(QTreeWidgetItem*) (current)",
+                 "private void currentToolBarChanged(QListWidgetItem*) (current)",
+                 "private void currentToolBarActionChanged(QListWidgetItem*) "
+                 "(current)",
+                 "private void removeToolBar(ToolBarItem*) (item)",
+                 "private bool isDefaultToolBar(ToolBarItem*) (item)",
+                 "private void setButtons() ()",
+                 "private void clearOld() ()",
+                 "private void fillNew() ()",
              }));
 }
 
@@ -359,13 +354,13 @@ void tst_RyCToolBarWidget_WorkingCopy::sixButtonsHaveIcons_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("path");
-    const QString path = QStringLiteral(":/RyCustomizedDialog/images/%1.png");
-    QTest::newRow("up") << QStringLiteral("upButton") << path.arg(QLatin1String("up"));
-    QTest::newRow("down") << QStringLiteral("downButton") << path.arg(QLatin1String("down"));
-    QTest::newRow("left") << QStringLiteral("leftButton") << path.arg(QLatin1String("back"));
-    QTest::newRow("right") << QStringLiteral("rightButton") << path.arg(QLatin1String("forward"));
-    QTest::newRow("new") << QStringLiteral("newButton") << path.arg(QLatin1String("plus"));
-    QTest::newRow("remove") << QStringLiteral("removeButton") << path.arg(QLatin1String("minus"));
+    const QString path = ":/RyCustomizedDialog/images/%1.png";
+    QTest::newRow("up") << "upButton" << path.arg("up");
+    QTest::newRow("down") << "downButton" << path.arg("down");
+    QTest::newRow("left") << "leftButton" << path.arg("back");
+    QTest::newRow("right") << "rightButton" << path.arg("forward");
+    QTest::newRow("new") << "newButton" << path.arg("plus");
+    QTest::newRow("remove") << "removeButton" << path.arg("minus");
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::sixButtonsHaveIcons()
@@ -383,23 +378,20 @@ void tst_RyCToolBarWidget_WorkingCopy::theRenameButtonHasATextAndNoIcon()
     RyCToolBarWidget widget(nullptr, nullptr, Qt::WindowFlags());
     const EditorViews views(&widget);
     QVERIFY(views.renameButton->icon().isNull());
-    QCOMPARE(views.renameButton->text(), QStringLiteral("Rename"));
+    QCOMPARE(views.renameButton->text(), "Rename");
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theFillShowsEveryCategoryAndAction()
 {
     FilledHost host;
     // Registered, but on no toolbar.
-    host.registered(QStringLiteral("zoom"), QStringLiteral("View"));
+    host.registered("zoom", "View");
     // On a window's toolbar, but not registered.
-    host.toolBar(QStringLiteral("foreign"), {QStringLiteral("unknown")});
+    host.toolBar("foreign", {"unknown"});
     const ShownEditor editor(&host.manager);
-    QCOMPARE(
-        itemsOf(editor.views.actionTree),
-        QStringList({Separator, QStringLiteral("Edits"), QStringLiteral("  Copy"),
-                     QStringLiteral("  Cut"), QStringLiteral("  Paste"), QStringLiteral("Files"),
-                     QStringLiteral("  Open"), QStringLiteral("  Save"), QStringLiteral("View"),
-                     QStringLiteral("  Zoom")}));
+    QCOMPARE(itemsOf(editor.views.actionTree),
+             QStringList({Separator, "Edits", "  Copy", "  Cut", "  Paste", "Files", "  Open",
+                          "  Save", "View", "  Zoom"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -407,84 +399,72 @@ void tst_RyCToolBarWidget_WorkingCopy::theFillAddsEachCategoryOnItsOwnAndSortsOn
 {
     Host host;
     for (const char *name : {"two", "one"})
-        host.registered(QLatin1String(name), QStringLiteral("Digits"));
-    host.registered(QStringLiteral("alpha"), QStringLiteral("Names"));
-    host.manager.addCategory(QStringLiteral("! None"));
+        host.registered(name, "Digits");
+    host.registered("alpha", "Names");
+    host.manager.addCategory("! None");
     RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
     const QTreeWidget *const tree = EditorViews(&widget).actionTree;
     QStringList changes;
     connect(tree->model(), &QAbstractItemModel::rowsInserted, this,
             [&](const QModelIndex &parent, int first, int last) {
-                QStringList texts(parent.data().toString() + QLatin1Char(':'));
+                QStringList texts(parent.data().toString() + ":");
                 for (int row = first; row <= last; ++row)
                     texts << tree->model()->index(row, 0, parent).data().toString();
-                changes << texts.join(QLatin1Char(' '));
+                changes << texts.join(' ');
             });
-    connect(tree->model(), &QAbstractItemModel::layoutChanged, this,
-            [&] { changes << QStringLiteral("sorted"); });
+    connect(tree->model(), &QAbstractItemModel::layoutChanged, this, [&] { changes << "sorted"; });
     widget.show();
     QCOMPARE(changes,
-             QStringList({QStringLiteral(": ") + Separator, QStringLiteral(": ! None"),
-                          QStringLiteral(": Digits"), QStringLiteral("Digits: Two One"),
-                          QStringLiteral(": Names"), QStringLiteral("Names: Alpha"),
-                          QStringLiteral("sorted")}));
+             QStringList({": " + Separator, ": ! None", ": Digits", "Digits: Two One", ": Names",
+                          "Names: Alpha", "sorted"}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::everyLevelOfTheActionTreeIsSorted()
 {
     Host host;
     for (const char *name : {"delta", "alpha", "charlie", "bravo"})
-        host.registered(QLatin1String(name), QStringLiteral("Names"));
-    host.registered(QStringLiteral("two"), QStringLiteral("Digits"));
-    host.registered(QStringLiteral("one"), QStringLiteral("Digits"));
+        host.registered(name, "Names");
+    host.registered("two", "Digits");
+    host.registered("one", "Digits");
     const ShownEditor editor(&host.manager);
     QCOMPARE(itemsOf(editor.views.actionTree),
-             QStringList({Separator, QStringLiteral("Digits"), QStringLiteral("  One"),
-                          QStringLiteral("  Two"), QStringLiteral("Names"),
-                          QStringLiteral("  Alpha"), QStringLiteral("  Bravo"),
-                          QStringLiteral("  Charlie"), QStringLiteral("  Delta")}));
+             QStringList({Separator, "Digits", "  One", "  Two", "Names", "  Alpha", "  Bravo",
+                          "  Charlie", "  Delta"}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theSeparatorEntryIsSortedAmongTheCategories()
 {
     Host host;
-    host.registered(QStringLiteral("open"), QStringLiteral("Files"));
-    host.registered(QStringLiteral("quit"), QStringLiteral("! Important"));
+    host.registered("open", "Files");
+    host.registered("quit", "! Important");
     const ShownEditor editor(&host.manager);
     QCOMPARE(itemsOf(editor.views.actionTree),
-             QStringList({QStringLiteral("! Important"), QStringLiteral("  Quit"), Separator,
-                          QStringLiteral("Files"), QStringLiteral("  Open")}));
+             QStringList({"! Important", "  Quit", Separator, "Files", "  Open"}));
     QCOMPARE(currentOf(editor.views.actionTree), Separator);
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::aCategoryNamedAsTheSeparatorEntryComesAfterIt()
 {
     Host host;
-    host.registered(QStringLiteral("open"), Separator);
+    host.registered("open", Separator);
     const ShownEditor editor(&host.manager);
-    QCOMPARE(itemsOf(editor.views.actionTree),
-             QStringList({Separator, Separator, QStringLiteral("  Open")}));
+    QCOMPARE(itemsOf(editor.views.actionTree), QStringList({Separator, Separator, "  Open"}));
     QCOMPARE(editor.views.actionTree->currentItem(), editor.views.actionTree->topLevelItem(0));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theTranslatedSeparatorEntryIsSortedByItsTranslation()
 {
-    const Translations german("RyCToolBarWidget", {{Separator, QStringLiteral("Trenner")}});
+    const Translations german("RyCToolBarWidget", {{Separator, "Trenner"}});
     FilledHost host;
-    host.registered(QStringLiteral("zoom"), QStringLiteral("View"));
+    host.registered("zoom", "View");
     ShownEditor editor(&host.manager);
-    QCOMPARE(
-        itemsOf(editor.views.actionTree),
-        QStringList({QStringLiteral("Edits"), QStringLiteral("  Copy"), QStringLiteral("  Cut"),
-                     QStringLiteral("  Paste"), QStringLiteral("Files"), QStringLiteral("  Open"),
-                     QStringLiteral("  Save"), QStringLiteral("Trenner"), QStringLiteral("View"),
-                     QStringLiteral("  Zoom")}));
-    QCOMPARE(currentOf(editor.views.actionTree), QStringLiteral("Trenner"));
-    editor.selectToolBar(QStringLiteral("File"));
-    QCOMPARE(
-        rowsOf(editor.views.currentToolBarList),
-        QStringList({QStringLiteral("Open"), QStringLiteral("Trenner"), QStringLiteral("Save")}));
+    QCOMPARE(itemsOf(editor.views.actionTree),
+             QStringList({"Edits", "  Copy", "  Cut", "  Paste", "Files", "  Open", "  Save",
+                          "Trenner", "View", "  Zoom"}));
+    QCOMPARE(currentOf(editor.views.actionTree), "Trenner");
+    editor.selectToolBar("File");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList({"Open", "Trenner", "Save"}));
 }
 
 // Not when it is shown: a language that is installed in between has no effect.
@@ -492,7 +472,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theSeparatorIsTranslatedWhenTheEditorIsMa
 {
     Host host;
     RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
-    const Translations german("RyCToolBarWidget", {{Separator, QStringLiteral("Trenner")}});
+    const Translations german("RyCToolBarWidget", {{Separator, "Trenner"}});
     widget.show();
     QCOMPARE(itemsOf(EditorViews(&widget).actionTree), QStringList{Separator});
 }
@@ -502,8 +482,8 @@ void tst_RyCToolBarWidget_WorkingCopy::theSeparatorIsTranslatedAfterTheForm()
     RecordingTranslator translator;
     const RyCToolBarWidget widget(nullptr, nullptr, Qt::WindowFlags());
     const QStringList lookUps = translator.takeLookUps();
-    QCOMPARE(lookUps.filter(QStringLiteral("CToolBarPage: ")).size(), lookUps.size() - 1);
-    QCOMPARE(lookUps.constLast(), QStringLiteral("RyCToolBarWidget: ") + Separator);
+    QCOMPARE(lookUps.filter("CToolBarPage: ").size(), lookUps.size() - 1);
+    QCOMPARE(lookUps.constLast(), "RyCToolBarWidget: " + Separator);
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theSeparatorEntryIsCurrent()
@@ -533,7 +513,7 @@ void tst_RyCToolBarWidget_WorkingCopy::categoriesArePlain()
 {
     FilledHost host;
     const ShownEditor editor(&host.manager);
-    QTreeWidgetItem *const item = itemNamed(editor.views.actionTree, QStringLiteral("Edits"));
+    QTreeWidgetItem *const item = itemNamed(editor.views.actionTree, "Edits");
     QVERIFY(item);
     QVERIFY(!item->parent());
     QCOMPARE(item->flags(), QTreeWidgetItem().flags());
@@ -545,13 +525,13 @@ void tst_RyCToolBarWidget_WorkingCopy::categoriesArePlain()
 void tst_RyCToolBarWidget_WorkingCopy::anActionItemLooksLikeItsAction()
 {
     Host host;
-    QAction *const action = host.registered(QStringLiteral("open"), QStringLiteral("Files"));
-    action->setText(QStringLiteral("&Open..."));
+    QAction *const action = host.registered("open", "Files");
+    action->setText("&Open...");
     action->setIcon(coloredIcon(Qt::red));
     const ShownEditor editor(&host.manager);
-    QTreeWidgetItem *const item = itemNamed(editor.views.actionTree, QStringLiteral("&Open..."));
+    QTreeWidgetItem *const item = itemNamed(editor.views.actionTree, "&Open...");
     QVERIFY(item);
-    QCOMPARE(item->parent(), itemNamed(editor.views.actionTree, QStringLiteral("Files")));
+    QCOMPARE(item->parent(), itemNamed(editor.views.actionTree, "Files"));
     QCOMPARE(item->icon(0).cacheKey(), action->icon().cacheKey());
     QCOMPARE(item->textAlignment(0), EntryAlignment);
     QCOMPARE(item->flags(), QTreeWidgetItem().flags() | Qt::ItemIsDragEnabled);
@@ -561,13 +541,11 @@ void tst_RyCToolBarWidget_WorkingCopy::anActionItemLooksLikeItsAction()
 void tst_RyCToolBarWidget_WorkingCopy::actionsWithTheSameTextHaveAnItemEach()
 {
     Host host;
-    host.registered(QStringLiteral("open"), QStringLiteral("Files"));
-    host.registered(QStringLiteral("other"), QStringLiteral("Files"))
-        ->setText(QStringLiteral("Open"));
+    host.registered("open", "Files");
+    host.registered("other", "Files")->setText("Open");
     const ShownEditor editor(&host.manager);
     QCOMPARE(itemsOf(editor.views.actionTree),
-             QStringList({Separator, QStringLiteral("Files"), QStringLiteral("  Open"),
-                          QStringLiteral("  Open")}));
+             QStringList({Separator, "Files", "  Open", "  Open"}));
     QCOMPARE(EditorFields::of(editor.widget).actionOfTreeItem.size(), 3);
 }
 
@@ -575,27 +553,25 @@ void tst_RyCToolBarWidget_WorkingCopy::actionsWithTheSameTextKeepTheirOrder()
 {
     Host host;
     for (const char *name : {"delta", "alpha", "charlie", "bravo"})
-        host.registered(QLatin1String(name), QStringLiteral("Names"))
-            ->setText(QStringLiteral("Same"));
+        host.registered(name, "Names")->setText("Same");
     const ShownEditor editor(&host.manager);
     const EditorFields fields = EditorFields::of(editor.widget);
-    QTreeWidgetItem *const names = itemNamed(editor.views.actionTree, QStringLiteral("Names"));
+    QTreeWidgetItem *const names = itemNamed(editor.views.actionTree, "Names");
     QVERIFY(names);
     QList<QAction *> shown;
     for (int i = 0; i < names->childCount(); ++i)
         shown << fields.actionOfTreeItem.value(names->child(i));
-    QCOMPARE(shown, host.manager.categoryActions(QStringLiteral("Names")));
+    QCOMPARE(shown, host.manager.categoryActions("Names"));
     QCOMPARE(shown.size(), 4);
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::aCategoryWithoutActionsIsChildless()
 {
     Host host;
-    host.manager.addCategory(QStringLiteral("Nothing"));
+    host.manager.addCategory("Nothing");
     host.manager.addCategory(QString());
     const ShownEditor editor(&host.manager);
-    QCOMPARE(itemsOf(editor.views.actionTree),
-             QStringList({QString(), Separator, QStringLiteral("Nothing")}));
+    QCOMPARE(itemsOf(editor.views.actionTree), QStringList({QString(), Separator, "Nothing"}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::everyActionItemIsKnown()
@@ -617,14 +593,12 @@ void tst_RyCToolBarWidget_WorkingCopy::everyActionItemIsKnown()
 void tst_RyCToolBarWidget_WorkingCopy::theFillShowsEveryToolBarSortedByTitle()
 {
     FilledHost host;
-    host.defaultToolBar(QStringLiteral("zoom"), {}, QStringLiteral("View"));
-    host.defaultToolBar(QStringLiteral("about"), {}, QStringLiteral("Help"));
-    host.toolBar(QStringLiteral("foreign"));
+    host.defaultToolBar("zoom", {}, "View");
+    host.defaultToolBar("about", {}, "Help");
+    host.toolBar("foreign");
     const ShownEditor editor(&host.manager);
-    QCOMPARE(
-        rowsOf(editor.views.toolBarList),
-        QStringList({QStringLiteral("About"), QStringLiteral("Empty"), QStringLiteral("File"),
-                     QStringLiteral("Mine"), QStringLiteral("Single"), QStringLiteral("Zoom")}));
+    QCOMPARE(rowsOf(editor.views.toolBarList),
+             QStringList({"About", "Empty", "File", "Mine", "Single", "Zoom"}));
 }
 
 // Not only because its own changes look like renames, which sort as well.
@@ -632,14 +606,12 @@ void tst_RyCToolBarWidget_WorkingCopy::theFillSortsTheToolBarsEvenUnheard()
 {
     Host host;
     for (const char *title : {"Delta", "Alpha", "Charlie", "Bravo"})
-        host.manager.createToolBar(QLatin1String(title));
+        host.manager.createToolBar(title);
     RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
     const EditorViews views(&widget);
     const QSignalBlocker unheard(views.toolBarList);
     widget.show();
-    QCOMPARE(rowsOf(views.toolBarList),
-             QStringList({QStringLiteral("Alpha"), QStringLiteral("Bravo"),
-                          QStringLiteral("Charlie"), QStringLiteral("Delta")}));
+    QCOMPARE(rowsOf(views.toolBarList), QStringList({"Alpha", "Bravo", "Charlie", "Delta"}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theWorkingCopyEqualsTheManager()
@@ -647,8 +619,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theWorkingCopyEqualsTheManager()
     FilledHost host;
     const ShownEditor editor(&host.manager);
     QCOMPARE(editor.workingCopy(),
-             QStringList({QStringLiteral("Empty:"), QStringLiteral("File: open | save"),
-                          QStringLiteral("Mine: cut copy paste"), QStringLiteral("Single: |")}));
+             QStringList({"Empty:", "File: open | save", "Mine: cut copy paste", "Single: |"}));
     QCOMPARE(editor.workingCopy(), toolBarsOf(host.manager));
     QCOMPARE(editor.inconsistency(), QString());
     const EditorFields fields = EditorFields::of(editor.widget);
@@ -662,11 +633,10 @@ void tst_RyCToolBarWidget_WorkingCopy::theWorkingCopyEqualsTheManager()
 void tst_RyCToolBarWidget_WorkingCopy::theSameTitleTwiceGivesTwoRows()
 {
     FilledHost host;
-    host.manager.createToolBar(QStringLiteral("File"));
+    host.manager.createToolBar("File");
     const ShownEditor editor(&host.manager);
     QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({QStringLiteral("Empty"), QStringLiteral("File"), QStringLiteral("File"),
-                          QStringLiteral("Mine"), QStringLiteral("Single")}));
+             QStringList({"Empty", "File", "File", "Mine", "Single"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -675,9 +645,9 @@ void tst_RyCToolBarWidget_WorkingCopy::theFirstToolBarInPointerOrderIsCurrent()
     FilledHost host;
     QToolBar *const first = host.manager.toolBars().first();
     // Neither the first nor the last of the sorted list.
-    first->setWindowTitle(QStringLiteral("First"));
+    first->setWindowTitle("First");
     const ShownEditor editor(&host.manager);
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("First"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "First");
     QCOMPARE(EditorFields::of(editor.widget).currentRecord->toolBar(), first);
     QCOMPARE(editor.inconsistency(), QString());
 }
@@ -685,11 +655,9 @@ void tst_RyCToolBarWidget_WorkingCopy::theFirstToolBarInPointerOrderIsCurrent()
 void tst_RyCToolBarWidget_WorkingCopy::theFirstEntryOfTheCurrentToolBarIsCurrent()
 {
     Host host;
-    host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open"), QStringLiteral("save")},
-                        QStringLiteral("Files"));
+    host.defaultToolBar("file", {"open", "save"}, "Files");
     const ShownEditor editor(&host.manager);
-    QCOMPARE(rowsOf(editor.views.currentToolBarList),
-             QStringList({QStringLiteral("Open"), QStringLiteral("Save")}));
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList({"Open", "Save"}));
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 0);
 }
 
@@ -697,7 +665,7 @@ void tst_RyCToolBarWidget_WorkingCopy::aDefaultToolBarIsDarkGreenAndNotEditable(
 {
     FilledHost host;
     const ShownEditor editor(&host.manager);
-    const QListWidgetItem *const row = itemNamed(editor.views.toolBarList, QStringLiteral("File"));
+    const QListWidgetItem *const row = itemNamed(editor.views.toolBarList, "File");
     QVERIFY(row);
     QCOMPARE(row->foreground().color(), QColor(Qt::darkGreen));
     QCOMPARE(row->flags(), QListWidgetItem().flags());
@@ -710,7 +678,7 @@ void tst_RyCToolBarWidget_WorkingCopy::aCustomToolBarIsEditableAndNotColored()
 {
     FilledHost host;
     const ShownEditor editor(&host.manager);
-    const QListWidgetItem *const row = itemNamed(editor.views.toolBarList, QStringLiteral("Mine"));
+    const QListWidgetItem *const row = itemNamed(editor.views.toolBarList, "Mine");
     QVERIFY(row);
     QVERIFY(!row->data(Qt::ForegroundRole).isValid());
     QCOMPARE(row->flags(), QListWidgetItem().flags() | Qt::ItemIsEditable);
@@ -732,36 +700,35 @@ void tst_RyCToolBarWidget_WorkingCopy::theFillChangesEveryRowOnce()
     QCOMPARE(changed, rowsOf(views.toolBarList));
     widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("Empty:"), QStringLiteral("File: open | save"),
-                          QStringLiteral("Mine: cut copy paste"), QStringLiteral("Single: |")}));
+             QStringList({"Empty:", "File: open | save", "Mine: cut copy paste", "Single: |"}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theFillKnowsARowBeforeItsContentAndBothBeforeItIsCurrent()
 {
     Host host;
-    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("cut")});
+    host.registered("cut", "Edits");
+    customToolBar(host, "Mine", {"cut"});
     RyCToolBarWidget widget(nullptr, &host.manager, Qt::WindowFlags());
     const QListWidget *const list = EditorViews(&widget).toolBarList;
     QStringList seen;
     const auto note = [&](const char *event) {
         const EditorFields fields = EditorFields::of(widget);
         const bool editable = list->item(0)->flags().testFlag(Qt::ItemIsEditable);
-        seen << QStringLiteral("%1: %2 recorded, %3 rows, %4 contents, %5")
-                    .arg(QLatin1String(event))
+        seen << QString("%1: %2 recorded, %3 rows, %4 contents, %5")
+                    .arg(event)
                     .arg(fields.recordOfToolBar.size())
                     .arg(fields.recordOfListItem.size())
                     .arg(fields.workingActions.size())
-                    .arg(editable ? QStringLiteral("editable") : QStringLiteral("plain"));
+                    .arg(editable ? "editable" : "plain");
     };
     connect(list->model(), &QAbstractItemModel::rowsInserted, this, [&] { note("inserted"); });
     connect(list, &QListWidget::currentItemChanged, this, [&] { note("current"); });
     connect(list, &QListWidget::itemChanged, this, [&] { note("changed"); });
     widget.show();
     QCOMPARE(seen,
-             QStringList({QStringLiteral("inserted: 1 recorded, 0 rows, 0 contents, plain"),
-                          QStringLiteral("current: 1 recorded, 1 rows, 1 contents, plain"),
-                          QStringLiteral("changed: 1 recorded, 1 rows, 1 contents, editable")}));
+             QStringList({"inserted: 1 recorded, 0 rows, 0 contents, plain",
+                          "current: 1 recorded, 1 rows, 1 contents, plain",
+                          "changed: 1 recorded, 1 rows, 1 contents, editable"}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::theListIsSortedAfterEachChangeOfTheFill()
@@ -790,11 +757,11 @@ void tst_RyCToolBarWidget_WorkingCopy::rowsOfTheSameTextStayInOrder()
     Host host;
     QStringList expected;
     for (int i = 0; i < 8; ++i)
-        host.manager.createToolBar(QStringLiteral("Same"));
+        host.manager.createToolBar("Same");
     const auto toolBars = host.manager.toolBars();
     for (int i = 0; i < toolBars.size(); ++i) {
-        expected << QStringLiteral("Action%1").arg(i);
-        QAction *const action = host.registered(QStringLiteral("action%1").arg(i), expected.last());
+        expected << QString("Action%1").arg(i);
+        QAction *const action = host.registered(QString("action%1").arg(i), expected.last());
         host.manager.setToolBar(toolBars.at(i), {action});
     }
     const ShownEditor editor(&host.manager);
@@ -811,34 +778,28 @@ void tst_RyCToolBarWidget_WorkingCopy::aRowChangedWithoutACurrentToolBarIsSorted
 {
     Host host;
     for (const char *title : {"A", "B", "C"})
-        host.manager.createToolBar(QLatin1String(title));
+        host.manager.createToolBar(title);
     const ShownEditor editor(&host.manager);
     QListWidget *const list = editor.views.toolBarList;
     editor.views.click(editor.views.newButton);
     list->setCurrentItem(nullptr);
-    list->item(0)->setText(QStringLiteral("Z"));
-    QCOMPARE(rowsOf(list),
-             QStringList({QStringLiteral("Z"), QStringLiteral("B"), QStringLiteral("C"),
-                          QStringLiteral("Custom Toolbar")}));
+    list->item(0)->setText("Z");
+    QCOMPARE(rowsOf(list), QStringList({"Z", "B", "C", "Custom Toolbar"}));
     list->setCurrentRow(1);
-    list->item(3)->setText(QStringLiteral("Y"));
-    QCOMPARE(rowsOf(list),
-             QStringList({QStringLiteral("B"), QStringLiteral("C"), QStringLiteral("Y"),
-                          QStringLiteral("Z")}));
+    list->item(3)->setText("Y");
+    QCOMPARE(rowsOf(list), QStringList({"B", "C", "Y", "Z"}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::aRowThatTheHostAddedIsSortedInLater()
 {
     Host host;
     for (const char *title : {"A", "B", "C"})
-        host.manager.createToolBar(QLatin1String(title));
+        host.manager.createToolBar(title);
     const ShownEditor editor(&host.manager);
     QListWidget *const list = editor.views.toolBarList;
-    list->addItem(QStringLiteral("A of the host"));
-    list->item(0)->setText(QStringLiteral("Z"));
-    QCOMPARE(rowsOf(list),
-             QStringList({QStringLiteral("A of the host"), QStringLiteral("B"), QStringLiteral("C"),
-                          QStringLiteral("Z")}));
+    list->addItem("A of the host");
+    list->item(0)->setText("Z");
+    QCOMPARE(rowsOf(list), QStringList({"A of the host", "B", "C", "Z"}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::aManagerWithoutAnythingGivesTheSeparatorEntryOnly()
@@ -850,8 +811,7 @@ void tst_RyCToolBarWidget_WorkingCopy::aManagerWithoutAnythingGivesTheSeparatorE
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
     QVERIFY(!editor.views.toolBarList->currentItem());
     QCOMPARE(editor.views.enabledButtons(),
-             QStringList({QStringLiteral("newButton"), QStringLiteral("removeButton"),
-                          QStringLiteral("renameButton")}));
+             QStringList({"newButton", "removeButton", "renameButton"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -886,15 +846,13 @@ void tst_RyCToolBarWidget_WorkingCopy::selectingAToolBarShowsItsContent()
 {
     FilledHost host;
     const ShownEditor editor(&host.manager);
-    editor.views.click(editor.views.toolBarList, QStringLiteral("Mine"));
-    QCOMPARE(rowsOf(editor.views.currentToolBarList),
-             QStringList({QStringLiteral("Cut"), QStringLiteral("Copy"), QStringLiteral("Paste")}));
+    editor.views.click(editor.views.toolBarList, "Mine");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList({"Cut", "Copy", "Paste"}));
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 0);
     QCOMPARE(editor.inconsistency(), QString());
 
-    editor.views.click(editor.views.toolBarList, QStringLiteral("File"));
-    QCOMPARE(rowsOf(editor.views.currentToolBarList),
-             QStringList({QStringLiteral("Open"), Separator, QStringLiteral("Save")}));
+    editor.views.click(editor.views.toolBarList, "File");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList({"Open", Separator, "Save"}));
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 0);
     QCOMPARE(editor.inconsistency(), QString());
 }
@@ -903,16 +861,15 @@ void tst_RyCToolBarWidget_WorkingCopy::selectingAToolBarShowsItsContent()
 void tst_RyCToolBarWidget_WorkingCopy::selectingAToolBarSetsTheButtons()
 {
     Host host;
-    host.defaultToolBar(QStringLiteral("file"), {}, QString());
-    customToolBar(host, QStringLiteral("Mine"), {});
+    host.defaultToolBar("file", {}, QString());
+    customToolBar(host, "Mine", {});
     ShownEditor editor(&host.manager);
-    const QStringList ofMine = {QStringLiteral("newButton"), QStringLiteral("removeButton"),
-                                QStringLiteral("renameButton"), QStringLiteral("rightButton")};
-    const QStringList ofFile = {QStringLiteral("newButton"), QStringLiteral("rightButton")};
+    const QStringList ofMine = {"newButton", "removeButton", "renameButton", "rightButton"};
+    const QStringList ofFile = {"newButton", "rightButton"};
     for (int i = 0; i < 2; ++i) {
-        editor.selectToolBar(QStringLiteral("Mine"));
+        editor.selectToolBar("Mine");
         QCOMPARE(editor.views.enabledButtons(), ofMine);
-        editor.selectToolBar(QStringLiteral("File"));
+        editor.selectToolBar("File");
         QCOMPARE(editor.views.enabledButtons(), ofFile);
     }
 }
@@ -920,14 +877,14 @@ void tst_RyCToolBarWidget_WorkingCopy::selectingAToolBarSetsTheButtons()
 void tst_RyCToolBarWidget_WorkingCopy::anEntryLooksLikeItsAction()
 {
     Host host;
-    QAction *const action = host.registered(QStringLiteral("open"), QStringLiteral("Files"));
-    action->setText(QStringLiteral("&Open..."));
+    QAction *const action = host.registered("open", "Files");
+    action->setText("&Open...");
     action->setIcon(coloredIcon(Qt::blue));
-    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("open")});
+    customToolBar(host, "Mine", {"open"});
     const ShownEditor editor(&host.manager);
     QListWidgetItem *const entry = editor.views.currentToolBarList->item(0);
     QVERIFY(entry);
-    QCOMPARE(entry->text(), QStringLiteral("&Open..."));
+    QCOMPARE(entry->text(), "&Open...");
     QCOMPARE(entry->icon().cacheKey(), action->icon().cacheKey());
     QCOMPARE(entry->textAlignment(), EntryAlignment);
     QCOMPARE(EditorFields::of(editor.widget).entryOfAction.value(action), entry);
@@ -936,7 +893,7 @@ void tst_RyCToolBarWidget_WorkingCopy::anEntryLooksLikeItsAction()
 void tst_RyCToolBarWidget_WorkingCopy::aSeparatorRowIsPlain()
 {
     Host host;
-    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("|"), QStringLiteral("|")});
+    customToolBar(host, "Mine", {"|", "|"});
     const ShownEditor editor(&host.manager);
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList({Separator, Separator}));
     QListWidgetItem *const entry = editor.views.currentToolBarList->item(1);
@@ -951,8 +908,8 @@ void tst_RyCToolBarWidget_WorkingCopy::selectingAnEmptyToolBarShowsNothing()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.selectToolBar(QStringLiteral("Empty"));
+    editor.selectToolBar("Mine");
+    editor.selectToolBar("Empty");
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
     QVERIFY(!editor.views.currentToolBarList->currentItem());
     QCOMPARE(editor.inconsistency(), QString());
@@ -962,7 +919,7 @@ void tst_RyCToolBarWidget_WorkingCopy::withoutACurrentToolBarNothingIsShown()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.toolBarList->setCurrentItem(nullptr);
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
     QVERIFY(!EditorFields::of(editor.widget).currentRecord);
@@ -973,15 +930,14 @@ void tst_RyCToolBarWidget_WorkingCopy::aForeignToolBarRowIsNoToolBar()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     QListWidgetItem foreign;
     QVERIFY(QMetaObject::invokeMethod(&editor.widget, "currentToolBarChanged", Qt::DirectConnection,
                                       Q_ARG(QListWidgetItem *, &foreign)));
     QVERIFY(!EditorFields::of(editor.widget).currentRecord);
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
     QCOMPARE(editor.views.enabledButtons(),
-             QStringList({QStringLiteral("newButton"), QStringLiteral("removeButton"),
-                          QStringLiteral("renameButton")}));
+             QStringList({"newButton", "removeButton", "renameButton"}));
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::aForeignTreeItemIsNoAction()
@@ -1001,11 +957,11 @@ void tst_RyCToolBarWidget_WorkingCopy::selectingACategoryDisablesAdding()
     FilledHost host;
     const ShownEditor editor(&host.manager);
     QVERIFY(editor.views.rightButton->isEnabled());
-    editor.views.click(editor.views.actionTree, QStringLiteral("Edits"));
+    editor.views.click(editor.views.actionTree, "Edits");
     QVERIFY(!editor.views.rightButton->isEnabled());
-    editor.views.click(editor.views.actionTree, QStringLiteral("Cut"));
+    editor.views.click(editor.views.actionTree, "Cut");
     QVERIFY(editor.views.rightButton->isEnabled());
-    editor.views.click(editor.views.actionTree, QStringLiteral("Files"));
+    editor.views.click(editor.views.actionTree, "Files");
     QVERIFY(!editor.views.rightButton->isEnabled());
     editor.views.click(editor.views.actionTree, Separator);
     QVERIFY(editor.views.rightButton->isEnabled());
@@ -1019,12 +975,12 @@ void tst_RyCToolBarWidget_WorkingCopy::theButtonsFollowTheSelection_data()
     QTest::addColumn<QString>("enabled");
 
     const QString none;
-    const QString cut = QStringLiteral("Cut");
-    const QString edits = QStringLiteral("Edits");
-    const QString file = QStringLiteral("File");
-    const QString mine = QStringLiteral("Mine");
-    const QString empty = QStringLiteral("Empty");
-    const QString single = QStringLiteral("Single");
+    const QString cut = "Cut";
+    const QString edits = "Edits";
+    const QString file = "File";
+    const QString mine = "Mine";
+    const QString empty = "Empty";
+    const QString single = "Single";
     QTest::newRow("custom, first entry, action")
         << mine << 0 << cut << "new remove rename left right down";
     QTest::newRow("custom, middle entry, action")
@@ -1071,8 +1027,8 @@ void tst_RyCToolBarWidget_WorkingCopy::theButtonsFollowTheSelection()
     else
         editor.selectAction(treeItem);
 
-    QStringList expected = enabled.split(QLatin1Char(' '));
-    expected.replaceInStrings(QRegularExpression(QStringLiteral("$")), QStringLiteral("Button"));
+    QStringList expected = enabled.split(' ');
+    expected.replaceInStrings(QRegularExpression("$"), "Button");
     QCOMPARE(editor.views.enabledButtons(), expected);
     QCOMPARE(editor.inconsistency(), QString());
 }
@@ -1089,25 +1045,25 @@ void tst_RyCToolBarWidget_WorkingCopy::theRuleSetsEveryButton()
     QFETCH(bool, enabledBefore);
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.selectEntry(1);
     setAllEnabled(editor.views, enabledBefore);
     editor.call("setButtons");
     QCOMPARE(editor.views.enabledButtons(), AllButtons);
 
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.selectEntry(-1);
-    editor.selectAction(QStringLiteral("Edits"));
+    editor.selectAction("Edits");
     setAllEnabled(editor.views, enabledBefore);
     editor.call("setButtons");
-    QCOMPARE(editor.views.enabledButtons(), QStringList{QStringLiteral("newButton")});
+    QCOMPARE(editor.views.enabledButtons(), QStringList{"newButton"});
 }
 
 void tst_RyCToolBarWidget_WorkingCopy::hidingEmptiesTheEditor()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.call("removeClicked");
     editor.call("newClicked");
     editor.widget.hide();
@@ -1120,7 +1076,7 @@ void tst_RyCToolBarWidget_WorkingCopy::hidingEmptiesTheEditorEvenUnheard()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     const QSignalBlocker unheardToolBars(editor.views.toolBarList);
     const QSignalBlocker unheardActions(editor.views.actionTree);
     editor.widget.hide();
@@ -1145,7 +1101,7 @@ void tst_RyCToolBarWidget_WorkingCopy::clearingDisablesSixButtonsAndLeavesRename
     views.renameButton->setEnabled(renameEnabled);
     // Nothing is current, so that the cleared views do not ask for the buttons' rule.
     QVERIFY(QMetaObject::invokeMethod(&widget, "clearOld", Qt::DirectConnection));
-    const QStringList rename = {QStringLiteral("renameButton")};
+    const QStringList rename = {"renameButton"};
     QCOMPARE(views.enabledButtons(), renameEnabled ? rename : QStringList());
 }
 
@@ -1155,9 +1111,9 @@ void tst_RyCToolBarWidget_WorkingCopy::hidingLeavesRenameAsItIsWithoutACurrentTo
     FilledHost host;
     ShownEditor editor(&host.manager);
     for (const char *title : {"File", "Mine"}) {
-        editor.selectToolBar(QLatin1String(title));
+        editor.selectToolBar(title);
         editor.widget.hide();
-        QCOMPARE(editor.views.enabledButtons(), QStringList{QStringLiteral("renameButton")});
+        QCOMPARE(editor.views.enabledButtons(), QStringList{"renameButton"});
         editor.widget.show();
     }
 }
@@ -1166,31 +1122,24 @@ void tst_RyCToolBarWidget_WorkingCopy::showingAgainReadsTheManagerAgain()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    host.registered(QStringLiteral("zoom"), QStringLiteral("View"));
-    host.manager.addDefaultToolBar(host.toolBar(QStringLiteral("view"), {QStringLiteral("zoom")}),
-                                   QStringLiteral("View"));
-    host.manager.removeAction(host.action(QStringLiteral("copy")));
-    host.window.findChild<QToolBar *>(QStringLiteral("file"))
-        ->setWindowTitle(QStringLiteral("Documents"));
+    host.registered("zoom", "View");
+    host.manager.addDefaultToolBar(host.toolBar("view", {"zoom"}), "View");
+    host.manager.removeAction(host.action("copy"));
+    host.window.findChild<QToolBar *>("file")->setWindowTitle("Documents");
     // Not before it is shown again.
-    QVERIFY(!itemNamed(editor.views.actionTree, QStringLiteral("Zoom")));
-    QVERIFY(!itemNamed(editor.views.toolBarList, QStringLiteral("View")));
+    QVERIFY(!itemNamed(editor.views.actionTree, "Zoom"));
+    QVERIFY(!itemNamed(editor.views.toolBarList, "View"));
 
     editor.widget.hide();
     editor.widget.show();
-    QCOMPARE(
-        itemsOf(editor.views.actionTree),
-        QStringList({Separator, QStringLiteral("Edits"), QStringLiteral("  Cut"),
-                     QStringLiteral("  Paste"), QStringLiteral("Files"), QStringLiteral("  Open"),
-                     QStringLiteral("  Save"), QStringLiteral("View"), QStringLiteral("  Zoom")}));
-    QCOMPARE(
-        rowsOf(editor.views.toolBarList),
-        QStringList({QStringLiteral("Documents"), QStringLiteral("Empty"), QStringLiteral("Mine"),
-                     QStringLiteral("Single"), QStringLiteral("View")}));
+    QCOMPARE(itemsOf(editor.views.actionTree),
+             QStringList({Separator, "Edits", "  Cut", "  Paste", "Files", "  Open", "  Save",
+                          "View", "  Zoom"}));
+    QCOMPARE(rowsOf(editor.views.toolBarList),
+             QStringList({"Documents", "Empty", "Mine", "Single", "View"}));
     QCOMPARE(editor.workingCopy(),
-             QStringList({QStringLiteral("Documents: open | save"), QStringLiteral("Empty:"),
-                          QStringLiteral("Mine: cut paste"), QStringLiteral("Single: |"),
-                          QStringLiteral("View: zoom")}));
+             QStringList({"Documents: open | save", "Empty:", "Mine: cut paste", "Single: |",
+                          "View: zoom"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -1199,16 +1148,14 @@ void tst_RyCToolBarWidget_WorkingCopy::hidingDiscardsTheEdits()
     FilledHost host;
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Single"));
+    editor.selectToolBar("Single");
     editor.call("removeClicked");
-    itemNamed(editor.views.toolBarList, QStringLiteral("Mine"))->setText(QStringLiteral("Yours"));
-    editor.selectToolBar(QStringLiteral("File"));
+    itemNamed(editor.views.toolBarList, "Mine")->setText("Yours");
+    editor.selectToolBar("File");
     editor.call("leftClicked");
     editor.call("newClicked");
-    QCOMPARE(
-        editor.workingCopy(),
-        QStringList({QStringLiteral("Custom Toolbar:"), QStringLiteral("Empty:"),
-                     QStringLiteral("File: | save"), QStringLiteral("Yours: cut copy paste")}));
+    QCOMPARE(editor.workingCopy(),
+             QStringList({"Custom Toolbar:", "Empty:", "File: | save", "Yours: cut copy paste"}));
 
     editor.widget.hide();
     editor.widget.show();
@@ -1233,9 +1180,9 @@ void tst_RyCToolBarWidget_WorkingCopy::spontaneousEventsKeepTheEdits()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.call("leftClicked");
-    editor.selectAction(QStringLiteral("Cut"));
+    editor.selectAction("Cut");
     const QStringList edited = editor.workingCopy();
     const QStringList tree = itemsOf(editor.views.actionTree);
 
@@ -1243,10 +1190,10 @@ void tst_RyCToolBarWidget_WorkingCopy::spontaneousEventsKeepTheEdits()
     QCOMPARE(editor.workingCopy(), edited);
     sendSpontaneous<QShowEvent>(&editor.widget);
     QCOMPARE(editor.workingCopy(), edited);
-    QVERIFY(edited.contains(QStringLiteral("File: | save")));
+    QVERIFY(edited.contains("File: | save"));
     QCOMPARE(itemsOf(editor.views.actionTree), tree);
-    QCOMPARE(currentOf(editor.views.actionTree), QStringLiteral("Cut"));
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("File"));
+    QCOMPARE(currentOf(editor.views.actionTree), "Cut");
+    QCOMPARE(currentOf(editor.views.toolBarList), "File");
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -1276,12 +1223,12 @@ void tst_RyCToolBarWidget_WorkingCopy::aForeignRecordIsNotFreed()
 {
     FilledHost host;
     ShownEditor editor(&host.manager);
-    ToolBarItem foreign(QStringLiteral("Foreign"));
+    ToolBarItem foreign("Foreign");
     deleteRecord(editor.widget, &foreign);
     deleteRecord(editor.widget, nullptr);
-    QCOMPARE(foreign.toolBarName(), QStringLiteral("Foreign"));
+    QCOMPARE(foreign.toolBarName(), "Foreign");
     // Nor is its own one freed twice.
-    ToolBarItem *const own = createRecord(editor.widget, host.toolBar(QStringLiteral("other")));
+    ToolBarItem *const own = createRecord(editor.widget, host.toolBar("other"));
     QVERIFY(EditorFields::of(editor.widget).ownedRecords.contains(own));
     deleteRecord(editor.widget, own);
     deleteRecord(editor.widget, own);
@@ -1306,7 +1253,7 @@ void tst_RyCToolBarWidget_WorkingCopy::theRecordsAreFreed()
 {
     QFETCH(QString, end);
     Host host;
-    QString title = QString::fromLatin1("Title of its own");
+    QString title = "Title of its own";
     QToolBar *const toolBar = host.manager.createToolBar(title);
     const QPointer<QToolBar> guard = toolBar;
     QWidget *const parent = new QWidget;
@@ -1315,27 +1262,27 @@ void tst_RyCToolBarWidget_WorkingCopy::theRecordsAreFreed()
     QCOMPARE(EditorFields::of(*widget).ownedRecords.size(), 1);
     QVERIFY(!title.isDetached());
 
-    const QStringList steps = end.split(QLatin1Char(' '));
+    const QStringList steps = end.split(' ');
     for (const QString &step : steps) {
-        if (step == QLatin1String("hide"))
+        if (step == "hide")
             widget->hide();
-        else if (step == QLatin1String("show"))
+        else if (step == "show")
             widget->show();
-        else if (step == QLatin1String("minimize"))
+        else if (step == "minimize")
             sendSpontaneous<QHideEvent>(widget);
-        else if (step == QLatin1String("remove"))
+        else if (step == "remove")
             QVERIFY(QMetaObject::invokeMethod(widget, "removeClicked"));
-        else if (step == QLatin1String("apply"))
+        else if (step == "apply")
             widget->applyClicked();
-        else if (step == QLatin1String("destroy") && !end.endsWith(QLatin1String("parent")))
+        else if (step == "destroy" && !end.endsWith("parent"))
             delete widget;
     }
-    if (end.endsWith(QLatin1String("parent")))
+    if (end.endsWith("parent"))
         delete parent;
     if (guard)
-        guard->setWindowTitle(QStringLiteral("Another"));
+        guard->setWindowTitle("Another");
     QVERIFY(title.isDetached());
-    if (!end.endsWith(QLatin1String("parent")))
+    if (!end.endsWith("parent"))
         delete parent;
 }
 

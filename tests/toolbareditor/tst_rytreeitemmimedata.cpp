@@ -25,7 +25,7 @@ template struct FieldOffsets<&RyTreeItemMimeData::dragItem, &RyTreeItemMimeData:
 
 QString itemFormat()
 {
-    return QStringLiteral("ItemMimeData");
+    return "ItemMimeData";
 }
 
 } // namespace
@@ -75,15 +75,15 @@ void tst_RyTreeItemMimeData::reportsTheFormatOnceItIsSet()
     payload.SetDragData(itemFormat(), &item);
     QCOMPARE(payload.formats(), QStringList{itemFormat()});
     QVERIFY(payload.hasFormat(itemFormat()));
-    QVERIFY(!payload.hasFormat(QStringLiteral("text/plain")));
+    QVERIFY(!payload.hasFormat("text/plain"));
 }
 
 void tst_RyTreeItemMimeData::reportsTheFormatThatWasGiven()
 {
     QTreeWidgetItem item;
     RyTreeItemMimeData payload;
-    payload.SetDragData(QStringLiteral("another/one"), &item);
-    QCOMPARE(payload.formats(), QStringList{QStringLiteral("another/one")});
+    payload.SetDragData("another/one", &item);
+    QCOMPARE(payload.formats(), QStringList{"another/one"});
     QVERIFY(!payload.hasFormat(itemFormat()));
 }
 
@@ -106,7 +106,7 @@ void tst_RyTreeItemMimeData::aNullItemIsCarriedToo()
 void tst_RyTreeItemMimeData::aSecondCallAppendsTheFormat_data()
 {
     QTest::addColumn<QString>("second");
-    QTest::newRow("another") << QStringLiteral("another/one");
+    QTest::newRow("another") << "another/one";
     QTest::newRow("the same again") << itemFormat();
     QTest::newRow("empty") << QString();
 }
@@ -145,9 +145,9 @@ void tst_RyTreeItemMimeData::formatsAreACopy()
 void tst_RyTreeItemMimeData::otherContentIsNoFormat()
 {
     RyTreeItemMimeData payload;
-    payload.setData(QStringLiteral("text/plain"), QByteArrayLiteral("words"));
+    payload.setData("text/plain", QByteArrayLiteral("words"));
     QCOMPARE(payload.formats(), QStringList());
-    QVERIFY(!payload.hasFormat(QStringLiteral("text/plain")));
+    QVERIFY(!payload.hasFormat("text/plain"));
 }
 
 void tst_RyTreeItemMimeData::retrievingTheItemFormatSaysWhetherThereIsAnItem_data()
@@ -181,7 +181,7 @@ void tst_RyTreeItemMimeData::retrievingTheItemFormatNeedsNoReportedFormat()
     QTreeWidgetItem item;
     RyTreeItemMimeData payload;
     QCOMPARE(payload.retrieveData(itemFormat(), QVariant::Bool), QVariant(false));
-    payload.SetDragData(QStringLiteral("another/one"), &item);
+    payload.SetDragData("another/one", &item);
     QCOMPARE(payload.retrieveData(itemFormat(), QVariant::Bool), QVariant(true));
 }
 
@@ -189,8 +189,8 @@ void tst_RyTreeItemMimeData::otherFormatsComeFromTheBaseClass_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QVariant>("expected");
-    QTest::newRow("stored") << QStringLiteral("my/bytes") << QVariant(QByteArrayLiteral("abc"));
-    QTest::newRow("not stored") << QStringLiteral("my/other") << QVariant();
+    QTest::newRow("stored") << "my/bytes" << QVariant(QByteArrayLiteral("abc"));
+    QTest::newRow("not stored") << "my/other" << QVariant();
     QTest::newRow("empty") << QString() << QVariant();
 }
 
@@ -201,18 +201,18 @@ void tst_RyTreeItemMimeData::otherFormatsComeFromTheBaseClass()
     QTreeWidgetItem item;
     RyTreeItemMimeData payload;
     payload.SetDragData(itemFormat(), &item);
-    payload.setData(QStringLiteral("my/bytes"), QByteArrayLiteral("abc"));
+    payload.setData("my/bytes", QByteArrayLiteral("abc"));
     QCOMPARE(payload.retrieveData(format, QVariant::ByteArray), expected);
 }
 
 void tst_RyTreeItemMimeData::theItemFormatIsComparedExactly_data()
 {
     QTest::addColumn<QString>("format");
-    QTest::newRow("lower case") << QStringLiteral("itemmimedata");
-    QTest::newRow("upper case") << QStringLiteral("ITEMMIMEDATA");
-    QTest::newRow("longer") << QStringLiteral("ItemMimeData ");
-    QTest::newRow("shorter") << QStringLiteral("ItemMimeDat");
-    QTest::newRow("as a subtype") << QStringLiteral("application/ItemMimeData");
+    QTest::newRow("lower case") << "itemmimedata";
+    QTest::newRow("upper case") << "ITEMMIMEDATA";
+    QTest::newRow("longer") << "ItemMimeData ";
+    QTest::newRow("shorter") << "ItemMimeDat";
+    QTest::newRow("as a subtype") << "application/ItemMimeData";
 }
 
 void tst_RyTreeItemMimeData::theItemFormatIsComparedExactly()
@@ -235,13 +235,13 @@ void tst_RyTreeItemMimeData::theItemFormatHidesDataStoredUnderIt()
 void tst_RyTreeItemMimeData::destroyingItLeavesTheItem()
 {
     QTreeWidgetItem parent;
-    QTreeWidgetItem *const item = new QTreeWidgetItem(&parent, {QStringLiteral("kept")});
+    QTreeWidgetItem *const item = new QTreeWidgetItem(&parent, {"kept"});
     {
         RyTreeItemMimeData payload;
         payload.SetDragData(itemFormat(), item);
     }
     QCOMPARE(parent.childCount(), 1);
-    QCOMPARE(parent.child(0)->text(0), QStringLiteral("kept"));
+    QCOMPARE(parent.child(0)->text(0), "kept");
 }
 
 void tst_RyTreeItemMimeData::isKnownToTheMetaObjectSystem()

@@ -49,14 +49,11 @@ public:
     QStringList keys;
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override
-    {
-        keys << QStringLiteral("press %1").arg(event->key());
-    }
+    void keyPressEvent(QKeyEvent *event) override { keys << QString("press %1").arg(event->key()); }
 
     void keyReleaseEvent(QKeyEvent *event) override
     {
-        keys << QStringLiteral("release %1").arg(event->key());
+        keys << QString("release %1").arg(event->key());
     }
 };
 
@@ -81,13 +78,13 @@ public:
 void fill(QTreeWidget &tree)
 {
     tree.setHeaderHidden(true);
-    QTreeWidgetItem *const a = new QTreeWidgetItem(&tree, {QStringLiteral("a")});
-    new QTreeWidgetItem(a, {QStringLiteral("a1")});
-    new QTreeWidgetItem(a, {QStringLiteral("a2")});
-    QTreeWidgetItem *const b = new QTreeWidgetItem(&tree, {QStringLiteral("b")});
-    new QTreeWidgetItem(b, {QStringLiteral("b1")});
-    new QTreeWidgetItem(&tree, {QStringLiteral("c")});
-    new QTreeWidgetItem(&tree, {QStringLiteral("d")});
+    QTreeWidgetItem *const a = new QTreeWidgetItem(&tree, {"a"});
+    new QTreeWidgetItem(a, {"a1"});
+    new QTreeWidgetItem(a, {"a2"});
+    QTreeWidgetItem *const b = new QTreeWidgetItem(&tree, {"b"});
+    new QTreeWidgetItem(b, {"b1"});
+    new QTreeWidgetItem(&tree, {"c"});
+    new QTreeWidgetItem(&tree, {"d"});
     a->setExpanded(true);
     tree.resize(200, 300);
 }
@@ -95,7 +92,7 @@ void fill(QTreeWidget &tree)
 // The lines of a text such as "a,  a1,b", as itemsOf() gives them.
 QStringList lines(const char *text)
 {
-    return QString::fromLatin1(text).split(QLatin1Char(','));
+    return QString(text).split(',');
 }
 
 QStringList filledContent()
@@ -174,10 +171,10 @@ void releaseControl(QWidget &widget)
 
 QString describe(const QDrag *drag)
 {
-    const QString action = drag->supportedActions() == Qt::CopyAction ? QStringLiteral("copy")
-        : drag->supportedActions() == Qt::MoveAction                  ? QStringLiteral("move")
-                                                                      : QStringLiteral("several");
-    return action + QLatin1Char(' ') + drag->mimeData()->formats().join(QLatin1Char(' '));
+    const QString action = drag->supportedActions() == Qt::CopyAction ? "copy"
+        : drag->supportedActions() == Qt::MoveAction                  ? "move"
+                                                                      : "several";
+    return action + " " + drag->mimeData()->formats().join(' ');
 }
 
 // The drags that a tree has started, each with the offered action and the formats.
@@ -192,12 +189,12 @@ QStringList dragsOf(const QTreeWidget &tree)
 
 QStringList oneMove()
 {
-    return {QStringLiteral("move ItemMimeData")};
+    return {"move ItemMimeData"};
 }
 
 QStringList oneCopy()
 {
-    return {QStringLiteral("copy ItemMimeData")};
+    return {"copy ItemMimeData"};
 }
 
 QPoint farFrom(const QPoint &position)
@@ -215,11 +212,11 @@ QStringList stateOf(const QTreeWidget &tree)
             expanded << item->text(0);
     }
     const bool editing = tree.viewport()->findChild<QLineEdit *>();
-    return itemsOf(&tree) << QStringLiteral("current ") + currentOf(&tree)
-                          << QStringLiteral("selected ") + selectedIn(tree).join(QLatin1Char(' '))
-                          << QStringLiteral("expanded ") + expanded.join(QLatin1Char(' '))
-                          << QStringLiteral("check state %1").arg(tree.currentItem()->checkState(0))
-                          << (editing ? QStringLiteral("editing") : QStringLiteral("not editing"));
+    return itemsOf(&tree) << "current " + currentOf(&tree)
+                          << "selected " + selectedIn(tree).join(' ')
+                          << "expanded " + expanded.join(' ')
+                          << QString("check state %1").arg(tree.currentItem()->checkState(0))
+                          << (editing ? "editing" : "not editing");
 }
 
 } // namespace
@@ -320,8 +317,7 @@ void tst_RyTreeWidget::isConstructedEmptyAndReadyForDrags()
     QCOMPARE(tree.selectionMode(), QAbstractItemView::ExtendedSelection);
     QVERIFY(tree.acceptDrops());
     QVERIFY(tree.dragEnabled());
-    QCOMPARE(tree.styleSheet(),
-             QStringLiteral("QTreeWidget::item:selected{ background-color: rgb(150, 0, 0)}"));
+    QCOMPARE(tree.styleSheet(), "QTreeWidget::item:selected{ background-color: rgb(150, 0, 0)}");
 }
 
 void tst_RyTreeWidget::belongsToItsParent()
@@ -344,9 +340,9 @@ void tst_RyTreeWidget::selectedItemsArePaintedOnDarkRed()
     RyTreeWidget tree;
     fill(tree);
     tree.show();
-    makeCurrent(tree, QStringLiteral("c"));
-    const QRect selected = tree.visualItemRect(itemNamed(&tree, QStringLiteral("c")));
-    const QRect other = tree.visualItemRect(itemNamed(&tree, QStringLiteral("d")));
+    makeCurrent(tree, "c");
+    const QRect selected = tree.visualItemRect(itemNamed(&tree, "c"));
+    const QRect other = tree.visualItemRect(itemNamed(&tree, "d"));
     const QImage picture = tree.viewport()->grab().toImage();
     const QPoint inset(-10, -3);
     QCOMPARE(QColor(picture.pixel(selected.bottomRight() + inset)), QColor(150, 0, 0));
@@ -402,7 +398,7 @@ void addKeyRows()
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("text");
     const auto add = [](const char *name, int key, int modifiers, const char *text) {
-        QTest::newRow(name) << key << modifiers << QString::fromLatin1(text);
+        QTest::newRow(name) << key << modifiers << text;
     };
     const int none = Qt::NoModifier;
     add("up", Qt::Key_Up, none, "");
@@ -448,7 +444,7 @@ void tst_RyTreeWidget::keysDoNothing()
     QFETCH(QString, text);
     RyTreeWidget tree;
     fill(tree);
-    QTreeWidgetItem *const current = itemNamed(&tree, QStringLiteral("b"));
+    QTreeWidgetItem *const current = itemNamed(&tree, "b");
     current->setFlags(current->flags() | Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
     current->setCheckState(0, Qt::Unchecked);
     tree.setEditTriggers(QAbstractItemView::AllEditTriggers);
@@ -456,14 +452,14 @@ void tst_RyTreeWidget::keysDoNothing()
     tree.setCurrentItem(current);
     const QStringList before = stateOf(tree);
     QSignalSpy activated(&tree, &QTreeWidget::itemActivated);
-    QApplication::clipboard()->setText(QStringLiteral("untouched"));
+    QApplication::clipboard()->setText("untouched");
 
     QVERIFY(sendKey(tree, QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text));
     QCOMPARE(stateOf(tree), before);
     QVERIFY(sendKey(tree, QEvent::KeyRelease, key, Qt::KeyboardModifiers(modifiers), text));
     QCOMPARE(stateOf(tree), before);
     QCOMPARE(activated.count(), 0);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("untouched"));
+    QCOMPARE(QApplication::clipboard()->text(), "untouched");
 }
 
 void tst_RyTreeWidget::keysAreNotPassedToTheParent_data()
@@ -489,7 +485,7 @@ void tst_RyTreeWidget::theControlKeyDoesNothingElse()
 {
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("b"));
+    makeCurrent(tree, "b");
     const QStringList before = stateOf(tree);
     pressControl(tree);
     releaseControl(tree);
@@ -501,9 +497,7 @@ void tst_RyTreeWidget::controlKeyChoosesTheOfferedAction_data()
 {
     QTest::addColumn<QStringList>("keys");
     QTest::addColumn<QStringList>("drags");
-    const auto keys = [](const char *text) {
-        return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    };
+    const auto keys = [](const char *text) { return QString(text).split(' ', Qt::SkipEmptyParts); };
     QTest::newRow("no key") << keys("") << oneMove();
     QTest::newRow("pressed") << keys("+Control") << oneCopy();
     QTest::newRow("pressed and released") << keys("+Control -Control") << oneMove();
@@ -521,24 +515,23 @@ void tst_RyTreeWidget::controlKeyChoosesTheOfferedAction()
 {
     QFETCH(QStringList, keys);
     QFETCH(QStringList, drags);
-    const QHash<QString, int> codes = {{QStringLiteral("Control"), Qt::Key_Control},
-                                       {QStringLiteral("Shift"), Qt::Key_Shift},
-                                       {QStringLiteral("Alt"), Qt::Key_Alt},
-                                       {QStringLiteral("Meta"), Qt::Key_Meta},
-                                       {QStringLiteral("A"), Qt::Key_A}};
+    const QHash<QString, int> codes = {{"Control", Qt::Key_Control},
+                                       {"Shift", Qt::Key_Shift},
+                                       {"Alt", Qt::Key_Alt},
+                                       {"Meta", Qt::Key_Meta},
+                                       {"A", Qt::Key_A}};
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     for (const QString &key : qAsConst(keys)) {
-        const bool down = key.startsWith(QLatin1Char('+'));
+        const bool down = key.startsWith('+');
         QVERIFY(codes.contains(key.mid(1)));
         sendKey(tree, down ? QEvent::KeyPress : QEvent::KeyRelease, codes.value(key.mid(1)),
                 Qt::ControlModifier);
     }
     tree.performDrag();
     QCOMPARE(dragsOf(tree), drags);
-    QCOMPARE(itemsOf(&tree),
-             drags == oneCopy() ? filledContent() : filledContentWithout(QStringLiteral("c")));
+    QCOMPARE(itemsOf(&tree), drags == oneCopy() ? filledContent() : filledContentWithout("c"));
 }
 
 void tst_RyTreeWidget::controlReleasedInAnotherWidgetIsMissed()
@@ -546,7 +539,7 @@ void tst_RyTreeWidget::controlReleasedInAnotherWidgetIsMissed()
     RyTreeWidget tree;
     QLineEdit other;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     pressControl(tree);
     releaseControl(other);
     tree.performDrag();
@@ -561,7 +554,7 @@ void tst_RyTreeWidget::controlPressedInAnotherWidgetIsNotSeen()
     RyTreeWidget tree;
     QLineEdit other;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     pressControl(other);
     tree.performDrag();
     QCOMPARE(dragsOf(tree), oneMove());
@@ -573,7 +566,7 @@ void tst_RyTreeWidget::losingTheFocusKeepsControl()
     RyTreeWidget *const tree = new RyTreeWidget(&window);
     QLineEdit *const other = new QLineEdit(&window);
     fill(*tree);
-    makeCurrent(*tree, QStringLiteral("c"));
+    makeCurrent(*tree, "c");
     window.show();
     QApplication::setActiveWindow(&window);
     tree->setFocus();
@@ -589,11 +582,11 @@ void tst_RyTreeWidget::theControlModifierOfTheMouseEventIsNotLookedAt()
 {
     RyTreeWidget tree;
     fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    const QPoint start = centerOf(tree, "c");
     press(tree, start);
     move(tree, farFrom(start), Qt::LeftButton, Qt::ControlModifier);
     QCOMPARE(dragsOf(tree), oneMove());
-    QCOMPARE(itemsOf(&tree), filledContentWithout(QStringLiteral("c")));
+    QCOMPARE(itemsOf(&tree), filledContentWithout("c"));
 }
 
 void tst_RyTreeWidget::eachTreeHasItsOwnControlFlag()
@@ -601,7 +594,7 @@ void tst_RyTreeWidget::eachTreeHasItsOwnControlFlag()
     RyTreeWidget tree;
     RyTreeWidget other;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     pressControl(other);
     tree.performDrag();
     QCOMPARE(dragsOf(tree), oneMove());
@@ -620,9 +613,9 @@ void tst_RyTreeWidget::pressGoesToTheBaseClass()
     RyTreeWidget tree;
     fill(tree);
     QSignalSpy pressed(&tree, &QTreeWidget::itemPressed);
-    press(tree, centerOf(tree, QStringLiteral("c")), button);
-    QCOMPARE(currentOf(&tree), QStringLiteral("c"));
-    QCOMPARE(selectedIn(tree), QStringList{QStringLiteral("c")});
+    press(tree, centerOf(tree, "c"), button);
+    QCOMPARE(currentOf(&tree), "c");
+    QCOMPARE(selectedIn(tree), QStringList{"c"});
     QCOMPARE(pressed.count(), 1);
 }
 
@@ -631,7 +624,7 @@ void tst_RyTreeWidget::releaseGoesToTheBaseClass()
     RyTreeWidget tree;
     fill(tree);
     QSignalSpy clicked(&tree, &QTreeWidget::itemClicked);
-    const QPoint position = centerOf(tree, QStringLiteral("c"));
+    const QPoint position = centerOf(tree, "c");
     press(tree, position);
     QCOMPARE(clicked.count(), 0);
     release(tree, position);
@@ -646,8 +639,8 @@ void tst_RyTreeWidget::moveGoesToTheBaseClass()
     connect(&tree, &QTreeWidget::itemEntered,
             [&](QTreeWidgetItem *item) { entered << item->text(0); });
     tree.setMouseTracking(true);
-    move(tree, centerOf(tree, QStringLiteral("c")), Qt::NoButton);
-    QCOMPARE(entered, QStringList{QStringLiteral("c")});
+    move(tree, centerOf(tree, "c"), Qt::NoButton);
+    QCOMPARE(entered, QStringList{"c"});
 }
 
 void tst_RyTreeWidget::moveGoesToTheBaseClassAfterADrag_data()
@@ -667,8 +660,8 @@ void tst_RyTreeWidget::moveGoesToTheBaseClassAfterADrag()
     int dragsBefore = -1;
     connect(&tree, &QTreeWidget::itemEntered, [&] { dragsBefore = dragsOf(tree).count(); });
     tree.setMouseTracking(true);
-    press(tree, centerOf(tree, QStringLiteral("d")));
-    move(tree, centerOf(tree, QStringLiteral("a1")));
+    press(tree, centerOf(tree, "d"));
+    move(tree, centerOf(tree, "a1"));
     QCOMPARE(dragsBefore, 1);
 }
 
@@ -677,13 +670,12 @@ void tst_RyTreeWidget::theBaseClassDragsTheItemOnceMoreAfterACopy()
     RyTreeWidget tree;
     fill(tree);
     pressControl(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    const QPoint start = centerOf(tree, "c");
     press(tree, start);
     move(tree, start + QPoint(1, 0));
     QCOMPARE(dragsOf(tree), QStringList());
     move(tree, farFrom(start));
-    QCOMPARE(dragsOf(tree),
-             oneCopy() << QStringLiteral("several application/x-qabstractitemmodeldatalist"));
+    QCOMPARE(dragsOf(tree), oneCopy() << "several application/x-qabstractitemmodeldatalist");
     QCOMPARE(itemsOf(&tree), filledContent());
 }
 
@@ -691,7 +683,7 @@ void tst_RyTreeWidget::clickingABranchOpensIt()
 {
     RyTreeWidget tree;
     fill(tree);
-    QTreeWidgetItem *const branch = itemNamed(&tree, QStringLiteral("b"));
+    QTreeWidgetItem *const branch = itemNamed(&tree, "b");
     const QRect text = tree.visualItemRect(branch);
     const QPoint handle(text.left() - tree.indentation() / 2, text.center().y());
     QVERIFY(!branch->isExpanded());
@@ -735,12 +727,12 @@ void tst_RyTreeWidget::dragStartsBeyondTheStartDistance()
     QFETCH(bool, drags);
     RyTreeWidget tree;
     fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    const QPoint start = centerOf(tree, "c");
     press(tree, start);
     QCOMPARE(dragsOf(tree), QStringList());
     move(tree, start + way);
     QCOMPARE(dragsOf(tree), drags ? oneMove() : QStringList());
-    QCOMPARE(itemsOf(&tree), drags ? filledContentWithout(QStringLiteral("c")) : filledContent());
+    QCOMPARE(itemsOf(&tree), drags ? filledContentWithout("c") : filledContent());
 }
 
 void tst_RyTreeWidget::dragStartsBeyondAnotherStartDistance_data()
@@ -774,7 +766,7 @@ void tst_RyTreeWidget::onlyTheLeftButtonDrags()
     QFETCH(QStringList, drags);
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     move(tree, QPoint(100, 100), Qt::MouseButtons(buttons));
     QCOMPARE(dragsOf(tree), drags);
 }
@@ -794,7 +786,7 @@ void tst_RyTreeWidget::theDistanceIsMeasuredFromTheOriginBeforeAnyPress()
     QFETCH(QStringList, drags);
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     move(tree, position);
     QCOMPARE(dragsOf(tree), drags);
 }
@@ -803,8 +795,8 @@ void tst_RyTreeWidget::aNewLeftPressMovesTheStart()
 {
     RyTreeWidget tree;
     fill(tree);
-    const QPoint first = centerOf(tree, QStringLiteral("a"));
-    const QPoint second = centerOf(tree, QStringLiteral("d"));
+    const QPoint first = centerOf(tree, "a");
+    const QPoint second = centerOf(tree, "d");
     press(tree, first);
     release(tree, first);
     press(tree, second);
@@ -824,8 +816,8 @@ void tst_RyTreeWidget::otherButtonsDoNotMoveTheStart()
     QFETCH(Qt::MouseButton, button);
     RyTreeWidget tree;
     fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("a"));
-    const QPoint other = centerOf(tree, QStringLiteral("d"));
+    const QPoint start = centerOf(tree, "a");
+    const QPoint other = centerOf(tree, "d");
     press(tree, start);
     sendMouse(tree, QEvent::MouseButtonPress, other, button, Qt::LeftButton | button);
     move(tree, start + QPoint(QApplication::startDragDistance(), 0), Qt::LeftButton | button);
@@ -838,7 +830,7 @@ void tst_RyTreeWidget::theStartOutlivesTheRelease()
 {
     RyTreeWidget tree;
     fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    const QPoint start = centerOf(tree, "c");
     press(tree, start);
     release(tree, start + QPoint(3, 0));
     move(tree, start + QPoint(QApplication::startDragDistance(), 0));
@@ -851,7 +843,7 @@ void tst_RyTreeWidget::theStartOutlivesTheDrag()
 {
     RyTreeWidget tree;
     fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("a1"));
+    const QPoint start = centerOf(tree, "a1");
     press(tree, start);
     move(tree, farFrom(start));
     release(tree, farFrom(start));
@@ -879,7 +871,7 @@ void tst_RyTreeWidget::performDragWithoutACurrentItemDoesNothing()
 {
     RyTreeWidget tree;
     fill(tree);
-    itemNamed(&tree, QStringLiteral("c"))->setSelected(true);
+    itemNamed(&tree, "c")->setSelected(true);
     tree.setCurrentItem(nullptr);
     tree.performDrag();
     pressControl(tree);
@@ -893,8 +885,8 @@ void tst_RyTreeWidget::performDragDragsTheCurrentItem_data()
     QTest::addColumn<QString>("item");
     QTest::addColumn<bool>("copying");
     for (const char *const item : {"a", "a2", "b1", "d"}) {
-        QTest::addRow("%s, move", item) << QString::fromLatin1(item) << false;
-        QTest::addRow("%s, copy", item) << QString::fromLatin1(item) << true;
+        QTest::addRow("%s, move", item) << item << false;
+        QTest::addRow("%s, copy", item) << item << true;
     }
 }
 
@@ -920,7 +912,7 @@ void tst_RyTreeWidget::theDragObjectIsBareAndTheTrees()
 {
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     tree.performDrag();
     const QDrag *const drag = tree.findChild<QDrag *>();
     QVERIFY(drag);
@@ -935,7 +927,7 @@ void tst_RyTreeWidget::theDragObjectIsNotDeletedByTheTree()
 {
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     tree.performDrag();
     const QPointer<QDrag> drag = tree.findChild<QDrag *>();
     QVERIFY(drag);
@@ -950,11 +942,11 @@ void tst_RyTreeWidget::refusedMoveDeletesTheItemWithItsChildren_data()
 {
     QTest::addColumn<QString>("item");
     QTest::addColumn<QStringList>("left");
-    QTest::newRow("with children") << QStringLiteral("a") << lines("b,  b1,c,d");
-    QTest::newRow("with folded children") << QStringLiteral("b") << lines("a,  a1,  a2,c,d");
-    QTest::newRow("a child") << QStringLiteral("a1") << lines("a,  a2,b,  b1,c,d");
-    QTest::newRow("an only child") << QStringLiteral("b1") << lines("a,  a1,  a2,b,c,d");
-    QTest::newRow("the last one") << QStringLiteral("d") << lines("a,  a1,  a2,b,  b1,c");
+    QTest::newRow("with children") << "a" << lines("b,  b1,c,d");
+    QTest::newRow("with folded children") << "b" << lines("a,  a1,  a2,c,d");
+    QTest::newRow("a child") << "a1" << lines("a,  a2,b,  b1,c,d");
+    QTest::newRow("an only child") << "b1" << lines("a,  a1,  a2,b,c,d");
+    QTest::newRow("the last one") << "d" << lines("a,  a1,  a2,b,  b1,c");
 }
 
 void tst_RyTreeWidget::refusedMoveDeletesTheItemWithItsChildren()
@@ -972,7 +964,7 @@ void tst_RyTreeWidget::refusedCopyKeepsTheItem_data()
 {
     QTest::addColumn<QString>("item");
     for (const char *const item : {"a", "b", "a1", "b1", "d"})
-        QTest::newRow(item) << QString::fromLatin1(item);
+        QTest::newRow(item) << item;
 }
 
 void tst_RyTreeWidget::refusedCopyKeepsTheItem()
@@ -990,9 +982,9 @@ void tst_RyTreeWidget::refusedCopyKeepsTheItem()
 void tst_RyTreeWidget::onlyTheCurrentItemIsDragged_data()
 {
     QTest::addColumn<QString>("current");
-    QTest::newRow("first of the selection") << QStringLiteral("b");
-    QTest::newRow("middle of the selection") << QStringLiteral("c");
-    QTest::newRow("last of the selection") << QStringLiteral("d");
+    QTest::newRow("first of the selection") << "b";
+    QTest::newRow("middle of the selection") << "c";
+    QTest::newRow("last of the selection") << "d";
 }
 
 void tst_RyTreeWidget::onlyTheCurrentItemIsDragged()
@@ -1000,10 +992,10 @@ void tst_RyTreeWidget::onlyTheCurrentItemIsDragged()
     QFETCH(QString, current);
     RyTreeWidget tree;
     fill(tree);
-    delete itemNamed(&tree, QStringLiteral("b1"));
+    delete itemNamed(&tree, "b1");
     makeCurrent(tree, current);
     for (const char *const selected : {"b", "c", "d"})
-        itemNamed(&tree, QLatin1String(selected))->setSelected(true);
+        itemNamed(&tree, selected)->setSelected(true);
     QStringList left = lines("a,  a1,  a2,b,c,d");
     QCOMPARE(itemsOf(&tree), left);
     QCOMPARE(selectedIn(tree).count(), 3);
@@ -1017,20 +1009,20 @@ void tst_RyTreeWidget::theCurrentItemNeedNotBeSelected()
 {
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     tree.clearSelection();
-    itemNamed(&tree, QStringLiteral("d"))->setSelected(true);
+    itemNamed(&tree, "d")->setSelected(true);
     tree.performDrag();
-    QCOMPARE(itemsOf(&tree), filledContentWithout(QStringLiteral("c")));
+    QCOMPARE(itemsOf(&tree), filledContentWithout("c"));
 }
 
 void tst_RyTreeWidget::aSecondDragTakesTheNextCurrentItem()
 {
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     tree.performDrag();
-    makeCurrent(tree, QStringLiteral("a2"));
+    makeCurrent(tree, "a2");
     tree.performDrag();
     QCOMPARE(dragsOf(tree), oneMove() + oneMove());
     QCOMPARE(itemsOf(&tree), lines("a,  a1,b,  b1,d"));
@@ -1052,13 +1044,13 @@ void tst_RyTreeWidget::dragsWithoutASourceTreeAreLeftAlone()
     QFETCH(bool, accepted);
     OpenTree tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("d"));
+    makeCurrent(tree, "d");
     RyTreeItemMimeData item;
-    item.SetDragData(QStringLiteral("ItemMimeData"), itemNamed(&tree, QStringLiteral("c")));
+    item.SetDragData("ItemMimeData", itemNamed(&tree, "c"));
     QMimeData text;
-    text.setText(QStringLiteral("words"));
+    text.setText("words");
     const QMimeData *const payload = treePayload ? &item : &text;
-    const QPoint position = centerOf(tree, QStringLiteral("a"));
+    const QPoint position = centerOf(tree, "a");
     const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
 
     QDragEnterEvent enter(position, actions, payload, Qt::LeftButton, Qt::NoModifier);
@@ -1077,7 +1069,7 @@ void tst_RyTreeWidget::dragsWithoutASourceTreeAreLeftAlone()
         QCOMPARE(event->isAccepted(), accepted);
         QCOMPARE(event->dropAction(), Qt::LinkAction);
     }
-    QCOMPARE(currentOf(&tree), QStringLiteral("d"));
+    QCOMPARE(currentOf(&tree), "d");
     QCOMPARE(itemsOf(&tree), filledContent());
 }
 
