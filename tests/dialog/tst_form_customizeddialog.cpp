@@ -40,29 +40,25 @@ class tst_Form_CustomizedDialog : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void theFieldsStandInOrder();
+    void theFieldsAreInOrder();
     void isAPlainClass();
-    void anUnnamedDialogIsNamed();
-    void aNamedDialogKeepsItsName();
-    void theDialogIsResized();
-    void theDialogsSizePolicyIsReplaced();
+    void onlyAnUnnamedDialogIsNamed();
+    void theDialogsSizeAndPolicyAreSet();
     void theDialogsHeightForWidthIsTakenOver_data();
     void theDialogsHeightForWidthIsTakenOver();
-    void theDialogBecomesModal();
     void theWidgetsAreCreatedInOrder();
     void theMembersAreNamedAfterThemselves();
     void theLayoutHoldsTheTabsAboveTheButtons();
     void thePlaceholderIsTheOnlyTab();
     void theButtonBoxIsHorizontalWithFiveButtons();
     void theTitleIsTranslated();
-    void thePlaceholdersTitleIsNotTranslated();
     void retranslatingResetsTheTitleOnly();
     void slotsAreConnectedByNameInTheEnd();
     void nothingElseIsSet();
     void theDialogOwnsEverything();
 };
 
-void tst_Form_CustomizedDialog::theFieldsStandInOrder()
+void tst_Form_CustomizedDialog::theFieldsAreInOrder()
 {
     QCOMPARE(offsetof(Ui_CustomizedDialog, verticalLayout), 0 * sizeof(void *));
     QCOMPARE(offsetof(Ui_CustomizedDialog, m_optionTabWidget), 1 * sizeof(void *));
@@ -78,29 +74,18 @@ void tst_Form_CustomizedDialog::isAPlainClass()
     QVERIFY(std::is_trivially_destructible_v<Ui_CustomizedDialog>);
 }
 
-void tst_Form_CustomizedDialog::anUnnamedDialogIsNamed()
+void tst_Form_CustomizedDialog::onlyAnUnnamedDialogIsNamed()
 {
     QDialog dialog;
     const Form form(&dialog);
     QCOMPARE(dialog.objectName(), "CustomizedDialog");
+    QDialog named;
+    named.setObjectName("mine");
+    const Form other(&named);
+    QCOMPARE(named.objectName(), "mine");
 }
 
-void tst_Form_CustomizedDialog::aNamedDialogKeepsItsName()
-{
-    QDialog dialog;
-    dialog.setObjectName("mine");
-    const Form form(&dialog);
-    QCOMPARE(dialog.objectName(), "mine");
-}
-
-void tst_Form_CustomizedDialog::theDialogIsResized()
-{
-    QDialog dialog;
-    const Form form(&dialog);
-    QCOMPARE(dialog.size(), QSize(740, 460));
-}
-
-void tst_Form_CustomizedDialog::theDialogsSizePolicyIsReplaced()
+void tst_Form_CustomizedDialog::theDialogsSizeAndPolicyAreSet()
 {
     QDialog dialog;
     QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed, QSizePolicy::Frame);
@@ -109,6 +94,7 @@ void tst_Form_CustomizedDialog::theDialogsSizePolicyIsReplaced()
     dialog.setSizePolicy(policy);
     const Form form(&dialog);
     QCOMPARE(textOf(dialog.sizePolicy()), "Expanding Minimum");
+    QCOMPARE(dialog.size(), QSize(740, 460));
 }
 
 void tst_Form_CustomizedDialog::theDialogsHeightForWidthIsTakenOver_data()
@@ -127,15 +113,6 @@ void tst_Form_CustomizedDialog::theDialogsHeightForWidthIsTakenOver()
     dialog.setSizePolicy(policy);
     const Form form(&dialog);
     QCOMPARE(dialog.sizePolicy().hasHeightForWidth(), heightForWidth);
-}
-
-void tst_Form_CustomizedDialog::theDialogBecomesModal()
-{
-    QDialog dialog;
-    QVERIFY(!dialog.isModal());
-    const Form form(&dialog);
-    QVERIFY(dialog.isModal());
-    QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
 }
 
 void tst_Form_CustomizedDialog::theWidgetsAreCreatedInOrder()
@@ -200,15 +177,8 @@ void tst_Form_CustomizedDialog::theTitleIsTranslated()
     QDialog translated;
     const Form translatedForm(&translated);
     QCOMPARE(translated.windowTitle(), "translated Options");
+    QCOMPARE(translatedForm.m_optionTabWidget->tabText(0), "Tab 1");
     QCOMPARE(translator.takeLookUps(), QStringList{"CustomizedDialog: Options"});
-}
-
-void tst_Form_CustomizedDialog::thePlaceholdersTitleIsNotTranslated()
-{
-    RecordingTranslator translator;
-    QDialog dialog;
-    const Form form(&dialog);
-    QCOMPARE(form.m_optionTabWidget->tabText(0), "Tab 1");
 }
 
 void tst_Form_CustomizedDialog::retranslatingResetsTheTitleOnly()
@@ -251,6 +221,7 @@ void tst_Form_CustomizedDialog::nothingElseIsSet()
     const QStringList ofDialog{"objectName", "modal",       "windowModality",
                                "sizePolicy", "windowTitle", "modal"};
     QCOMPARE(differingProperties(&dialog, &fresh), ofDialog);
+    QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
     const QStringList ofTabs{"objectName", "currentIndex", "count"};
     QCOMPARE(differingProperties(form.m_optionTabWidget, new QTabWidget(&fresh)), ofTabs);
     const QStringList ofBox{"objectName", "standardButtons"};

@@ -118,16 +118,31 @@ QString wrongActionTree(const EditorFields &fields, const QTreeWidget *tree)
 
 } // namespace
 
-ShownEditor::ShownEditor(RyAbstatcManager *manager)
-    : widget(nullptr, manager, Qt::WindowFlags())
+FilledHost::FilledHost()
+{
+    defaultToolBar("file", {"open", "|", "save"}, "Files");
+    for (const char *name : {"copy", "cut", "paste", "undo", "zoom"})
+        registered(name, "Edits");
+    customToolBar(*this, "Mine", {"cut", "copy", "paste"});
+    customToolBar(*this, "Tools", {"|", "cut"});
+}
+
+ShownEditor::ShownEditor(RyAbstatcManager *ofHost)
+    : manager(static_cast<RyToolBarManager *>(ofHost))
+    , widget(nullptr, ofHost, Qt::WindowFlags())
     , views(&widget)
 {
     widget.show();
 }
 
-void ShownEditor::call(const char *slot)
+void ShownEditor::call(const char *slot, QGenericArgument argument)
 {
-    QVERIFY2(QMetaObject::invokeMethod(&widget, slot, Qt::DirectConnection), slot);
+    QVERIFY2(QMetaObject::invokeMethod(&widget, slot, Qt::DirectConnection, argument), slot);
+}
+
+QLineEdit *ShownEditor::nameEditor() const
+{
+    return qobject_cast<QLineEdit *>(views.renameEditor());
 }
 
 void ShownEditor::selectToolBar(const QString &title)
@@ -187,6 +202,16 @@ QStringList toolBarsOf(const RyToolBarManager &manager)
             texts.last() += ", but for the manager " + managed.join(' ');
     }
     return sorted(texts);
+}
+
+QToolBar *toolBarTitled(const RyToolBarManager &manager, const QString &title)
+{
+    const auto toolBars = manager.toolBars();
+    for (QToolBar *toolBar : toolBars) {
+        if (toolBar->windowTitle() == title)
+            return toolBar;
+    }
+    return nullptr;
 }
 
 QToolBar *customToolBar(Host &host, const QString &title, const QStringList &content)

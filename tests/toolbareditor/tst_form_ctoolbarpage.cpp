@@ -138,11 +138,10 @@ class tst_Form_CToolBarPage : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void theFieldsStandInOrder();
+    void theFieldsAreInOrder();
     void isAPlainClass();
 
-    void anUnnamedPageIsNamed();
-    void aNamedPageKeepsItsName();
+    void onlyAnUnnamedPageIsNamed();
     void thePageIsResized();
     void theMembersAreNamedAfterThemselves();
     void theWidgetsAreCreatedInOrder();
@@ -155,32 +154,25 @@ private Q_SLOTS:
     void theStylesMarginsAndSpacingsApply();
     void noRowOrColumnIsStretched();
     void theActionButtonsHaveAFixedHeight();
-    void theCaptionButtonsKeepTheirPolicies();
-    void theSpacerMemberIsTheLastItem();
     void theActionButtonsStayAtTheTop();
     void nothingElseIsSet();
     void nothingIsFilled();
 
     void theTextsAreThese();
     void theTextsAreLookedUpInOrder();
-    void everyTextPassesThroughTranslation();
     void retranslatingResetsTheTexts();
     void retranslatingTouchesNothingElse();
     void slotsAreConnectedByNameInTheEnd();
 
-    void theEditorHasNoSlotToConnectByName();
     void theEditorHidesTheHeader();
     void theEditorSetsTheIcons_data();
     void theEditorSetsTheIcons();
-    void theEditorMakesItsIconsAnew();
-    void renameHasNoIcon();
+    void eachEditorMakesItsOwnIcons();
     void onlyRenameShowsItsText();
-    void theIconsAreShownAtTheStylesSize();
     void theEditorChangesNothingElseOfTheForm();
-    void retranslatingLeavesTheIcons();
 };
 
-void tst_Form_CToolBarPage::theFieldsStandInOrder()
+void tst_Form_CToolBarPage::theFieldsAreInOrder()
 {
     const QList<size_t> offsets{
         offsetof(Ui_CToolBarPage, gridLayout),         offsetof(Ui_CToolBarPage, label),
@@ -205,19 +197,15 @@ void tst_Form_CToolBarPage::isAPlainClass()
     QVERIFY(std::is_trivially_destructible_v<Ui_CToolBarPage>);
 }
 
-void tst_Form_CToolBarPage::anUnnamedPageIsNamed()
+void tst_Form_CToolBarPage::onlyAnUnnamedPageIsNamed()
 {
     QWidget page;
     const Form form(&page);
     QCOMPARE(page.objectName(), "CToolBarPage");
-}
-
-void tst_Form_CToolBarPage::aNamedPageKeepsItsName()
-{
-    QWidget page;
-    page.setObjectName("mine");
-    const Form form(&page);
-    QCOMPARE(page.objectName(), "mine");
+    QWidget named;
+    named.setObjectName("mine");
+    const Form other(&named);
+    QCOMPARE(named.objectName(), "mine");
 }
 
 void tst_Form_CToolBarPage::thePageIsResized()
@@ -341,6 +329,7 @@ void tst_Form_CToolBarPage::theButtonColumnHoldsTheseItems()
     const QStringList expected{"upButton", "leftButton", "rightButton", "downButton",
                                "spacer 20x28 Minimum Expanding"};
     QCOMPARE(itemsOf(form.verticalLayout), expected);
+    QCOMPARE(form.verticalLayout->itemAt(4), form.verticalSpacer);
     QCOMPARE(form.verticalLayout->direction(), QBoxLayout::TopToBottom);
 }
 
@@ -385,23 +374,6 @@ void tst_Form_CToolBarPage::theActionButtonsHaveAFixedHeight()
         QCOMPARE(textOf(button->sizePolicy()), "Minimum Fixed");
         QCOMPARE(button->sizePolicy().hasHeightForWidth(), heightForWidth);
     }
-}
-
-void tst_Form_CToolBarPage::theCaptionButtonsKeepTheirPolicies()
-{
-    QWidget page;
-    const Form form(&page);
-    const QSizePolicy policy = QToolButton().sizePolicy();
-    QCOMPARE(form.newButton->sizePolicy(), policy);
-    QCOMPARE(form.removeButton->sizePolicy(), policy);
-    QCOMPARE(form.renameButton->sizePolicy(), policy);
-}
-
-void tst_Form_CToolBarPage::theSpacerMemberIsTheLastItem()
-{
-    QWidget page;
-    const Form form(&page);
-    QCOMPARE(form.verticalLayout->itemAt(4), form.verticalSpacer);
 }
 
 void tst_Form_CToolBarPage::theActionButtonsStayAtTheTop()
@@ -470,18 +442,11 @@ void tst_Form_CToolBarPage::theTextsAreLookedUpInOrder()
     RecordingTranslator translator;
     QWidget page;
     Form form(&page);
+    QCOMPARE(form.texts(&page), prefixed("translated ", sourceTexts));
     const QStringList expected = prefixed("CToolBarPage: ", sourceTexts);
     QCOMPARE(translator.takeLookUps(), expected);
     form.retranslateUi(&page);
     QCOMPARE(translator.takeLookUps(), expected);
-}
-
-void tst_Form_CToolBarPage::everyTextPassesThroughTranslation()
-{
-    RecordingTranslator translator;
-    QWidget page;
-    const Form form(&page);
-    QCOMPARE(form.texts(&page), prefixed("translated ", sourceTexts));
 }
 
 void tst_Form_CToolBarPage::retranslatingResetsTheTexts()
@@ -534,13 +499,6 @@ void tst_Form_CToolBarPage::slotsAreConnectedByNameInTheEnd()
     QCOMPARE(page.titleChanges, 1);
 }
 
-void tst_Form_CToolBarPage::theEditorHasNoSlotToConnectByName()
-{
-    const QMetaObject &metaObject = RyCToolBarWidget::staticMetaObject;
-    for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)
-        QVERIFY2(!metaObject.method(i).name().startsWith("on_"), metaObject.method(i).name());
-}
-
 void tst_Form_CToolBarPage::theEditorHidesTheHeader()
 {
     RyToolBarManager manager;
@@ -556,18 +514,15 @@ void tst_Form_CToolBarPage::theEditorSetsTheIcons_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("image");
-    QTest::newRow("up") << "upButton"
-                        << "up";
-    QTest::newRow("down") << "downButton"
-                          << "down";
-    QTest::newRow("left") << "leftButton"
-                          << "back";
-    QTest::newRow("right") << "rightButton"
-                           << "forward";
-    QTest::newRow("new") << "newButton"
-                         << "plus";
-    QTest::newRow("remove") << "removeButton"
-                            << "minus";
+    const auto row = [](const char *name, const char *button, const char *image) {
+        QTest::newRow(name) << button << image;
+    };
+    row("up", "upButton", "up");
+    row("down", "downButton", "down");
+    row("left", "leftButton", "back");
+    row("right", "rightButton", "forward");
+    row("new", "newButton", "plus");
+    row("remove", "removeButton", "minus");
 }
 
 void tst_Form_CToolBarPage::theEditorSetsTheIcons()
@@ -581,20 +536,13 @@ void tst_Form_CToolBarPage::theEditorSetsTheIcons()
     QCOMPARE(icon.availableSizes(), QList<QSize>{QSize(22, 22)});
 }
 
-void tst_Form_CToolBarPage::theEditorMakesItsIconsAnew()
+void tst_Form_CToolBarPage::eachEditorMakesItsOwnIcons()
 {
     const RyCToolBarWidget first(nullptr, nullptr, Qt::WindowFlags());
     const RyCToolBarWidget second(nullptr, nullptr, Qt::WindowFlags());
     const QString name = "upButton";
     QVERIFY(first.findChild<QToolButton *>(name)->icon().cacheKey()
             != second.findChild<QToolButton *>(name)->icon().cacheKey());
-}
-
-void tst_Form_CToolBarPage::renameHasNoIcon()
-{
-    const RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
-    const auto button = editor.findChild<QToolButton *>("renameButton");
-    QVERIFY(button->icon().isNull());
 }
 
 void tst_Form_CToolBarPage::onlyRenameShowsItsText()
@@ -607,17 +555,6 @@ void tst_Form_CToolBarPage::onlyRenameShowsItsText()
             showing << button->objectName();
     }
     QCOMPARE(showing, QStringList{"renameButton"});
-}
-
-void tst_Form_CToolBarPage::theIconsAreShownAtTheStylesSize()
-{
-    const RyCToolBarWidget editor(nullptr, nullptr, Qt::WindowFlags());
-    const auto buttons = editor.findChildren<QToolButton *>(QRegularExpression("Button$"));
-    QCOMPARE(buttons.size(), 7);
-    for (const QToolButton *button : buttons) {
-        QCOMPARE(button->toolButtonStyle(), Qt::ToolButtonIconOnly);
-        QCOMPARE(button->iconSize(), QToolButton().iconSize());
-    }
 }
 
 void tst_Form_CToolBarPage::theEditorChangesNothingElseOfTheForm()
@@ -639,18 +576,6 @@ void tst_Form_CToolBarPage::theEditorChangesNothingElseOfTheForm()
                  QStringList());
     QCOMPARE(differingProperties(editor.findChild<QTreeWidget *>(), form.actionTree),
              QStringList{"headerHidden"});
-}
-
-void tst_Form_CToolBarPage::retranslatingLeavesTheIcons()
-{
-    QWidget page;
-    Form form(&page);
-    for (QToolButton *button : form.actionButtons())
-        button->setIcon(QIcon(":/RyCustomizedDialog/images/plus.png"));
-    form.retranslateUi(&page);
-    for (const QToolButton *button : form.actionButtons())
-        QCOMPARE(pixelsOf(button->icon()), pixelsOf("plus"));
-    QVERIFY(form.renameButton->icon().isNull());
 }
 
 QTEST_MAIN(tst_Form_CToolBarPage)

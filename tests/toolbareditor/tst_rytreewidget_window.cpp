@@ -232,7 +232,6 @@ private Q_SLOTS:
     void copyingOntoAnItemKeepsTheOriginal_data();
     void copyingOntoAnItemKeepsTheOriginal();
     void theBaseClassDragsAfterACopyAndIsRefused();
-    void theBaseClassDragsNothingAfterAMove();
     void theCopyIsADeepOne();
     void anyPlaceOfAnItemIsTheItem_data();
     void anyPlaceOfAnItemIsTheItem();
@@ -240,21 +239,12 @@ private Q_SLOTS:
     void emptySpaceIsTheEndOfTheTopLevel();
     void ontoItsOwnDescendant_data();
     void ontoItsOwnDescendant();
-    void ontoItsOwnParent();
-    void ontoAnotherTree_data();
-    void ontoAnotherTree();
-    void intoAnotherTreesEmptySpace_data();
-    void intoAnotherTreesEmptySpace();
+    void intoAnotherTree_data();
+    void intoAnotherTree();
     void refusingTarget_data();
     void refusingTarget();
-    void outsideOfAllWindows_data();
-    void outsideOfAllWindows();
-    void cancelledWithEscape_data();
-    void cancelledWithEscape();
-    void droppedOnItself_data();
-    void droppedOnItself();
-    void onlyTheCurrentItemOfASelectionIsDragged_data();
-    void onlyTheCurrentItemOfASelectionIsDragged();
+    void droppedNowhere_data();
+    void droppedNowhere();
     void dragsFromOtherViewsAreRefused_data();
     void dragsFromOtherViewsAreRefused();
     void otherDragsFromATreeAreRefused();
@@ -268,7 +258,6 @@ private Q_SLOTS:
     void hoveringMakesTheItemCurrent();
     void hoveringOverItselfKeepsTheCurrentItem();
     void hoveringShowsNoDropIndicator();
-    void controlReleasedInAnotherWidgetIsMissed();
     void controlPressedDuringADragIsNotSeen();
     void controlReleasedDuringADragIsMissed();
     void theTreeTakesClicksAfterADrag_data();
@@ -292,6 +281,7 @@ void tst_RyTreeWidget_Window::movingOntoAnItemAppendsItAsTheLastChild_data()
     row("b", "a2", "a,  a1,  a2,    b,      b1,c,d");
     row("a1", "d", "a,  a2,b,  b1,c,d,  a1");
     row("d", "a", "a,  a1,  a2,  d,b,  b1,c");
+    row("a1", "a", "a,  a2,  a1,b,  b1,c,d");
 }
 
 void tst_RyTreeWidget_Window::movingOntoAnItemAppendsItAsTheLastChild()
@@ -358,18 +348,6 @@ void tst_RyTreeWidget_Window::theBaseClassDragsAfterACopyAndIsRefused()
         stage.log,
         (QStringList{"tree enter: copy", "tree over b: copy", "tree drop: copy",
                      "tree drag by the base class", "tree enter: copy", "tree over b: refused"}));
-}
-
-void tst_RyTreeWidget_Window::theBaseClassDragsNothingAfterAMove()
-{
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "c");
-    stage.carryTo(stage.tree, "b");
-    stage.drop();
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), lines("a,  a1,  a2,b,  b1,  c,d"));
-    QVERIFY(!stage.log.contains("tree drag by the base class"));
 }
 
 void tst_RyTreeWidget_Window::theCopyIsADeepOne()
@@ -464,50 +442,32 @@ void tst_RyTreeWidget_Window::ontoItsOwnDescendant()
     QVERIFY(stage.log.contains(copying ? "tree drop: copy" : "tree drop: move"));
 }
 
-void tst_RyTreeWidget_Window::ontoItsOwnParent()
+void tst_RyTreeWidget_Window::intoAnotherTree_data()
 {
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "a1");
-    stage.carryTo(stage.tree, "a");
-    stage.drop();
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), lines("a,  a2,  a1,b,  b1,c,d"));
+    QTest::addColumn<bool>("emptySpace");
+    QTest::addColumn<bool>("copying");
+    QTest::addColumn<QStringList>("content");
+    QTest::newRow("move onto an item") << false << false << lines("x,  a,    a1,    a2,y");
+    QTest::newRow("copy onto an item") << false << true << lines("x,  a,    a1,    a2,y");
+    QTest::newRow("move onto empty space") << true << false << lines("x,y,a,  a1,  a2");
+    QTest::newRow("copy onto empty space") << true << true << lines("x,y,a,  a1,  a2");
 }
 
-void tst_RyTreeWidget_Window::ontoAnotherTree_data()
+void tst_RyTreeWidget_Window::intoAnotherTree()
 {
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::ontoAnotherTree()
-{
+    QFETCH(bool, emptySpace);
     QFETCH(bool, copying);
+    QFETCH(QStringList, content);
     Stage stage;
     QVERIFY(stage.show());
     stage.pickUp(stage.tree, "a", copying);
-    stage.carryTo(stage.other, "x");
+    if (emptySpace)
+        stage.carryTo(stage.other->viewport(), Stage::emptyPlaceOf(stage.other));
+    else
+        stage.carryTo(stage.other, "x");
     stage.drop(copying);
     QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.other), lines("x,  a,    a1,    a2,y"));
-    QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : lines("b,  b1,c,d"));
-}
-
-void tst_RyTreeWidget_Window::intoAnotherTreesEmptySpace_data()
-{
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::intoAnotherTreesEmptySpace()
-{
-    QFETCH(bool, copying);
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "a", copying);
-    stage.carryTo(stage.other->viewport(), Stage::emptyPlaceOf(stage.other));
-    stage.drop(copying);
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.other), lines("x,y,a,  a1,  a2"));
+    QCOMPARE(itemsOf(stage.other), content);
     QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : lines("b,  b1,c,d"));
 }
 
@@ -551,90 +511,36 @@ void tst_RyTreeWidget_Window::refusingTarget()
     QCOMPARE(stage.line->text(), QString());
 }
 
-void tst_RyTreeWidget_Window::outsideOfAllWindows_data()
+void tst_RyTreeWidget_Window::droppedNowhere_data()
 {
-    addActionRows();
+    QTest::addColumn<QByteArray>("end");
+    QTest::addColumn<bool>("copying");
+    for (const char *const end : {"outside of all windows", "cancelled", "on itself"}) {
+        QTest::addRow("%s, move", end) << QByteArray(end) << false;
+        QTest::addRow("%s, copy", end) << QByteArray(end) << true;
+    }
 }
 
-void tst_RyTreeWidget_Window::outsideOfAllWindows()
+void tst_RyTreeWidget_Window::droppedNowhere()
 {
+    QFETCH(QByteArray, end);
     QFETCH(bool, copying);
     Stage stage;
     QVERIFY(stage.show());
     stage.pickUp(stage.tree, "c", copying);
-    stage.carryTo(stage.tree, "b");
-    stage.user.dragOut();
-    stage.drop(copying);
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : filledContentWithoutC());
-}
-
-void tst_RyTreeWidget_Window::cancelledWithEscape_data()
-{
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::cancelledWithEscape()
-{
-    QFETCH(bool, copying);
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "c", copying);
-    stage.carryTo(stage.tree, "b");
-    stage.user.cancelDrag();
+    if (end == "on itself")
+        stage.carryTo(stage.tree->viewport(), Stage::centerOf(stage.tree, "c") + QPoint(40, 0));
+    else
+        stage.carryTo(stage.tree, "b");
+    if (end == "outside of all windows")
+        stage.user.dragOut();
+    else if (end == "cancelled")
+        stage.user.cancelDrag();
     stage.drop(copying);
     QCOMPARE(stage.user.run(), QString());
     QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : filledContentWithoutC());
     QVERIFY(stage.log.filter("drop").isEmpty());
-}
-
-void tst_RyTreeWidget_Window::droppedOnItself_data()
-{
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::droppedOnItself()
-{
-    QFETCH(bool, copying);
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "c", copying);
-    stage.carryTo(stage.tree->viewport(), Stage::centerOf(stage.tree, "c") + QPoint(40, 0));
-    stage.drop(copying);
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : filledContentWithoutC());
-    QCOMPARE(stage.log.value(1), "tree over c: refused");
-    QVERIFY(stage.log.filter("drop").isEmpty());
-}
-
-void tst_RyTreeWidget_Window::onlyTheCurrentItemOfASelectionIsDragged_data()
-{
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::onlyTheCurrentItemOfASelectionIsDragged()
-{
-    QFETCH(bool, copying);
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.tree->setCurrentItem(itemNamed(stage.tree, "b"));
-    stage.user.moveTo(stage.tree->viewport(), Stage::centerOf(stage.tree, "d"));
-    stage.user.pressKey(Qt::Key_Shift);
-    stage.user.press();
-    stage.user.release();
-    stage.user.releaseKey(Qt::Key_Shift);
-    stage.user.waitFor("three selected", [&] { return stage.tree->selectedItems().count() == 3; });
-    stage.user.press();
-    if (copying)
-        stage.user.pressKey(Qt::Key_Control);
-    stage.user.moveTo(stage.tree->viewport(), Stage::centerOf(stage.tree, "d") + QPoint(2, 0));
-    stage.user.waitFor("still three selected",
-                       [&] { return stage.tree->selectedItems().count() == 3; });
-    stage.carryTo(stage.other, "x");
-    stage.drop(copying);
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.other), lines("x,  d,y"));
-    QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : lines("a,  a1,  a2,b,  b1,c"));
+    QCOMPARE(stage.log.value(1).contains("refused"), end == "on itself");
 }
 
 void tst_RyTreeWidget_Window::dragsFromOtherViewsAreRefused_data()
@@ -896,25 +802,6 @@ void tst_RyTreeWidget_Window::hoveringShowsNoDropIndicator()
     stage.drop();
     QCOMPARE(stage.user.run(), QString());
     QVERIFY(!indicated);
-}
-
-void tst_RyTreeWidget_Window::controlReleasedInAnotherWidgetIsMissed()
-{
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.leaveControlSet(stage.tree);
-    stage.pickUp(stage.tree, "c");
-    stage.carryTo(stage.other, "x");
-    stage.drop();
-    // Now the tree has the focus and hears of the key.
-    stage.user.pressKey(Qt::Key_Control);
-    stage.user.releaseKey(Qt::Key_Control);
-    stage.pickUp(stage.tree, "d");
-    stage.carryTo(stage.other, "y");
-    stage.drop();
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), lines("a,  a1,  a2,b,  b1,c"));
-    QCOMPARE(itemsOf(stage.other), lines("x,  c,y,  d"));
 }
 
 void tst_RyTreeWidget_Window::controlPressedDuringADragIsNotSeen()
