@@ -2,17 +2,16 @@
 
 #include "dialogstage.h"
 
-#include <QDialogButtonBox>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTabWidget>
 
 DialogStage::DialogStage()
     : dialog({&host.manager, nullptr}, &host.window)
     , views(&dialog)
     , tabs(dialog.findChild<QTabWidget *>())
-    , cancelButton(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel))
+    , box(dialog.findChild<QDialogButtonBox *>())
 {
+    host.window.resize(1000, 800);
+    user.waitForWindow(&dialog);
 }
 
 QString DialogStage::exec()

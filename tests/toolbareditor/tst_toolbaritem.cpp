@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 
-#include "fieldoffset.h"
 #include "testcase.h"
 #include "toolbaritem.h"
 
@@ -13,12 +12,18 @@ namespace {
 
 QList<qptrdiff> fieldOffsetsOf(const ToolBarItem &item);
 
+// In bytes from the start of the record.
+template <typename Field> qptrdiff offsetOf(const ToolBarItem &item, Field ToolBarItem::*field)
+{
+    return reinterpret_cast<const char *>(&(item.*field)) - reinterpret_cast<const char *>(&item);
+}
+
 // The arguments of an explicit instantiation may name private members.
 template <auto... Fields> struct FieldOffsets
 {
     friend QList<qptrdiff> fieldOffsetsOf(const ToolBarItem &item)
     {
-        return {fieldOffset(item, Fields)...};
+        return {offsetOf(item, Fields)...};
     }
 };
 
@@ -40,7 +45,7 @@ private Q_SLOTS:
     void theNameIsReturnedAsACopy();
     void destroyingARecordLeavesTheToolBar();
     void theClassIsPlain();
-    void theFieldsStandInTheirOrder();
+    void theFieldsAreInOrder();
 };
 
 void tst_ToolBarItem::aRecordOfAToolBarHasTheToolBarAndTheName()
@@ -136,7 +141,7 @@ void tst_ToolBarItem::theClassIsPlain()
     QCOMPARE(sizeof(ToolBarItem), sizeof(QToolBar *) + sizeof(QString));
 }
 
-void tst_ToolBarItem::theFieldsStandInTheirOrder()
+void tst_ToolBarItem::theFieldsAreInOrder()
 {
     const ToolBarItem item("Mine");
     const QList<qptrdiff> expected{0, sizeof(QToolBar *)};
