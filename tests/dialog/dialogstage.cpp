@@ -2,30 +2,29 @@
 
 #include "dialogstage.h"
 
-#include <QDialogButtonBox>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTabWidget>
 
 DialogStage::DialogStage()
     : dialog({&host.manager, nullptr}, &host.window)
     , views(&dialog)
     , tabs(dialog.findChild<QTabWidget *>())
-    , cancelButton(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel))
+    , box(dialog.findChild<QDialogButtonBox *>())
 {
+    host.window.resize(1000, 800);
+    user.waitForWindow(&dialog);
 }
 
 QString DialogStage::exec()
 {
     host.window.show();
     if (!waitUntilSettled(&host.window))
-        return QStringLiteral("the host has no window");
+        return "the host has no window";
     user.start();
     const int result = dialog.exec();
     const QString failure = user.finish();
     if (!failure.isEmpty())
         return failure;
-    return result == QDialog::Accepted ? QStringLiteral("accepted") : QStringLiteral("rejected");
+    return result == QDialog::Accepted ? "accepted" : "rejected";
 }
 
 void DialogStage::typeName(const QString &name)
@@ -36,7 +35,7 @@ void DialogStage::typeName(const QString &name)
 
 void DialogStage::waitForNameEditor()
 {
-    user.waitFor(QStringLiteral("editor"), [this] {
+    user.waitFor("editor", [this] {
         return nameEditor() && nameEditor()->hasFocus() && nameEditor()->hasSelectedText();
     });
 }

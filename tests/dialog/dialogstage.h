@@ -3,14 +3,10 @@
 #ifndef DIALOGSTAGE_H
 #define DIALOGSTAGE_H
 
-#include "editorviews.h"
-#include "host.h"
-#include "rycustomizeddialog.h"
+#include "showndialog.h"
 #include "userscript.h"
 
 class QLineEdit;
-class QPushButton;
-class QTabWidget;
 
 /*
  * A host, its dialog, and the user before it, with the pointer and the keys of an X server. What is
@@ -32,11 +28,11 @@ public:
     // The in-place editor, or null.
     QLineEdit *nameEditor() const;
 
-    Host host;
+    DialogHost host;
     RyCustomizedDialog dialog;
     EditorViews views;
     QTabWidget *const tabs;
-    QPushButton *const cancelButton;
+    QDialogButtonBox *const box;
     UserScript user;
 };
 

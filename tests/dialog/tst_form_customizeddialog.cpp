@@ -40,29 +40,25 @@ class tst_Form_CustomizedDialog : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void theFieldsStandInOrder();
+    void theFieldsAreInOrder();
     void isAPlainClass();
-    void anUnnamedDialogIsNamed();
-    void aNamedDialogKeepsItsName();
-    void theDialogIsResized();
-    void theDialogsSizePolicyIsReplaced();
+    void onlyAnUnnamedDialogIsNamed();
+    void theDialogsSizeAndPolicyAreSet();
     void theDialogsHeightForWidthIsTakenOver_data();
     void theDialogsHeightForWidthIsTakenOver();
-    void theDialogBecomesModal();
     void theWidgetsAreCreatedInOrder();
     void theMembersAreNamedAfterThemselves();
     void theLayoutHoldsTheTabsAboveTheButtons();
     void thePlaceholderIsTheOnlyTab();
     void theButtonBoxIsHorizontalWithFiveButtons();
     void theTitleIsTranslated();
-    void thePlaceholdersTitleIsNotTranslated();
     void retranslatingResetsTheTitleOnly();
     void slotsAreConnectedByNameInTheEnd();
     void nothingElseIsSet();
     void theDialogOwnsEverything();
 };
 
-void tst_Form_CustomizedDialog::theFieldsStandInOrder()
+void tst_Form_CustomizedDialog::theFieldsAreInOrder()
 {
     QCOMPARE(offsetof(Ui_CustomizedDialog, verticalLayout), 0 * sizeof(void *));
     QCOMPARE(offsetof(Ui_CustomizedDialog, m_optionTabWidget), 1 * sizeof(void *));
@@ -78,29 +74,18 @@ void tst_Form_CustomizedDialog::isAPlainClass()
     QVERIFY(std::is_trivially_destructible_v<Ui_CustomizedDialog>);
 }
 
-void tst_Form_CustomizedDialog::anUnnamedDialogIsNamed()
+void tst_Form_CustomizedDialog::onlyAnUnnamedDialogIsNamed()
 {
     QDialog dialog;
     const Form form(&dialog);
-    QCOMPARE(dialog.objectName(), QStringLiteral("CustomizedDialog"));
+    QCOMPARE(dialog.objectName(), "CustomizedDialog");
+    QDialog named;
+    named.setObjectName("mine");
+    const Form other(&named);
+    QCOMPARE(named.objectName(), "mine");
 }
 
-void tst_Form_CustomizedDialog::aNamedDialogKeepsItsName()
-{
-    QDialog dialog;
-    dialog.setObjectName(QStringLiteral("mine"));
-    const Form form(&dialog);
-    QCOMPARE(dialog.objectName(), QStringLiteral("mine"));
-}
-
-void tst_Form_CustomizedDialog::theDialogIsResized()
-{
-    QDialog dialog;
-    const Form form(&dialog);
-    QCOMPARE(dialog.size(), QSize(740, 460));
-}
-
-void tst_Form_CustomizedDialog::theDialogsSizePolicyIsReplaced()
+void tst_Form_CustomizedDialog::theDialogsSizeAndPolicyAreSet()
 {
     QDialog dialog;
     QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed, QSizePolicy::Frame);
@@ -108,7 +93,8 @@ void tst_Form_CustomizedDialog::theDialogsSizePolicyIsReplaced()
     policy.setVerticalStretch(3);
     dialog.setSizePolicy(policy);
     const Form form(&dialog);
-    QCOMPARE(textOf(dialog.sizePolicy()), QStringLiteral("Expanding Minimum"));
+    QCOMPARE(textOf(dialog.sizePolicy()), "Expanding Minimum");
+    QCOMPARE(dialog.size(), QSize(740, 460));
 }
 
 void tst_Form_CustomizedDialog::theDialogsHeightForWidthIsTakenOver_data()
@@ -129,22 +115,12 @@ void tst_Form_CustomizedDialog::theDialogsHeightForWidthIsTakenOver()
     QCOMPARE(dialog.sizePolicy().hasHeightForWidth(), heightForWidth);
 }
 
-void tst_Form_CustomizedDialog::theDialogBecomesModal()
-{
-    QDialog dialog;
-    QVERIFY(!dialog.isModal());
-    const Form form(&dialog);
-    QVERIFY(dialog.isModal());
-    QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
-}
-
 void tst_Form_CustomizedDialog::theWidgetsAreCreatedInOrder()
 {
     QDialog dialog;
     const Form form(&dialog);
-    const QStringList expected{QStringLiteral("QVBoxLayout verticalLayout"),
-                               QStringLiteral("QTabWidget m_optionTabWidget"),
-                               QStringLiteral("QDialogButtonBox m_dialogButtonBox")};
+    const QStringList expected{"QVBoxLayout verticalLayout", "QTabWidget m_optionTabWidget",
+                               "QDialogButtonBox m_dialogButtonBox"};
     QCOMPARE(childrenOf(&dialog), expected);
 }
 
@@ -152,10 +128,10 @@ void tst_Form_CustomizedDialog::theMembersAreNamedAfterThemselves()
 {
     QDialog dialog;
     const Form form(&dialog);
-    QCOMPARE(form.verticalLayout->objectName(), QStringLiteral("verticalLayout"));
-    QCOMPARE(form.m_optionTabWidget->objectName(), QStringLiteral("m_optionTabWidget"));
-    QCOMPARE(form.tab_2->objectName(), QStringLiteral("tab_2"));
-    QCOMPARE(form.m_dialogButtonBox->objectName(), QStringLiteral("m_dialogButtonBox"));
+    QCOMPARE(form.verticalLayout->objectName(), "verticalLayout");
+    QCOMPARE(form.m_optionTabWidget->objectName(), "m_optionTabWidget");
+    QCOMPARE(form.tab_2->objectName(), "tab_2");
+    QCOMPARE(form.m_dialogButtonBox->objectName(), "m_dialogButtonBox");
 }
 
 void tst_Form_CustomizedDialog::theLayoutHoldsTheTabsAboveTheButtons()
@@ -163,8 +139,7 @@ void tst_Form_CustomizedDialog::theLayoutHoldsTheTabsAboveTheButtons()
     QDialog dialog;
     const Form form(&dialog);
     QCOMPARE(dialog.layout(), form.verticalLayout);
-    const QStringList expected{QStringLiteral("m_optionTabWidget"),
-                               QStringLiteral("m_dialogButtonBox")};
+    const QStringList expected{"m_optionTabWidget", "m_dialogButtonBox"};
     QCOMPARE(itemsOf(form.verticalLayout), expected);
     QCOMPARE(form.verticalLayout->direction(), QBoxLayout::TopToBottom);
 }
@@ -175,7 +150,7 @@ void tst_Form_CustomizedDialog::thePlaceholderIsTheOnlyTab()
     const Form form(&dialog);
     QCOMPARE(form.m_optionTabWidget->count(), 1);
     QCOMPARE(form.m_optionTabWidget->widget(0), form.tab_2);
-    QCOMPARE(form.m_optionTabWidget->tabText(0), QStringLiteral("Tab 1"));
+    QCOMPARE(form.m_optionTabWidget->tabText(0), "Tab 1");
     QCOMPARE(form.m_optionTabWidget->currentIndex(), 0);
     QCOMPARE(form.tab_2->metaObject(), &QWidget::staticMetaObject);
     QVERIFY(form.m_optionTabWidget->isAncestorOf(form.tab_2));
@@ -197,46 +172,39 @@ void tst_Form_CustomizedDialog::theTitleIsTranslated()
 {
     QDialog dialog;
     const Form form(&dialog);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Options"));
+    QCOMPARE(dialog.windowTitle(), "Options");
     RecordingTranslator translator;
     QDialog translated;
     const Form translatedForm(&translated);
-    QCOMPARE(translated.windowTitle(), QStringLiteral("translated Options"));
-    QCOMPARE(translator.takeLookUps(), QStringList{QStringLiteral("CustomizedDialog: Options")});
-}
-
-void tst_Form_CustomizedDialog::thePlaceholdersTitleIsNotTranslated()
-{
-    RecordingTranslator translator;
-    QDialog dialog;
-    const Form form(&dialog);
-    QCOMPARE(form.m_optionTabWidget->tabText(0), QStringLiteral("Tab 1"));
+    QCOMPARE(translated.windowTitle(), "translated Options");
+    QCOMPARE(translatedForm.m_optionTabWidget->tabText(0), "Tab 1");
+    QCOMPARE(translator.takeLookUps(), QStringList{"CustomizedDialog: Options"});
 }
 
 void tst_Form_CustomizedDialog::retranslatingResetsTheTitleOnly()
 {
     QDialog dialog;
     Form form(&dialog);
-    form.m_optionTabWidget->setTabText(0, QStringLiteral("other"));
-    form.m_optionTabWidget->addTab(new QWidget, QStringLiteral("second"));
+    form.m_optionTabWidget->setTabText(0, "other");
+    form.m_optionTabWidget->addTab(new QWidget, "second");
     form.m_optionTabWidget->setCurrentIndex(1);
     dialog.resize(800, 600);
     const QStringList before = propertiesBelow(&dialog);
-    dialog.setWindowTitle(QStringLiteral("other"));
+    dialog.setWindowTitle("other");
     form.retranslateUi(&dialog);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Options"));
+    QCOMPARE(dialog.windowTitle(), "Options");
     QCOMPARE(propertiesBelow(&dialog), before);
-    QCOMPARE(form.m_optionTabWidget->tabText(0), QStringLiteral("other"));
+    QCOMPARE(form.m_optionTabWidget->tabText(0), "other");
 }
 
 void tst_Form_CustomizedDialog::slotsAreConnectedByNameInTheEnd()
 {
     ListeningDialog dialog;
-    dialog.setObjectName(QStringLiteral("listening"));
+    dialog.setObjectName("listening");
     const Form form(&dialog);
     QCOMPARE(dialog.titleChanges, 0);
     QCOMPARE(dialog.currentChanges, 0);
-    dialog.setWindowTitle(QStringLiteral("other"));
+    dialog.setWindowTitle("other");
     QCOMPARE(dialog.titleChanges, 1);
     form.m_optionTabWidget->clear();
     QCOMPARE(dialog.currentChanges, 1);
@@ -250,14 +218,13 @@ void tst_Form_CustomizedDialog::nothingElseIsSet()
     const Form form(&dialog);
     QDialog fresh;
     // QDialog has the property "modal" of its base once more.
-    const QStringList ofDialog{QStringLiteral("objectName"),     QStringLiteral("modal"),
-                               QStringLiteral("windowModality"), QStringLiteral("sizePolicy"),
-                               QStringLiteral("windowTitle"),    QStringLiteral("modal")};
+    const QStringList ofDialog{"objectName", "modal",       "windowModality",
+                               "sizePolicy", "windowTitle", "modal"};
     QCOMPARE(differingProperties(&dialog, &fresh), ofDialog);
-    const QStringList ofTabs{QStringLiteral("objectName"), QStringLiteral("currentIndex"),
-                             QStringLiteral("count")};
+    QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
+    const QStringList ofTabs{"objectName", "currentIndex", "count"};
     QCOMPARE(differingProperties(form.m_optionTabWidget, new QTabWidget(&fresh)), ofTabs);
-    const QStringList ofBox{QStringLiteral("objectName"), QStringLiteral("standardButtons")};
+    const QStringList ofBox{"objectName", "standardButtons"};
     QCOMPARE(differingProperties(form.m_dialogButtonBox, new QDialogButtonBox(&fresh)), ofBox);
     const QVBoxLayout layout(&fresh);
     QCOMPARE(form.verticalLayout->contentsMargins(), layout.contentsMargins());

@@ -1,70 +1,20 @@
 // SPDX-License-Identifier: MIT
 
 #include "connections.h"
-#include "editorviews.h"
-#include "host.h"
-#include "layouts.h"
+#include "nextmodal.h"
 #include "recordingtranslator.h"
-#include "rycribbonpage.h"
 #include "rycribbonwidget.h"
-#include "rycustomizeddialog.h"
-#include "ryctoolbarpage.h"
 #include "ryctoolbarwidget.h"
+#include "showndialog.h"
 #include "testcase.h"
-#include "texts.h"
-#include "ui_customizeddialog.h"
-#include "virtualslots.h"
 
-#include <QPushButton>
 #include <QtTest>
 
 #include <memory>
 
 namespace {
 
-// What the dialog keeps after its base.
-struct Fields
-{
-    Ui_CustomizedDialog *ui;
-    QList<RyCusInterface *> pages;
-};
-
-const Fields &fieldsOf(const RyCustomizedDialog &dialog)
-{
-    return *reinterpret_cast<const Fields *>(reinterpret_cast<const char *>(&dialog)
-                                             + sizeof(QDialog));
-}
-
-// The types show whose function it is that a subclass would override.
-struct Access : RyCustomizedDialog
-{
-    template <typename Event> using Handler = void (QDialog::*)(Event *);
-
-    using Notice = void (QDialog::*)();
-
-    static QList<bool> inherited()
-    {
-        return {
-            std::is_same_v<decltype(&Access::setVisible), void (QDialog::*)(bool)>,
-            std::is_same_v<decltype(&Access::sizeHint), QSize (QDialog::*)() const>,
-            std::is_same_v<decltype(&Access::minimumSizeHint), QSize (QDialog::*)() const>,
-            std::is_same_v<decltype(&Access::exec), int (QDialog::*)()>,
-            std::is_same_v<decltype(&Access::open), Notice>,
-            std::is_same_v<decltype(&Access::done), void (QDialog::*)(int)>,
-            std::is_same_v<decltype(&Access::accept), Notice>,
-            std::is_same_v<decltype(&Access::reject), Notice>,
-            std::is_same_v<decltype(&Access::keyPressEvent), Handler<QKeyEvent>>,
-            std::is_same_v<decltype(&Access::closeEvent), Handler<QCloseEvent>>,
-            std::is_same_v<decltype(&Access::showEvent), Handler<QShowEvent>>,
-            std::is_same_v<decltype(&Access::resizeEvent), Handler<QResizeEvent>>,
-            std::is_same_v<decltype(&Access::contextMenuEvent), Handler<QContextMenuEvent>>,
-            std::is_same_v<decltype(&Access::eventFilter), bool (QDialog::*)(QObject *, QEvent *)>,
-            std::is_same_v<decltype(&Access::event), bool (QWidget::*)(QEvent *)>,
-            std::is_same_v<decltype(&Access::hideEvent), void (QWidget::*)(QHideEvent *)>,
-            std::is_same_v<decltype(&Access::changeEvent), void (QWidget::*)(QEvent *)>,
-        };
-    }
-};
+using Dealing = std::function<void(QWidget *)>;
 
 // Notes when the form's placeholder is shown.
 class PlaceholderWatch : public QObject
@@ -74,185 +24,51 @@ public:
 
     bool eventFilter(QObject *object, QEvent *event) override
     {
-        if (object->objectName() == QLatin1String("tab_2") && event->type() == QEvent::Show)
-            wasShown = true;
+        wasShown |= object->objectName() == "tab_2" && event->type() == QEvent::Show;
         return false;
     }
 
     bool wasShown = false;
 };
 
-QTabWidget *tabsOf(const RyCustomizedDialog &dialog)
+void editAndPress(QWidget *dialog, QDialogButtonBox::StandardButton which)
 {
-    return dialog.findChild<QTabWidget *>(QStringLiteral("m_optionTabWidget"));
+    edit(dialog);
+    QTest::mouseClick(dialog->findChild<QDialogButtonBox *>()->button(which), Qt::LeftButton);
 }
-
-QDialogButtonBox *boxOf(const RyCustomizedDialog &dialog)
-{
-    return dialog.findChild<QDialogButtonBox *>(QStringLiteral("m_dialogButtonBox"));
-}
-
-template <typename Dialog, typename = void> struct HasCancelButton : std::false_type
-{
-};
-
-template <typename Dialog>
-struct HasCancelButton<Dialog, std::void_t<decltype(std::declval<Dialog>().cancelButton())>>
-    : std::true_type
-{
-};
 
 } // namespace
+
+Q_DECLARE_METATYPE(Dealing)
 
 class tst_RyCustomizedDialog : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void okCreatesTheToolBarThatTheUserMade();
-
-    void hasSixPrivateSlotsInOrder();
-    void hasNoOtherMetaObjectMembers();
-    void isCastToByItsOwnName();
-    void keepsItsFormThenItsPages();
-    void keepsTheToolBarPageThenTheRibbonPage();
-    void overridesNoVirtualFunctionOfQDialog();
-    void addsNoVirtualFunction();
     void theAccessorsReturnTheStandardButtons();
-    void thereIsNoAccessorForCancel();
-
     void belongsToItsParent();
     void onlyTheContextHelpHintIsCleared_data();
     void onlyTheContextHelpHintIsCleared();
-    void isModalAndTitledOptions();
-    void isSetUpByItsForm();
     void showsTwoTabsAndTheFirstIsCurrent();
-    void thePlaceholderStaysAHiddenChild();
     void thePlaceholderIsNeverShown();
-    void thePageWidgetsLiveInTheTabs();
-    void theFormConnectsNoSlotByName();
-
     void everyTextIsLookedUpOnceAndInOrder();
-    void everyTextPassesThroughTranslation();
-
-    void aNullRibbonManagerIsAccepted();
     void theRibbonManagerIsNeverUsed();
-    void furtherManagersAreIgnored();
     void theManagersStayTheHosts();
-    void takesTheListByValue();
-    void theDialogLeavesTheHostAlone_data();
-    void theDialogLeavesTheHostAlone();
+    void switchingTabsDiscardsTheEdits();
     void destroyingAShownDialogLeavesTheHostAlone_data();
     void destroyingAShownDialogLeavesTheHostAlone();
-    void theParentDeletesTheDialog();
-    void severalDialogsMayShareAManager();
+
+    void execReturnsWhatTheUserChose_data();
+    void execReturnsWhatTheUserChose();
+    void isModalWhileItRuns();
+    void isNotDeletedOnCloseAndMayRunAgain();
+    void execEndsWhenTheDialogIsDestroyed();
 };
-
-void tst_RyCustomizedDialog::okCreatesTheToolBarThatTheUserMade()
-{
-    Host host;
-    host.defaultToolBar(QStringLiteral("file"),
-                        {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                        QStringLiteral("File"));
-    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    dialog.show();
-    const EditorViews editor(&dialog);
-    editor.click(editor.newButton);
-    editor.typeName(QStringLiteral("Mine"));
-    editor.doubleClick(editor.actionTree, QStringLiteral("Save"));
-    QTest::mouseClick(dialog.okButton(), Qt::LeftButton);
-
-    QToolBar *const made = host.manager.toolBarByName(QStringLiteral("_Custom_Toolbar_1"));
-    QVERIFY(made);
-    QCOMPARE(made->windowTitle(), QStringLiteral("Mine"));
-    QCOMPARE(standingOn(made), QStringList{QStringLiteral("save")});
-}
-
-void tst_RyCustomizedDialog::hasSixPrivateSlotsInOrder()
-{
-    const QMetaObject &metaObject = RyCustomizedDialog::staticMetaObject;
-    QStringList slotNames;
-    for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i) {
-        const QMetaMethod method = metaObject.method(i);
-        QCOMPARE(method.methodType(), QMetaMethod::Slot);
-        QCOMPARE(method.access(), QMetaMethod::Private);
-        QCOMPARE(method.typeName(), "void");
-        slotNames << QString::fromLatin1(method.methodSignature());
-    }
-    const QStringList expected{
-        QStringLiteral("slotAccepted()"), QStringLiteral("slotRejected()"),
-        QStringLiteral("slotApply()"),    QStringLiteral("slotUiModeChanged(bool)"),
-        QStringLiteral("slotHelp()"),     QStringLiteral("slotRestorDefault()"),
-    };
-    QCOMPARE(slotNames, expected);
-    const int index = metaObject.indexOfSlot("slotUiModeChanged(bool)");
-    QCOMPARE(metaObject.method(index).parameterNames(), QList<QByteArray>{"modified"});
-}
-
-void tst_RyCustomizedDialog::hasNoOtherMetaObjectMembers()
-{
-    const QMetaObject &metaObject = RyCustomizedDialog::staticMetaObject;
-    QCOMPARE(metaObject.superClass(), &QDialog::staticMetaObject);
-    QCOMPARE(metaObject.propertyCount(), metaObject.propertyOffset());
-    QCOMPARE(metaObject.enumeratorCount(), metaObject.enumeratorOffset());
-    QCOMPARE(metaObject.classInfoCount(), metaObject.classInfoOffset());
-    QCOMPARE(metaObject.constructorCount(), 0);
-}
-
-void tst_RyCustomizedDialog::isCastToByItsOwnName()
-{
-    Host host;
-    RyCustomizedDialog dialog({&host.manager, nullptr}, nullptr);
-    QCOMPARE(dialog.metaObject(), &RyCustomizedDialog::staticMetaObject);
-    QCOMPARE(dialog.metaObject()->className(), "RyCustomizedDialog");
-    QCOMPARE(dialog.qt_metacast("RyCustomizedDialog"), &dialog);
-    QCOMPARE(dialog.qt_metacast("QDialog"), static_cast<QDialog *>(&dialog));
-    QVERIFY(!dialog.qt_metacast("RyCusInterface"));
-    QVERIFY(!dialog.qt_metacast(nullptr));
-}
-
-void tst_RyCustomizedDialog::keepsItsFormThenItsPages()
-{
-    QCOMPARE(sizeof(RyCustomizedDialog), sizeof(QDialog) + sizeof(Fields));
-    Host host;
-    const RyCustomizedDialog dialog({&host.manager, nullptr}, nullptr);
-    const Ui_CustomizedDialog *const ui = fieldsOf(dialog).ui;
-    QCOMPARE(ui->verticalLayout, dialog.layout());
-    QCOMPARE(ui->m_optionTabWidget, tabsOf(dialog));
-    QCOMPARE(ui->tab_2, dialog.findChild<QWidget *>(QStringLiteral("tab_2")));
-    QCOMPARE(ui->m_dialogButtonBox, boxOf(dialog));
-}
-
-void tst_RyCustomizedDialog::keepsTheToolBarPageThenTheRibbonPage()
-{
-    Host host;
-    const RyCustomizedDialog dialog({&host.manager, nullptr}, nullptr);
-    const QList<RyCusInterface *> pages = fieldsOf(dialog).pages;
-    QCOMPARE(pages.size(), 2);
-    QVERIFY(dynamic_cast<RyCToolBarPage *>(pages.at(0)));
-    QVERIFY(dynamic_cast<RyCRibbonPage *>(pages.at(1)));
-}
-
-void tst_RyCustomizedDialog::overridesNoVirtualFunctionOfQDialog()
-{
-    QVERIFY(!Access::inherited().contains(false));
-}
-
-void tst_RyCustomizedDialog::addsNoVirtualFunction()
-{
-    struct Plain : QDialog
-    {
-        virtual void next() = 0;
-    };
-    struct Derived : RyCustomizedDialog
-    {
-        virtual void next() = 0;
-    };
-    QCOMPARE(virtualSlot(&Derived::next), virtualSlot(&Plain::next));
-}
 
 void tst_RyCustomizedDialog::theAccessorsReturnTheStandardButtons()
 {
+    const ShownDialog shown;
     using Accessor = QPushButton *(RyCustomizedDialog::*)() const;
     const QList<QPair<Accessor, QDialogButtonBox::StandardButton>> accessors{
         {&RyCustomizedDialog::okButton, QDialogButtonBox::Ok},
@@ -260,17 +76,10 @@ void tst_RyCustomizedDialog::theAccessorsReturnTheStandardButtons()
         {&RyCustomizedDialog::RestoreDefaultButton, QDialogButtonBox::RestoreDefaults},
         {&RyCustomizedDialog::helpButton, QDialogButtonBox::Help},
     };
-    Host host;
-    const RyCustomizedDialog dialog({&host.manager, nullptr}, nullptr);
     for (const auto &pair : accessors) {
-        QVERIFY((dialog.*pair.first)());
-        QCOMPARE((dialog.*pair.first)(), boxOf(dialog)->button(pair.second));
+        QVERIFY((shown.dialog->*pair.first)());
+        QCOMPARE((shown.dialog->*pair.first)(), shown.box->button(pair.second));
     }
-}
-
-void tst_RyCustomizedDialog::thereIsNoAccessorForCancel()
-{
-    QVERIFY(!HasCancelButton<const RyCustomizedDialog &>::value);
 }
 
 void tst_RyCustomizedDialog::belongsToItsParent()
@@ -279,7 +88,7 @@ void tst_RyCustomizedDialog::belongsToItsParent()
     const RyCustomizedDialog child({&host.manager, nullptr}, &host.window);
     QCOMPARE(child.parentWidget(), &host.window);
     QVERIFY(child.isWindow());
-    const RyCustomizedDialog orphan({&host.manager, nullptr}, nullptr);
+    const RyCustomizedDialog orphan({&host.manager, nullptr});
     QVERIFY(!orphan.parentWidget());
 }
 
@@ -305,141 +114,53 @@ void tst_RyCustomizedDialog::onlyTheContextHelpHintIsCleared()
     QCOMPARE(dialog.windowFlags(), plain.windowFlags() & ~Qt::WindowContextHelpButtonHint);
 }
 
-void tst_RyCustomizedDialog::isModalAndTitledOptions()
-{
-    Host host;
-    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    QVERIFY(dialog.isModal());
-    QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Options"));
-    dialog.show();
-    QCOMPARE(QApplication::activeModalWidget(), &dialog);
-}
-
-void tst_RyCustomizedDialog::isSetUpByItsForm()
-{
-    Host host;
-    const RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    QCOMPARE(dialog.objectName(), QStringLiteral("CustomizedDialog"));
-    QCOMPARE(dialog.size(), QSize(740, 460));
-    QCOMPARE(textOf(dialog.sizePolicy()), QStringLiteral("Expanding Minimum"));
-    const QStringList items{QStringLiteral("m_optionTabWidget"),
-                            QStringLiteral("m_dialogButtonBox")};
-    QCOMPARE(itemsOf(qobject_cast<QVBoxLayout *>(dialog.layout())), items);
-    QCOMPARE(boxOf(dialog)->standardButtons(),
-             QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help
-                 | QDialogButtonBox::Apply | QDialogButtonBox::RestoreDefaults);
-    QVERIFY(!dialog.testAttribute(Qt::WA_DeleteOnClose));
-}
-
 void tst_RyCustomizedDialog::showsTwoTabsAndTheFirstIsCurrent()
 {
-    Host host;
-    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    const QTabWidget *const tabs = tabsOf(dialog);
-    QCOMPARE(tabs->count(), 2);
-    QCOMPARE(tabs->tabText(0), QStringLiteral("ToolBar"));
-    QCOMPARE(tabs->tabText(1), QStringLiteral("Ribbon"));
-    QCOMPARE(tabs->currentIndex(), 0);
-    dialog.show();
-    QCOMPARE(tabs->currentIndex(), 0);
-    QVERIFY(tabs->widget(0)->isVisible());
-    QVERIFY(!tabs->widget(1)->isVisible());
-}
-
-void tst_RyCustomizedDialog::thePlaceholderStaysAHiddenChild()
-{
-    Host host;
-    QPointer<QWidget> placeholder;
-    {
-        const RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-        placeholder = dialog.findChild<QWidget *>(QStringLiteral("tab_2"));
-        QVERIFY(placeholder);
-        QVERIFY(tabsOf(dialog)->isAncestorOf(placeholder));
-        QCOMPARE(tabsOf(dialog)->indexOf(placeholder), -1);
-        QVERIFY(!placeholder->isVisible());
-    }
-    QVERIFY(!placeholder);
+    const ShownDialog shown;
+    QCOMPARE(shown.tabs->count(), 2);
+    QCOMPARE(shown.tabs->tabText(0), "ToolBar");
+    QCOMPARE(shown.tabs->tabText(1), "Ribbon");
+    QCOMPARE(shown.tabs->currentIndex(), 0);
+    QCOMPARE(shown.tabs->widget(0), shown.dialog->findChild<RyCToolBarWidget *>());
+    QCOMPARE(shown.tabs->widget(1), shown.dialog->findChild<RyCRibbonWidget *>());
+    QVERIFY(shown.tabs->widget(0)->isVisible());
+    QVERIFY(!shown.tabs->widget(1)->isVisible());
 }
 
 void tst_RyCustomizedDialog::thePlaceholderIsNeverShown()
 {
     const PlaceholderWatch watch;
-    Host host;
-    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    const QWidget *const placeholder = dialog.findChild<QWidget *>(QStringLiteral("tab_2"));
-    dialog.show();
-    for (int tab : {1, 0}) {
-        tabsOf(dialog)->setCurrentIndex(tab);
-        QVERIFY(!placeholder->isVisible());
-        for (int i = 0; i < tabsOf(dialog)->count(); ++i)
-            QVERIFY(tabsOf(dialog)->tabText(i) != QLatin1String("Tab 1"));
-    }
+    const ShownDialog shown;
+    const QPointer<QWidget> placeholder = shown.dialog->findChild<QWidget *>("tab_2");
+    QVERIFY(placeholder);
+    QVERIFY(shown.tabs->isAncestorOf(placeholder));
+    for (int tab : {1, 0})
+        shown.tabs->setCurrentIndex(tab);
     QVERIFY(!watch.wasShown);
-}
-
-void tst_RyCustomizedDialog::thePageWidgetsLiveInTheTabs()
-{
-    Host host;
-    const RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    QCOMPARE(tabsOf(dialog)->widget(0), dialog.findChild<RyCToolBarWidget *>());
-    QCOMPARE(tabsOf(dialog)->widget(1), dialog.findChild<RyCRibbonWidget *>());
-    QVERIFY(tabsOf(dialog)->isAncestorOf(tabsOf(dialog)->widget(0)));
-    QVERIFY(tabsOf(dialog)->isAncestorOf(tabsOf(dialog)->widget(1)));
-    QCOMPARE(dialog.findChildren<RyCToolBarWidget *>().size(), 1);
-    QCOMPARE(dialog.findChildren<RyCRibbonWidget *>().size(), 1);
-}
-
-void tst_RyCustomizedDialog::theFormConnectsNoSlotByName()
-{
-    const QMetaObject &metaObject = RyCustomizedDialog::staticMetaObject;
-    for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)
-        QVERIFY(!metaObject.method(i).name().startsWith("on_"));
+    delete shown.dialog;
+    QVERIFY(!placeholder);
 }
 
 // The texts of the two pages' own forms are tested with the forms.
 void tst_RyCustomizedDialog::everyTextIsLookedUpOnceAndInOrder()
 {
-    Host host;
     RecordingTranslator translator;
-    const RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
+    const ShownDialog shown;
+    QCOMPARE(shown.dialog->windowTitle(), "translated Options");
+    QCOMPARE(shown.tabs->tabText(0), "translated ToolBar");
+    QCOMPARE(shown.tabs->tabText(1), "translated Ribbon");
     QStringList lookUps = translator.takeLookUps();
-    QCOMPARE(lookUps.filter(QRegularExpression(QStringLiteral("^CToolBarPage: "))).size(), 19);
-    QCOMPARE(lookUps.filter(QRegularExpression(QStringLiteral("^CRibbonPage: "))).size(), 19);
+    QCOMPARE(lookUps.filter(QRegularExpression("^CToolBarPage: ")).size(), 19);
+    QCOMPARE(lookUps.filter(QRegularExpression("^CRibbonPage: ")).size(), 19);
     // One entry is left of each form, so that its place in the order shows.
-    const QRegularExpression others(QStringLiteral("^(CToolBarPage|CRibbonPage): (?!Display)"));
+    const QRegularExpression others("^(CToolBarPage|CRibbonPage): (?!Display)");
     for (const QString &text : lookUps.filter(others))
         lookUps.removeAll(text);
-    const QStringList expected{
-        QStringLiteral("CustomizedDialog: Options"), QStringLiteral("CToolBarPage: Display"),
-        QStringLiteral("RyCToolBarPage: ToolBar"),   QStringLiteral("CRibbonPage: Display"),
-        QStringLiteral("RyCRibbonPage: Ribbon"),
-    };
-    lookUps.removeAll(QStringLiteral("RyCToolBarWidget: < S E P A R A T O R >"));
-    QCOMPARE(lookUps, expected);
-}
-
-void tst_RyCustomizedDialog::everyTextPassesThroughTranslation()
-{
-    Host host;
-    RecordingTranslator translator;
-    const RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("translated Options"));
-    QCOMPARE(tabsOf(dialog)->tabText(0), QStringLiteral("translated ToolBar"));
-    QCOMPARE(tabsOf(dialog)->tabText(1), QStringLiteral("translated Ribbon"));
-}
-
-void tst_RyCustomizedDialog::aNullRibbonManagerIsAccepted()
-{
-    Host host;
-    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-    dialog.show();
-    tabsOf(dialog)->setCurrentIndex(1);
-    QVERIFY(dialog.findChild<RyCRibbonWidget *>()->isVisible());
-    dialog.applyButton()->click();
-    dialog.RestoreDefaultButton()->click();
-    dialog.okButton()->click();
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    lookUps.removeAll("RyCToolBarWidget: < S E P A R A T O R >");
+    QCOMPARE(
+        lookUps,
+        QStringList({"CustomizedDialog: Options", "CToolBarPage: Display",
+                     "RyCToolBarPage: ToolBar", "CRibbonPage: Display", "RyCRibbonPage: Ribbon"}));
 }
 
 void tst_RyCustomizedDialog::theRibbonManagerIsNeverUsed()
@@ -450,31 +171,11 @@ void tst_RyCustomizedDialog::theRibbonManagerIsNeverUsed()
     QVERIFY(connectedSignals(ribbonManager.get()).isEmpty());
     ribbonManager.reset();
     dialog.show();
-    tabsOf(dialog)->setCurrentIndex(1);
+    dialog.findChild<QTabWidget *>()->setCurrentIndex(1);
     dialog.RestoreDefaultButton()->click();
     dialog.applyButton()->click();
     dialog.okButton()->click();
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
-}
-
-void tst_RyCustomizedDialog::furtherManagersAreIgnored()
-{
-    Host host;
-    Host other;
-    QToolBar *const others = other.defaultToolBar(QStringLiteral("other"), {QStringLiteral("cut")},
-                                                  QStringLiteral("Edit"));
-    other.manager.setToolBar(others, {});
-    std::unique_ptr<RyAbstatcManager> deleted(new RyAbstatcManager);
-    const QList<RyAbstatcManager *> managers{&host.manager, nullptr, &other.manager, nullptr,
-                                             deleted.get()};
-    deleted.reset();
-    RyCustomizedDialog dialog(managers, &host.window);
-    dialog.show();
-    QCOMPARE(tabsOf(dialog)->count(), 2);
-    QCOMPARE(rowsOf(EditorViews(&dialog).toolBarList), QStringList());
-    dialog.RestoreDefaultButton()->click();
-    dialog.okButton()->click();
-    QCOMPARE(standingOn(others), QStringList());
 }
 
 void tst_RyCustomizedDialog::theManagersStayTheHosts()
@@ -489,48 +190,20 @@ void tst_RyCustomizedDialog::theManagersStayTheHosts()
         for (const auto &guard : guards)
             QVERIFY(!guard->parent());
     }
-    for (const auto &guard : guards) {
+    for (const auto &guard : guards)
         QVERIFY(guard);
-        QVERIFY(!guard->parent());
-    }
 }
 
-void tst_RyCustomizedDialog::takesTheListByValue()
+void tst_RyCustomizedDialog::switchingTabsDiscardsTheEdits()
 {
-    Host host;
-    QList<RyAbstatcManager *> managers{&host.manager, nullptr};
-    host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open")}, QStringLiteral("File"));
-    RyCustomizedDialog dialog(managers, &host.window);
-    managers.clear();
-    dialog.show();
-    QCOMPARE(rowsOf(EditorViews(&dialog).toolBarList), QStringList{QStringLiteral("File")});
-}
-
-void tst_RyCustomizedDialog::theDialogLeavesTheHostAlone_data()
-{
-    QTest::addColumn<bool>("shown");
-    QTest::newRow("never shown") << false;
-    QTest::newRow("shown and closed") << true;
-}
-
-void tst_RyCustomizedDialog::theDialogLeavesTheHostAlone()
-{
-    QFETCH(bool, shown);
-    Host host;
-    QToolBar *const file =
-        host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open"), QStringLiteral("|")},
-                            QStringLiteral("File"));
-    const QByteArray state = host.manager.saveState(1);
-    const QList<QAction *> actions = file->actions();
-    {
-        RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-        dialog.setVisible(shown);
-        dialog.close();
-    }
-    QCOMPARE(host.manager.saveState(1), state);
-    QCOMPARE(file->actions(), actions);
-    QCOMPARE(file->windowTitle(), QStringLiteral("File"));
-    QCOMPARE(host.window.findChildren<QDialog *>().size(), 0);
+    const ShownDialog shown;
+    shown.edit();
+    for (int tab : {1, 0})
+        shown.tabs->setCurrentIndex(tab);
+    shown.views.click(shown.views.toolBarList, "File");
+    QCOMPARE(shown.views.currentRows(), words("Open | Save"));
+    shown.press(QDialogButtonBox::Ok);
+    QCOMPARE(standingOn(shown.host.file), words("open | save"));
 }
 
 void tst_RyCustomizedDialog::destroyingAShownDialogLeavesTheHostAlone_data()
@@ -546,55 +219,88 @@ void tst_RyCustomizedDialog::destroyingAShownDialogLeavesTheHostAlone()
 {
     QFETCH(int, tab);
     QFETCH(bool, renaming);
-    Host host;
-    QToolBar *const file = host.defaultToolBar(QStringLiteral("file"),
-                                               {QStringLiteral("open"), QStringLiteral("save")},
-                                               QStringLiteral("File"));
-    const QByteArray state = host.manager.saveState(1);
-    {
-        RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-        dialog.show();
-        const EditorViews editor(&dialog);
-        editor.click(editor.leftButton);
-        if (renaming)
-            editor.click(editor.newButton);
-        QCOMPARE(editor.renameEditor() != nullptr, renaming);
-        tabsOf(dialog)->setCurrentIndex(tab);
-    }
-    QCOMPARE(host.manager.saveState(1), state);
-    const QStringList content{QStringLiteral("open"), QStringLiteral("save")};
-    QCOMPARE(standingOn(file), content);
-    QCOMPARE(host.window.findChildren<QToolBar *>(), QList<QToolBar *>{file});
+    const ShownDialog shown;
+    const QByteArray state = shown.host.manager.saveState(1);
+    shown.edit();
+    if (renaming)
+        shown.views.click(shown.views.newButton);
+    QCOMPARE(shown.views.renameEditor() != nullptr, renaming);
+    shown.tabs->setCurrentIndex(tab);
+    delete shown.dialog;
+    QCOMPARE(shown.host.manager.saveState(1), state);
+    QCOMPARE(standingOn(shown.host.file), words("open | save"));
+    QCOMPARE(toolBarTitlesIn(shown.host.window), words("File Mine"));
 }
 
-void tst_RyCustomizedDialog::theParentDeletesTheDialog()
+void tst_RyCustomizedDialog::execReturnsWhatTheUserChose_data()
 {
-    RyToolBarManager manager;
-    QPointer<RyCustomizedDialog> dialog;
-    {
-        QMainWindow window;
-        manager.setMainWindow(&window);
-        dialog = new RyCustomizedDialog({&manager, nullptr}, &window);
-        dialog->show();
-    }
-    QVERIFY(!dialog);
+    QTest::addColumn<Dealing>("deal");
+    QTest::addColumn<bool>("accepted");
+    const auto row = [](const char *name, bool accepted, const Dealing &deal) {
+        QTest::newRow(name) << deal << accepted;
+    };
+    row("OK", true, [](QWidget *dialog) { editAndPress(dialog, QDialogButtonBox::Ok); });
+    row("Cancel", false, [](QWidget *dialog) { editAndPress(dialog, QDialogButtonBox::Cancel); });
+    row("Apply, then close()", false, [](QWidget *dialog) {
+        editAndPress(dialog, QDialogButtonBox::Apply);
+        dialog->close();
+    });
 }
 
-void tst_RyCustomizedDialog::severalDialogsMayShareAManager()
+void tst_RyCustomizedDialog::execReturnsWhatTheUserChose()
 {
-    Host host;
-    QToolBar *const file = host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open")},
-                                               QStringLiteral("File"));
-    for (int i = 0; i < 2; ++i) {
-        RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
-        dialog.show();
-        const EditorViews editor(&dialog);
-        QCOMPARE(rowsOf(editor.currentToolBarList).size(), 1 + i);
-        editor.doubleClick(editor.actionTree, QStringLiteral("< S E P A R A T O R >"));
-        dialog.okButton()->click();
+    QFETCH(Dealing, deal);
+    QFETCH(bool, accepted);
+    DialogHost host;
+    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
+    const NextModal modal(deal);
+    QCOMPARE(dialog.exec(), int(accepted ? QDialog::Accepted : QDialog::Rejected));
+    QVERIFY(modal.wasShown());
+    QVERIFY(!dialog.isVisible());
+    const bool cancelled = qstrcmp(QTest::currentDataTag(), "Cancel") == 0;
+    QCOMPARE(standingOn(host.file), words(cancelled ? "open | save" : "| save"));
+}
+
+void tst_RyCustomizedDialog::isModalWhileItRuns()
+{
+    DialogHost host;
+    RyCustomizedDialog dialog({&host.manager, nullptr}, &host.window);
+    QWidget *seen = nullptr;
+    const NextModal modal([&seen](QWidget *widget) {
+        seen = widget;
+        widget->close();
+    });
+    dialog.exec();
+    QCOMPARE(seen, &dialog);
+    QVERIFY(!QApplication::activeModalWidget());
+    QVERIFY(dialog.isModal());
+}
+
+void tst_RyCustomizedDialog::isNotDeletedOnCloseAndMayRunAgain()
+{
+    DialogHost host;
+    const QPointer<RyCustomizedDialog> dialog =
+        new RyCustomizedDialog({&host.manager, nullptr}, &host.window);
+    for (const auto which : {QDialogButtonBox::Cancel, QDialogButtonBox::Ok}) {
+        const NextModal modal([which](QWidget *widget) { editAndPress(widget, which); });
+        const bool accepted = which == QDialogButtonBox::Ok;
+        QCOMPARE(dialog->exec(), int(accepted ? QDialog::Accepted : QDialog::Rejected));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(dialog);
     }
-    const QStringList content{QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("|")};
-    QCOMPARE(standingOn(file), content);
+    QCOMPARE(standingOn(host.file), words("| save"));
+    delete dialog;
+}
+
+void tst_RyCustomizedDialog::execEndsWhenTheDialogIsDestroyed()
+{
+    DialogHost host;
+    RyCustomizedDialog *const dialog =
+        new RyCustomizedDialog({&host.manager, nullptr}, &host.window);
+    const NextModal modal([](QWidget *widget) { delete widget; });
+    QCOMPARE(dialog->exec(), int(QDialog::Rejected));
+    QVERIFY(modal.wasShown());
+    QCOMPARE(standingOn(host.file), words("open | save"));
 }
 
 QTEST_MAIN(tst_RyCustomizedDialog)

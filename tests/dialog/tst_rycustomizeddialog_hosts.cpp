@@ -1,45 +1,15 @@
 // SPDX-License-Identifier: MIT
 
-#include "editorviews.h"
-#include "host.h"
 #include "hostcalls.h"
 #include "nextmodal.h"
 #include "recordingtranslator.h"
-#include "rycustomizeddialog.h"
+#include "showndialog.h"
 #include "testcase.h"
-#include "texts.h"
 
-#include <QDialogButtonBox>
 #include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
-#include <QTabWidget>
 #include <QtTest>
 
-#include <functional>
-#include <memory>
-
 namespace {
-
-class FilledHost : public Host
-{
-public:
-    FilledHost()
-        : file(
-            defaultToolBar(QStringLiteral("file"), words("open | save"), QStringLiteral("Files")))
-        , mine(manager.createToolBar(QStringLiteral("Mine")))
-    {
-        manager.setToolBar(mine, list(words("save")));
-    }
-
-    RyCustomizedDialog *newDialog(QWidget *parent = nullptr)
-    {
-        return new RyCustomizedDialog({&manager, nullptr}, parent);
-    }
-
-    QToolBar *file;
-    QPointer<QToolBar> mine;
-};
 
 // A window that holds its manager, as most do: the manager goes before the window's children.
 class OwningWindow : public QMainWindow
@@ -48,22 +18,13 @@ public:
     OwningWindow()
     {
         manager.setMainWindow(this);
-        QToolBar *const toolBar = addToolBar(QStringLiteral("File"));
-        toolBar->addAction(QStringLiteral("Open"));
-        manager.addDefaultToolBar(toolBar, QStringLiteral("Files"));
+        QToolBar *const toolBar = addToolBar("File");
+        toolBar->addAction("Open");
+        manager.addDefaultToolBar(toolBar, "Files");
     }
 
     RyToolBarManager manager;
 };
-
-// What the user edits before the host interferes: "File" loses its first entry.
-void edit(RyCustomizedDialog *dialog)
-{
-    const EditorViews views(dialog);
-    views.click(views.toolBarList, QStringLiteral("File"));
-    views.click(views.leftButton);
-    QCOMPARE(rowsOf(views.currentToolBarList).size(), 2);
-}
 
 } // namespace
 
@@ -102,17 +63,14 @@ void tst_RyCustomizedDialog_Hosts::mayBeDeletedByItsOwnButton_data()
 void tst_RyCustomizedDialog_Hosts::mayBeDeletedByItsOwnButton()
 {
     QFETCH(int, button);
-    FilledHost host;
-    const QPointer<RyCustomizedDialog> dialog(host.newDialog());
-    dialog->show();
-    edit(dialog);
-    QPushButton *const pressed =
-        dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::StandardButton(button));
-    connect(pressed, &QPushButton::clicked, this, [&] { delete dialog; });
+    ShownDialog shown;
+    shown.edit();
+    QPushButton *const pressed = shown.box->button(QDialogButtonBox::StandardButton(button));
+    connect(pressed, &QPushButton::clicked, this, [&] { delete shown.dialog; });
     pressed->click();
-    QVERIFY(!dialog);
+    QVERIFY(!shown.dialog);
     const bool applies = button == QDialogButtonBox::Ok || button == QDialogButtonBox::Apply;
-    QCOMPARE(standingOn(host.file), applies ? words("| save") : words("open | save"));
+    QCOMPARE(standingOn(shown.host.file), applies ? words("| save") : words("open | save"));
 }
 
 void tst_RyCustomizedDialog_Hosts::mayBeDeletedWhileItApplies_data()
@@ -125,49 +83,41 @@ void tst_RyCustomizedDialog_Hosts::mayBeDeletedWhileItApplies_data()
 void tst_RyCustomizedDialog_Hosts::mayBeDeletedWhileItApplies()
 {
     QFETCH(bool, ok);
-    FilledHost host;
-    const QPointer<RyCustomizedDialog> dialog(host.newDialog());
-    dialog->show();
-    edit(dialog);
-    const EditorViews views(dialog);
-    views.click(views.newButton);
-    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] { delete dialog; });
-    host.file->installEventFilter(&calls);
-    (ok ? dialog->okButton() : dialog->applyButton())->click();
-    QVERIFY(!dialog);
-    QCOMPARE(standingOn(host.file), words("| save"));
-    QCOMPARE(host.manager.toolBars().size(), 3);
-    QCOMPARE(inconsistencyOf(host.manager), QString());
+    ShownDialog shown;
+    shown.edit();
+    shown.views.click(shown.views.newButton);
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] { delete shown.dialog; });
+    shown.host.file->installEventFilter(&calls);
+    (ok ? shown.dialog->okButton() : shown.dialog->applyButton())->click();
+    QVERIFY(!shown.dialog);
+    QCOMPARE(standingOn(shown.host.file), words("| save"));
+    QCOMPARE(shown.host.manager.toolBars().size(), 3);
+    QCOMPARE(inconsistencyOf(shown.host.manager), QString());
 }
 
 void tst_RyCustomizedDialog_Hosts::mayBeClosedWhileItApplies()
 {
-    FilledHost host;
-    const std::unique_ptr<RyCustomizedDialog> dialog(host.newDialog());
-    dialog->show();
-    edit(dialog.get());
-    const EditorViews views(dialog.get());
-    views.click(views.newButton);
-    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] { dialog->reject(); });
-    host.file->installEventFilter(&calls);
-    dialog->applyButton()->click();
-    QVERIFY(!dialog->isVisible());
-    QCOMPARE(standingOn(host.file), words("| save"));
-    QCOMPARE(host.manager.toolBars().size(), 3);
+    ShownDialog shown;
+    shown.edit();
+    shown.views.click(shown.views.newButton);
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once, [&] { shown.dialog->reject(); });
+    shown.host.file->installEventFilter(&calls);
+    shown.dialog->applyButton()->click();
+    QVERIFY(!shown.dialog->isVisible());
+    QCOMPARE(standingOn(shown.host.file), words("| save"));
+    QCOMPARE(shown.host.manager.toolBars().size(), 3);
 }
 
 void tst_RyCustomizedDialog_Hosts::mayBeDeletedWhileItsHelpIsShown()
 {
-    FilledHost host;
-    const QPointer<RyCustomizedDialog> dialog(host.newDialog());
-    dialog->show();
+    ShownDialog shown;
     const NextModal next([&](QWidget *help) {
         QVERIFY(qobject_cast<QMessageBox *>(help));
-        delete dialog;
+        delete shown.dialog;
     });
-    dialog->helpButton()->click();
+    shown.dialog->helpButton()->click();
     QVERIFY(next.wasShown());
-    QVERIFY(!dialog);
+    QVERIFY(!shown.dialog);
 }
 
 void tst_RyCustomizedDialog_Hosts::deletesItselfOnCloseIfAsked_data()
@@ -178,20 +128,16 @@ void tst_RyCustomizedDialog_Hosts::deletesItselfOnCloseIfAsked_data()
 void tst_RyCustomizedDialog_Hosts::deletesItselfOnCloseIfAsked()
 {
     QFETCH(int, button);
-    FilledHost host;
-    const QPointer<RyCustomizedDialog> dialog(host.newDialog());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->show();
-    edit(dialog);
-    dialog->findChild<QDialogButtonBox *>()
-        ->button(QDialogButtonBox::StandardButton(button))
-        ->click();
-    if (dialog)
-        dialog->close();
+    ShownDialog shown;
+    shown.dialog->setAttribute(Qt::WA_DeleteOnClose);
+    shown.edit();
+    shown.box->button(QDialogButtonBox::StandardButton(button))->click();
+    if (shown.dialog)
+        shown.dialog->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!dialog);
+    QVERIFY(!shown.dialog);
     const bool applies = button == QDialogButtonBox::Ok || button == QDialogButtonBox::Apply;
-    QCOMPARE(standingOn(host.file), applies ? words("| save") : words("open | save"));
+    QCOMPARE(standingOn(shown.host.file), applies ? words("| save") : words("open | save"));
 }
 
 void tst_RyCustomizedDialog_Hosts::goesWithTheWindowThatHoldsItsManager()
@@ -201,7 +147,7 @@ void tst_RyCustomizedDialog_Hosts::goesWithTheWindowThatHoldsItsManager()
         new RyCustomizedDialog({&window->manager, nullptr}, window));
     dialog->show();
     const EditorViews views(dialog);
-    QCOMPARE(rowsOf(views.currentToolBarList), QStringList(QStringLiteral("Open")));
+    QCOMPARE(rowsOf(views.currentToolBarList), QStringList("Open"));
     views.click(views.newButton);
     delete window;
     QVERIFY(!dialog);
@@ -209,124 +155,109 @@ void tst_RyCustomizedDialog_Hosts::goesWithTheWindowThatHoldsItsManager()
 
 void tst_RyCustomizedDialog_Hosts::worksOnAfterAPageWidgetIsGone()
 {
-    FilledHost host;
-    const std::unique_ptr<RyCustomizedDialog> dialog(host.newDialog());
-    dialog->show();
-    edit(dialog.get());
-    QTabWidget *const tabs = dialog->findChild<QTabWidget *>();
-    delete tabs->widget(0);
-    QCOMPARE(tabs->count(), 1);
-    dialog->RestoreDefaultButton()->click();
-    dialog->applyButton()->click();
-    delete tabs->widget(0);
-    dialog->okButton()->click();
-    QCOMPARE(dialog->result(), int(QDialog::Accepted));
-    QCOMPARE(standingOn(host.file), words("open | save"));
+    ShownDialog shown;
+    shown.edit();
+    delete shown.tabs->widget(0);
+    QCOMPARE(shown.tabs->count(), 1);
+    shown.dialog->RestoreDefaultButton()->click();
+    shown.dialog->applyButton()->click();
+    delete shown.tabs->widget(0);
+    shown.dialog->okButton()->click();
+    QCOMPARE(shown.dialog->result(), int(QDialog::Accepted));
+    QCOMPARE(standingOn(shown.host.file), words("open | save"));
 }
 
 void tst_RyCustomizedDialog_Hosts::doesNotRunTwiceAtOnce()
 {
-    FilledHost host;
-    const std::unique_ptr<RyCustomizedDialog> dialog(host.newDialog());
-    const NextModal next([&](QWidget *shown) {
-        QCOMPARE(shown, dialog.get());
-        edit(dialog.get());
-        QCOMPARE(dialog->exec(), -1);
+    DialogHost host;
+    RyCustomizedDialog dialog({&host.manager, nullptr});
+    const NextModal next([&](QWidget *modal) {
+        QCOMPARE(modal, &dialog);
+        edit(modal);
+        QCOMPARE(dialog.exec(), -1);
         QCOMPARE(takeWarnings().size(), 1);
-        dialog->okButton()->click();
+        dialog.okButton()->click();
     });
-    QCOMPARE(dialog->exec(), int(QDialog::Accepted));
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QVERIFY(next.wasShown());
     QCOMPARE(standingOn(host.file), words("| save"));
 }
 
 void tst_RyCustomizedDialog_Hosts::oneAfterTheOtherSeesWhatWasApplied()
 {
-    FilledHost host;
-    for (int i = 0; i < 2; ++i) {
-        const std::unique_ptr<RyCustomizedDialog> dialog(host.newDialog());
-        const NextModal next([&](QWidget *) {
-            const EditorViews views(dialog.get());
-            views.click(views.toolBarList, QStringLiteral("File"));
-            views.click(views.leftButton);
-            dialog->okButton()->click();
-        });
-        QCOMPARE(dialog->exec(), int(QDialog::Accepted));
+    DialogHost host;
+    for (const char *left : {"| save", "save"}) {
+        RyCustomizedDialog dialog({&host.manager, nullptr});
+        dialog.show();
+        edit(&dialog);
+        dialog.okButton()->click();
+        QCOMPARE(standingOn(host.file), words(left));
     }
-    QCOMPARE(standingOn(host.file), words("save"));
 }
 
 void tst_RyCustomizedDialog_Hosts::twoAtOnceApplyInTurn()
 {
-    FilledHost host;
-    const std::unique_ptr<RyCustomizedDialog> first(host.newDialog());
-    const std::unique_ptr<RyCustomizedDialog> second(host.newDialog());
+    DialogHost host;
+    RyCustomizedDialog first({&host.manager, nullptr});
+    RyCustomizedDialog second({&host.manager, nullptr});
     // Without modality the user reaches both.
-    first->setModal(false);
-    second->setModal(false);
-    first->show();
-    second->show();
-    edit(first.get());
-    const EditorViews views(second.get());
-    views.click(views.toolBarList, QStringLiteral("Mine"));
+    for (RyCustomizedDialog *dialog : {&first, &second}) {
+        dialog->setModal(false);
+        dialog->show();
+    }
+    edit(&first);
+    const EditorViews views(&second);
+    views.click(views.toolBarList, "Mine");
     views.click(views.removeButton);
-    first->applyButton()->click();
+    first.applyButton()->click();
     QCOMPARE(standingOn(host.file), words("| save"));
     // The second writes "File" as it was when it was shown.
-    second->applyButton()->click();
+    second.applyButton()->click();
     QCOMPARE(standingOn(host.file), words("open | save"));
     QVERIFY(!host.mine);
-    first->okButton()->click();
-    second->RestoreDefaultButton()->click();
-    second->okButton()->click();
+    first.okButton()->click();
+    second.RestoreDefaultButton()->click();
+    second.okButton()->click();
     QCOMPARE(standingOn(host.file), words("open | save"));
     QCOMPARE(host.manager.toolBars().size(), 1);
 }
 
 void tst_RyCustomizedDialog_Hosts::anotherMainWindowIsUsedAtTheNextApply()
 {
-    FilledHost host;
+    ShownDialog shown;
     QMainWindow other;
-    const std::unique_ptr<RyCustomizedDialog> dialog(host.newDialog());
-    dialog->show();
-    const EditorViews views(dialog.get());
-    views.click(views.newButton);
-    host.manager.setMainWindow(&other);
-    dialog->applyButton()->click();
+    shown.views.click(shown.views.newButton);
+    shown.host.manager.setMainWindow(&other);
+    shown.dialog->applyButton()->click();
     QCOMPARE(other.findChildren<QToolBar *>().size(), 1);
-    QCOMPARE(host.window.findChildren<QToolBar *>().size(), 2);
-    host.manager.deleteToolBar(other.findChild<QToolBar *>());
+    QCOMPARE(shown.host.window.findChildren<QToolBar *>().size(), 2);
+    shown.host.manager.deleteToolBar(other.findChild<QToolBar *>());
 }
 
 void tst_RyCustomizedDialog_Hosts::anotherLanguageKeepsTextsAndEdits()
 {
-    FilledHost host;
-    const std::unique_ptr<RyCustomizedDialog> dialog(host.newDialog());
-    dialog->show();
-    edit(dialog.get());
-    QTabWidget *const tabs = dialog->findChild<QTabWidget *>();
+    ShownDialog shown;
+    shown.edit();
     const RecordingTranslator translator;
     QCoreApplication::processEvents();
-    QCOMPARE(dialog->windowTitle(), QStringLiteral("Options"));
-    QCOMPARE(tabs->tabText(0), QStringLiteral("ToolBar"));
-    dialog->okButton()->click();
-    QCOMPARE(standingOn(host.file), words("| save"));
+    QCOMPARE(shown.dialog->windowTitle(), "Options");
+    QCOMPARE(shown.tabs->tabText(0), "ToolBar");
+    shown.dialog->okButton()->click();
+    QCOMPARE(standingOn(shown.host.file), words("| save"));
 }
 
 void tst_RyCustomizedDialog_Hosts::changesOfTheAppearanceKeepTheEdits()
 {
-    FilledHost host;
-    const std::unique_ptr<RyCustomizedDialog> dialog(host.newDialog());
-    dialog->show();
-    edit(dialog.get());
-    dialog->setLayoutDirection(Qt::RightToLeft);
-    dialog->setFont(QFont(dialog->font().family(), 24));
-    dialog->setPalette(QPalette(Qt::darkGreen));
-    dialog->setStyleSheet(QStringLiteral("* { margin: 3px; }"));
-    dialog->resize(300, 200);
+    ShownDialog shown;
+    shown.edit();
+    shown.dialog->setLayoutDirection(Qt::RightToLeft);
+    shown.dialog->setFont(QFont(shown.dialog->font().family(), 24));
+    shown.dialog->setPalette(QPalette(Qt::darkGreen));
+    shown.dialog->setStyleSheet("* { margin: 3px; }");
+    shown.dialog->resize(300, 200);
     QCoreApplication::processEvents();
-    dialog->okButton()->click();
-    QCOMPARE(standingOn(host.file), words("| save"));
+    shown.dialog->okButton()->click();
+    QCOMPARE(standingOn(shown.host.file), words("| save"));
 }
 
 QTEST_MAIN(tst_RyCustomizedDialog_Hosts)

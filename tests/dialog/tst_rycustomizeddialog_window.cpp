@@ -2,14 +2,10 @@
 
 #include "dialogstage.h"
 #include "testcase.h"
-#include "texts.h"
 
-#include <QApplication>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
+#include <QProcess>
 #include <QTabBar>
-#include <QTabWidget>
 #include <QtTest>
 
 /*
@@ -19,43 +15,30 @@
 
 namespace {
 
-// The host has one default and one custom toolbar.
+// What the window offers to the window manager, such as a button for context help.
+QString protocolsOf(const QWidget *window)
+{
+    QProcess process;
+    process.start("xprop", {"-id", QString::number(window->winId()), "WM_PROTOCOLS"});
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        QTest::qFail("xprop failed", __FILE__, __LINE__);
+    return process.readAllStandardOutput();
+}
+
 struct Stage : DialogStage
 {
-    Stage()
-    {
-        host.defaultToolBar(QStringLiteral("file"), words("open | save"), QStringLiteral("File"));
-        host.registered(QStringLiteral("cut"), QStringLiteral("Edit"));
-        host.registered(QStringLiteral("paste"), QStringLiteral("Edit"));
-        mine = host.manager.createToolBar(QStringLiteral("Mine"));
-        host.manager.setToolBar(mine, host.list(words("cut")));
-        host.window.resize(1000, 800);
-    }
-
-    void waitForDialog() { user.waitForWindow(&dialog); }
-
-    void click(QListWidget *list, const QString &text)
-    {
-        moveTo(list, text);
-        user.press();
-        user.release();
-        user.waitFor(QStringLiteral("row"), [list, text] { return currentOf(list) == text; });
-    }
-
     void clickTab(int index)
     {
         QTabBar *const bar = tabs->tabBar();
         user.moveTo([bar] { return bar; }, [bar, index] { return bar->tabRect(index).center(); });
         user.press();
         user.release();
-        user.waitFor(QStringLiteral("tab"),
-                     [this, index] { return tabs->currentIndex() == index; });
+        user.waitFor("tab", [this, index] { return tabs->currentIndex() == index; });
     }
 
     template <typename View> void moveTo(View *view, const QString &text)
     {
-        user.waitFor(QStringLiteral("item ") + text,
-                     [view, text] { return itemNamed(view, text); });
+        user.waitFor("item " + text, [view, text] { return itemNamed(view, text); });
         user.moveTo([view] { return view->viewport(); },
                     [view, text] { return view->visualItemRect(itemNamed(view, text)).center(); });
     }
@@ -77,8 +60,7 @@ struct Stage : DialogStage
     void pressButton(QToolButton *button, const char *rows)
     {
         user.click(button);
-        user.waitFor(QLatin1String(rows),
-                     [this, rows] { return views.currentRows() == words(rows); });
+        user.waitFor(rows, [this, rows] { return views.currentRows() == words(rows); });
     }
 
     void newToolBar(const QString &name)
@@ -87,8 +69,6 @@ struct Stage : DialogStage
         typeName(name);
         user.clickKey(Qt::Key_Return, [this] { return !nameEditor(); });
     }
-
-    QToolBar *mine;
 };
 
 } // namespace
@@ -98,103 +78,39 @@ class tst_RyCustomizedDialog_Window : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void okAccepts();
-    void cancelRejects();
-    void escapeRejects();
-    void closingTheWindowRejects();
-    void returnPressesOk();
-    void theWindowHasNoHelpButtonAndIsModal();
-    void theHostTakesNoClicksMeanwhile();
+    void theTitleBarOffersToCloseAndNoContextHelp();
+    void theHostTakesNoClicksWhileItIsOpen();
     void theUserMakesAToolBar();
-    void cancelDropsWhatTheUserMade();
     void closingTheWindowDropsWhatTheUserMade();
-    void applyShowsItAndKeepsTheDialog();
-    void escapeInTheNameEditorKeepsTheDialogAndTheName();
-    void theUserRenamesAToolBar();
-    void theUserRemovesAToolBar();
-    void theUserReordersAndRemovesActions();
-    void switchingTabsDiscardsTheEdits();
-    void restoreDefaultsRemovesCustomToolBars();
-    void helpShowsItsMessage();
 };
 
-void tst_RyCustomizedDialog_Window::okAccepts()
+void tst_RyCustomizedDialog_Window::theTitleBarOffersToCloseAndNoContextHelp()
 {
-    Stage stage;
-    stage.waitForDialog();
-    stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QVERIFY(!stage.dialog.isVisible());
-    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
-    QCOMPARE(standingOn(stage.mine), words("cut"));
+    const ShownDialog shown;
+    QVERIFY(QTest::qWaitForWindowExposed(shown.dialog));
+    const QString offered = protocolsOf(shown.dialog);
+    QVERIFY(offered.contains("WM_DELETE_WINDOW"));
+    QVERIFY(!offered.contains("_NET_WM_CONTEXT_HELP"));
+    // Other dialogs do.
+    QDialog plain;
+    plain.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&plain));
+    QVERIFY(protocolsOf(&plain).contains("_NET_WM_CONTEXT_HELP"));
 }
 
-void tst_RyCustomizedDialog_Window::cancelRejects()
+void tst_RyCustomizedDialog_Window::theHostTakesNoClicksWhileItIsOpen()
 {
     Stage stage;
-    stage.waitForDialog();
-    stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-}
-
-void tst_RyCustomizedDialog_Window::escapeRejects()
-{
-    Stage stage;
-    stage.waitForDialog();
-    stage.user.clickKey(Qt::Key_Escape, [&] { return !stage.dialog.isVisible(); });
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-}
-
-void tst_RyCustomizedDialog_Window::closingTheWindowRejects()
-{
-    Stage stage;
-    stage.waitForDialog();
-    stage.user.step(
-        QStringLiteral("close"),
-        [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
-        [&] { return !stage.dialog.isVisible(); });
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-}
-
-void tst_RyCustomizedDialog_Window::returnPressesOk()
-{
-    Stage stage;
-    stage.waitForDialog();
-    stage.click(stage.views.toolBarList, QStringLiteral("Mine"));
-    stage.user.click(stage.views.leftButton);
-    stage.user.clickKey(Qt::Key_Return, [&] { return !stage.dialog.isVisible(); });
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(standingOn(stage.mine), QStringList());
-}
-
-void tst_RyCustomizedDialog_Window::theWindowHasNoHelpButtonAndIsModal()
-{
-    Stage stage;
-    bool modal = false;
-    stage.waitForDialog();
-    stage.user.act([&] { modal = QApplication::activeModalWidget() == &stage.dialog; });
-    stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-    QVERIFY(modal);
-    const QDialog plain(&stage.host.window);
-    QCOMPARE(stage.dialog.windowFlags(),
-             plain.windowFlags() & ~Qt::WindowFlags(Qt::WindowContextHelpButtonHint));
-}
-
-void tst_RyCustomizedDialog_Window::theHostTakesNoClicksMeanwhile()
-{
-    Stage stage;
-    QSignalSpy triggered(stage.host.action(QStringLiteral("cut")), &QAction::triggered);
-    QWidget *const button = stage.mine->widgetForAction(stage.host.action(QStringLiteral("cut")));
-    stage.waitForDialog();
+    QSignalSpy triggered(stage.host.action("cut"), &QAction::triggered);
+    QWidget *const button = stage.host.mine->widgetForAction(stage.host.action("cut"));
     stage.user.act([&] {
         stage.user.input.moveTo(button->mapToGlobal(button->rect().center()));
         stage.user.input.click();
     });
     // The server reports it before it reports this.
     stage.clickTab(1);
-    stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    stage.user.click(stage.box->button(QDialogButtonBox::Cancel));
+    QCOMPARE(stage.exec(), "rejected");
     QCOMPARE(triggered.count(), 0);
 
     UserScript later;
@@ -206,26 +122,25 @@ void tst_RyCustomizedDialog_Window::theHostTakesNoClicksMeanwhile()
 void tst_RyCustomizedDialog_Window::theUserMakesAToolBar()
 {
     Stage stage;
-    stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("My Tools"));
-    stage.openCategory(QStringLiteral("Edit"));
-    stage.addByDoubleClick(QStringLiteral("Cut"), "Cut");
-    stage.addByDoubleClick(QStringLiteral("< S E P A R A T O R >"), "Cut |");
-    stage.addByDoubleClick(QStringLiteral("Paste"), "Cut | Paste");
+    stage.newToolBar("My Tools");
+    stage.openCategory("Edit");
+    stage.addByDoubleClick("Cut", "Cut");
+    stage.addByDoubleClick("< S E P A R A T O R >", "Cut |");
+    stage.addByDoubleClick("Paste", "Cut | Paste");
     stage.pressButton(stage.views.upButton, "Cut Paste |");
     stage.pressButton(stage.views.upButton, "Paste Cut |");
     stage.pressButton(stage.views.downButton, "Cut Paste |");
     stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QToolBar *const made = stage.host.manager.toolBarByName(QStringLiteral("_Custom_Toolbar_2"));
+    QCOMPARE(stage.exec(), "accepted");
+    QToolBar *const made = stage.host.manager.toolBarByName("_Custom_Toolbar_2");
     QVERIFY(made);
-    QCOMPARE(made->windowTitle(), QStringLiteral("My Tools"));
+    QCOMPARE(made->windowTitle(), "My Tools");
     QCOMPARE(standingOn(made), words("cut paste |"));
     QVERIFY(made->isVisible());
     QCOMPARE(made->window(), &stage.host.window);
 
     // It is no picture: its buttons work.
-    QAction *const paste = stage.host.action(QStringLiteral("paste"));
+    QAction *const paste = stage.host.action("paste");
     QSignalSpy triggered(paste, &QAction::triggered);
     UserScript later;
     later.click(made->widgetForAction(paste));
@@ -233,164 +148,15 @@ void tst_RyCustomizedDialog_Window::theUserMakesAToolBar()
     QCOMPARE(triggered.count(), 1);
 }
 
-void tst_RyCustomizedDialog_Window::cancelDropsWhatTheUserMade()
-{
-    Stage stage;
-    stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("My Tools"));
-    stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
-}
-
 void tst_RyCustomizedDialog_Window::closingTheWindowDropsWhatTheUserMade()
 {
     Stage stage;
-    stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("My Tools"));
+    stage.newToolBar("My Tools");
     stage.user.step(
-        QStringLiteral("close"),
-        [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
+        "close", [&] { stage.user.input.closeByWindowManager(stage.dialog.windowHandle()); },
         [&] { return !stage.dialog.isVisible(); });
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
+    QCOMPARE(stage.exec(), "rejected");
     QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
-}
-
-void tst_RyCustomizedDialog_Window::applyShowsItAndKeepsTheDialog()
-{
-    Stage stage;
-    bool openAfterApply = false;
-    stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("Tools"));
-    stage.user.click(stage.dialog.applyButton());
-    stage.user.waitFor(QStringLiteral("toolbar"), [&] {
-        return toolBarTitlesIn(stage.host.window) == words("File Mine Tools");
-    });
-    stage.user.act([&] { openAfterApply = stage.dialog.isVisible(); });
-    stage.newToolBar(QStringLiteral("Dropped"));
-    stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-    QVERIFY(openAfterApply);
-    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine Tools"));
-}
-
-void tst_RyCustomizedDialog_Window::escapeInTheNameEditorKeepsTheDialogAndTheName()
-{
-    Stage stage;
-    bool openAfterEscape = false;
-    stage.waitForDialog();
-    stage.user.click(stage.views.newButton);
-    stage.typeName(QStringLiteral("Other"));
-    stage.user.clickKey(Qt::Key_Escape, [&] { return !stage.nameEditor(); });
-    stage.user.act([&] { openAfterEscape = stage.dialog.isVisible(); });
-    stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QVERIFY(openAfterEscape);
-    QCOMPARE(toolBarTitlesIn(stage.host.window),
-             (QStringList{QStringLiteral("Custom Toolbar"), QStringLiteral("File"),
-                          QStringLiteral("Mine")}));
-}
-
-void tst_RyCustomizedDialog_Window::theUserRenamesAToolBar()
-{
-    Stage stage;
-    QStringList rows;
-    stage.waitForDialog();
-    stage.click(stage.views.toolBarList, QStringLiteral("Mine"));
-    stage.user.click(stage.views.renameButton);
-    stage.typeName(QStringLiteral("Afterwards"));
-    stage.user.clickKey(Qt::Key_Return, [&] { return !stage.nameEditor(); });
-    stage.user.act([&] { rows = rowsOf(stage.views.toolBarList); });
-    stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(rows, words("Afterwards File"));
-    QCOMPARE(stage.mine->windowTitle(), QStringLiteral("Afterwards"));
-    QCOMPARE(standingOn(stage.mine), words("cut"));
-}
-
-void tst_RyCustomizedDialog_Window::theUserRemovesAToolBar()
-{
-    Stage stage;
-    const QPointer<QToolBar> mine = stage.mine;
-    stage.waitForDialog();
-    stage.click(stage.views.toolBarList, QStringLiteral("Mine"));
-    stage.user.click(stage.views.removeButton);
-    stage.user.waitFor(QStringLiteral("row gone"),
-                       [&] { return rowsOf(stage.views.toolBarList) == words("File"); });
-    stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QTRY_VERIFY(!mine);
-    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File"));
-}
-
-void tst_RyCustomizedDialog_Window::theUserReordersAndRemovesActions()
-{
-    Stage stage;
-    stage.waitForDialog();
-    stage.click(stage.views.toolBarList, QStringLiteral("File"));
-    stage.click(stage.views.currentToolBarList, QStringLiteral("Save"));
-    stage.pressButton(stage.views.upButton, "Open Save |");
-    stage.pressButton(stage.views.upButton, "Save Open |");
-    stage.moveTo(stage.views.currentToolBarList, QStringLiteral("Open"));
-    stage.user.doubleClick([&] { return stage.views.currentRows() == words("Save |"); });
-    stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(standingOn(stage.host.window.findChild<QToolBar *>(QStringLiteral("file"))),
-             words("save |"));
-}
-
-void tst_RyCustomizedDialog_Window::switchingTabsDiscardsTheEdits()
-{
-    Stage stage;
-    QStringList rows;
-    stage.waitForDialog();
-    stage.newToolBar(QStringLiteral("Lost"));
-    stage.clickTab(1);
-    stage.clickTab(0);
-    stage.user.act([&] { rows = rowsOf(stage.views.toolBarList); });
-    stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(rows, words("File Mine"));
-    QCOMPARE(toolBarTitlesIn(stage.host.window), words("File Mine"));
-}
-
-void tst_RyCustomizedDialog_Window::restoreDefaultsRemovesCustomToolBars()
-{
-    Stage stage;
-    QStringList titlesBeforeOk;
-    stage.waitForDialog();
-    stage.user.click(stage.dialog.RestoreDefaultButton());
-    stage.user.waitFor(QStringLiteral("row gone"),
-                       [&] { return rowsOf(stage.views.toolBarList) == words("File"); });
-    stage.user.act([&] { titlesBeforeOk = toolBarTitlesIn(stage.host.window); });
-    stage.user.click(stage.dialog.okButton());
-    QCOMPARE(stage.exec(), QStringLiteral("accepted"));
-    QCOMPARE(titlesBeforeOk, words("File Mine"));
-    QTRY_COMPARE(toolBarTitlesIn(stage.host.window), words("File"));
-}
-
-void tst_RyCustomizedDialog_Window::helpShowsItsMessage()
-{
-    Stage stage;
-    QString title;
-    QString text;
-    const auto box = [] { return qobject_cast<QMessageBox *>(QApplication::activeWindow()); };
-    stage.waitForDialog();
-    stage.user.click(stage.dialog.helpButton());
-    stage.user.waitFor(QStringLiteral("message"), [=] {
-        return box() && box()->windowHandle() == QGuiApplication::focusWindow();
-    });
-    stage.user.act([&] {
-        title = box()->windowTitle();
-        text = box()->text();
-    });
-    // Not until the dialog is active again: with a slow window manager Qt may miss that it is.
-    stage.user.clickKey(Qt::Key_Return,
-                        [&] { return QApplication::activeModalWidget() == &stage.dialog; });
-    stage.user.click(stage.cancelButton);
-    QCOMPARE(stage.exec(), QStringLiteral("rejected"));
-    QCOMPARE(title, QStringLiteral("help"));
-    QCOMPARE(text, QStringLiteral("KORVA help  doc!"));
 }
 
 QTEST_MAIN(tst_RyCustomizedDialog_Window)

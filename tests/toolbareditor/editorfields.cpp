@@ -7,6 +7,8 @@
 namespace {
 
 EditorFields read(const RyCToolBarWidget &widget);
+ToolBarItem *create(RyCToolBarWidget &widget, QToolBar *toolBar);
+void free(RyCToolBarWidget &widget, ToolBarItem *record);
 
 // The arguments of an explicit instantiation may name private members.
 template <auto... Fields> struct Reader
@@ -22,9 +24,32 @@ template struct Reader<&RyCToolBarWidget::m_workingActions, &RyCToolBarWidget::m
                        &RyCToolBarWidget::m_recordOfListItem, &RyCToolBarWidget::m_entryOfAction,
                        &RyCToolBarWidget::m_actionOfEntry>;
 
+template <ToolBarItem *(RyCToolBarWidget::*Create)(QToolBar *),
+          void (RyCToolBarWidget::*Delete)(ToolBarItem *)>
+struct RecordFunctions
+{
+    friend ToolBarItem *create(RyCToolBarWidget &widget, QToolBar *toolBar)
+    {
+        return (widget.*Create)(toolBar);
+    }
+    friend void free(RyCToolBarWidget &widget, ToolBarItem *record) { (widget.*Delete)(record); }
+};
+
+template struct RecordFunctions<&RyCToolBarWidget::createItem, &RyCToolBarWidget::deleteItem>;
+
 } // namespace
 
 EditorFields EditorFields::of(const RyCToolBarWidget &widget)
 {
     return read(widget);
+}
+
+ToolBarItem *createRecord(RyCToolBarWidget &widget, QToolBar *toolBar)
+{
+    return create(widget, toolBar);
+}
+
+void deleteRecord(RyCToolBarWidget &widget, ToolBarItem *record)
+{
+    free(widget, record);
 }

@@ -37,4 +37,8 @@ struct EditorFields
     static EditorFields of(const RyCToolBarWidget &widget);
 };
 
+// The editor's private functions that make a record of a toolbar and free one.
+ToolBarItem *createRecord(RyCToolBarWidget &widget, QToolBar *toolBar);
+void deleteRecord(RyCToolBarWidget &widget, ToolBarItem *record);
+
 #endif // EDITORFIELDS_H

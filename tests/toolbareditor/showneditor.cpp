@@ -11,8 +11,7 @@ namespace {
 
 QString described(const QString &title, const QStringList &content)
 {
-    return content.isEmpty() ? title + QLatin1Char(':')
-                             : title + QLatin1String(": ") + content.join(QLatin1Char(' '));
+    return content.isEmpty() ? title + ":" : title + ": " + content.join(' ');
 }
 
 QStringList sorted(QStringList texts)
@@ -49,37 +48,37 @@ QString wrongRecords(const EditorFields &fields)
     const auto records = fields.workingActions.keys();
     for (ToolBarItem *record : fields.createdRecords) {
         if (record->toolBar() || !fields.workingActions.contains(record))
-            return QStringLiteral("created record with a toolbar or without content");
+            return "created record with a toolbar or without content";
     }
     for (ToolBarItem *record : fields.removedRecords) {
         if (!record->toolBar() || fields.workingActions.contains(record))
-            return QStringLiteral("removed record without a toolbar or with content");
+            return "removed record without a toolbar or with content";
     }
     QSet<ToolBarItem *> reachable = fields.removedRecords;
     for (ToolBarItem *record : records) {
         reachable.insert(record);
         if (repeatsAnAction(fields.workingActions.value(record)))
-            return QStringLiteral("repeated action in ") + record->toolBarName();
+            return "repeated action in " + record->toolBarName();
     }
     if (reachable != fields.ownedRecords)
-        return QStringLiteral("owned records that nothing reaches, or the other way round");
+        return "owned records that nothing reaches, or the other way round";
     return QString();
 }
 
 QString wrongToolBarRows(const EditorFields &fields, const QListWidget *list)
 {
     if (fields.listItemOfRecord.keys() != fields.workingActions.keys())
-        return QStringLiteral("records with a row are not those with content");
+        return "records with a row are not those with content";
     if (!areInverse(fields.listItemOfRecord, fields.recordOfListItem))
-        return QStringLiteral("rows of records and records of rows");
+        return "rows of records and records of rows";
     if (fields.recordOfListItem.size() != list->count())
-        return QStringLiteral("number of toolbar rows");
+        return "number of toolbar rows";
     for (int row = 0; row < list->count(); ++row) {
         if (!fields.recordOfListItem.contains(list->item(row)))
-            return QStringLiteral("toolbar row without a record");
+            return "toolbar row without a record";
     }
     if (fields.currentRecord != fields.recordOfListItem.value(list->currentItem()))
-        return QStringLiteral("current record is not that of the current row");
+        return "current record is not that of the current row";
     return QString();
 }
 
@@ -90,46 +89,60 @@ QString wrongEntries(const EditorFields &fields, const QListWidget *list)
     for (int row = 0; row < list->count(); ++row) {
         QListWidgetItem *const entry = list->item(row);
         if (!fields.actionOfEntry.contains(entry))
-            return QStringLiteral("entry without a record of its action");
+            return "entry without a record of its action";
         QAction *const action = fields.actionOfEntry.value(entry);
         shown.append(action);
         if (action)
             entries.insert(action, entry);
     }
     if (fields.actionOfEntry.size() != list->count())
-        return QStringLiteral("number of entries");
+        return "number of entries";
     if (fields.entryOfAction != entries)
-        return QStringLiteral("entries of actions");
+        return "entries of actions";
     const auto content = fields.workingActions.value(fields.currentRecord);
     if (shown != content)
-        return QStringLiteral("shown: %1; content: %2")
-            .arg(contentOf(shown).join(QLatin1Char(' ')),
-                 contentOf(content).join(QLatin1Char(' ')));
+        return QString("shown: %1; content: %2")
+            .arg(contentOf(shown).join(' '), contentOf(content).join(' '));
     return QString();
 }
 
 QString wrongActionTree(const EditorFields &fields, const QTreeWidget *tree)
 {
     if (!areInverse(fields.treeItemOfAction, fields.actionOfTreeItem))
-        return QStringLiteral("items of actions and actions of items");
+        return "items of actions and actions of items";
     QTreeWidgetItem *const current = tree->currentItem();
     if (fields.currentActionItem != (fields.actionOfTreeItem.contains(current) ? current : nullptr))
-        return QStringLiteral("current action item");
+        return "current action item";
     return QString();
 }
 
 } // namespace
 
-ShownEditor::ShownEditor(RyAbstatcManager *manager)
-    : widget(nullptr, manager, Qt::WindowFlags())
+FilledHost::FilledHost()
+{
+    defaultToolBar("file", {"open", "|", "save"}, "Files");
+    for (const char *name : {"copy", "cut", "paste", "undo", "zoom"})
+        registered(name, "Edits");
+    customToolBar(*this, "Mine", {"cut", "copy", "paste"});
+    customToolBar(*this, "Tools", {"|", "cut"});
+}
+
+ShownEditor::ShownEditor(RyAbstatcManager *ofHost)
+    : manager(static_cast<RyToolBarManager *>(ofHost))
+    , widget(nullptr, ofHost, Qt::WindowFlags())
     , views(&widget)
 {
     widget.show();
 }
 
-void ShownEditor::call(const char *slot)
+void ShownEditor::call(const char *slot, QGenericArgument argument)
 {
-    QVERIFY2(QMetaObject::invokeMethod(&widget, slot, Qt::DirectConnection), slot);
+    QVERIFY2(QMetaObject::invokeMethod(&widget, slot, Qt::DirectConnection, argument), slot);
+}
+
+QLineEdit *ShownEditor::nameEditor() const
+{
+    return qobject_cast<QLineEdit *>(views.renameEditor());
 }
 
 void ShownEditor::selectToolBar(const QString &title)
@@ -186,10 +199,19 @@ QStringList toolBarsOf(const RyToolBarManager &manager)
         const QStringList standing = standingOn(toolBar);
         texts << described(toolBar->windowTitle(), standing);
         if (managed != standing)
-            texts.last() +=
-                QLatin1String(", but for the manager ") + managed.join(QLatin1Char(' '));
+            texts.last() += ", but for the manager " + managed.join(' ');
     }
     return sorted(texts);
+}
+
+QToolBar *toolBarTitled(const RyToolBarManager &manager, const QString &title)
+{
+    const auto toolBars = manager.toolBars();
+    for (QToolBar *toolBar : toolBars) {
+        if (toolBar->windowTitle() == title)
+            return toolBar;
+    }
+    return nullptr;
 }
 
 QToolBar *customToolBar(Host &host, const QString &title, const QStringList &content)

@@ -15,7 +15,7 @@ class Translations : public QTranslator
 {
 public:
     Translations(const char *context, const QMap<QString, QString> &texts)
-        : m_context(QLatin1String(context))
+        : m_context(context)
         , m_texts(texts)
     {
         QCoreApplication::installTranslator(this);
@@ -27,7 +27,7 @@ public:
                       int n) const override
     {
         Q_UNUSED(n);
-        if (QLatin1String(context) != m_context || disambiguation)
+        if (context != m_context || disambiguation)
             return QString();
         return m_texts.value(QString::fromUtf8(sourceText));
     }

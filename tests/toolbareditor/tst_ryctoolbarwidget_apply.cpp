@@ -14,7 +14,7 @@
 
 namespace {
 
-const QString Separator = QStringLiteral("< S E P A R A T O R >");
+const QString Separator = "< S E P A R A T O R >";
 
 // Writes down in order what happens to the toolbars of a host: content, titles, creation, deletion.
 class ToolBarRecorder : public QObject
@@ -39,14 +39,14 @@ public:
                 noteChild(static_cast<QChildEvent *>(event));
             break;
         case QEvent::ActionAdded:
-            note(QLatin1String("+") + contentOf({static_cast<QActionEvent *>(event)->action()})[0]
-                 + QLatin1String(" on ") + name);
+            note("+" + contentOf({static_cast<QActionEvent *>(event)->action()})[0] + " on "
+                 + name);
             break;
         case QEvent::ActionRemoved:
-            note(QLatin1String("content of ") + name);
+            note("content of " + name);
             break;
         case QEvent::WindowTitleChange:
-            note(static_cast<QWidget *>(watched)->windowTitle() + QLatin1String(" titles ") + name);
+            note(static_cast<QWidget *>(watched)->windowTitle() + " titles " + name);
             break;
         default:
             break;
@@ -68,10 +68,10 @@ private:
         if (!event->child()->isWidgetType())
             return;
         if (event->added()) {
-            watch(event->child(), QStringLiteral("new"));
-            note(QStringLiteral("created"));
+            watch(event->child(), "new");
+            note("created");
         } else if (event->removed()) {
-            note(QLatin1String("deleted ") + m_names.value(event->child()));
+            note("deleted " + m_names.value(event->child()));
         }
     }
 
@@ -85,33 +85,6 @@ private:
     QObject *const m_window;
     QMap<QObject *, QString> m_names;
 };
-
-// A default toolbar, two custom ones and an action that stands on none.
-class FilledHost : public Host
-{
-public:
-    FilledHost()
-    {
-        defaultToolBar(QStringLiteral("file"),
-                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                       QStringLiteral("Files"));
-        for (const char *name : {"copy", "cut", "paste", "zoom"})
-            registered(QLatin1String(name), QStringLiteral("Edits"));
-        customToolBar(*this, QStringLiteral("Mine"),
-                      {QStringLiteral("cut"), QStringLiteral("copy"), QStringLiteral("paste")});
-        customToolBar(*this, QStringLiteral("Tools"), {QStringLiteral("|"), QStringLiteral("cut")});
-    }
-};
-
-QToolBar *toolBarTitled(const RyToolBarManager &manager, const QString &title)
-{
-    const auto toolBars = manager.toolBars();
-    for (QToolBar *toolBar : toolBars) {
-        if (toolBar->windowTitle() == title)
-            return toolBar;
-    }
-    return nullptr;
-}
 
 void makeToolBar(const ShownEditor &editor, const QString &title, const QStringList &actions)
 {
@@ -136,24 +109,16 @@ class tst_RyCToolBarWidget_Apply : public TestCase
 private Q_SLOTS:
     void applyWithoutEditsTouchesNoContent();
     void applyWritesToolBarsThatWereNotEdited();
-    void applyWritesTheEditedContent();
     void applyAlwaysSetsTheTitle();
     void applyWorksInPhases();
     void applyWritesTheToolBarsInTheOrderOfTheRecords();
-    void aToolBarIsFilledBeforeItIsTitled();
-    void aCreatedToolBarGetsItsNameAndThenItsContent();
     void aCreatedToolBarIsAnExistingOneFromThenOn();
     void aCreatedToolBarGetsTheNextFreeObjectName();
     void severalToolBarsAreCreatedAndDeleted();
-    void aRemovedToolBarIsDeleted();
     void applyingTwiceCreatesAndDeletesNothing();
     void applyLeavesTheViewsAsTheyAre();
     void applyWhileTheNameIsEditedTakesTheOldName();
-    void applyIsDoneWhenItReturns();
     void withoutAMainWindowNothingIsCreated();
-    void anActionThatTheHostTookAwayIsLeftOut();
-    void aToolBarThatTheHostDeletedIsLeftAlone();
-    void aRemovedToolBarThatTheHostDeletedIsLeftAlone();
     void aToolBarThatTheManagerForgotStillGetsItsTitle();
     void applyKeepsTheRecordsOfTheFill();
     void anUntitledToolBarIsRenamedAndRemoved();
@@ -164,7 +129,6 @@ private Q_SLOTS:
     void restoreDefaultsShowsTheDefaultContent();
     void restoreDefaultsRefreshesTheToolBarThatIsShown();
     void restoreDefaultsShowsNothingWithoutACurrentToolBar();
-    void restoreDefaultsRemovesCustomToolBars();
     void restoreDefaultsFreesNewToolBars();
     void restoreDefaultsRemovesToolBarsThatWereCreatedAndApplied();
     void restoreDefaultsLeavesRemovedToolBarsRemoved();
@@ -173,9 +137,7 @@ private Q_SLOTS:
     void restoreDefaultsWithCustomToolBarsOnlyLeavesNone();
     void restoreDefaultsKeepsTheNames();
     void restoreDefaultsDoesNotBringUnregisteredActionsBack();
-    void restoreDefaultsThenHidingChangesNothing();
     void restoreDefaultsThenApplyEqualsTheDefaults();
-    void restoreDefaultsTwiceIsAsOnce();
     void restoreDefaultsWhileTheNameIsEdited();
     void restoreDefaultsWhileHiddenHasNoEffect();
     void restoreDefaultsAfterToolBarsWereDeleted();
@@ -185,7 +147,7 @@ private Q_SLOTS:
 void tst_RyCToolBarWidget_Apply::applyWithoutEditsTouchesNoContent()
 {
     FilledHost host;
-    QToolBar *const file = toolBarTitled(host.manager, QStringLiteral("File"));
+    QToolBar *const file = toolBarTitled(host.manager, "File");
     const auto standing = file->actions();
     ShownEditor editor(&host.manager);
     ToolBarRecorder recorder(host);
@@ -198,84 +160,72 @@ void tst_RyCToolBarWidget_Apply::applyWithoutEditsTouchesNoContent()
 // Each is written whole, which undoes what the host has done to it since the fill.
 void tst_RyCToolBarWidget_Apply::applyWritesToolBarsThatWereNotEdited()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    const QStringList before = toolBarsOf(host.manager);
+    FilledEditor editor;
+    const QStringList before = toolBarsOf(editor.host.manager);
     for (const char *title : {"File", "Mine", "Tools"})
-        host.manager.setToolBar(toolBarTitled(host.manager, QLatin1String(title)),
-                                host.list({QStringLiteral("zoom"), QStringLiteral("|")}));
-    QVERIFY(toolBarsOf(host.manager) != before);
+        editor.host.manager.setToolBar(toolBarTitled(editor.host.manager, title),
+                                       editor.host.list({"zoom", "|"}));
+    QVERIFY(toolBarsOf(editor.host.manager) != before);
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), before);
-}
-
-void tst_RyCToolBarWidget_Apply::applyWritesTheEditedContent()
-{
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.views.doubleClick(editor.views.currentToolBarList, 1);
-    editor.views.doubleClick(editor.views.actionTree, Separator);
-    editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open zoom | save"),
-                          QStringLiteral("Mine: cut paste |"), QStringLiteral("Tools: | cut")}));
+    QCOMPARE(toolBarsOf(editor.host.manager), before);
 }
 
 void tst_RyCToolBarWidget_Apply::applyAlwaysSetsTheTitle()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    QToolBar *const file = toolBarTitled(host.manager, QStringLiteral("File"));
-    QToolBar *const mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
-    file->setWindowTitle(QStringLiteral("Changed by the host"));
+    FilledEditor editor;
+    QToolBar *const file = toolBarTitled(editor.host.manager, "File");
+    QToolBar *const mine = toolBarTitled(editor.host.manager, "Mine");
+    file->setWindowTitle("Changed by the host");
     mine->setWindowTitle(QString());
     editor.widget.applyClicked();
-    QCOMPARE(file->windowTitle(), QStringLiteral("File"));
-    QCOMPARE(mine->windowTitle(), QStringLiteral("Mine"));
+    QCOMPARE(file->windowTitle(), "File");
+    QCOMPARE(mine->windowTitle(), "Mine");
 }
 
 void tst_RyCToolBarWidget_Apply::applyWorksInPhases()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Tools"));
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom"), Separator});
-    ToolBarRecorder recorder(host);
+    FilledEditor editor;
+    removeToolBar(editor, "Tools");
+    makeToolBar(editor, "Yours", {"Zoom", Separator});
+    ToolBarRecorder recorder(editor.host);
     for (const char *title : {"File", "Mine"}) {
-        editor.selectToolBar(QLatin1String(title));
+        editor.selectToolBar(title);
         editor.selectEntry(0);
         editor.call("leftClicked");
-        toolBarTitled(host.manager, QLatin1String(title))->setWindowTitle(QStringLiteral("Host's"));
+        toolBarTitled(editor.host.manager, title)->setWindowTitle("Host's");
     }
     recorder.events.clear();
     QStringList expected;
     const auto records = EditorFields::of(editor.widget).workingActions.keys();
     for (const ToolBarItem *record : records) {
-        if (record->toolBarName() == QLatin1String("File"))
-            expected << QStringLiteral("content of File") << QStringLiteral("+\"\" on File")
-                     << QStringLiteral("+save on File") << QStringLiteral("File titles File");
-        else if (record->toolBarName() == QLatin1String("Mine"))
-            expected << QStringLiteral("content of Mine") << QStringLiteral("+copy on Mine")
-                     << QStringLiteral("+paste on Mine") << QStringLiteral("Mine titles Mine");
+        if (record->toolBarName() == "File")
+            expected << "content of File"
+                     << "+\"\" on File"
+                     << "+save on File"
+                     << "File titles File";
+        else if (record->toolBarName() == "Mine")
+            expected << "content of Mine"
+                     << "+copy on Mine"
+                     << "+paste on Mine"
+                     << "Mine titles Mine";
     }
-    expected << QStringLiteral("content of Tools") << QStringLiteral("deleted Tools")
-             << QStringLiteral("created") << QStringLiteral("Yours titles new")
-             << QStringLiteral("+zoom on new") << QStringLiteral("+\"\" on new");
+    expected << "content of Tools"
+             << "deleted Tools"
+             << "created"
+             << "Yours titles new"
+             << "+zoom on new"
+             << "+\"\" on new";
     editor.widget.applyClicked();
-    QCOMPARE(recorder.events.join(QLatin1Char('\n')), expected.join(QLatin1Char('\n')));
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: | save"), QStringLiteral("Mine: copy paste"),
-                          QStringLiteral("Yours: zoom |")}));
+    QCOMPARE(recorder.events.join('\n'), expected.join('\n'));
+    QCOMPARE(toolBarsOf(editor.host.manager),
+             QStringList({"File: | save", "Mine: copy paste", "Yours: zoom |"}));
 }
 
 void tst_RyCToolBarWidget_Apply::applyWritesTheToolBarsInTheOrderOfTheRecords()
 {
     FilledHost host;
     for (int i = 0; i < 8; ++i)
-        customToolBar(host, QStringLiteral("Toolbar %1").arg(i), {});
+        customToolBar(host, QString("Toolbar %1").arg(i), {});
     ShownEditor editor(&host.manager);
     // Freed records come back in another order.
     editor.widget.hide();
@@ -284,53 +234,21 @@ void tst_RyCToolBarWidget_Apply::applyWritesTheToolBarsInTheOrderOfTheRecords()
     const auto records = EditorFields::of(editor.widget).workingActions.keys();
     QVERIFY(std::is_sorted(records.cbegin(), records.cend(), std::less<ToolBarItem *>()));
     for (ToolBarItem *record : records) {
-        expected << record->toolBarName() + QStringLiteral(" titles Host's");
-        record->toolBar()->setWindowTitle(QStringLiteral("Host's"));
+        expected << record->toolBarName() + " titles Host's";
+        record->toolBar()->setWindowTitle("Host's");
     }
     ToolBarRecorder recorder(host);
     editor.widget.applyClicked();
     QCOMPARE(recorder.events, expected);
 }
 
-void tst_RyCToolBarWidget_Apply::aToolBarIsFilledBeforeItIsTitled()
-{
-    Host host;
-    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Mine"), {});
-    ShownEditor editor(&host.manager);
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Cut"));
-    editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Yours"));
-    ToolBarRecorder recorder(host);
-    editor.widget.applyClicked();
-    QCOMPARE(recorder.events,
-             QStringList({QStringLiteral("+cut on Mine"), QStringLiteral("Yours titles Mine")}));
-}
-
-void tst_RyCToolBarWidget_Apply::aCreatedToolBarGetsItsNameAndThenItsContent()
-{
-    Host host;
-    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-    host.registered(QStringLiteral("zoom"), QStringLiteral("Edits"));
-    ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Cut"), QStringLiteral("Zoom")});
-    ToolBarRecorder recorder(host);
-    editor.widget.applyClicked();
-    QCOMPARE(recorder.events,
-             QStringList({QStringLiteral("created"), QStringLiteral("Yours titles new"),
-                          QStringLiteral("+cut on new"), QStringLiteral("+zoom on new")}));
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("Yours: cut zoom")});
-    QVERIFY(!host.manager.isDefaultToolBar(host.manager.toolBars().first()));
-}
-
 void tst_RyCToolBarWidget_Apply::aCreatedToolBarIsAnExistingOneFromThenOn()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
+    FilledEditor editor;
+    makeToolBar(editor, "Yours", {"Zoom"});
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
     editor.widget.applyClicked();
-    QToolBar *const made = toolBarTitled(host.manager, QStringLiteral("Yours"));
+    QToolBar *const made = toolBarTitled(editor.host.manager, "Yours");
     QVERIFY(made);
     QCOMPARE(record->toolBar(), made);
     EditorFields fields = EditorFields::of(editor.widget);
@@ -340,110 +258,87 @@ void tst_RyCToolBarWidget_Apply::aCreatedToolBarIsAnExistingOneFromThenOn()
     QCOMPARE(editor.inconsistency(), QString());
 
     // Edited again it is the same toolbar.
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Cut"));
+    editor.views.doubleClick(editor.views.actionTree, "Cut");
     editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Theirs"));
+    editor.views.typeName("Theirs");
     editor.widget.applyClicked();
-    QCOMPARE(made->windowTitle(), QStringLiteral("Theirs"));
-    QCOMPARE(standingOn(made), QStringList({QStringLiteral("zoom"), QStringLiteral("cut")}));
-    QCOMPARE(host.manager.toolBars().size(), 4);
+    QCOMPARE(made->windowTitle(), "Theirs");
+    QCOMPARE(standingOn(made), QStringList({"zoom", "cut"}));
+    QCOMPARE(editor.host.manager.toolBars().size(), 4);
 
-    // Removed it is deleted from the host.
+    // Removed it is deleted from the editor.host.
     const QPointer<QToolBar> guard = made;
     editor.views.click(editor.views.removeButton);
     QCOMPARE(EditorFields::of(editor.widget).removedRecords, QSet<ToolBarItem *>{record});
     editor.widget.applyClicked();
     QVERIFY(!guard);
-    QCOMPARE(host.manager.toolBars().size(), 3);
+    QCOMPARE(editor.host.manager.toolBars().size(), 3);
 }
 
 void tst_RyCToolBarWidget_Apply::aCreatedToolBarGetsTheNextFreeObjectName()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    makeToolBar(editor, QStringLiteral("Yours"), {});
+    FilledEditor editor;
+    removeToolBar(editor, "Mine");
+    makeToolBar(editor, "Yours", {});
     editor.widget.applyClicked();
     // Deletion comes before creation, so that the number is free again.
-    QCOMPARE(host.manager.toolBarByName(QStringLiteral("_Custom_Toolbar_1"))->windowTitle(),
-             QStringLiteral("Yours"));
+    QCOMPARE(editor.host.manager.toolBarByName("_Custom_Toolbar_1")->windowTitle(), "Yours");
 }
 
 void tst_RyCToolBarWidget_Apply::severalToolBarsAreCreatedAndDeleted()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    removeToolBar(editor, QStringLiteral("Tools"));
-    makeToolBar(editor, QStringLiteral("One"), {QStringLiteral("Cut")});
-    makeToolBar(editor, QStringLiteral("Two"), {QStringLiteral("Cut"), QStringLiteral("Copy")});
-    makeToolBar(editor, QStringLiteral("Two"), {});
-    const QStringList expected = {QStringLiteral("File: open | save"), QStringLiteral("One: cut"),
-                                  QStringLiteral("Two:"), QStringLiteral("Two: cut copy")};
+    FilledEditor editor;
+    removeToolBar(editor, "Mine");
+    removeToolBar(editor, "Tools");
+    makeToolBar(editor, "One", {"Cut"});
+    makeToolBar(editor, "Two", {"Cut", "Copy"});
+    makeToolBar(editor, "Two", {});
+    const QStringList expected = {"File: open | save", "One: cut", "Two:", "Two: cut copy"};
     QCOMPARE(editor.workingCopy(), expected);
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), expected);
-    QCOMPARE(host.window.findChildren<QToolBar *>().size(), 4);
-    QCOMPARE(editor.inconsistency(), QString());
-}
-
-void tst_RyCToolBarWidget_Apply::aRemovedToolBarIsDeleted()
-{
-    FilledHost host;
-    const QPointer<QToolBar> mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
-    ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    QVERIFY(mine);
-    editor.widget.applyClicked();
-    QVERIFY(!mine);
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")}));
-    const EditorFields fields = EditorFields::of(editor.widget);
-    QVERIFY(fields.removedRecords.isEmpty());
-    QCOMPARE(fields.ownedRecords.size(), 2);
+    QCOMPARE(toolBarsOf(editor.host.manager), expected);
+    QCOMPARE(editor.host.window.findChildren<QToolBar *>().size(), 4);
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::applyingTwiceCreatesAndDeletesNothing()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom"), Separator});
+    FilledEditor editor;
+    removeToolBar(editor, "Mine");
+    makeToolBar(editor, "Yours", {"Zoom", Separator});
     editor.widget.applyClicked();
-    const QStringList applied = toolBarsOf(host.manager);
-    const auto toolBars = host.manager.toolBars();
+    const QStringList applied = toolBarsOf(editor.host.manager);
+    const auto toolBars = editor.host.manager.toolBars();
 
-    ToolBarRecorder recorder(host);
+    ToolBarRecorder recorder(editor.host);
     editor.widget.applyClicked();
     QCOMPARE(recorder.events, QStringList());
-    QCOMPARE(toolBarsOf(host.manager), applied);
-    QCOMPARE(host.manager.toolBars(), toolBars);
+    QCOMPARE(toolBarsOf(editor.host.manager), applied);
+    QCOMPARE(editor.host.manager.toolBars(), toolBars);
     // But the existing ones are written, the created one included.
     for (QToolBar *toolBar : toolBars) {
-        toolBar->setWindowTitle(QStringLiteral("Host's"));
-        host.manager.setToolBar(toolBar, {});
+        toolBar->setWindowTitle("Host's");
+        editor.host.manager.setToolBar(toolBar, {});
     }
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), applied);
+    QCOMPARE(toolBarsOf(editor.host.manager), applied);
 }
 
 void tst_RyCToolBarWidget_Apply::applyLeavesTheViewsAsTheyAre()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Tools"));
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
-    editor.selectToolBar(QStringLiteral("Mine"));
+    FilledEditor editor;
+    removeToolBar(editor, "Tools");
+    makeToolBar(editor, "Yours", {"Zoom"});
+    editor.selectToolBar("Mine");
     editor.selectEntry(1);
-    editor.selectAction(QStringLiteral("Paste"));
+    editor.selectAction("Paste");
     const QListWidgetItem *const toolBar = editor.views.toolBarList->currentItem();
     const QListWidgetItem *const entry = editor.views.currentToolBarList->currentItem();
     const QTreeWidgetItem *const action = editor.views.actionTree->currentItem();
     const QStringList rows = rowsOf(editor.views.toolBarList);
     const QStringList buttons = editor.views.enabledButtons();
     // Known to the manager, but not shown before the next fill.
-    host.registered(QStringLiteral("late"), QStringLiteral("Edits"));
+    editor.host.registered("late", "Edits");
 
     editor.widget.applyClicked();
     QCOMPARE(editor.views.toolBarList->currentItem(), toolBar);
@@ -451,7 +346,7 @@ void tst_RyCToolBarWidget_Apply::applyLeavesTheViewsAsTheyAre()
     QCOMPARE(editor.views.actionTree->currentItem(), action);
     QCOMPARE(rowsOf(editor.views.toolBarList), rows);
     QCOMPARE(editor.views.enabledButtons(), buttons);
-    QVERIFY(!itemNamed(editor.views.actionTree, QStringLiteral("Late")));
+    QVERIFY(!itemNamed(editor.views.actionTree, "Late"));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -460,33 +355,17 @@ void tst_RyCToolBarWidget_Apply::applyWhileTheNameIsEditedTakesTheOldName()
     Host host;
     ShownEditor editor(&host.manager);
     editor.views.click(editor.views.newButton);
-    QLineEdit *const name = qobject_cast<QLineEdit *>(editor.views.renameEditor());
+    QLineEdit *const name = editor.nameEditor();
     QVERIFY(name);
     name->selectAll();
-    QTest::keyClicks(name, QStringLiteral("Yours"));
+    QTest::keyClicks(name, "Yours");
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("Custom Toolbar:")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"Custom Toolbar:"});
     QCOMPARE(editor.views.renameEditor(), name);
     QTest::keyClick(name, Qt::Key_Return);
     QTRY_VERIFY(!editor.views.renameEditor());
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("Yours:")});
-}
-
-void tst_RyCToolBarWidget_Apply::applyIsDoneWhenItReturns()
-{
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
-    editor.widget.applyClicked();
-    const QStringList applied = toolBarsOf(host.manager);
-    const int toolBars = host.window.findChildren<QToolBar *>().size();
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(toolBarsOf(host.manager), applied);
-    QCOMPARE(host.window.findChildren<QToolBar *>().size(), toolBars);
-    QCOMPARE(applied, editor.workingCopy());
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"Yours:"});
 }
 
 void tst_RyCToolBarWidget_Apply::withoutAMainWindowNothingIsCreated()
@@ -495,13 +374,13 @@ void tst_RyCToolBarWidget_Apply::withoutAMainWindowNothingIsCreated()
     host.manager.setMainWindow(nullptr);
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
+    makeToolBar(editor, "Yours", {"Zoom"});
     ToolBarItem *const record = EditorFields::of(editor.widget).currentRecord;
     editor.widget.applyClicked();
     QCOMPARE(toolBarsOf(host.manager), before);
     QVERIFY(!record->toolBar());
     QVERIFY(EditorFields::of(editor.widget).createdRecords.isEmpty());
-    QVERIFY(itemNamed(editor.views.toolBarList, QStringLiteral("Yours")));
+    QVERIFY(itemNamed(editor.views.toolBarList, "Yours"));
 
     // It is treated as applied, so that it is not tried again.
     editor.widget.applyClicked();
@@ -518,76 +397,29 @@ void tst_RyCToolBarWidget_Apply::withoutAMainWindowNothingIsCreated()
     QCOMPARE(toolBarsOf(host.manager), before);
 }
 
-void tst_RyCToolBarWidget_Apply::anActionThatTheHostTookAwayIsLeftOut()
-{
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    host.manager.removeAction(host.action(QStringLiteral("cut")));
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
-    editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"),
-                          QStringLiteral("Mine: zoom copy paste"), QStringLiteral("Tools: |")}));
-}
-
-void tst_RyCToolBarWidget_Apply::aToolBarThatTheHostDeletedIsLeftAlone()
-{
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.call("leftClicked");
-    editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Yours"));
-    host.manager.deleteToolBar(toolBarTitled(host.manager, QStringLiteral("Mine")));
-    editor.widget.applyClicked();
-    const QStringList left = {QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")};
-    QCOMPARE(toolBarsOf(host.manager), left);
-    // Its row stays until it is removed or the editor is shown again.
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Yours"));
-    editor.views.click(editor.views.removeButton);
-    editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), left);
-    QCOMPARE(editor.inconsistency(), QString());
-}
-
-void tst_RyCToolBarWidget_Apply::aRemovedToolBarThatTheHostDeletedIsLeftAlone()
-{
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    host.manager.deleteToolBar(toolBarTitled(host.manager, QStringLiteral("Mine")));
-    editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")}));
-    QCOMPARE(editor.inconsistency(), QString());
-}
-
 void tst_RyCToolBarWidget_Apply::aToolBarThatTheManagerForgotStillGetsItsTitle()
 {
     FilledHost host;
-    QToolBar *const forgotten = toolBarTitled(host.manager, QStringLiteral("Mine"));
+    QToolBar *const forgotten = toolBarTitled(host.manager, "Mine");
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     editor.views.click(editor.views.renameButton);
-    editor.views.typeName(QStringLiteral("Yours"));
+    editor.views.typeName("Yours");
     host.manager.removeDefaultToolBar(forgotten);
     editor.widget.applyClicked();
-    QCOMPARE(forgotten->windowTitle(), QStringLiteral("Yours"));
+    QCOMPARE(forgotten->windowTitle(), "Yours");
     // Its content is the host's alone.
     QCOMPARE(standingOn(forgotten), QStringList());
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Tools: | cut")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: open | save", "Tools: | cut"}));
 }
 
 void tst_RyCToolBarWidget_Apply::applyKeepsTheRecordsOfTheFill()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
+    FilledEditor editor;
     const auto before = EditorFields::of(editor.widget).recordOfToolBar;
     QCOMPARE(before.size(), 3);
-    removeToolBar(editor, QStringLiteral("Mine"));
-    makeToolBar(editor, QStringLiteral("Yours"), {});
+    removeToolBar(editor, "Mine");
+    makeToolBar(editor, "Yours", {});
     editor.widget.applyClicked();
     QCOMPARE(EditorFields::of(editor.widget).recordOfToolBar, before);
 }
@@ -596,19 +428,17 @@ void tst_RyCToolBarWidget_Apply::anUntitledToolBarIsRenamedAndRemoved()
 {
     FilledHost host;
     const QStringList others = toolBarsOf(host.manager);
-    const QPointer<QToolBar> untitled = customToolBar(host, QString(), {QStringLiteral("cut")});
+    const QPointer<QToolBar> untitled = customToolBar(host, QString(), {"cut"});
     ShownEditor editor(&host.manager);
-    QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({QString(), QStringLiteral("File"), QStringLiteral("Mine"),
-                          QStringLiteral("Tools")}));
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({QString(), "File", "Mine", "Tools"}));
     editor.selectToolBar(QString());
-    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{QStringLiteral("Cut")});
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{"Cut"});
+    editor.views.doubleClick(editor.views.actionTree, "Zoom");
     editor.widget.applyClicked();
     QCOMPARE(untitled->windowTitle(), QString());
-    QCOMPARE(standingOn(untitled), QStringList({QStringLiteral("cut"), QStringLiteral("zoom")}));
+    QCOMPARE(standingOn(untitled), QStringList({"cut", "zoom"}));
 
-    for (const QString &name : {QStringLiteral("Named"), QString()}) {
+    for (const QString &name : QStringList({"Named", QString()})) {
         editor.views.click(editor.views.renameButton);
         editor.views.typeName(name);
         QCOMPARE(editor.views.toolBarList->currentItem()->text(), name);
@@ -626,52 +456,49 @@ void tst_RyCToolBarWidget_Apply::anUntitledToolBarIsRenamedAndRemoved()
 void tst_RyCToolBarWidget_Apply::anUntitledDefaultToolBarStaysUntitled()
 {
     Host host;
-    QToolBar *const untitled = host.toolBar(QStringLiteral("file"), {QStringLiteral("open")});
+    QToolBar *const untitled = host.toolBar("file", {"open"});
     untitled->setWindowTitle(QString());
-    host.manager.addDefaultToolBar(untitled, QStringLiteral("Files"));
+    host.manager.addDefaultToolBar(untitled, "Files");
     ShownEditor editor(&host.manager);
     QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QString()});
     editor.call("renameClicked");
     QVERIFY(!editor.views.renameEditor());
     editor.call("removeClicked");
     editor.call("leftClicked");
-    untitled->setWindowTitle(QStringLiteral("Changed by the host"));
+    untitled->setWindowTitle("Changed by the host");
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral(":")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{":"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsChangesTheWorkingCopyOnly()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    FilledEditor editor("File");
     editor.call("leftClicked");
     editor.widget.applyClicked();
-    const QStringList before = toolBarsOf(host.manager);
-    ToolBarRecorder recorder(host);
+    const QStringList before = toolBarsOf(editor.host.manager);
+    ToolBarRecorder recorder(editor.host);
     editor.widget.defaultClicked();
-    QCOMPARE(toolBarsOf(host.manager), before);
+    QCOMPARE(toolBarsOf(editor.host.manager), before);
     QCOMPARE(recorder.events, QStringList());
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsResetsTheContentOfDefaultToolBars()
 {
     FilledHost host;
-    host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom")}, QStringLiteral("View"));
-    host.defaultToolBar(QStringLiteral("help"), {}, QStringLiteral("Help"));
+    host.defaultToolBar("view", {"zoom"}, "View");
+    host.defaultToolBar("help", {}, "Help");
     // Edited before, edited now, not at all.
-    host.manager.setToolBar(toolBarTitled(host.manager, QStringLiteral("View")), {});
+    host.manager.setToolBar(toolBarTitled(host.manager, "View"), {});
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.call("downClicked");
-    editor.selectToolBar(QStringLiteral("Help"));
+    editor.selectToolBar("Help");
     editor.call("rightClicked");
     editor.widget.defaultClicked();
-    const QStringList defaults = {QStringLiteral("File: open | save"), QStringLiteral("Help:"),
-                                  QStringLiteral("View: zoom")};
+    const QStringList defaults = {"File: open | save", "Help:", "View: zoom"};
     QCOMPARE(editor.workingCopy(), defaults);
     QCOMPARE(editor.inconsistency(), QString());
     editor.widget.applyClicked();
@@ -680,15 +507,12 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsResetsTheContentOfDefaultToolBar
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsTheDefaultContent()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
+    FilledEditor editor("File");
     editor.views.doubleClick(editor.views.currentToolBarList, 2);
-    editor.views.doubleClick(editor.views.actionTree, QStringLiteral("Zoom"));
+    editor.views.doubleClick(editor.views.actionTree, "Zoom");
     editor.widget.defaultClicked();
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("File"));
-    QCOMPARE(rowsOf(editor.views.currentToolBarList),
-             QStringList({QStringLiteral("Open"), Separator, QStringLiteral("Save")}));
+    QCOMPARE(currentOf(editor.views.toolBarList), "File");
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList({"Open", Separator, "Save"}));
     QCOMPARE(editor.views.currentToolBarList->currentRow(), 0);
     QCOMPARE(editor.inconsistency(), QString());
 }
@@ -697,54 +521,35 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsTheDefaultContent()
 void tst_RyCToolBarWidget_Apply::restoreDefaultsRefreshesTheToolBarThatIsShown()
 {
     FilledHost host;
-    host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom")}, QStringLiteral("View"));
+    host.defaultToolBar("view", {"zoom"}, "View");
     ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("File"));
-    QListWidgetItem *const view = itemNamed(editor.views.toolBarList, QStringLiteral("View"));
-    QVERIFY(QMetaObject::invokeMethod(&editor.widget, "currentToolBarChanged", Qt::DirectConnection,
-                                      Q_ARG(QListWidgetItem *, view)));
+    editor.selectToolBar("File");
+    QListWidgetItem *const view = itemNamed(editor.views.toolBarList, "View");
+    editor.call("currentToolBarChanged", Q_ARG(QListWidgetItem *, view));
     editor.call("leftClicked");
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{QStringLiteral("Zoom")});
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{"Zoom"});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsNothingWithoutACurrentToolBar()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
+    FilledEditor editor;
     editor.views.toolBarList->setCurrentItem(nullptr);
     editor.widget.defaultClicked();
     QVERIFY(!editor.views.toolBarList->currentItem());
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList());
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"File"});
     QCOMPARE(editor.inconsistency(), QString());
-}
-
-void tst_RyCToolBarWidget_Apply::restoreDefaultsRemovesCustomToolBars()
-{
-    FilledHost host;
-    const QPointer<QToolBar> mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
-    const QPointer<QToolBar> tools = toolBarTitled(host.manager, QStringLiteral("Tools"));
-    ShownEditor editor(&host.manager);
-    editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
-    QVERIFY(mine);
-    QVERIFY(tools);
-    QCOMPARE(EditorFields::of(editor.widget).removedRecords.size(), 2);
-    editor.widget.applyClicked();
-    QVERIFY(!mine);
-    QVERIFY(!tools);
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: open | save")});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsFreesNewToolBars()
 {
     Host host;
-    host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open")}, QStringLiteral("Files"));
+    host.defaultToolBar("file", {"open"}, "Files");
     ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Open")});
-    makeToolBar(editor, QStringLiteral("Theirs"), {});
+    makeToolBar(editor, "Yours", {"Open"});
+    makeToolBar(editor, "Theirs", {});
     editor.widget.defaultClicked();
     const EditorFields fields = EditorFields::of(editor.widget);
     QVERIFY(fields.createdRecords.isEmpty());
@@ -753,37 +558,36 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsFreesNewToolBars()
     ToolBarRecorder recorder(host);
     editor.widget.applyClicked();
     QCOMPARE(recorder.events, QStringList());
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: open")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"File: open"});
 }
 
 // The editor kept no record of it from the fill.
 void tst_RyCToolBarWidget_Apply::restoreDefaultsRemovesToolBarsThatWereCreatedAndApplied()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    makeToolBar(editor, QStringLiteral("Yours"), {QStringLiteral("Zoom")});
+    FilledEditor editor;
+    makeToolBar(editor, "Yours", {"Zoom"});
     editor.widget.applyClicked();
-    const QPointer<QToolBar> made = toolBarTitled(host.manager, QStringLiteral("Yours"));
+    const QPointer<QToolBar> made = toolBarTitled(editor.host.manager, "Yours");
     QVERIFY(made);
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"File"});
     editor.widget.applyClicked();
     QVERIFY(!made);
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(toolBarsOf(editor.host.manager), QStringList{"File: open | save"});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsLeavesRemovedToolBarsRemoved()
 {
     FilledHost host;
-    const QPointer<QToolBar> mine = toolBarTitled(host.manager, QStringLiteral("Mine"));
+    const QPointer<QToolBar> mine = toolBarTitled(host.manager, "Mine");
     ShownEditor editor(&host.manager);
-    removeToolBar(editor, QStringLiteral("Mine"));
+    removeToolBar(editor, "Mine");
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"File"});
     QCOMPARE(EditorFields::of(editor.widget).removedRecords.size(), 2);
     editor.widget.applyClicked();
     QVERIFY(!mine);
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"File: open | save"});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsSelectsTheRowThatTakesThePlace_data()
@@ -803,17 +607,15 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsSelectsTheRowThatTakesThePlace()
     QFETCH(QString, custom);
     QFETCH(QString, current);
     Host host;
-    host.defaultToolBar(QStringLiteral("file"), {QStringLiteral("open")}, QStringLiteral("Files"));
-    host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom")}, QStringLiteral("View"));
-    customToolBar(host, custom, {QStringLiteral("zoom"), QStringLiteral("open")});
+    host.defaultToolBar("file", {"open"}, "Files");
+    host.defaultToolBar("view", {"zoom"}, "View");
+    customToolBar(host, custom, {"zoom", "open"});
     ShownEditor editor(&host.manager);
     editor.selectToolBar(custom);
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({QStringLiteral("File"), QStringLiteral("View")}));
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({"File", "View"}));
     QCOMPARE(currentOf(editor.views.toolBarList), current);
-    const QString content =
-        current == QLatin1String("File") ? QStringLiteral("Open") : QStringLiteral("Zoom");
+    const QString content = current == "File" ? "Open" : "Zoom";
     QCOMPARE(rowsOf(editor.views.currentToolBarList), QStringList{content});
     QCOMPARE(editor.inconsistency(), QString());
 }
@@ -821,9 +623,9 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsSelectsTheRowThatTakesThePlace()
 void tst_RyCToolBarWidget_Apply::restoreDefaultsWithCustomToolBarsOnlyLeavesNone()
 {
     Host host;
-    host.registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-    customToolBar(host, QStringLiteral("Mine"), {QStringLiteral("cut")});
-    customToolBar(host, QStringLiteral("Yours"), {QStringLiteral("cut")});
+    host.registered("cut", "Edits");
+    customToolBar(host, "Mine", {"cut"});
+    customToolBar(host, "Yours", {"cut"});
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
     QCOMPARE(rowsOf(editor.views.toolBarList), QStringList());
@@ -835,87 +637,57 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsWithCustomToolBarsOnlyLeavesNone
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsKeepsTheNames()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    QToolBar *const file = toolBarTitled(host.manager, QStringLiteral("File"));
-    file->setWindowTitle(QStringLiteral("Changed by the host"));
+    FilledEditor editor;
+    QToolBar *const file = toolBarTitled(editor.host.manager, "File");
+    file->setWindowTitle("Changed by the host");
     editor.widget.defaultClicked();
-    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{QStringLiteral("File")});
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList{"File"});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     editor.widget.applyClicked();
-    QCOMPARE(file->windowTitle(), QStringLiteral("File"));
+    QCOMPARE(file->windowTitle(), "File");
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsDoesNotBringUnregisteredActionsBack()
 {
     FilledHost host;
-    host.manager.removeAction(host.action(QStringLiteral("open")));
+    host.manager.removeAction(host.action("open"));
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: | save"});
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), QStringList{QStringLiteral("File: | save")});
-}
-
-void tst_RyCToolBarWidget_Apply::restoreDefaultsThenHidingChangesNothing()
-{
-    FilledHost host;
-    host.manager.setToolBar(toolBarTitled(host.manager, QStringLiteral("File")), {});
-    const QStringList before = toolBarsOf(host.manager);
-    ShownEditor editor(&host.manager);
-    editor.widget.defaultClicked();
-    editor.widget.hide();
-    QCOMPARE(toolBarsOf(host.manager), before);
-    editor.widget.show();
-    QCOMPARE(editor.workingCopy(), before);
-    editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), before);
+    QCOMPARE(toolBarsOf(host.manager), QStringList{"File: | save"});
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsThenApplyEqualsTheDefaults()
 {
     FilledHost host;
-    host.defaultToolBar(QStringLiteral("view"), {QStringLiteral("zoom"), QStringLiteral("|")},
-                        QStringLiteral("View"));
+    host.defaultToolBar("view", {"zoom", "|"}, "View");
     const auto toolBars = host.manager.toolBars();
     for (QToolBar *toolBar : toolBars)
-        host.manager.setToolBar(toolBar, host.list({QStringLiteral("paste")}));
+        host.manager.setToolBar(toolBar, host.list({"paste"}));
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
     editor.widget.applyClicked();
     QCOMPARE(host.manager.toolBarsActions(), host.manager.defaultToolBars());
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("View: zoom |")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: open | save", "View: zoom |"}));
     QCOMPARE(editor.workingCopy(), toolBarsOf(host.manager));
-}
-
-void tst_RyCToolBarWidget_Apply::restoreDefaultsTwiceIsAsOnce()
-{
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    editor.selectToolBar(QStringLiteral("Mine"));
-    editor.widget.defaultClicked();
-    editor.widget.defaultClicked();
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
-    QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileTheNameIsEdited()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
+    FilledEditor editor;
     editor.views.click(editor.views.newButton);
-    QTest::keyClicks(editor.views.renameEditor(), QStringLiteral("Yours"));
+    QTest::keyClicks(editor.views.renameEditor(), "Yours");
     editor.widget.defaultClicked();
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileHiddenHasNoEffect()
 {
     FilledHost host;
-    host.manager.setToolBar(toolBarTitled(host.manager, QStringLiteral("File")), {});
+    host.manager.setToolBar(toolBarTitled(host.manager, "File"), {});
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
     editor.widget.hide();
@@ -939,21 +711,20 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsAfterToolBarsWereDeleted()
 {
     FilledHost host;
     for (int i = 0; i < 8; ++i)
-        customToolBar(host, QStringLiteral("Toolbar %1").arg(i), {});
+        customToolBar(host, QString("Toolbar %1").arg(i), {});
     ShownEditor editor(&host.manager);
     const auto titles = rowsOf(editor.views.toolBarList);
     for (const QString &title : titles) {
-        if (title != QLatin1String("File"))
+        if (title != "File")
             removeToolBar(editor, title);
     }
     editor.widget.applyClicked();
     for (int i = 0; i < 8; ++i) {
-        host.defaultToolBar(QStringLiteral("late%1").arg(i), {QStringLiteral("zoom")},
-                            QStringLiteral("View"));
+        host.defaultToolBar(QString("late%1").arg(i), {"zoom"}, "View");
         editor.views.click(editor.views.newButton);
     }
     editor.widget.defaultClicked();
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
     editor.widget.applyClicked();
     QCOMPARE(host.manager.toolBarsActions(), host.manager.defaultToolBars());
@@ -962,17 +733,14 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsAfterToolBarsWereDeleted()
 
 void tst_RyCToolBarWidget_Apply::aDefaultToolBarRegisteredAfterTheFillIsLeftAlone()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    QToolBar *const late =
-        host.defaultToolBar(QStringLiteral("late"), {QStringLiteral("zoom")}, QString());
-    host.manager.setToolBar(late, host.list({QStringLiteral("cut")}));
+    FilledEditor editor;
+    QToolBar *const late = editor.host.defaultToolBar("late", {"zoom"}, QString());
+    editor.host.manager.setToolBar(late, editor.host.list({"cut"}));
     editor.widget.defaultClicked();
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Late: cut")}));
+    QCOMPARE(toolBarsOf(editor.host.manager), QStringList({"File: open | save", "Late: cut"}));
 }
 
 QTEST_MAIN(tst_RyCToolBarWidget_Apply)

@@ -22,30 +22,29 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         Q_UNUSED(watched);
-        const QString kind =
-            event->spontaneous() ? QStringLiteral("spontaneous ") : QStringLiteral("own ");
+        const QString kind = event->spontaneous() ? "spontaneous " : "own ";
         if (event->type() == QEvent::Show)
-            events << kind + QLatin1String("show");
+            events << kind + "show";
         else if (event->type() == QEvent::Hide)
-            events << kind + QLatin1String("hide");
+            events << kind + "hide";
         return false;
     }
 
     QStringList events;
 };
 
-class FilledHost : public Host
+class SmallHost : public Host
 {
 public:
-    FilledHost()
+    SmallHost()
     {
-        defaultToolBar(QStringLiteral("file"),
-                       {QStringLiteral("open"), QStringLiteral("|"), QStringLiteral("save")},
-                       QStringLiteral("Files"));
-        registered(QStringLiteral("cut"), QStringLiteral("Edits"));
-        customToolBar(*this, QStringLiteral("Mine"), {QStringLiteral("cut")});
+        defaultToolBar("file", {"open", "|", "save"}, "Files");
+        registered("cut", "Edits");
+        customToolBar(*this, "Mine", {"cut"});
     }
 };
+
+using Editor = HostedEditor<SmallHost>;
 
 // Through the window, so that the focus goes where a click takes it.
 void clickInWindow(QWidget *widget, const QPoint &position)
@@ -66,11 +65,6 @@ void typeInWindow(const QWidget *widget, const QString &text)
         QTest::keyClick(widget->window()->windowHandle(), letter.toLatin1());
 }
 
-QLineEdit *nameEditor(const ShownEditor &editor)
-{
-    return qobject_cast<QLineEdit *>(editor.views.renameEditor());
-}
-
 } // namespace
 
 class tst_RyCToolBarWidget_Window : public TestCase
@@ -79,7 +73,6 @@ class tst_RyCToolBarWidget_Window : public TestCase
 
 private Q_SLOTS:
     void theNameOfANewToolBarIsTypedAtOnce();
-    void escapeEndsTheRenaming();
     void aClickElsewhereEndsTheRenaming_data();
     void aClickElsewhereEndsTheRenaming();
     void theButtonsTakeNoFocusFromTheName();
@@ -104,44 +97,29 @@ void tst_RyCToolBarWidget_Window::activate(ShownEditor &editor)
 // Into the open editor of a toolbar that has another name.
 void tst_RyCToolBarWidget_Window::typeNewName(ShownEditor &editor)
 {
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     clickInWindow(editor.views.renameButton);
-    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
-    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    QTRY_VERIFY(editor.nameEditor() && editor.nameEditor()->hasFocus());
+    typeInWindow(&editor.widget, "yours");
+    QTRY_COMPARE(editor.nameEditor()->text(), "yours");
 }
 
 void tst_RyCToolBarWidget_Window::theNameOfANewToolBarIsTypedAtOnce()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
+    Editor editor;
     activate(editor);
     clickInWindow(editor.views.newButton);
-    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    QCOMPARE(nameEditor(editor)->selectedText(), QStringLiteral("Custom Toolbar"));
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
-    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    QTRY_VERIFY(editor.nameEditor() && editor.nameEditor()->hasFocus());
+    QCOMPARE(editor.nameEditor()->selectedText(), "Custom Toolbar");
+    typeInWindow(&editor.widget, "yours");
+    QTRY_COMPARE(editor.nameEditor()->text(), "yours");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Return);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("yours"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "yours");
     QVERIFY(editor.views.toolBarList->hasFocus());
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Mine: cut"),
-                          QStringLiteral("yours:")}));
-}
-
-void tst_RyCToolBarWidget_Window::escapeEndsTheRenaming()
-{
-    FilledHost host;
-    ShownEditor editor(&host.manager);
-    activate(editor);
-    typeNewName(editor);
-    QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Escape);
-    QTRY_VERIFY(!editor.views.renameEditor());
-    QVERIFY(editor.widget.isVisible());
-    QCOMPARE(editor.workingCopy(),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("Mine: cut")}));
+    QCOMPARE(toolBarsOf(editor.host.manager),
+             QStringList({"File: open | save", "Mine: cut", "yours:"}));
 }
 
 void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming_data()
@@ -155,8 +133,7 @@ void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming_data()
 void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming()
 {
     QFETCH(QString, view);
-    FilledHost host;
-    ShownEditor editor(&host.manager);
+    Editor editor;
     activate(editor);
     typeNewName(editor);
     QAbstractItemView *const target = editor.widget.findChild<QAbstractItemView *>(view);
@@ -164,26 +141,24 @@ void tst_RyCToolBarWidget_Window::aClickElsewhereEndsTheRenaming()
     clickInWindow(target->viewport(), target->viewport()->rect().bottomLeft() + QPoint(5, -5));
     QTRY_VERIFY(!editor.views.renameEditor());
     QVERIFY(target->hasFocus());
-    QCOMPARE(editor.workingCopy(),
-             QStringList({QStringLiteral("File: open | save"), QStringLiteral("yours: cut")}));
+    QCOMPARE(editor.workingCopy(), QStringList({"File: open | save", "yours: cut"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 // So that what they do comes while the name is still open.
 void tst_RyCToolBarWidget_Window::theButtonsTakeNoFocusFromTheName()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
+    Editor editor;
     activate(editor);
     typeNewName(editor);
     clickInWindow(editor.views.renameButton);
     clickInWindow(editor.views.rightButton);
     QTRY_COMPARE(editor.views.currentToolBarList->count(), 2);
-    QVERIFY(nameEditor(editor)->hasFocus());
-    QCOMPARE(nameEditor(editor)->text(), QStringLiteral("yours"));
+    QVERIFY(editor.nameEditor()->hasFocus());
+    QCOMPARE(editor.nameEditor()->text(), "yours");
     clickInWindow(editor.views.removeButton);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(editor.workingCopy(), QStringList{QStringLiteral("File: open | save")});
+    QCOMPARE(editor.workingCopy(), QStringList{"File: open | save"});
     QCOMPARE(editor.inconsistency(), QString());
 }
 
@@ -193,73 +168,68 @@ void tst_RyCToolBarWidget_Window::newTwiceTypesTheSecondName()
     ShownEditor editor(&host.manager);
     activate(editor);
     clickInWindow(editor.views.newButton);
-    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("one"));
-    QTRY_COMPARE(nameEditor(editor)->text(), QStringLiteral("one"));
+    QTRY_VERIFY(editor.nameEditor() && editor.nameEditor()->hasFocus());
+    typeInWindow(&editor.widget, "one");
+    QTRY_COMPARE(editor.nameEditor()->text(), "one");
     clickInWindow(editor.views.newButton);
     QTRY_COMPARE(editor.views.toolBarList->viewport()->findChildren<QLineEdit *>().size(), 1);
-    QTRY_VERIFY(nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("two"));
+    QTRY_VERIFY(editor.nameEditor()->hasFocus());
+    typeInWindow(&editor.widget, "two");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Return);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(rowsOf(editor.views.toolBarList),
-             QStringList({QStringLiteral("one"), QStringLiteral("two")}));
-    QCOMPARE(editor.workingCopy(), QStringList({QStringLiteral("one:"), QStringLiteral("two:")}));
+    QCOMPARE(rowsOf(editor.views.toolBarList), QStringList({"one", "two"}));
+    QCOMPARE(editor.workingCopy(), QStringList({"one:", "two:"}));
     QCOMPARE(editor.inconsistency(), QString());
 }
 
 void tst_RyCToolBarWidget_Window::f2RenamesCustomToolBarsOnly()
 {
-    FilledHost host;
-    ShownEditor editor(&host.manager);
+    Editor editor;
     activate(editor);
     editor.views.toolBarList->setFocus();
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_F2);
     QVERIFY(!editor.views.renameEditor());
-    editor.selectToolBar(QStringLiteral("Mine"));
+    editor.selectToolBar("Mine");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_F2);
-    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    QTRY_VERIFY(editor.nameEditor() && editor.nameEditor()->hasFocus());
+    typeInWindow(&editor.widget, "yours");
     QTest::keyClick(editor.widget.windowHandle(), Qt::Key_Return);
     QTRY_VERIFY(!editor.views.renameEditor());
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("yours"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "yours");
 }
 
 void tst_RyCToolBarWidget_Window::minimizingKeepsTheEdits()
 {
-    FilledHost host;
-    const QStringList before = toolBarsOf(host.manager);
-    ShownEditor editor(&host.manager);
+    Editor editor;
+    const QStringList before = toolBarsOf(editor.host.manager);
     activate(editor);
-    editor.selectToolBar(QStringLiteral("File"));
+    editor.selectToolBar("File");
     editor.call("leftClicked");
     editor.call("newClicked");
-    editor.views.typeName(QStringLiteral("Yours"));
+    editor.views.typeName("Yours");
     const QStringList edited = editor.workingCopy();
     QVERIFY(edited != before);
 
     VisibilityRecorder recorder(&editor.widget);
     editor.widget.showMinimized();
-    QTRY_COMPARE(recorder.events, QStringList{QStringLiteral("spontaneous hide")});
+    QTRY_COMPARE(recorder.events, QStringList{"spontaneous hide"});
     QCOMPARE(editor.workingCopy(), edited);
     editor.widget.showNormal();
-    QTRY_COMPARE(
-        recorder.events,
-        QStringList({QStringLiteral("spontaneous hide"), QStringLiteral("spontaneous show")}));
+    QTRY_COMPARE(recorder.events, QStringList({"spontaneous hide", "spontaneous show"}));
     QVERIFY(QTest::qWaitForWindowExposed(&editor.widget));
     QCOMPARE(editor.workingCopy(), edited);
-    QCOMPARE(currentOf(editor.views.toolBarList), QStringLiteral("Yours"));
+    QCOMPARE(currentOf(editor.views.toolBarList), "Yours");
     QCOMPARE(editor.inconsistency(), QString());
-    QCOMPARE(toolBarsOf(host.manager), before);
+    QCOMPARE(toolBarsOf(editor.host.manager), before);
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), edited);
+    QCOMPARE(toolBarsOf(editor.host.manager), edited);
 }
 
 // As the dialog around the page.
 void tst_RyCToolBarWidget_Window::minimizingAWindowAroundKeepsTheEdits()
 {
-    FilledHost host;
+    SmallHost host;
     QWidget window;
     RyCToolBarWidget *const widget =
         new RyCToolBarWidget(&window, &host.manager, Qt::WindowFlags());
@@ -267,39 +237,35 @@ void tst_RyCToolBarWidget_Window::minimizingAWindowAroundKeepsTheEdits()
     window.resize(widget->size());
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    views.click(views.toolBarList, QStringLiteral("File"));
+    views.click(views.toolBarList, "File");
     views.click(views.leftButton);
     const QStringList content = rowsOf(views.currentToolBarList);
     QCOMPARE(content.size(), 2);
 
     VisibilityRecorder recorder(widget);
     window.showMinimized();
-    QTRY_COMPARE(recorder.events, QStringList{QStringLiteral("spontaneous hide")});
+    QTRY_COMPARE(recorder.events, QStringList{"spontaneous hide"});
     window.showNormal();
-    QTRY_COMPARE(
-        recorder.events,
-        QStringList({QStringLiteral("spontaneous hide"), QStringLiteral("spontaneous show")}));
+    QTRY_COMPARE(recorder.events, QStringList({"spontaneous hide", "spontaneous show"}));
     QCOMPARE(rowsOf(views.currentToolBarList), content);
     widget->applyClicked();
-    QCOMPARE(toolBarsOf(host.manager),
-             QStringList({QStringLiteral("File: | save"), QStringLiteral("Mine: cut")}));
+    QCOMPARE(toolBarsOf(host.manager), QStringList({"File: | save", "Mine: cut"}));
 }
 
 void tst_RyCToolBarWidget_Window::closingTheWindowDiscardsTheEdits()
 {
-    FilledHost host;
-    const QStringList before = toolBarsOf(host.manager);
-    ShownEditor editor(&host.manager);
+    Editor editor;
+    const QStringList before = toolBarsOf(editor.host.manager);
     activate(editor);
     clickInWindow(editor.views.newButton);
-    QTRY_VERIFY(nameEditor(editor) && nameEditor(editor)->hasFocus());
-    typeInWindow(&editor.widget, QStringLiteral("yours"));
+    QTRY_VERIFY(editor.nameEditor() && editor.nameEditor()->hasFocus());
+    typeInWindow(&editor.widget, "yours");
     editor.widget.close();
     QVERIFY(EditorFields::of(editor.widget).ownedRecords.isEmpty());
     editor.widget.show();
     QCOMPARE(editor.workingCopy(), before);
     editor.widget.applyClicked();
-    QCOMPARE(toolBarsOf(host.manager), before);
+    QCOMPARE(toolBarsOf(editor.host.manager), before);
 }
 
 QTEST_MAIN(tst_RyCToolBarWidget_Window)

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-#include "fieldoffset.h"
 #include "rytreeitemmimedata.h"
 #include "rytreewidget.h"
 #include "testcase.h"
 #include "texts.h"
-#include "virtualslots.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -29,19 +27,6 @@ Q_DECLARE_METATYPE(Qt::MouseButton)
 
 namespace {
 
-QList<qptrdiff> fieldOffsetsOf(const RyTreeWidget &tree);
-
-// The arguments of an explicit instantiation may name private members.
-template <auto... Fields> struct FieldOffsets
-{
-    friend QList<qptrdiff> fieldOffsetsOf(const RyTreeWidget &tree)
-    {
-        return {fieldOffset(tree, Fields)...};
-    }
-};
-
-template struct FieldOffsets<&RyTreeWidget::startPos, &RyTreeWidget::ctrlPressed>;
-
 // Takes the keys that reach a tree's parent.
 class KeyTaker : public QWidget
 {
@@ -49,15 +34,8 @@ public:
     QStringList keys;
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override
-    {
-        keys << QStringLiteral("press %1").arg(event->key());
-    }
-
-    void keyReleaseEvent(QKeyEvent *event) override
-    {
-        keys << QStringLiteral("release %1").arg(event->key());
-    }
+    void keyPressEvent(QKeyEvent *) override { keys << "press"; }
+    void keyReleaseEvent(QKeyEvent *) override { keys << "release"; }
 };
 
 // Opens what Qt calls on a tree that a drag is over.
@@ -67,27 +45,18 @@ public:
     using RyTreeWidget::dragEnterEvent;
     using RyTreeWidget::dragMoveEvent;
     using RyTreeWidget::dropEvent;
-    using RyTreeWidget::mimeTypes;
-    using RyTreeWidget::supportedDropActions;
-};
-
-class OpenPlainTree : public QTreeWidget
-{
-public:
-    using QTreeWidget::mimeTypes;
-    using QTreeWidget::supportedDropActions;
 };
 
 void fill(QTreeWidget &tree)
 {
     tree.setHeaderHidden(true);
-    QTreeWidgetItem *const a = new QTreeWidgetItem(&tree, {QStringLiteral("a")});
-    new QTreeWidgetItem(a, {QStringLiteral("a1")});
-    new QTreeWidgetItem(a, {QStringLiteral("a2")});
-    QTreeWidgetItem *const b = new QTreeWidgetItem(&tree, {QStringLiteral("b")});
-    new QTreeWidgetItem(b, {QStringLiteral("b1")});
-    new QTreeWidgetItem(&tree, {QStringLiteral("c")});
-    new QTreeWidgetItem(&tree, {QStringLiteral("d")});
+    QTreeWidgetItem *const a = new QTreeWidgetItem(&tree, {"a"});
+    new QTreeWidgetItem(a, {"a1"});
+    new QTreeWidgetItem(a, {"a2"});
+    QTreeWidgetItem *const b = new QTreeWidgetItem(&tree, {"b"});
+    new QTreeWidgetItem(b, {"b1"});
+    new QTreeWidgetItem(&tree, {"c"});
+    new QTreeWidgetItem(&tree, {"d"});
     a->setExpanded(true);
     tree.resize(200, 300);
 }
@@ -95,7 +64,7 @@ void fill(QTreeWidget &tree)
 // The lines of a text such as "a,  a1,b", as itemsOf() gives them.
 QStringList lines(const char *text)
 {
-    return QString::fromLatin1(text).split(QLatin1Char(','));
+    return QString(text).split(',');
 }
 
 QStringList filledContent()
@@ -174,10 +143,10 @@ void releaseControl(QWidget &widget)
 
 QString describe(const QDrag *drag)
 {
-    const QString action = drag->supportedActions() == Qt::CopyAction ? QStringLiteral("copy")
-        : drag->supportedActions() == Qt::MoveAction                  ? QStringLiteral("move")
-                                                                      : QStringLiteral("several");
-    return action + QLatin1Char(' ') + drag->mimeData()->formats().join(QLatin1Char(' '));
+    const QString action = drag->supportedActions() == Qt::CopyAction ? "copy"
+        : drag->supportedActions() == Qt::MoveAction                  ? "move"
+                                                                      : "several";
+    return action + " " + drag->mimeData()->formats().join(' ');
 }
 
 // The drags that a tree has started, each with the offered action and the formats.
@@ -192,12 +161,12 @@ QStringList dragsOf(const QTreeWidget &tree)
 
 QStringList oneMove()
 {
-    return {QStringLiteral("move ItemMimeData")};
+    return {"move ItemMimeData"};
 }
 
 QStringList oneCopy()
 {
-    return {QStringLiteral("copy ItemMimeData")};
+    return {"copy ItemMimeData"};
 }
 
 QPoint farFrom(const QPoint &position)
@@ -215,11 +184,11 @@ QStringList stateOf(const QTreeWidget &tree)
             expanded << item->text(0);
     }
     const bool editing = tree.viewport()->findChild<QLineEdit *>();
-    return itemsOf(&tree) << QStringLiteral("current ") + currentOf(&tree)
-                          << QStringLiteral("selected ") + selectedIn(tree).join(QLatin1Char(' '))
-                          << QStringLiteral("expanded ") + expanded.join(QLatin1Char(' '))
-                          << QStringLiteral("check state %1").arg(tree.currentItem()->checkState(0))
-                          << (editing ? QStringLiteral("editing") : QStringLiteral("not editing"));
+    return itemsOf(&tree) << "current " + currentOf(&tree)
+                          << "selected " + selectedIn(tree).join(' ')
+                          << "expanded " + expanded.join(' ')
+                          << QString("check state %1").arg(tree.currentItem()->checkState(0))
+                          << (editing ? "editing" : "not editing");
 }
 
 } // namespace
@@ -232,25 +201,14 @@ private Q_SLOTS:
     void initTestCase();
     void isConstructedEmptyAndReadyForDrags();
     void belongsToItsParent();
-    void parentMayBeLeftOut();
     void selectedItemsArePaintedOnDarkRed();
-    void isKnownToTheMetaObjectSystem();
-    void declaresNothingInItsMetaObject();
-    void theFieldsStandInTheirOrder();
-    void thereAreNoNewVirtualFunctions();
-    void offersToQtWhatAPlainTreeOffers();
 
     void keysDoNothing_data();
     void keysDoNothing();
-    void keysAreNotPassedToTheParent_data();
-    void keysAreNotPassedToTheParent();
-    void theControlKeyDoesNothingElse();
 
     void controlKeyChoosesTheOfferedAction_data();
     void controlKeyChoosesTheOfferedAction();
     void controlReleasedInAnotherWidgetIsMissed();
-    void controlPressedInAnotherWidgetIsNotSeen();
-    void losingTheFocusKeepsControl();
     void theControlModifierOfTheMouseEventIsNotLookedAt();
     void eachTreeHasItsOwnControlFlag();
 
@@ -265,8 +223,6 @@ private Q_SLOTS:
 
     void dragStartsBeyondTheStartDistance_data();
     void dragStartsBeyondTheStartDistance();
-    void dragStartsBeyondAnotherStartDistance_data();
-    void dragStartsBeyondAnotherStartDistance();
     void onlyTheLeftButtonDrags_data();
     void onlyTheLeftButtonDrags();
     void theDistanceIsMeasuredFromTheOriginBeforeAnyPress_data();
@@ -274,23 +230,14 @@ private Q_SLOTS:
     void aNewLeftPressMovesTheStart();
     void otherButtonsDoNotMoveTheStart_data();
     void otherButtonsDoNotMoveTheStart();
-    void theStartOutlivesTheRelease();
     void theStartOutlivesTheDrag();
 
-    void noCurrentItemNoDrag();
     void performDragWithoutACurrentItemDoesNothing();
-    void performDragDragsTheCurrentItem_data();
-    void performDragDragsTheCurrentItem();
+    void aRefusedDragOfTheCurrentItemDeletesItUnlessItIsACopy_data();
+    void aRefusedDragOfTheCurrentItemDeletesItUnlessItIsACopy();
     void theDragObjectIsBareAndTheTrees();
     void theDragObjectIsNotDeletedByTheTree();
-    void refusedMoveDeletesTheItemWithItsChildren_data();
-    void refusedMoveDeletesTheItemWithItsChildren();
-    void refusedCopyKeepsTheItem_data();
-    void refusedCopyKeepsTheItem();
-    void onlyTheCurrentItemIsDragged_data();
-    void onlyTheCurrentItemIsDragged();
-    void theCurrentItemNeedNotBeSelected();
-    void aSecondDragTakesTheNextCurrentItem();
+    void onlyTheCurrentItemIsDraggedWhateverIsSelected();
 
     void dragsWithoutASourceTreeAreLeftAlone_data();
     void dragsWithoutASourceTreeAreLeftAlone();
@@ -315,13 +262,14 @@ void tst_RyTreeWidget::finish()
 
 void tst_RyTreeWidget::isConstructedEmptyAndReadyForDrags()
 {
-    const RyTreeWidget tree(nullptr);
+    const RyTreeWidget tree;
+    QCOMPARE(tree.parentWidget(), nullptr);
     QCOMPARE(tree.topLevelItemCount(), 0);
     QCOMPARE(tree.selectionMode(), QAbstractItemView::ExtendedSelection);
     QVERIFY(tree.acceptDrops());
     QVERIFY(tree.dragEnabled());
-    QCOMPARE(tree.styleSheet(),
-             QStringLiteral("QTreeWidget::item:selected{ background-color: rgb(150, 0, 0)}"));
+    QCOMPARE(tree.dragDropMode(), QAbstractItemView::DragDrop);
+    QCOMPARE(tree.styleSheet(), "QTreeWidget::item:selected{ background-color: rgb(150, 0, 0)}");
 }
 
 void tst_RyTreeWidget::belongsToItsParent()
@@ -333,20 +281,14 @@ void tst_RyTreeWidget::belongsToItsParent()
     QVERIFY(!tree);
 }
 
-void tst_RyTreeWidget::parentMayBeLeftOut()
-{
-    const RyTreeWidget tree;
-    QCOMPARE(tree.parentWidget(), nullptr);
-}
-
 void tst_RyTreeWidget::selectedItemsArePaintedOnDarkRed()
 {
     RyTreeWidget tree;
     fill(tree);
     tree.show();
-    makeCurrent(tree, QStringLiteral("c"));
-    const QRect selected = tree.visualItemRect(itemNamed(&tree, QStringLiteral("c")));
-    const QRect other = tree.visualItemRect(itemNamed(&tree, QStringLiteral("d")));
+    makeCurrent(tree, "c");
+    const QRect selected = tree.visualItemRect(itemNamed(&tree, "c"));
+    const QRect other = tree.visualItemRect(itemNamed(&tree, "d"));
     const QImage picture = tree.viewport()->grab().toImage();
     const QPoint inset(-10, -3);
     QCOMPARE(QColor(picture.pixel(selected.bottomRight() + inset)), QColor(150, 0, 0));
@@ -354,156 +296,69 @@ void tst_RyTreeWidget::selectedItemsArePaintedOnDarkRed()
              tree.palette().color(QPalette::Base));
 }
 
-void tst_RyTreeWidget::isKnownToTheMetaObjectSystem()
-{
-    RyTreeWidget tree;
-    QObject *const seen = &tree;
-    QCOMPARE(qobject_cast<RyTreeWidget *>(seen), &tree);
-    QCOMPARE(tree.metaObject()->className(), "RyTreeWidget");
-    QCOMPARE(tree.metaObject()->superClass(), &QTreeWidget::staticMetaObject);
-    QTreeWidget plain;
-    QCOMPARE(qobject_cast<RyTreeWidget *>(&plain), nullptr);
-}
-
-void tst_RyTreeWidget::declaresNothingInItsMetaObject()
-{
-    const QMetaObject &meta = RyTreeWidget::staticMetaObject;
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 0);
-    QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 0);
-}
-
-void tst_RyTreeWidget::theFieldsStandInTheirOrder()
-{
-    const RyTreeWidget tree;
-    const QList<qptrdiff> expected{sizeof(QTreeWidget), sizeof(QTreeWidget) + sizeof(QPoint)};
-    QCOMPARE(fieldOffsetsOf(tree), expected);
-}
-
-void tst_RyTreeWidget::thereAreNoNewVirtualFunctions()
-{
-    QCOMPARE(virtualSlotCount<RyTreeWidget>(), virtualSlotCount<QTreeWidget>());
-    QCOMPARE(virtualSlot(&RyTreeWidget::performDrag), -1);
-}
-
-void tst_RyTreeWidget::offersToQtWhatAPlainTreeOffers()
-{
-    const OpenTree tree;
-    const OpenPlainTree plain;
-    QCOMPARE(tree.mimeTypes(), plain.mimeTypes());
-    QCOMPARE(tree.supportedDropActions(), plain.supportedDropActions());
-    QCOMPARE(tree.dragDropMode(), QAbstractItemView::DragDrop);
-}
-
-namespace {
-
-void addKeyRows()
+void tst_RyTreeWidget::keysDoNothing_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("text");
-    const auto add = [](const char *name, int key, int modifiers, const char *text) {
-        QTest::newRow(name) << key << modifiers << QString::fromLatin1(text);
+    const auto row = [](const char *name, int key, const char *text, int modifiers = 0) {
+        QTest::newRow(name) << key << modifiers << text;
     };
-    const int none = Qt::NoModifier;
-    add("up", Qt::Key_Up, none, "");
-    add("down", Qt::Key_Down, none, "");
-    add("left", Qt::Key_Left, none, "");
-    add("right", Qt::Key_Right, none, "");
-    add("home", Qt::Key_Home, none, "");
-    add("end", Qt::Key_End, none, "");
-    add("page up", Qt::Key_PageUp, none, "");
-    add("page down", Qt::Key_PageDown, none, "");
-    add("letter that an item starts with", Qt::Key_D, none, "d");
-    add("letter that none starts with", Qt::Key_Z, none, "z");
-    add("digit", Qt::Key_1, none, "1");
-    add("space", Qt::Key_Space, none, " ");
-    add("return", Qt::Key_Return, none, "\r");
-    add("enter", Qt::Key_Enter, none, "\r");
-    add("escape", Qt::Key_Escape, none, "");
-    add("delete", Qt::Key_Delete, none, "");
-    add("backspace", Qt::Key_Backspace, none, "");
-    add("edit key", Qt::Key_F2, none, "");
-    add("plus", Qt::Key_Plus, none, "+");
-    add("minus", Qt::Key_Minus, none, "-");
-    add("asterisk", Qt::Key_Asterisk, none, "*");
-    add("shift", Qt::Key_Shift, Qt::ShiftModifier, "");
-    add("alt", Qt::Key_Alt, Qt::AltModifier, "");
-    add("down extending", Qt::Key_Down, Qt::ShiftModifier, "");
-    add("down without selecting", Qt::Key_Down, Qt::ControlModifier, "");
-    add("select all", Qt::Key_A, Qt::ControlModifier, "\001");
-    add("copy", Qt::Key_C, Qt::ControlModifier, "\003");
+    row("up", Qt::Key_Up, "");
+    row("down", Qt::Key_Down, "");
+    row("left", Qt::Key_Left, "");
+    row("right", Qt::Key_Right, "");
+    row("home", Qt::Key_Home, "");
+    row("page down", Qt::Key_PageDown, "");
+    row("letter that an item starts with", Qt::Key_D, "d");
+    row("letter that none starts with", Qt::Key_Z, "z");
+    row("space", Qt::Key_Space, " ");
+    row("return", Qt::Key_Return, "\r");
+    row("escape", Qt::Key_Escape, "");
+    row("delete", Qt::Key_Delete, "");
+    row("edit key", Qt::Key_F2, "");
+    row("asterisk", Qt::Key_Asterisk, "*");
+    row("shift", Qt::Key_Shift, "", Qt::ShiftModifier);
+    row("control", Qt::Key_Control, "", Qt::ControlModifier);
+    row("down extending", Qt::Key_Down, "", Qt::ShiftModifier);
+    row("select all", Qt::Key_A, "\001", Qt::ControlModifier);
+    row("copy", Qt::Key_C, "\003", Qt::ControlModifier);
 }
 
-} // namespace
-
-void tst_RyTreeWidget::keysDoNothing_data()
-{
-    addKeyRows();
-}
-
+// Neither in the tree nor in its parent.
 void tst_RyTreeWidget::keysDoNothing()
 {
     QFETCH(int, key);
     QFETCH(int, modifiers);
     QFETCH(QString, text);
-    RyTreeWidget tree;
+    KeyTaker parent;
+    RyTreeWidget &tree = *new RyTreeWidget(&parent);
     fill(tree);
-    QTreeWidgetItem *const current = itemNamed(&tree, QStringLiteral("b"));
+    QTreeWidgetItem *const current = itemNamed(&tree, "b");
     current->setFlags(current->flags() | Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
     current->setCheckState(0, Qt::Unchecked);
     tree.setEditTriggers(QAbstractItemView::AllEditTriggers);
-    tree.show();
+    parent.show();
     tree.setCurrentItem(current);
     const QStringList before = stateOf(tree);
     QSignalSpy activated(&tree, &QTreeWidget::itemActivated);
-    QApplication::clipboard()->setText(QStringLiteral("untouched"));
+    QApplication::clipboard()->setText("untouched");
 
-    QVERIFY(sendKey(tree, QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text));
-    QCOMPARE(stateOf(tree), before);
-    QVERIFY(sendKey(tree, QEvent::KeyRelease, key, Qt::KeyboardModifiers(modifiers), text));
-    QCOMPARE(stateOf(tree), before);
-    QCOMPARE(activated.count(), 0);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("untouched"));
-}
-
-void tst_RyTreeWidget::keysAreNotPassedToTheParent_data()
-{
-    addKeyRows();
-    QTest::newRow("control") << int(Qt::Key_Control) << int(Qt::ControlModifier) << QString();
-}
-
-void tst_RyTreeWidget::keysAreNotPassedToTheParent()
-{
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    QFETCH(QString, text);
-    KeyTaker parent;
-    RyTreeWidget *const tree = new RyTreeWidget(&parent);
-    fill(*tree);
-    QVERIFY(sendKey(*tree, QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text));
-    QVERIFY(sendKey(*tree, QEvent::KeyRelease, key, Qt::KeyboardModifiers(modifiers), text));
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QVERIFY(sendKey(tree, type, key, Qt::KeyboardModifiers(modifiers), text));
+        QCOMPARE(stateOf(tree), before);
+    }
     QCOMPARE(parent.keys, QStringList());
-}
-
-void tst_RyTreeWidget::theControlKeyDoesNothingElse()
-{
-    RyTreeWidget tree;
-    fill(tree);
-    makeCurrent(tree, QStringLiteral("b"));
-    const QStringList before = stateOf(tree);
-    pressControl(tree);
-    releaseControl(tree);
-    QCOMPARE(stateOf(tree), before);
     QCOMPARE(dragsOf(tree), QStringList());
+    QCOMPARE(activated.count(), 0);
+    QCOMPARE(QApplication::clipboard()->text(), "untouched");
 }
 
 void tst_RyTreeWidget::controlKeyChoosesTheOfferedAction_data()
 {
     QTest::addColumn<QStringList>("keys");
     QTest::addColumn<QStringList>("drags");
-    const auto keys = [](const char *text) {
-        return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    };
+    const auto keys = [](const char *text) { return QString(text).split(' ', Qt::SkipEmptyParts); };
     QTest::newRow("no key") << keys("") << oneMove();
     QTest::newRow("pressed") << keys("+Control") << oneCopy();
     QTest::newRow("pressed and released") << keys("+Control -Control") << oneMove();
@@ -521,24 +376,23 @@ void tst_RyTreeWidget::controlKeyChoosesTheOfferedAction()
 {
     QFETCH(QStringList, keys);
     QFETCH(QStringList, drags);
-    const QHash<QString, int> codes = {{QStringLiteral("Control"), Qt::Key_Control},
-                                       {QStringLiteral("Shift"), Qt::Key_Shift},
-                                       {QStringLiteral("Alt"), Qt::Key_Alt},
-                                       {QStringLiteral("Meta"), Qt::Key_Meta},
-                                       {QStringLiteral("A"), Qt::Key_A}};
+    const QHash<QString, int> codes = {{"Control", Qt::Key_Control},
+                                       {"Shift", Qt::Key_Shift},
+                                       {"Alt", Qt::Key_Alt},
+                                       {"Meta", Qt::Key_Meta},
+                                       {"A", Qt::Key_A}};
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     for (const QString &key : qAsConst(keys)) {
-        const bool down = key.startsWith(QLatin1Char('+'));
+        const bool down = key.startsWith('+');
         QVERIFY(codes.contains(key.mid(1)));
         sendKey(tree, down ? QEvent::KeyPress : QEvent::KeyRelease, codes.value(key.mid(1)),
                 Qt::ControlModifier);
     }
     tree.performDrag();
     QCOMPARE(dragsOf(tree), drags);
-    QCOMPARE(itemsOf(&tree),
-             drags == oneCopy() ? filledContent() : filledContentWithout(QStringLiteral("c")));
+    QCOMPARE(itemsOf(&tree), drags == oneCopy() ? filledContent() : filledContentWithout("c"));
 }
 
 void tst_RyTreeWidget::controlReleasedInAnotherWidgetIsMissed()
@@ -546,7 +400,7 @@ void tst_RyTreeWidget::controlReleasedInAnotherWidgetIsMissed()
     RyTreeWidget tree;
     QLineEdit other;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     pressControl(tree);
     releaseControl(other);
     tree.performDrag();
@@ -556,44 +410,15 @@ void tst_RyTreeWidget::controlReleasedInAnotherWidgetIsMissed()
     QCOMPARE(dragsOf(tree), oneCopy() + oneMove());
 }
 
-void tst_RyTreeWidget::controlPressedInAnotherWidgetIsNotSeen()
-{
-    RyTreeWidget tree;
-    QLineEdit other;
-    fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
-    pressControl(other);
-    tree.performDrag();
-    QCOMPARE(dragsOf(tree), oneMove());
-}
-
-void tst_RyTreeWidget::losingTheFocusKeepsControl()
-{
-    QWidget window;
-    RyTreeWidget *const tree = new RyTreeWidget(&window);
-    QLineEdit *const other = new QLineEdit(&window);
-    fill(*tree);
-    makeCurrent(*tree, QStringLiteral("c"));
-    window.show();
-    QApplication::setActiveWindow(&window);
-    tree->setFocus();
-    QCOMPARE(QApplication::focusWidget(), tree);
-    pressControl(*tree);
-    other->setFocus();
-    QCOMPARE(QApplication::focusWidget(), other);
-    tree->performDrag();
-    QCOMPARE(dragsOf(*tree), oneCopy());
-}
-
 void tst_RyTreeWidget::theControlModifierOfTheMouseEventIsNotLookedAt()
 {
     RyTreeWidget tree;
     fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    const QPoint start = centerOf(tree, "c");
     press(tree, start);
     move(tree, farFrom(start), Qt::LeftButton, Qt::ControlModifier);
     QCOMPARE(dragsOf(tree), oneMove());
-    QCOMPARE(itemsOf(&tree), filledContentWithout(QStringLiteral("c")));
+    QCOMPARE(itemsOf(&tree), filledContentWithout("c"));
 }
 
 void tst_RyTreeWidget::eachTreeHasItsOwnControlFlag()
@@ -601,7 +426,7 @@ void tst_RyTreeWidget::eachTreeHasItsOwnControlFlag()
     RyTreeWidget tree;
     RyTreeWidget other;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     pressControl(other);
     tree.performDrag();
     QCOMPARE(dragsOf(tree), oneMove());
@@ -620,9 +445,9 @@ void tst_RyTreeWidget::pressGoesToTheBaseClass()
     RyTreeWidget tree;
     fill(tree);
     QSignalSpy pressed(&tree, &QTreeWidget::itemPressed);
-    press(tree, centerOf(tree, QStringLiteral("c")), button);
-    QCOMPARE(currentOf(&tree), QStringLiteral("c"));
-    QCOMPARE(selectedIn(tree), QStringList{QStringLiteral("c")});
+    press(tree, centerOf(tree, "c"), button);
+    QCOMPARE(currentOf(&tree), "c");
+    QCOMPARE(selectedIn(tree), QStringList{"c"});
     QCOMPARE(pressed.count(), 1);
 }
 
@@ -631,7 +456,7 @@ void tst_RyTreeWidget::releaseGoesToTheBaseClass()
     RyTreeWidget tree;
     fill(tree);
     QSignalSpy clicked(&tree, &QTreeWidget::itemClicked);
-    const QPoint position = centerOf(tree, QStringLiteral("c"));
+    const QPoint position = centerOf(tree, "c");
     press(tree, position);
     QCOMPARE(clicked.count(), 0);
     release(tree, position);
@@ -646,8 +471,8 @@ void tst_RyTreeWidget::moveGoesToTheBaseClass()
     connect(&tree, &QTreeWidget::itemEntered,
             [&](QTreeWidgetItem *item) { entered << item->text(0); });
     tree.setMouseTracking(true);
-    move(tree, centerOf(tree, QStringLiteral("c")), Qt::NoButton);
-    QCOMPARE(entered, QStringList{QStringLiteral("c")});
+    move(tree, centerOf(tree, "c"), Qt::NoButton);
+    QCOMPARE(entered, QStringList{"c"});
 }
 
 void tst_RyTreeWidget::moveGoesToTheBaseClassAfterADrag_data()
@@ -667,8 +492,8 @@ void tst_RyTreeWidget::moveGoesToTheBaseClassAfterADrag()
     int dragsBefore = -1;
     connect(&tree, &QTreeWidget::itemEntered, [&] { dragsBefore = dragsOf(tree).count(); });
     tree.setMouseTracking(true);
-    press(tree, centerOf(tree, QStringLiteral("d")));
-    move(tree, centerOf(tree, QStringLiteral("a1")));
+    press(tree, centerOf(tree, "d"));
+    move(tree, centerOf(tree, "a1"));
     QCOMPARE(dragsBefore, 1);
 }
 
@@ -677,13 +502,12 @@ void tst_RyTreeWidget::theBaseClassDragsTheItemOnceMoreAfterACopy()
     RyTreeWidget tree;
     fill(tree);
     pressControl(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    const QPoint start = centerOf(tree, "c");
     press(tree, start);
     move(tree, start + QPoint(1, 0));
     QCOMPARE(dragsOf(tree), QStringList());
     move(tree, farFrom(start));
-    QCOMPARE(dragsOf(tree),
-             oneCopy() << QStringLiteral("several application/x-qabstractitemmodeldatalist"));
+    QCOMPARE(dragsOf(tree), oneCopy() << "several application/x-qabstractitemmodeldatalist");
     QCOMPARE(itemsOf(&tree), filledContent());
 }
 
@@ -691,7 +515,7 @@ void tst_RyTreeWidget::clickingABranchOpensIt()
 {
     RyTreeWidget tree;
     fill(tree);
-    QTreeWidgetItem *const branch = itemNamed(&tree, QStringLiteral("b"));
+    QTreeWidgetItem *const branch = itemNamed(&tree, "b");
     const QRect text = tree.visualItemRect(branch);
     const QPoint handle(text.left() - tree.indentation() / 2, text.center().y());
     QVERIFY(!branch->isExpanded());
@@ -700,58 +524,38 @@ void tst_RyTreeWidget::clickingABranchOpensIt()
     QVERIFY(branch->isExpanded());
 }
 
-namespace {
-
-void addDistanceRows(int distance)
+void tst_RyTreeWidget::dragStartsBeyondTheStartDistance_data()
 {
     QTest::addColumn<QPoint>("way");
     QTest::addColumn<bool>("drags");
-    const int half = distance / 2;
     QTest::newRow("no way") << QPoint(0, 0) << false;
-    QTest::newRow("right, exactly") << QPoint(distance, 0) << false;
-    QTest::newRow("right, one more") << QPoint(distance + 1, 0) << true;
-    QTest::newRow("left, exactly") << QPoint(-distance, 0) << false;
-    QTest::newRow("left, one more") << QPoint(-distance - 1, 0) << true;
-    QTest::newRow("down, exactly") << QPoint(0, distance) << false;
-    QTest::newRow("down, one more") << QPoint(0, distance + 1) << true;
-    QTest::newRow("up, exactly") << QPoint(0, -distance) << false;
-    QTest::newRow("up, one more") << QPoint(0, -distance - 1) << true;
-    QTest::newRow("across, exactly") << QPoint(half, distance - half) << false;
-    QTest::newRow("across, one more") << QPoint(half + 1, distance - half) << true;
-    QTest::newRow("across back, exactly") << QPoint(-half, half - distance) << false;
-    QTest::newRow("across back, one more") << QPoint(-half, half - distance - 1) << true;
-}
-
-} // namespace
-
-void tst_RyTreeWidget::dragStartsBeyondTheStartDistance_data()
-{
-    addDistanceRows(QApplication::startDragDistance());
+    QTest::newRow("right, exactly") << QPoint(25, 0) << false;
+    QTest::newRow("right, one more") << QPoint(26, 0) << true;
+    QTest::newRow("left, exactly") << QPoint(-25, 0) << false;
+    QTest::newRow("left, one more") << QPoint(-26, 0) << true;
+    QTest::newRow("down, exactly") << QPoint(0, 25) << false;
+    QTest::newRow("down, one more") << QPoint(0, 26) << true;
+    QTest::newRow("up, exactly") << QPoint(0, -25) << false;
+    QTest::newRow("up, one more") << QPoint(0, -26) << true;
+    QTest::newRow("across, exactly") << QPoint(12, 13) << false;
+    QTest::newRow("across, one more") << QPoint(13, 13) << true;
+    QTest::newRow("across back, exactly") << QPoint(-12, -13) << false;
+    QTest::newRow("across back, one more") << QPoint(-12, -14) << true;
 }
 
 void tst_RyTreeWidget::dragStartsBeyondTheStartDistance()
 {
     QFETCH(QPoint, way);
     QFETCH(bool, drags);
+    QApplication::setStartDragDistance(25);
     RyTreeWidget tree;
     fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("c"));
+    const QPoint start = centerOf(tree, "c");
     press(tree, start);
     QCOMPARE(dragsOf(tree), QStringList());
     move(tree, start + way);
     QCOMPARE(dragsOf(tree), drags ? oneMove() : QStringList());
-    QCOMPARE(itemsOf(&tree), drags ? filledContentWithout(QStringLiteral("c")) : filledContent());
-}
-
-void tst_RyTreeWidget::dragStartsBeyondAnotherStartDistance_data()
-{
-    addDistanceRows(25);
-}
-
-void tst_RyTreeWidget::dragStartsBeyondAnotherStartDistance()
-{
-    QApplication::setStartDragDistance(25);
-    dragStartsBeyondTheStartDistance();
+    QCOMPARE(itemsOf(&tree), drags ? filledContentWithout("c") : filledContent());
 }
 
 void tst_RyTreeWidget::onlyTheLeftButtonDrags_data()
@@ -761,11 +565,8 @@ void tst_RyTreeWidget::onlyTheLeftButtonDrags_data()
     QTest::newRow("none") << int(Qt::NoButton) << QStringList();
     QTest::newRow("right") << int(Qt::RightButton) << QStringList();
     QTest::newRow("middle") << int(Qt::MiddleButton) << QStringList();
-    QTest::newRow("right and middle") << int(Qt::RightButton | Qt::MiddleButton) << QStringList();
-    QTest::newRow("back") << int(Qt::BackButton) << QStringList();
     QTest::newRow("left") << int(Qt::LeftButton) << oneMove();
     QTest::newRow("left and right") << int(Qt::LeftButton | Qt::RightButton) << oneMove();
-    QTest::newRow("left and middle") << int(Qt::LeftButton | Qt::MiddleButton) << oneMove();
 }
 
 void tst_RyTreeWidget::onlyTheLeftButtonDrags()
@@ -774,7 +575,7 @@ void tst_RyTreeWidget::onlyTheLeftButtonDrags()
     QFETCH(QStringList, drags);
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     move(tree, QPoint(100, 100), Qt::MouseButtons(buttons));
     QCOMPARE(dragsOf(tree), drags);
 }
@@ -794,7 +595,7 @@ void tst_RyTreeWidget::theDistanceIsMeasuredFromTheOriginBeforeAnyPress()
     QFETCH(QStringList, drags);
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     move(tree, position);
     QCOMPARE(dragsOf(tree), drags);
 }
@@ -803,8 +604,8 @@ void tst_RyTreeWidget::aNewLeftPressMovesTheStart()
 {
     RyTreeWidget tree;
     fill(tree);
-    const QPoint first = centerOf(tree, QStringLiteral("a"));
-    const QPoint second = centerOf(tree, QStringLiteral("d"));
+    const QPoint first = centerOf(tree, "a");
+    const QPoint second = centerOf(tree, "d");
     press(tree, first);
     release(tree, first);
     press(tree, second);
@@ -824,8 +625,8 @@ void tst_RyTreeWidget::otherButtonsDoNotMoveTheStart()
     QFETCH(Qt::MouseButton, button);
     RyTreeWidget tree;
     fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("a"));
-    const QPoint other = centerOf(tree, QStringLiteral("d"));
+    const QPoint start = centerOf(tree, "a");
+    const QPoint other = centerOf(tree, "d");
     press(tree, start);
     sendMouse(tree, QEvent::MouseButtonPress, other, button, Qt::LeftButton | button);
     move(tree, start + QPoint(QApplication::startDragDistance(), 0), Qt::LeftButton | button);
@@ -834,24 +635,11 @@ void tst_RyTreeWidget::otherButtonsDoNotMoveTheStart()
     QCOMPARE(dragsOf(tree).first(), oneMove().first());
 }
 
-void tst_RyTreeWidget::theStartOutlivesTheRelease()
-{
-    RyTreeWidget tree;
-    fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("c"));
-    press(tree, start);
-    release(tree, start + QPoint(3, 0));
-    move(tree, start + QPoint(QApplication::startDragDistance(), 0));
-    QCOMPARE(dragsOf(tree), QStringList());
-    move(tree, farFrom(start));
-    QCOMPARE(dragsOf(tree).first(), oneMove().first());
-}
-
 void tst_RyTreeWidget::theStartOutlivesTheDrag()
 {
     RyTreeWidget tree;
     fill(tree);
-    const QPoint start = centerOf(tree, QStringLiteral("a1"));
+    const QPoint start = centerOf(tree, "a1");
     press(tree, start);
     move(tree, farFrom(start));
     release(tree, farFrom(start));
@@ -862,24 +650,11 @@ void tst_RyTreeWidget::theStartOutlivesTheDrag()
     QCOMPARE(dragsOf(tree).mid(0, 2), oneMove() + oneMove());
 }
 
-void tst_RyTreeWidget::noCurrentItemNoDrag()
-{
-    RyTreeWidget tree;
-    fill(tree);
-    const QPoint empty(100, tree.viewport()->height() - 10);
-    QVERIFY(!tree.itemAt(empty));
-    press(tree, empty);
-    QVERIFY(!tree.currentItem());
-    move(tree, farFrom(empty));
-    QCOMPARE(dragsOf(tree), QStringList());
-    QCOMPARE(itemsOf(&tree), filledContent());
-}
-
 void tst_RyTreeWidget::performDragWithoutACurrentItemDoesNothing()
 {
     RyTreeWidget tree;
     fill(tree);
-    itemNamed(&tree, QStringLiteral("c"))->setSelected(true);
+    itemNamed(&tree, "c")->setSelected(true);
     tree.setCurrentItem(nullptr);
     tree.performDrag();
     pressControl(tree);
@@ -888,39 +663,47 @@ void tst_RyTreeWidget::performDragWithoutACurrentItemDoesNothing()
     QCOMPARE(itemsOf(&tree), filledContent());
 }
 
-void tst_RyTreeWidget::performDragDragsTheCurrentItem_data()
+void tst_RyTreeWidget::aRefusedDragOfTheCurrentItemDeletesItUnlessItIsACopy_data()
 {
     QTest::addColumn<QString>("item");
-    QTest::addColumn<bool>("copying");
-    for (const char *const item : {"a", "a2", "b1", "d"}) {
-        QTest::addRow("%s, move", item) << QString::fromLatin1(item) << false;
-        QTest::addRow("%s, copy", item) << QString::fromLatin1(item) << true;
-    }
+    QTest::addColumn<QStringList>("left");
+    QTest::newRow("with children") << "a" << lines("b,  b1,c,d");
+    QTest::newRow("with folded children") << "b" << lines("a,  a1,  a2,c,d");
+    QTest::newRow("a child") << "a1" << lines("a,  a2,b,  b1,c,d");
+    QTest::newRow("an only child") << "b1" << lines("a,  a1,  a2,b,c,d");
+    QTest::newRow("the last one") << "d" << lines("a,  a1,  a2,b,  b1,c");
 }
 
-void tst_RyTreeWidget::performDragDragsTheCurrentItem()
+void tst_RyTreeWidget::aRefusedDragOfTheCurrentItemDeletesItUnlessItIsACopy()
 {
     QFETCH(QString, item);
-    QFETCH(bool, copying);
+    QFETCH(QStringList, left);
     RyTreeWidget tree;
     fill(tree);
     makeCurrent(tree, item);
     const QTreeWidgetItem *const dragged = tree.currentItem();
-    if (copying)
-        pressControl(tree);
+    pressControl(tree);
     tree.performDrag();
-    QCOMPARE(dragsOf(tree), copying ? oneCopy() : oneMove());
-    const auto payload =
-        qobject_cast<const RyTreeItemMimeData *>(tree.findChild<QDrag *>()->mimeData());
-    QVERIFY(payload);
-    QCOMPARE(payload->DragItemData(), dragged);
+    QCOMPARE(dragsOf(tree), oneCopy());
+    QCOMPARE(itemsOf(&tree), filledContent());
+    QCOMPARE(tree.currentItem(), dragged);
+    releaseControl(tree);
+    tree.performDrag();
+    QCOMPARE(dragsOf(tree), oneCopy() + oneMove());
+    QCOMPARE(itemsOf(&tree), left);
+    const auto drags = tree.findChildren<QDrag *>();
+    for (const QDrag *drag : drags) {
+        const auto payload = qobject_cast<const RyTreeItemMimeData *>(drag->mimeData());
+        QVERIFY(payload);
+        QCOMPARE(payload->DragItemData(), dragged);
+    }
 }
 
 void tst_RyTreeWidget::theDragObjectIsBareAndTheTrees()
 {
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     tree.performDrag();
     const QDrag *const drag = tree.findChild<QDrag *>();
     QVERIFY(drag);
@@ -935,7 +718,7 @@ void tst_RyTreeWidget::theDragObjectIsNotDeletedByTheTree()
 {
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
+    makeCurrent(tree, "c");
     tree.performDrag();
     const QPointer<QDrag> drag = tree.findChild<QDrag *>();
     QVERIFY(drag);
@@ -946,94 +729,20 @@ void tst_RyTreeWidget::theDragObjectIsNotDeletedByTheTree()
     QVERIFY(!payload);
 }
 
-void tst_RyTreeWidget::refusedMoveDeletesTheItemWithItsChildren_data()
+void tst_RyTreeWidget::onlyTheCurrentItemIsDraggedWhateverIsSelected()
 {
-    QTest::addColumn<QString>("item");
-    QTest::addColumn<QStringList>("left");
-    QTest::newRow("with children") << QStringLiteral("a") << lines("b,  b1,c,d");
-    QTest::newRow("with folded children") << QStringLiteral("b") << lines("a,  a1,  a2,c,d");
-    QTest::newRow("a child") << QStringLiteral("a1") << lines("a,  a2,b,  b1,c,d");
-    QTest::newRow("an only child") << QStringLiteral("b1") << lines("a,  a1,  a2,b,c,d");
-    QTest::newRow("the last one") << QStringLiteral("d") << lines("a,  a1,  a2,b,  b1,c");
-}
-
-void tst_RyTreeWidget::refusedMoveDeletesTheItemWithItsChildren()
-{
-    QFETCH(QString, item);
-    QFETCH(QStringList, left);
     RyTreeWidget tree;
     fill(tree);
-    makeCurrent(tree, item);
-    tree.performDrag();
-    QCOMPARE(itemsOf(&tree), left);
-}
-
-void tst_RyTreeWidget::refusedCopyKeepsTheItem_data()
-{
-    QTest::addColumn<QString>("item");
-    for (const char *const item : {"a", "b", "a1", "b1", "d"})
-        QTest::newRow(item) << QString::fromLatin1(item);
-}
-
-void tst_RyTreeWidget::refusedCopyKeepsTheItem()
-{
-    QFETCH(QString, item);
-    RyTreeWidget tree;
-    fill(tree);
-    makeCurrent(tree, item);
-    pressControl(tree);
-    tree.performDrag();
-    QCOMPARE(itemsOf(&tree), filledContent());
-    QCOMPARE(currentOf(&tree), item);
-}
-
-void tst_RyTreeWidget::onlyTheCurrentItemIsDragged_data()
-{
-    QTest::addColumn<QString>("current");
-    QTest::newRow("first of the selection") << QStringLiteral("b");
-    QTest::newRow("middle of the selection") << QStringLiteral("c");
-    QTest::newRow("last of the selection") << QStringLiteral("d");
-}
-
-void tst_RyTreeWidget::onlyTheCurrentItemIsDragged()
-{
-    QFETCH(QString, current);
-    RyTreeWidget tree;
-    fill(tree);
-    delete itemNamed(&tree, QStringLiteral("b1"));
-    makeCurrent(tree, current);
+    makeCurrent(tree, "c");
     for (const char *const selected : {"b", "c", "d"})
-        itemNamed(&tree, QLatin1String(selected))->setSelected(true);
-    QStringList left = lines("a,  a1,  a2,b,c,d");
-    QCOMPARE(itemsOf(&tree), left);
-    QCOMPARE(selectedIn(tree).count(), 3);
+        itemNamed(&tree, selected)->setSelected(true);
     tree.performDrag();
     QCOMPARE(dragsOf(tree), oneMove());
-    left.removeAll(current);
-    QCOMPARE(itemsOf(&tree), left);
-}
-
-void tst_RyTreeWidget::theCurrentItemNeedNotBeSelected()
-{
-    RyTreeWidget tree;
-    fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
-    tree.clearSelection();
-    itemNamed(&tree, QStringLiteral("d"))->setSelected(true);
+    QCOMPARE(itemsOf(&tree), filledContentWithout("c"));
+    tree.setCurrentItem(itemNamed(&tree, "d"), 0, QItemSelectionModel::NoUpdate);
+    itemNamed(&tree, "d")->setSelected(false);
     tree.performDrag();
-    QCOMPARE(itemsOf(&tree), filledContentWithout(QStringLiteral("c")));
-}
-
-void tst_RyTreeWidget::aSecondDragTakesTheNextCurrentItem()
-{
-    RyTreeWidget tree;
-    fill(tree);
-    makeCurrent(tree, QStringLiteral("c"));
-    tree.performDrag();
-    makeCurrent(tree, QStringLiteral("a2"));
-    tree.performDrag();
-    QCOMPARE(dragsOf(tree), oneMove() + oneMove());
-    QCOMPARE(itemsOf(&tree), lines("a,  a1,b,  b1,d"));
+    QCOMPARE(itemsOf(&tree), lines("a,  a1,  a2,b,  b1"));
 }
 
 void tst_RyTreeWidget::dragsWithoutASourceTreeAreLeftAlone_data()
@@ -1052,13 +761,13 @@ void tst_RyTreeWidget::dragsWithoutASourceTreeAreLeftAlone()
     QFETCH(bool, accepted);
     OpenTree tree;
     fill(tree);
-    makeCurrent(tree, QStringLiteral("d"));
+    makeCurrent(tree, "d");
     RyTreeItemMimeData item;
-    item.SetDragData(QStringLiteral("ItemMimeData"), itemNamed(&tree, QStringLiteral("c")));
+    item.SetDragData("ItemMimeData", itemNamed(&tree, "c"));
     QMimeData text;
-    text.setText(QStringLiteral("words"));
+    text.setText("words");
     const QMimeData *const payload = treePayload ? &item : &text;
-    const QPoint position = centerOf(tree, QStringLiteral("a"));
+    const QPoint position = centerOf(tree, "a");
     const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
 
     QDragEnterEvent enter(position, actions, payload, Qt::LeftButton, Qt::NoModifier);
@@ -1077,7 +786,7 @@ void tst_RyTreeWidget::dragsWithoutASourceTreeAreLeftAlone()
         QCOMPARE(event->isAccepted(), accepted);
         QCOMPARE(event->dropAction(), Qt::LinkAction);
     }
-    QCOMPARE(currentOf(&tree), QStringLiteral("d"));
+    QCOMPARE(currentOf(&tree), "d");
     QCOMPARE(itemsOf(&tree), filledContent());
 }
 

@@ -43,42 +43,41 @@ public:
     void dragEnterEvent(QDragEnterEvent *event) override
     {
         RyTreeWidget::dragEnterEvent(event);
-        note(QStringLiteral("enter"), event);
+        note("enter", event);
     }
 
     void dragMoveEvent(QDragMoveEvent *event) override
     {
         const QTreeWidgetItem *const item = itemAt(event->pos());
         RyTreeWidget::dragMoveEvent(event);
-        note(QStringLiteral("over ") + (item ? item->text(0) : QStringLiteral("nothing")), event);
+        note("over " + (item ? item->text(0) : "nothing"), event);
     }
 
     void dropEvent(QDropEvent *event) override
     {
         RyTreeWidget::dropEvent(event);
-        note(QStringLiteral("drop"), event);
+        note("drop", event);
     }
 
 protected:
     void startDrag(Qt::DropActions actions) override
     {
-        note(QStringLiteral("drag by the base class"));
+        note("drag by the base class");
         RyTreeWidget::startDrag(actions);
     }
 
 private:
     void note(const QString &what, const QDropEvent *event)
     {
-        QString answer = QStringLiteral("refused");
+        QString answer = "refused";
         if (event->isAccepted())
-            answer = event->dropAction() == Qt::CopyAction ? QStringLiteral("copy")
-                                                           : QStringLiteral("move");
-        note(what + QLatin1String(": ") + answer);
+            answer = event->dropAction() == Qt::CopyAction ? "copy" : "move";
+        note(what + ": " + answer);
     }
 
     void note(const QString &what)
     {
-        const QString line = objectName() + QLatin1Char(' ') + what;
+        const QString line = objectName() + " " + what;
         if (m_log.isEmpty() || m_log.last() != line)
             m_log << line;
     }
@@ -89,20 +88,20 @@ private:
 void fill(QTreeWidget *tree)
 {
     tree->setHeaderHidden(true);
-    QTreeWidgetItem *const a = new QTreeWidgetItem(tree, {QStringLiteral("a")});
-    new QTreeWidgetItem(a, {QStringLiteral("a1")});
-    new QTreeWidgetItem(a, {QStringLiteral("a2")});
-    QTreeWidgetItem *const b = new QTreeWidgetItem(tree, {QStringLiteral("b")});
-    new QTreeWidgetItem(b, {QStringLiteral("b1")});
-    new QTreeWidgetItem(tree, {QStringLiteral("c")});
-    new QTreeWidgetItem(tree, {QStringLiteral("d")});
+    QTreeWidgetItem *const a = new QTreeWidgetItem(tree, {"a"});
+    new QTreeWidgetItem(a, {"a1"});
+    new QTreeWidgetItem(a, {"a2"});
+    QTreeWidgetItem *const b = new QTreeWidgetItem(tree, {"b"});
+    new QTreeWidgetItem(b, {"b1"});
+    new QTreeWidgetItem(tree, {"c"});
+    new QTreeWidgetItem(tree, {"d"});
     a->setExpanded(true);
 }
 
 // The lines of a text such as "a,  a1,b", as itemsOf() gives them.
 QStringList lines(const char *text)
 {
-    return QString::fromLatin1(text).split(QLatin1Char(','));
+    return QString(text).split(',');
 }
 
 QStringList filledContent()
@@ -119,11 +118,11 @@ QStringList filledContentWithoutC()
 struct Stage
 {
     Stage()
-        : tree(new WatchedTree(QStringLiteral("tree"), log))
-        , other(new WatchedTree(QStringLiteral("other"), log))
+        : tree(new WatchedTree("tree", log))
+        , other(new WatchedTree("other", log))
         , plain(new QTreeWidget)
         , list(new QListWidget)
-        , label(new QLabel(QStringLiteral("label")))
+        , label(new QLabel("label"))
         , line(new QLineEdit)
     {
         QGridLayout *const layout = new QGridLayout(&window);
@@ -134,8 +133,8 @@ struct Stage
         layout->addWidget(label, 2, 0);
         layout->addWidget(line, 2, 1);
         fill(tree);
-        new QTreeWidgetItem(other, {QStringLiteral("x")});
-        new QTreeWidgetItem(other, {QStringLiteral("y")});
+        new QTreeWidgetItem(other, {"x"});
+        new QTreeWidgetItem(other, {"y"});
         fill(plain);
         plain->setDragDropMode(QAbstractItemView::DragDrop);
         list->addItems(lines("p,q"));
@@ -152,7 +151,7 @@ struct Stage
 
     static QPoint centerOf(const QTreeWidget *view, const char *text)
     {
-        return view->visualItemRect(itemNamed(view, QLatin1String(text))).center();
+        return view->visualItemRect(itemNamed(view, text)).center();
     }
 
     // A place of the view below all of its items.
@@ -195,11 +194,10 @@ struct Stage
     void leaveControlSet(QTreeWidget *view)
     {
         user.step(
-            QStringLiteral("focus the tree"), [view] { view->setFocus(); },
-            [view] { return view->hasFocus(); });
+            "focus the tree", [view] { view->setFocus(); }, [view] { return view->hasFocus(); });
         user.pressKey(Qt::Key_Control);
         user.step(
-            QStringLiteral("focus the line edit"), [this] { line->setFocus(); },
+            "focus the line edit", [this] { line->setFocus(); },
             [this] { return line->hasFocus(); });
         user.releaseKey(Qt::Key_Control);
     }
@@ -234,7 +232,6 @@ private Q_SLOTS:
     void copyingOntoAnItemKeepsTheOriginal_data();
     void copyingOntoAnItemKeepsTheOriginal();
     void theBaseClassDragsAfterACopyAndIsRefused();
-    void theBaseClassDragsNothingAfterAMove();
     void theCopyIsADeepOne();
     void anyPlaceOfAnItemIsTheItem_data();
     void anyPlaceOfAnItemIsTheItem();
@@ -242,21 +239,12 @@ private Q_SLOTS:
     void emptySpaceIsTheEndOfTheTopLevel();
     void ontoItsOwnDescendant_data();
     void ontoItsOwnDescendant();
-    void ontoItsOwnParent();
-    void ontoAnotherTree_data();
-    void ontoAnotherTree();
-    void intoAnotherTreesEmptySpace_data();
-    void intoAnotherTreesEmptySpace();
+    void intoAnotherTree_data();
+    void intoAnotherTree();
     void refusingTarget_data();
     void refusingTarget();
-    void outsideOfAllWindows_data();
-    void outsideOfAllWindows();
-    void cancelledWithEscape_data();
-    void cancelledWithEscape();
-    void droppedOnItself_data();
-    void droppedOnItself();
-    void onlyTheCurrentItemOfASelectionIsDragged_data();
-    void onlyTheCurrentItemOfASelectionIsDragged();
+    void droppedNowhere_data();
+    void droppedNowhere();
     void dragsFromOtherViewsAreRefused_data();
     void dragsFromOtherViewsAreRefused();
     void otherDragsFromATreeAreRefused();
@@ -270,7 +258,6 @@ private Q_SLOTS:
     void hoveringMakesTheItemCurrent();
     void hoveringOverItselfKeepsTheCurrentItem();
     void hoveringShowsNoDropIndicator();
-    void controlReleasedInAnotherWidgetIsMissed();
     void controlPressedDuringADragIsNotSeen();
     void controlReleasedDuringADragIsMissed();
     void theTreeTakesClicksAfterADrag_data();
@@ -294,6 +281,7 @@ void tst_RyTreeWidget_Window::movingOntoAnItemAppendsItAsTheLastChild_data()
     row("b", "a2", "a,  a1,  a2,    b,      b1,c,d");
     row("a1", "d", "a,  a2,b,  b1,c,d,  a1");
     row("d", "a", "a,  a1,  a2,  d,b,  b1,c");
+    row("a1", "a", "a,  a2,  a1,b,  b1,c,d");
 }
 
 void tst_RyTreeWidget_Window::movingOntoAnItemAppendsItAsTheLastChild()
@@ -308,10 +296,8 @@ void tst_RyTreeWidget_Window::movingOntoAnItemAppendsItAsTheLastChild()
     stage.drop();
     QCOMPARE(stage.user.run(), QString());
     QCOMPARE(itemsOf(stage.tree), content);
-    const QString over = QStringLiteral("tree over %1: move").arg(QString::fromLatin1(target));
-    QCOMPARE(
-        stage.log,
-        (QStringList{QStringLiteral("tree enter: move"), over, QStringLiteral("tree drop: move")}));
+    const QString over = QString("tree over %1: move").arg(target.constData());
+    QCOMPARE(stage.log, (QStringList{"tree enter: move", over, "tree drop: move"}));
 }
 
 void tst_RyTreeWidget_Window::copyingOntoAnItemKeepsTheOriginal_data()
@@ -358,32 +344,19 @@ void tst_RyTreeWidget_Window::theBaseClassDragsAfterACopyAndIsRefused()
     stage.drop(true);
     QCOMPARE(stage.user.run(), QString());
     QCOMPARE(itemsOf(stage.tree), lines("a,  a1,  a2,b,  b1,  c,c,d"));
-    QCOMPARE(stage.log,
-             (QStringList{
-                 QStringLiteral("tree enter: copy"), QStringLiteral("tree over b: copy"),
-                 QStringLiteral("tree drop: copy"), QStringLiteral("tree drag by the base class"),
-                 QStringLiteral("tree enter: copy"), QStringLiteral("tree over b: refused")}));
-}
-
-void tst_RyTreeWidget_Window::theBaseClassDragsNothingAfterAMove()
-{
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "c");
-    stage.carryTo(stage.tree, "b");
-    stage.drop();
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), lines("a,  a1,  a2,b,  b1,  c,d"));
-    QVERIFY(!stage.log.contains(QStringLiteral("tree drag by the base class")));
+    QCOMPARE(
+        stage.log,
+        (QStringList{"tree enter: copy", "tree over b: copy", "tree drop: copy",
+                     "tree drag by the base class", "tree enter: copy", "tree over b: refused"}));
 }
 
 void tst_RyTreeWidget_Window::theCopyIsADeepOne()
 {
     Stage stage;
     QVERIFY(stage.show());
-    QTreeWidgetItem *const original = itemNamed(stage.tree, QStringLiteral("a"));
+    QTreeWidgetItem *const original = itemNamed(stage.tree, "a");
     original->setData(0, Qt::UserRole, 7);
-    original->setToolTip(0, QStringLiteral("tip"));
+    original->setToolTip(0, "tip");
     original->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
     original->child(1)->setData(0, Qt::UserRole, 8);
     stage.pickUp(stage.tree, "a", true);
@@ -391,10 +364,10 @@ void tst_RyTreeWidget_Window::theCopyIsADeepOne()
     stage.drop(true);
     QCOMPARE(stage.user.run(), QString());
     QCOMPARE(itemsOf(stage.other), lines("x,  a,    a1,    a2,y"));
-    const QTreeWidgetItem *const copy = itemNamed(stage.other, QStringLiteral("a"));
+    const QTreeWidgetItem *const copy = itemNamed(stage.other, "a");
     QVERIFY(copy != original);
     QCOMPARE(copy->data(0, Qt::UserRole).toInt(), 7);
-    QCOMPARE(copy->toolTip(0), QStringLiteral("tip"));
+    QCOMPARE(copy->toolTip(0), "tip");
     QCOMPARE(copy->flags(), original->flags());
     QVERIFY(copy->child(1) != original->child(1));
     QCOMPARE(copy->child(1)->data(0, Qt::UserRole).toInt(), 8);
@@ -412,7 +385,7 @@ void tst_RyTreeWidget_Window::anyPlaceOfAnItemIsTheItem()
     QFETCH(int, edge);
     Stage stage;
     QVERIFY(stage.show());
-    const QRect rect = stage.tree->visualItemRect(itemNamed(stage.tree, QStringLiteral("b")));
+    const QRect rect = stage.tree->visualItemRect(itemNamed(stage.tree, "b"));
     stage.pickUp(stage.tree, "d");
     stage.carryTo(stage.tree->viewport(),
                   QPoint(rect.center().x(), edge == 0 ? rect.top() : rect.bottom()));
@@ -444,9 +417,7 @@ void tst_RyTreeWidget_Window::emptySpaceIsTheEndOfTheTopLevel()
     stage.drop(copying);
     QCOMPARE(stage.user.run(), QString());
     QCOMPARE(itemsOf(stage.tree), content);
-    QCOMPARE(stage.log.value(1),
-             copying ? QStringLiteral("tree over nothing: copy")
-                     : QStringLiteral("tree over nothing: move"));
+    QCOMPARE(stage.log.value(1), copying ? "tree over nothing: copy" : "tree over nothing: move");
 }
 
 void tst_RyTreeWidget_Window::ontoItsOwnDescendant_data()
@@ -468,54 +439,35 @@ void tst_RyTreeWidget_Window::ontoItsOwnDescendant()
     stage.drop(copying);
     QCOMPARE(stage.user.run(), QString());
     QCOMPARE(itemsOf(stage.tree), content);
-    QVERIFY(stage.log.contains(copying ? QStringLiteral("tree drop: copy")
-                                       : QStringLiteral("tree drop: move")));
+    QVERIFY(stage.log.contains(copying ? "tree drop: copy" : "tree drop: move"));
 }
 
-void tst_RyTreeWidget_Window::ontoItsOwnParent()
+void tst_RyTreeWidget_Window::intoAnotherTree_data()
 {
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "a1");
-    stage.carryTo(stage.tree, "a");
-    stage.drop();
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), lines("a,  a2,  a1,b,  b1,c,d"));
+    QTest::addColumn<bool>("emptySpace");
+    QTest::addColumn<bool>("copying");
+    QTest::addColumn<QStringList>("content");
+    QTest::newRow("move onto an item") << false << false << lines("x,  a,    a1,    a2,y");
+    QTest::newRow("copy onto an item") << false << true << lines("x,  a,    a1,    a2,y");
+    QTest::newRow("move onto empty space") << true << false << lines("x,y,a,  a1,  a2");
+    QTest::newRow("copy onto empty space") << true << true << lines("x,y,a,  a1,  a2");
 }
 
-void tst_RyTreeWidget_Window::ontoAnotherTree_data()
+void tst_RyTreeWidget_Window::intoAnotherTree()
 {
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::ontoAnotherTree()
-{
+    QFETCH(bool, emptySpace);
     QFETCH(bool, copying);
+    QFETCH(QStringList, content);
     Stage stage;
     QVERIFY(stage.show());
     stage.pickUp(stage.tree, "a", copying);
-    stage.carryTo(stage.other, "x");
+    if (emptySpace)
+        stage.carryTo(stage.other->viewport(), Stage::emptyPlaceOf(stage.other));
+    else
+        stage.carryTo(stage.other, "x");
     stage.drop(copying);
     QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.other), lines("x,  a,    a1,    a2,y"));
-    QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : lines("b,  b1,c,d"));
-}
-
-void tst_RyTreeWidget_Window::intoAnotherTreesEmptySpace_data()
-{
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::intoAnotherTreesEmptySpace()
-{
-    QFETCH(bool, copying);
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "a", copying);
-    stage.carryTo(stage.other->viewport(), Stage::emptyPlaceOf(stage.other));
-    stage.drop(copying);
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.other), lines("x,y,a,  a1,  a2"));
+    QCOMPARE(itemsOf(stage.other), content);
     QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : lines("b,  b1,c,d"));
 }
 
@@ -559,91 +511,36 @@ void tst_RyTreeWidget_Window::refusingTarget()
     QCOMPARE(stage.line->text(), QString());
 }
 
-void tst_RyTreeWidget_Window::outsideOfAllWindows_data()
+void tst_RyTreeWidget_Window::droppedNowhere_data()
 {
-    addActionRows();
+    QTest::addColumn<QByteArray>("end");
+    QTest::addColumn<bool>("copying");
+    for (const char *const end : {"outside of all windows", "cancelled", "on itself"}) {
+        QTest::addRow("%s, move", end) << QByteArray(end) << false;
+        QTest::addRow("%s, copy", end) << QByteArray(end) << true;
+    }
 }
 
-void tst_RyTreeWidget_Window::outsideOfAllWindows()
+void tst_RyTreeWidget_Window::droppedNowhere()
 {
+    QFETCH(QByteArray, end);
     QFETCH(bool, copying);
     Stage stage;
     QVERIFY(stage.show());
     stage.pickUp(stage.tree, "c", copying);
-    stage.carryTo(stage.tree, "b");
-    stage.user.dragOut();
+    if (end == "on itself")
+        stage.carryTo(stage.tree->viewport(), Stage::centerOf(stage.tree, "c") + QPoint(40, 0));
+    else
+        stage.carryTo(stage.tree, "b");
+    if (end == "outside of all windows")
+        stage.user.dragOut();
+    else if (end == "cancelled")
+        stage.user.cancelDrag();
     stage.drop(copying);
     QCOMPARE(stage.user.run(), QString());
     QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : filledContentWithoutC());
-}
-
-void tst_RyTreeWidget_Window::cancelledWithEscape_data()
-{
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::cancelledWithEscape()
-{
-    QFETCH(bool, copying);
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "c", copying);
-    stage.carryTo(stage.tree, "b");
-    stage.user.cancelDrag();
-    stage.drop(copying);
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : filledContentWithoutC());
-    QVERIFY(stage.log.filter(QStringLiteral("drop")).isEmpty());
-}
-
-void tst_RyTreeWidget_Window::droppedOnItself_data()
-{
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::droppedOnItself()
-{
-    QFETCH(bool, copying);
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.pickUp(stage.tree, "c", copying);
-    stage.carryTo(stage.tree->viewport(), Stage::centerOf(stage.tree, "c") + QPoint(40, 0));
-    stage.drop(copying);
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : filledContentWithoutC());
-    QCOMPARE(stage.log.value(1), QStringLiteral("tree over c: refused"));
-    QVERIFY(stage.log.filter(QStringLiteral("drop")).isEmpty());
-}
-
-void tst_RyTreeWidget_Window::onlyTheCurrentItemOfASelectionIsDragged_data()
-{
-    addActionRows();
-}
-
-void tst_RyTreeWidget_Window::onlyTheCurrentItemOfASelectionIsDragged()
-{
-    QFETCH(bool, copying);
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.tree->setCurrentItem(itemNamed(stage.tree, QStringLiteral("b")));
-    stage.user.moveTo(stage.tree->viewport(), Stage::centerOf(stage.tree, "d"));
-    stage.user.pressKey(Qt::Key_Shift);
-    stage.user.press();
-    stage.user.release();
-    stage.user.releaseKey(Qt::Key_Shift);
-    stage.user.waitFor(QStringLiteral("three selected"),
-                       [&] { return stage.tree->selectedItems().count() == 3; });
-    stage.user.press();
-    if (copying)
-        stage.user.pressKey(Qt::Key_Control);
-    stage.user.moveTo(stage.tree->viewport(), Stage::centerOf(stage.tree, "d") + QPoint(2, 0));
-    stage.user.waitFor(QStringLiteral("still three selected"),
-                       [&] { return stage.tree->selectedItems().count() == 3; });
-    stage.carryTo(stage.other, "x");
-    stage.drop(copying);
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.other), lines("x,  d,y"));
-    QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : lines("a,  a1,  a2,b,  b1,c"));
+    QVERIFY(stage.log.filter("drop").isEmpty());
+    QCOMPARE(stage.log.value(1).contains("refused"), end == "on itself");
 }
 
 void tst_RyTreeWidget_Window::dragsFromOtherViewsAreRefused_data()
@@ -675,11 +572,11 @@ void tst_RyTreeWidget_Window::dragsFromOtherViewsAreRefused()
     else
         stage.carryTo(stage.tree, "b");
     stage.drop();
-    stage.tree->setCurrentItem(itemNamed(stage.tree, QStringLiteral("d")));
+    stage.tree->setCurrentItem(itemNamed(stage.tree, "d"));
     QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(stage.log, QStringList{QStringLiteral("tree enter: refused")});
+    QCOMPARE(stage.log, QStringList{"tree enter: refused"});
     QCOMPARE(itemsOf(stage.tree), filledContent());
-    QCOMPARE(currentOf(stage.tree), QStringLiteral("d"));
+    QCOMPARE(currentOf(stage.tree), "d");
     QCOMPARE(itemsOf(stage.plain), filledContent());
     QCOMPARE(rowsOf(stage.list), lines("p,q"));
 }
@@ -695,14 +592,13 @@ void tst_RyTreeWidget_Window::otherDragsFromATreeAreRefused()
     const auto drag = [&] {
         QDrag *const ofText = new QDrag(stage.tree);
         QMimeData *const payload = new QMimeData;
-        payload->setText(QStringLiteral("words"));
+        payload->setText("words");
         ofText->setMimeData(payload);
         started = true;
         result = ofText->exec(Qt::CopyAction | Qt::MoveAction);
     };
     stage.user.step(
-        QStringLiteral("drag"), [&] { QTimer::singleShot(0, stage.tree, drag); },
-        [&] { return started; });
+        "drag", [&] { QTimer::singleShot(0, stage.tree, drag); }, [&] { return started; });
     stage.user.moveTo(stage.other->viewport(), Stage::centerOf(stage.other, "x"));
     stage.user.drop();
     QCOMPARE(stage.user.run(), QString());
@@ -729,9 +625,9 @@ void tst_RyTreeWidget_Window::payloadsWithoutAnItemAreLeftAlone()
     Stage stage;
     QVERIFY(stage.show());
     QMimeData text;
-    text.setText(QStringLiteral("words"));
+    text.setText("words");
     RyTreeItemMimeData item;
-    item.SetDragData(QStringLiteral("ItemMimeData"), nullptr);
+    item.SetDragData("ItemMimeData", nullptr);
     const QMimeData *const payload = treePayload ? &item : &text;
     const QPoint place = Stage::centerOf(stage.other, "x");
     QDragMoveEvent over(place, Qt::MoveAction, payload, Qt::LeftButton, Qt::NoModifier);
@@ -761,8 +657,7 @@ void tst_RyTreeWidget_Window::aDropOnTheDraggedItemGoesToTheEndOfTheTopLevel()
     Stage stage;
     QVERIFY(stage.show());
     RyTreeItemMimeData payload;
-    payload.SetDragData(QStringLiteral("ItemMimeData"),
-                        itemNamed(stage.tree, QStringLiteral("a1")));
+    payload.SetDragData("ItemMimeData", itemNamed(stage.tree, "a1"));
     QDropEvent dropped(Stage::centerOf(stage.tree, "a1"), Qt::MoveAction, &payload, Qt::LeftButton,
                        Qt::NoModifier);
     stage.pickUp(stage.tree, "c");
@@ -794,8 +689,7 @@ void tst_RyTreeWidget_Window::theReceivingTreesFlagIsTheReportedAction()
     Stage stage;
     QVERIFY(stage.show());
     RyTreeItemMimeData payload;
-    payload.SetDragData(QStringLiteral("ItemMimeData"),
-                        itemNamed(stage.tree, QStringLiteral("a1")));
+    payload.SetDragData("ItemMimeData", itemNamed(stage.tree, "a1"));
     const QPoint place = Stage::centerOf(stage.other, "x");
     const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
     QDragEnterEvent enter(place, offered, &payload, Qt::LeftButton, Qt::NoModifier);
@@ -825,7 +719,7 @@ void tst_RyTreeWidget_Window::theReceivingTreesFlagIsTheReportedAction()
         QCOMPARE(event->dropAction(), receiverFlag ? Qt::CopyAction : Qt::MoveAction);
     }
     QCOMPARE(itemsOf(stage.other), lines("x,  a1,y"));
-    QCOMPARE(currentOf(stage.other), QStringLiteral("x"));
+    QCOMPARE(currentOf(stage.other), "x");
 }
 
 void tst_RyTreeWidget_Window::theSourceTreesFlagDecidesOverTheItem_data()
@@ -855,9 +749,8 @@ void tst_RyTreeWidget_Window::hoveringMakesTheItemCurrent()
     QVERIFY(stage.show());
     QStringList currents;
     const auto note = [&](const QTreeWidget *view) {
-        stage.user.act([&currents, view] {
-            currents << view->objectName() + QLatin1Char(' ') + currentOf(view);
-        });
+        stage.user.act(
+            [&currents, view] { currents << view->objectName() + " " + currentOf(view); });
     };
     stage.pickUp(stage.tree, "c");
     stage.carryTo(stage.tree, "b");
@@ -890,7 +783,7 @@ void tst_RyTreeWidget_Window::hoveringOverItselfKeepsTheCurrentItem()
     stage.carryTo(stage.tree, "d");
     stage.drop();
     QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(current, QStringLiteral("a2"));
+    QCOMPARE(current, "a2");
     QCOMPARE(stage.log,
              lines("tree enter: move,tree over a2: move,tree over c: refused,"
                    "tree over d: move,tree drop: move"));
@@ -901,7 +794,7 @@ void tst_RyTreeWidget_Window::hoveringShowsNoDropIndicator()
 {
     Stage stage;
     QVERIFY(stage.show());
-    const QRect rect = stage.tree->visualItemRect(itemNamed(stage.tree, QStringLiteral("b")));
+    const QRect rect = stage.tree->visualItemRect(itemNamed(stage.tree, "b"));
     bool indicated = true;
     stage.pickUp(stage.tree, "c");
     stage.carryTo(stage.tree->viewport(), QPoint(rect.center().x(), rect.top()));
@@ -911,25 +804,6 @@ void tst_RyTreeWidget_Window::hoveringShowsNoDropIndicator()
     QVERIFY(!indicated);
 }
 
-void tst_RyTreeWidget_Window::controlReleasedInAnotherWidgetIsMissed()
-{
-    Stage stage;
-    QVERIFY(stage.show());
-    stage.leaveControlSet(stage.tree);
-    stage.pickUp(stage.tree, "c");
-    stage.carryTo(stage.other, "x");
-    stage.drop();
-    // Now the tree has the focus and hears of the key.
-    stage.user.pressKey(Qt::Key_Control);
-    stage.user.releaseKey(Qt::Key_Control);
-    stage.pickUp(stage.tree, "d");
-    stage.carryTo(stage.other, "y");
-    stage.drop();
-    QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(itemsOf(stage.tree), lines("a,  a1,  a2,b,  b1,c"));
-    QCOMPARE(itemsOf(stage.other), lines("x,  c,y,  d"));
-}
-
 void tst_RyTreeWidget_Window::controlPressedDuringADragIsNotSeen()
 {
     Stage stage;
@@ -937,12 +811,12 @@ void tst_RyTreeWidget_Window::controlPressedDuringADragIsNotSeen()
     stage.pickUp(stage.tree, "c");
     stage.carryTo(stage.tree, "b");
     stage.user.step(
-        QStringLiteral("Control"), [&] { stage.user.input.pressKey(Qt::Key_Control); },
+        "Control", [&] { stage.user.input.pressKey(Qt::Key_Control); },
         [] { return QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier); });
     stage.carryTo(stage.tree, "d");
     stage.drop(true);
     QCOMPARE(stage.user.run(), QString());
-    QVERIFY(stage.log.contains(QStringLiteral("tree drop: move")));
+    QVERIFY(stage.log.contains("tree drop: move"));
     QCOMPARE(itemsOf(stage.tree), lines("a,  a1,  a2,b,  b1,d,  c"));
 }
 
@@ -953,7 +827,7 @@ void tst_RyTreeWidget_Window::controlReleasedDuringADragIsMissed()
     stage.pickUp(stage.tree, "c", true);
     stage.carryTo(stage.tree, "b");
     stage.user.step(
-        QStringLiteral("no Control"), [&] { stage.user.input.releaseKey(Qt::Key_Control); },
+        "no Control", [&] { stage.user.input.releaseKey(Qt::Key_Control); },
         [] { return !QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier); });
     stage.carryTo(stage.tree, "d");
     stage.drop();
@@ -961,7 +835,7 @@ void tst_RyTreeWidget_Window::controlReleasedDuringADragIsMissed()
     stage.carryTo(stage.other, "x");
     stage.drop();
     QCOMPARE(stage.user.run(), QString());
-    QVERIFY(stage.log.contains(QStringLiteral("tree drop: copy")));
+    QVERIFY(stage.log.contains("tree drop: copy"));
     QCOMPARE(itemsOf(stage.tree), lines("a,  a1,  a2,b,  b1,c,d,  c"));
     QCOMPARE(itemsOf(stage.other), lines("x,  a1,y"));
 }
@@ -983,7 +857,7 @@ void tst_RyTreeWidget_Window::theTreeTakesClicksAfterADrag()
     stage.user.press();
     stage.user.release();
     QCOMPARE(stage.user.run(), QString());
-    QCOMPARE(currentOf(stage.tree), QStringLiteral("a1"));
+    QCOMPARE(currentOf(stage.tree), "a1");
     QCOMPARE(stage.tree->selectedItems(), QList<QTreeWidgetItem *>{stage.tree->currentItem()});
     QCOMPARE(itemsOf(stage.tree), copying ? filledContent() : filledContentWithoutC());
     QCOMPARE(itemsOf(stage.other), lines("x,  c,y"));

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 
-#include "fieldoffset.h"
 #include "testcase.h"
 #include "toolbaritem.h"
 
@@ -13,12 +12,18 @@ namespace {
 
 QList<qptrdiff> fieldOffsetsOf(const ToolBarItem &item);
 
+// In bytes from the start of the record.
+template <typename Field> qptrdiff offsetOf(const ToolBarItem &item, Field ToolBarItem::*field)
+{
+    return reinterpret_cast<const char *>(&(item.*field)) - reinterpret_cast<const char *>(&item);
+}
+
 // The arguments of an explicit instantiation may name private members.
 template <auto... Fields> struct FieldOffsets
 {
     friend QList<qptrdiff> fieldOffsetsOf(const ToolBarItem &item)
     {
-        return {fieldOffset(item, Fields)...};
+        return {offsetOf(item, Fields)...};
     }
 };
 
@@ -40,59 +45,59 @@ private Q_SLOTS:
     void theNameIsReturnedAsACopy();
     void destroyingARecordLeavesTheToolBar();
     void theClassIsPlain();
-    void theFieldsStandInTheirOrder();
+    void theFieldsAreInOrder();
 };
 
 void tst_ToolBarItem::aRecordOfAToolBarHasTheToolBarAndTheName()
 {
     QToolBar toolBar;
-    const ToolBarItem item(&toolBar, QStringLiteral("File"));
+    const ToolBarItem item(&toolBar, "File");
     QCOMPARE(item.toolBar(), &toolBar);
-    QCOMPARE(item.toolBarName(), QStringLiteral("File"));
+    QCOMPARE(item.toolBarName(), "File");
 
-    const ToolBarItem withoutToolBar(nullptr, QStringLiteral("File"));
+    const ToolBarItem withoutToolBar(nullptr, "File");
     QCOMPARE(withoutToolBar.toolBar(), nullptr);
-    QCOMPARE(withoutToolBar.toolBarName(), QStringLiteral("File"));
+    QCOMPARE(withoutToolBar.toolBarName(), "File");
 }
 
 void tst_ToolBarItem::theNameIsNotTakenFromTheToolBar()
 {
-    QToolBar toolBar(QStringLiteral("Title"));
-    ToolBarItem item(&toolBar, QStringLiteral("Name"));
-    QCOMPARE(item.toolBarName(), QStringLiteral("Name"));
-    item.setToolBarName(QStringLiteral("Other"));
-    QCOMPARE(toolBar.windowTitle(), QStringLiteral("Title"));
+    QToolBar toolBar("Title");
+    ToolBarItem item(&toolBar, "Name");
+    QCOMPARE(item.toolBarName(), "Name");
+    item.setToolBarName("Other");
+    QCOMPARE(toolBar.windowTitle(), "Title");
 }
 
 void tst_ToolBarItem::aRecordOfANameHasNoToolBar()
 {
-    const ToolBarItem item(QStringLiteral("Mine"));
+    const ToolBarItem item("Mine");
     QCOMPARE(item.toolBar(), nullptr);
-    QCOMPARE(item.toolBarName(), QStringLiteral("Mine"));
+    QCOMPARE(item.toolBarName(), "Mine");
 }
 
 void tst_ToolBarItem::theToolBarCanBeReplaced()
 {
     QToolBar toolBar;
     QToolBar other;
-    ToolBarItem item(QStringLiteral("Mine"));
+    ToolBarItem item("Mine");
     item.setToolBar(&toolBar);
     QCOMPARE(item.toolBar(), &toolBar);
     item.setToolBar(&other);
     QCOMPARE(item.toolBar(), &other);
     item.setToolBar(nullptr);
     QCOMPARE(item.toolBar(), nullptr);
-    QCOMPARE(item.toolBarName(), QStringLiteral("Mine"));
+    QCOMPARE(item.toolBarName(), "Mine");
 }
 
 void tst_ToolBarItem::theNameIsKeptExactly_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("null") << QString();
-    QTest::newRow("empty") << QStringLiteral("");
-    QTest::newRow("blanks") << QStringLiteral("  ");
-    QTest::newRow("blanks around") << QStringLiteral(" My tools ");
-    QTest::newRow("ampersand") << QStringLiteral("&Tools");
+    QTest::newRow("empty") << "";
+    QTest::newRow("blanks") << "  ";
+    QTest::newRow("blanks around") << " My tools ";
+    QTest::newRow("ampersand") << "&Tools";
     QTest::newRow("not ASCII") << QString::fromUtf8(
         "Gr\xC3\xB6\xC3\x9F\x65 \xE2\x80\x94 \xF0\x9F\x98\x80");
 }
@@ -103,7 +108,7 @@ void tst_ToolBarItem::theNameIsKeptExactly()
     QToolBar toolBar;
     QCOMPARE(ToolBarItem(name).toolBarName(), name);
     QCOMPARE(ToolBarItem(&toolBar, name).toolBarName(), name);
-    ToolBarItem item(&toolBar, QStringLiteral("Mine"));
+    ToolBarItem item(&toolBar, "Mine");
     item.setToolBarName(name);
     QCOMPARE(item.toolBarName(), name);
     QCOMPARE(item.toolBarName().isNull(), name.isNull());
@@ -115,17 +120,17 @@ void tst_ToolBarItem::theNameIsReturnedAsACopy()
     static_assert(
         std::is_same<decltype(std::declval<const ToolBarItem &>().toolBarName()), QString>::value,
         "by value");
-    ToolBarItem item(QStringLiteral("Mine"));
+    ToolBarItem item("Mine");
     const QString before = item.toolBarName();
-    item.setToolBarName(QStringLiteral("Yours"));
-    QCOMPARE(before, QStringLiteral("Mine"));
+    item.setToolBarName("Yours");
+    QCOMPARE(before, "Mine");
 }
 
 void tst_ToolBarItem::destroyingARecordLeavesTheToolBar()
 {
     QToolBar toolBar;
     const QPointer<QToolBar> guard(&toolBar);
-    delete new ToolBarItem(&toolBar, QStringLiteral("File"));
+    delete new ToolBarItem(&toolBar, "File");
     QVERIFY(guard);
 }
 
@@ -136,9 +141,9 @@ void tst_ToolBarItem::theClassIsPlain()
     QCOMPARE(sizeof(ToolBarItem), sizeof(QToolBar *) + sizeof(QString));
 }
 
-void tst_ToolBarItem::theFieldsStandInTheirOrder()
+void tst_ToolBarItem::theFieldsAreInOrder()
 {
-    const ToolBarItem item(QStringLiteral("Mine"));
+    const ToolBarItem item("Mine");
     const QList<qptrdiff> expected{0, sizeof(QToolBar *)};
     QCOMPARE(fieldOffsetsOf(item), expected);
 }

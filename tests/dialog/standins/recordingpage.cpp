@@ -30,52 +30,51 @@ void RecordingPage::callAt(const QString &event, const std::function<void()> &ca
 RecordingPage::RecordingPage(const QString &title, RyAbstatcManager *manager)
     : m_title(title)
 {
-    record(QLatin1String("made for ") + (manager ? manager->objectName() : QStringLiteral("null")));
+    record("made for " + (manager ? manager->objectName() : "null"));
 }
 
 RecordingPage::~RecordingPage()
 {
-    record(m_widget ? QStringLiteral("deleted before its widget") : QStringLiteral("deleted"));
+    record(m_widget ? "deleted before its widget" : "deleted");
 }
 
 QString RecordingPage::name() const
 {
-    record(QStringLiteral("name"));
+    record("name");
     return m_title;
 }
 
 QWidget *RecordingPage::createPage(QWidget *parent)
 {
     const int tabs = parent->findChild<QTabWidget *>()->count();
-    record(QStringLiteral("createPage in %1 with %2 tabs").arg(parent->objectName()).arg(tabs));
+    record(QString("createPage in %1 with %2 tabs").arg(parent->objectName()).arg(tabs));
     m_widget = new QWidget(parent);
     m_widget->setObjectName(m_title);
     const QString title = m_title;
-    QObject::connect(m_widget, &QObject::destroyed,
-                     [title] { log << title + QLatin1String(" widget gone"); });
+    QObject::connect(m_widget, &QObject::destroyed, [title] { log << title + " widget gone"; });
     return m_widget;
 }
 
 void RecordingPage::apply()
 {
-    record(QStringLiteral("apply"));
+    record("apply");
 }
 
 // The dialog is to close only after this.
 void RecordingPage::finish()
 {
     const bool open = m_widget && m_widget->window()->isVisible();
-    record(open ? QStringLiteral("finish while open") : QStringLiteral("finish"));
+    record(open ? "finish while open" : "finish");
 }
 
 void RecordingPage::RestorDefaults()
 {
-    record(QStringLiteral("RestorDefaults"));
+    record("RestorDefaults");
 }
 
 void RecordingPage::record(const QString &event) const
 {
-    log << m_title + QLatin1Char(' ') + event;
+    log << m_title + " " + event;
     if (awaiting && log.constLast() == awaited) {
         // The call may delete this page.
         const auto call = awaiting;

@@ -12,7 +12,7 @@ class RyCRibbonPage : public RecordingPage
 {
 public:
     explicit RyCRibbonPage(RyAbstatcManager *manager)
-        : RecordingPage(QStringLiteral("ribbon"), manager)
+        : RecordingPage("ribbon", manager)
     {
     }
 };

@@ -12,7 +12,7 @@ class RyCToolBarPage : public RecordingPage
 {
 public:
     explicit RyCToolBarPage(RyAbstatcManager *manager)
-        : RecordingPage(QStringLiteral("toolbar"), manager)
+        : RecordingPage("toolbar", manager)
     {
     }
 };
