@@ -124,7 +124,7 @@ void ContentChange::placeAction(QAction *action)
     if (!isOver() && m_manager->m_allActions.contains(action)) {
         m_manager->m_actionToToolBars[action].append(m_toolBar);
         m_manager->m_toolBarsWithSeparators[m_toolBar].append(action);
-    } else if (m_toolBar && placed) {
+    } else if (!m_toolBar.isNull() && placed) {
         m_toolBar->removeAction(action);
     }
 }
@@ -135,7 +135,7 @@ void ContentChange::placeSeparator()
     // It goes with a toolbar that is gone.
     if (!isOver())
         m_manager->m_toolBarsWithSeparators[m_toolBar].append(separator);
-    else if (m_toolBar)
+    else if (!m_toolBar.isNull())
         delete separator;
 }
 

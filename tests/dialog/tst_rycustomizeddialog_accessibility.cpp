@@ -89,7 +89,7 @@ void press(QObject *object)
     actions->doAction(QAccessibleActionInterface::pressAction());
 }
 
-QStringList lines(const char *text)
+QStringList described(const char *text)
 {
     return QString(text).split('\n');
 }
@@ -153,32 +153,32 @@ void tst_RyCustomizedDialog_Accessibility::everythingHasARole()
     for (const QString &line : found.filter("'Scroll "))
         found.removeAll(line);
     QCOMPARE(found,
-             lines("Dialog 'Options'\n"
-                   "  Client ''\n"
-                   "    LayeredPane ''\n"
-                   "      Client ''\n"
-                   "        StaticText 'Actions'\n"
-                   "        StaticText 'Toolbars'\n"
-                   "        Button 'New' focused\n"
-                   "        Button 'Remove'\n"
-                   "        Button 'Rename'\n"
-                   "        Tree ''\n"
-                   "        List ''\n"
-                   "        StaticText 'Current Toolbar Actions'\n"
-                   "        Button 'Up'\n"
-                   "        Button '<-'\n"
-                   "        Button '->'\n"
-                   "        Button 'Down'\n"
-                   "        List ''\n"
-                   "    PageTabList 'ToolBar'\n"
-                   "      PageTab 'ToolBar' focused\n"
-                   "      PageTab 'Ribbon'\n"
-                   "  Grouping ''\n"
-                   "    Button 'OK' default\n"
-                   "    Button 'Cancel'\n"
-                   "    Button 'Help'\n"
-                   "    Button 'Apply'\n"
-                   "    Button 'Restore Defaults'"));
+             described("Dialog 'Options'\n"
+                       "  Client ''\n"
+                       "    LayeredPane ''\n"
+                       "      Client ''\n"
+                       "        StaticText 'Actions'\n"
+                       "        StaticText 'Toolbars'\n"
+                       "        Button 'New' focused\n"
+                       "        Button 'Remove'\n"
+                       "        Button 'Rename'\n"
+                       "        Tree ''\n"
+                       "        List ''\n"
+                       "        StaticText 'Current Toolbar Actions'\n"
+                       "        Button 'Up'\n"
+                       "        Button '<-'\n"
+                       "        Button '->'\n"
+                       "        Button 'Down'\n"
+                       "        List ''\n"
+                       "    PageTabList 'ToolBar'\n"
+                       "      PageTab 'ToolBar' focused\n"
+                       "      PageTab 'Ribbon'\n"
+                       "  Grouping ''\n"
+                       "    Button 'OK' default\n"
+                       "    Button 'Cancel'\n"
+                       "    Button 'Help'\n"
+                       "    Button 'Apply'\n"
+                       "    Button 'Restore Defaults'"));
 }
 
 void tst_RyCustomizedDialog_Accessibility::toolTipsAreTheDescriptionsOfButtons_data()
@@ -219,12 +219,13 @@ void tst_RyCustomizedDialog_Accessibility::theActionTreeReportsCategoriesAndActi
 {
     Stage stage;
     QCOMPARE(itemsReported(stage.views.actionTree),
-             lines("< S E P A R A T O R > focused selected\nEdit expandable\nFile expandable"));
+             described("< S E P A R A T O R > focused selected\nEdit expandable\nFile expandable"));
     stage.views.actionTree->expandItem(itemNamed(stage.views.actionTree, "Edit"));
     stage.views.actionTree->setCurrentItem(itemNamed(stage.views.actionTree, "Cut"));
-    QCOMPARE(itemsReported(stage.views.actionTree),
-             lines("< S E P A R A T O R >\nEdit expandable expanded\nCopy\nCut focused selected\n"
-                   "Paste\nFile expandable"));
+    QCOMPARE(
+        itemsReported(stage.views.actionTree),
+        described("< S E P A R A T O R >\nEdit expandable expanded\nCopy\nCut focused selected\n"
+                  "Paste\nFile expandable"));
     const QAccessibleInterface *const tree = accessible(stage.views.actionTree);
     for (int i = 1; i < tree->childCount(); ++i)
         QCOMPARE(tree->child(i)->role(), QAccessible::TreeItem);
@@ -243,7 +244,7 @@ void tst_RyCustomizedDialog_Accessibility::theHiddenHeaderIsReported()
 void tst_RyCustomizedDialog_Accessibility::theToolBarListReportsRowsButNotWhichAreDefault()
 {
     Stage stage;
-    QCOMPARE(itemsReported(stage.views.toolBarList), lines("File\nMine focused selected"));
+    QCOMPARE(itemsReported(stage.views.toolBarList), described("File\nMine focused selected"));
     for (int row = 0; row < 2; ++row) {
         const QAccessibleInterface *const item = accessible(stage.views.toolBarList)->child(row);
         QCOMPARE(item->role(), QAccessible::ListItem);
@@ -452,7 +453,7 @@ void tst_RyCustomizedDialog_Accessibility::mnemonicsAreReportedAsTheyAre()
     stage.host.action("open")->setText("&Open");
     stage.views.toolBarList->setCurrentRow(0);
     QCOMPARE(itemsReported(stage.views.currentToolBarList),
-             lines("&Open focused selected\n< S E P A R A T O R >\nSave"));
+             described("&Open focused selected\n< S E P A R A T O R >\nSave"));
 }
 
 void tst_RyCustomizedDialog_Accessibility::selectingAnItemDoesNotMakeItCurrent_data()

@@ -15,11 +15,6 @@ TreeStage::TreeStage()
 {
 }
 
-QStringList lines(const char *text)
-{
-    return QString(text).split(',');
-}
-
 QStringList libraryAtFirst()
 {
     return lines("Novels,  Dracula,  Emma,  Moby-Dick,Poems,  Leaves of Grass,  Sonnets,Science,"

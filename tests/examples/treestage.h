@@ -5,6 +5,7 @@
 
 #include "bookswindow.h"
 #include "guardedtree.h"
+#include "texts.h"
 
 #include <QStringList>
 
@@ -25,9 +26,6 @@ struct TreeStage
     QAction *const redo;
     QUndoStack *const undoStack;
 };
-
-// The lines of a text such as "Now,  Frankenstein".
-QStringList lines(const char *text);
 
 QStringList libraryAtFirst();
 QStringList readingListAtFirst();

@@ -7,7 +7,7 @@
 
 set -eu
 
-# By default a server starts anew when its last client leaves, which the look for the window manager
+# By default a server starts again when its last client leaves, which the look for the window manager
 # below may be, and then drops the window manager that is just connecting.
 if [ "${RY_IN_WINDOW:-}" != started ]; then
     RY_IN_WINDOW=started exec xvfb-run -a -s '-screen 0 1280x1024x24 -nolisten tcp -noreset' "$0" "$@"

@@ -12,7 +12,7 @@
 
 /*
  * The pointer and the keyboard of the X server that a window test runs on, moved and pressed as a
- * user's hand would. The server has what each call sent before the call returns; when Qt hears of
+ * user's hand would. The server has what each call sent before the call returns; when Qt notices
  * it is for the test to wait for. What is still held at the end is released.
  */
 class RealInput

@@ -30,6 +30,11 @@ QStringList words(const char *text)
     return QString::fromUtf8(text).split(' ', Qt::SkipEmptyParts);
 }
 
+QStringList lines(const char *text)
+{
+    return QString(text).split(',');
+}
+
 QStringList contentOf(const QList<QAction *> &actions)
 {
     QStringList names;

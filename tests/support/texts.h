@@ -17,6 +17,9 @@
 // The words of a text such as "open | save".
 QStringList words(const char *text);
 
+// The lines of a text that has commas between them.
+QStringList lines(const char *text);
+
 // The objectName of each action, its text in quotes without one, and "|" for null.
 QStringList contentOf(const QList<QAction *> &actions);
 

@@ -118,7 +118,7 @@ QString wrongActionTree(const EditorFields &fields, const QTreeWidget *tree)
 
 } // namespace
 
-FilledHost::FilledHost()
+EditorHost::EditorHost()
 {
     defaultToolBar("file", {"open", "|", "save"}, "Files");
     for (const char *name : {"copy", "cut", "paste", "undo", "zoom"})

@@ -14,10 +14,10 @@
 /*
  * A default toolbar, two custom ones and two actions that are on none.
  */
-class FilledHost : public Host
+class EditorHost : public Host
 {
 public:
-    FilledHost();
+    EditorHost();
 };
 
 /*
@@ -74,7 +74,7 @@ public:
     }
 };
 
-using FilledEditor = HostedEditor<FilledHost>;
+using FilledEditor = HostedEditor<EditorHost>;
 
 // Every toolbar of the manager as "title: content", sorted. The content is what is on the
 // toolbar; where the manager has recorded something else, that is added.

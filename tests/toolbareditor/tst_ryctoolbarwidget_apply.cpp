@@ -146,7 +146,7 @@ private Q_SLOTS:
 
 void tst_RyCToolBarWidget_Apply::applyWithoutEditsTouchesNoContent()
 {
-    FilledHost host;
+    EditorHost host;
     QToolBar *const file = toolBarTitled(host.manager, "File");
     const auto standing = file->actions();
     ShownEditor editor(&host.manager);
@@ -223,7 +223,7 @@ void tst_RyCToolBarWidget_Apply::applyWorksInPhases()
 
 void tst_RyCToolBarWidget_Apply::applyWritesTheToolBarsInTheOrderOfTheRecords()
 {
-    FilledHost host;
+    EditorHost host;
     for (int i = 0; i < 8; ++i)
         customToolBar(host, QString("Toolbar %1").arg(i), {});
     ShownEditor editor(&host.manager);
@@ -370,7 +370,7 @@ void tst_RyCToolBarWidget_Apply::applyWhileTheNameIsEditedTakesTheOldName()
 
 void tst_RyCToolBarWidget_Apply::withoutAMainWindowNothingIsCreated()
 {
-    FilledHost host;
+    EditorHost host;
     host.manager.setMainWindow(nullptr);
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
@@ -399,7 +399,7 @@ void tst_RyCToolBarWidget_Apply::withoutAMainWindowNothingIsCreated()
 
 void tst_RyCToolBarWidget_Apply::aToolBarThatTheManagerForgotStillGetsItsTitle()
 {
-    FilledHost host;
+    EditorHost host;
     QToolBar *const forgotten = toolBarTitled(host.manager, "Mine");
     ShownEditor editor(&host.manager);
     editor.selectToolBar("Mine");
@@ -426,7 +426,7 @@ void tst_RyCToolBarWidget_Apply::applyKeepsTheRecordsOfTheFill()
 
 void tst_RyCToolBarWidget_Apply::anUntitledToolBarIsRenamedAndRemoved()
 {
-    FilledHost host;
+    EditorHost host;
     const QStringList others = toolBarsOf(host.manager);
     const QPointer<QToolBar> untitled = customToolBar(host, QString(), {"cut"});
     ShownEditor editor(&host.manager);
@@ -487,7 +487,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsChangesTheWorkingCopyOnly()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsResetsTheContentOfDefaultToolBars()
 {
-    FilledHost host;
+    EditorHost host;
     host.defaultToolBar("view", {"zoom"}, "View");
     host.defaultToolBar("help", {}, "Help");
     // Edited before, edited now, not at all.
@@ -520,7 +520,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsShowsTheDefaultContent()
 // Even while another row of the list is current.
 void tst_RyCToolBarWidget_Apply::restoreDefaultsRefreshesTheToolBarThatIsShown()
 {
-    FilledHost host;
+    EditorHost host;
     host.defaultToolBar("view", {"zoom"}, "View");
     ShownEditor editor(&host.manager);
     editor.selectToolBar("File");
@@ -578,7 +578,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsRemovesToolBarsThatWereCreatedAn
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsLeavesRemovedToolBarsRemoved()
 {
-    FilledHost host;
+    EditorHost host;
     const QPointer<QToolBar> mine = toolBarTitled(host.manager, "Mine");
     ShownEditor editor(&host.manager);
     removeToolBar(editor, "Mine");
@@ -649,7 +649,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsKeepsTheNames()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsDoesNotBringUnregisteredActionsBack()
 {
-    FilledHost host;
+    EditorHost host;
     host.manager.removeAction(host.action("open"));
     ShownEditor editor(&host.manager);
     editor.widget.defaultClicked();
@@ -660,7 +660,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsDoesNotBringUnregisteredActionsB
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsThenApplyEqualsTheDefaults()
 {
-    FilledHost host;
+    EditorHost host;
     host.defaultToolBar("view", {"zoom", "|"}, "View");
     const auto toolBars = host.manager.toolBars();
     for (QToolBar *toolBar : toolBars)
@@ -686,7 +686,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileTheNameIsEdited()
 
 void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileHiddenHasNoEffect()
 {
-    FilledHost host;
+    EditorHost host;
     host.manager.setToolBar(toolBarTitled(host.manager, "File"), {});
     const QStringList before = toolBarsOf(host.manager);
     ShownEditor editor(&host.manager);
@@ -709,7 +709,7 @@ void tst_RyCToolBarWidget_Apply::restoreDefaultsWhileHiddenHasNoEffect()
 // The records of the fill are gone, and what comes next may lie where they were.
 void tst_RyCToolBarWidget_Apply::restoreDefaultsAfterToolBarsWereDeleted()
 {
-    FilledHost host;
+    EditorHost host;
     for (int i = 0; i < 8; ++i)
         customToolBar(host, QString("Toolbar %1").arg(i), {});
     ShownEditor editor(&host.manager);

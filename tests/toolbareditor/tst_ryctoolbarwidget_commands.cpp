@@ -263,7 +263,7 @@ void tst_RyCToolBarWidget_Commands::removeMakesTheNextToolBarCurrent()
     QFETCH(QString, removed);
     QFETCH(QString, current);
     QFETCH(QStringList, content);
-    FilledHost host;
+    EditorHost host;
     customToolBar(host, "Above", {"zoom"});
     ShownEditor editor(&host.manager);
     QStringList rows = rowsOf(editor.views.toolBarList);
@@ -299,7 +299,7 @@ void tst_RyCToolBarWidget_Commands::removingTheOnlyToolBarLeavesNoneCurrent()
 
 void tst_RyCToolBarWidget_Commands::removingANewToolBarLeavesNothing()
 {
-    FilledHost host;
+    EditorHost host;
     const QStringList before = toolBarsOf(host.manager);
     const auto toolBars = host.window.findChildren<QToolBar *>();
     ShownEditor editor(&host.manager);

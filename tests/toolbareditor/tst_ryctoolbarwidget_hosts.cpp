@@ -22,10 +22,10 @@
 
 namespace {
 
-class BusyHost : public Host
+class WatchedHost : public Host
 {
 public:
-    BusyHost()
+    WatchedHost()
         : file(defaultToolBar("file", words("open | save"), "Files"))
     {
         for (const char *name : {"copy", "cut", "paste"})
@@ -39,7 +39,7 @@ public:
     QPointer<QToolBar> yours;
 };
 
-using Editor = HostedEditor<BusyHost>;
+using Editor = HostedEditor<WatchedHost>;
 
 // One edit of each kind: "Yours" goes, "Mine" loses its first entry, and a new toolbar gets one.
 void removeEditAndCreate(ShownEditor &editor)
@@ -268,7 +268,7 @@ void tst_RyCToolBarWidget_Hosts::aDefaultToolBarAtTheAddressOfADeletedOneIsNotRe
 
 void tst_RyCToolBarWidget_Hosts::aDeletedActionIsShownAsBefore()
 {
-    BusyHost host;
+    WatchedHost host;
     QAction *const cut = host.action("cut");
     const QIcon icon(QPixmap(16, 16));
     cut->setIcon(icon);
@@ -290,7 +290,7 @@ void tst_RyCToolBarWidget_Hosts::aDeletedActionIsShownAsBefore()
 
 void tst_RyCToolBarWidget_Hosts::aDeletedActionThatHasNoTreeItemIsShownWithoutText()
 {
-    BusyHost host;
+    WatchedHost host;
     // Takes the actions out of their category, but not off their toolbars.
     host.manager.addCategory("Edits");
     ShownEditor editor(&host.manager);
@@ -361,7 +361,7 @@ void tst_RyCToolBarWidget_Hosts::changesOfActionsAreShownOnlyByNewEntries()
 
 void tst_RyCToolBarWidget_Hosts::anActionThatBecameASeparatorIsStillAnAction()
 {
-    BusyHost host;
+    WatchedHost host;
     const QPointer<QAction> cut = host.action("cut");
     ShownEditor editor(&host.manager);
     cut->setSeparator(true);
@@ -431,7 +431,7 @@ void tst_RyCToolBarWidget_Hosts::theEditorMayBeDeletedWhileItApplies_data()
 void tst_RyCToolBarWidget_Hosts::theEditorMayBeDeletedWhileItApplies()
 {
     QFETCH(int, phase);
-    BusyHost host;
+    WatchedHost host;
     ShownEditor *editor = new ShownEditor(&host.manager);
     removeEditAndCreate(*editor);
     HostCalls calls({phase == 2 ? QEvent::ChildAdded : QEvent::ActionRemoved}, HostCalls::Once,
@@ -625,7 +625,7 @@ void tst_RyCToolBarWidget_Hosts::aMessageBoxDuringTheApplyLosesNothing()
 
 void tst_RyCToolBarWidget_Hosts::restoringAStateDuringTheApplyLosesNoToolBar()
 {
-    BusyHost host;
+    WatchedHost host;
     const QByteArray state = host.manager.saveState(1);
     ShownEditor editor(&host.manager);
     editor.selectToolBar("Mine");
@@ -685,7 +685,7 @@ void tst_RyCToolBarWidget_Hosts::anyEditDuringTheApplyKeepsTheEditorConsistent()
 
 void tst_RyCToolBarWidget_Hosts::twoEditorsOfOneManagerWriteWhatEachShows()
 {
-    BusyHost host;
+    WatchedHost host;
     ShownEditor first(&host.manager);
     ShownEditor second(&host.manager);
     first.selectToolBar("Mine");
@@ -712,7 +712,7 @@ void tst_RyCToolBarWidget_Hosts::twoEditorsOfOneManagerWriteWhatEachShows()
 
 void tst_RyCToolBarWidget_Hosts::aToolBarRemovedInOneEditorIsLeftAloneByTheOther()
 {
-    BusyHost host;
+    WatchedHost host;
     ShownEditor first(&host.manager);
     ShownEditor second(&host.manager);
     for (ShownEditor *editor : {&first, &second}) {
@@ -763,7 +763,7 @@ void tst_RyCToolBarWidget_Hosts::theManagerMayGoBeforeAShownEditor()
 
 void tst_RyCToolBarWidget_Hosts::theApplyLeavesAreaAndVisibilityAlone()
 {
-    BusyHost host;
+    WatchedHost host;
     host.window.addToolBar(Qt::LeftToolBarArea, host.mine);
     host.window.addToolBarBreak(Qt::LeftToolBarArea);
     host.window.addToolBar(Qt::BottomToolBarArea, host.yours);
@@ -786,7 +786,7 @@ void tst_RyCToolBarWidget_Hosts::theApplyLeavesAreaAndVisibilityAlone()
 
 void tst_RyCToolBarWidget_Hosts::theApplyReachesToolBarsInAnotherWindow()
 {
-    BusyHost host;
+    WatchedHost host;
     QMainWindow second;
     second.addToolBar(host.mine);
     second.addToolBar(host.yours);

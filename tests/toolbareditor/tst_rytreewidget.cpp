@@ -61,12 +61,6 @@ void fill(QTreeWidget &tree)
     tree.resize(200, 300);
 }
 
-// The lines of a text such as "a,  a1,b", as itemsOf() gives them.
-QStringList lines(const char *text)
-{
-    return QString(text).split(',');
-}
-
 QStringList filledContent()
 {
     return lines("a,  a1,  a2,b,  b1,c,d");

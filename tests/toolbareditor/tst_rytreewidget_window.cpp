@@ -98,12 +98,6 @@ void fill(QTreeWidget *tree)
     a->setExpanded(true);
 }
 
-// The lines of a text such as "a,  a1,b", as itemsOf() gives them.
-QStringList lines(const char *text)
-{
-    return QString(text).split(',');
-}
-
 QStringList filledContent()
 {
     return lines("a,  a1,  a2,b,  b1,c,d");

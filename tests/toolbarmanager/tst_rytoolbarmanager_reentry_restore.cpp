@@ -12,8 +12,27 @@ namespace {
 
 const QString A = "A";
 
-// What a message handler calls, which Qt takes as a plain function only.
-std::function<void()> onMessage;
+// A message handler of a host. Qt takes a plain function only, so that what it calls is static.
+class MessageCalls
+{
+public:
+    explicit MessageCalls(const std::function<void()> &call)
+        : m_previous(qInstallMessageHandler(handle))
+    {
+        s_call = call;
+    }
+    ~MessageCalls() { qInstallMessageHandler(m_previous); }
+
+private:
+    Q_DISABLE_COPY(MessageCalls)
+
+    static void handle(QtMsgType, const QMessageLogContext &, const QString &) { s_call(); }
+
+    static std::function<void()> s_call;
+    const QtMessageHandler m_previous;
+};
+
+std::function<void()> MessageCalls::s_call;
 
 // Not the one whose title changes: Qt itself does not survive its deletion then.
 void deleteOld(BusyHost &host)
@@ -108,12 +127,10 @@ void tst_RyToolBarManager_reentry_restore::aDefaultToolBarRegisteredOnAWarningIs
                                  .defaultToolBar("late", words("cut"))
                                  .customs(0)
                                  .bytes();
-    onMessage = [&] { host.manager.addDefaultToolBar(late, A); };
-    const auto previous = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &, const QString &) { onMessage(); });
-    const bool restored = host.manager.restoreState(state, 1);
-    qInstallMessageHandler(previous);
-    QVERIFY(restored);
+    {
+        const MessageCalls calls([&] { host.manager.addDefaultToolBar(late, A); });
+        QVERIFY(host.manager.restoreState(state, 1));
+    }
     QCOMPARE(contentOf(host.manager.actions(late)), words("cut"));
     QCOMPARE(inconsistencyOf(host.manager), QString());
 }
