@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 
-#include "connections.h"
 #include "layouts.h"
 #include "recordingtranslator.h"
 #include "ryctoolbarwidget.h"

@@ -4,9 +4,7 @@
 #include "showneditor.h"
 #include "testcase.h"
 #include "texts.h"
-#include "toolbaritem.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QWindow>
 #include <QtTest>

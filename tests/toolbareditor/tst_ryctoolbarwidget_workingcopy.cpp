@@ -696,9 +696,10 @@ void tst_RyCToolBarWidget_WorkingCopy::theRuleSetsEveryButton()
 
 void tst_RyCToolBarWidget_WorkingCopy::hidingEmptiesTheEditor()
 {
-    Editor editor("Mine");
+    Editor editor("Single");
     editor.call("removeClicked");
     editor.call("newClicked");
+    editor.selectToolBar("Mine");
     // The emptied views must not be what empties the fields.
     const QSignalBlocker silentToolBars(editor.views.toolBarList);
     const QSignalBlocker silentActions(editor.views.actionTree);
