@@ -4,6 +4,8 @@
 
 #include "rytoolbarmanager.h"
 
+#include <algorithm>
+
 namespace {
 
 const int MaximumReplacements = 100;
@@ -96,12 +98,10 @@ void ContentChange::takeOff(QAction *action)
 bool ContentChange::isShared(QAction *separator) const
 {
     const auto widgets = separator->associatedWidgets();
-    for (QWidget *widget : widgets) {
+    return std::any_of(widgets.cbegin(), widgets.cend(), [this, separator](QWidget *widget) {
         QToolBar *const toolBar = qobject_cast<QToolBar *>(widget);
-        if (m_manager->m_toolBarsWithSeparators.value(toolBar).contains(separator))
-            return true;
-    }
-    return false;
+        return m_manager->m_toolBarsWithSeparators.value(toolBar).contains(separator);
+    });
 }
 
 void ContentChange::placeContent()

@@ -112,5 +112,6 @@ QSet<QAction *> RyToolBarManager::actions() const
 
 QAction *RyToolBarManager::findAction(const QString &name) const
 {
-    return NameIndex<QAction>(m_allActions.values()).find(name);
+    NameIndex<QAction> actions(m_allActions.values());
+    return actions.find(name);
 }

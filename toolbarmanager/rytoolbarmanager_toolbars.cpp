@@ -213,10 +213,12 @@ QList<QAction *> RyToolBarManager::actions(QToolBar *toolBar) const
 
 QToolBar *RyToolBarManager::toolBarByName(const QString &name) const
 {
-    return NameIndex<QToolBar>(m_toolBars.keys()).findByObjectName(name);
+    const NameIndex<QToolBar> toolBars(m_toolBars.keys());
+    return toolBars.findByObjectName(name);
 }
 
 QToolBar *RyToolBarManager::findDefaultToolBar(const QString &name) const
 {
-    return NameIndex<QToolBar>(m_defaultToolBars.keys()).find(name);
+    NameIndex<QToolBar> toolBars(m_defaultToolBars.keys());
+    return toolBars.find(name);
 }
