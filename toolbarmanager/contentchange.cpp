@@ -119,12 +119,11 @@ void ContentChange::placeContent()
 
 void ContentChange::placeAction(QAction *action)
 {
-    const QPointer<QAction> placed(action);
     m_toolBar->insertAction(nullptr, action);
     if (!isOver() && m_manager->m_allActions.contains(action)) {
         m_manager->m_actionToToolBars[action].append(m_toolBar);
         m_manager->m_toolBarsWithSeparators[m_toolBar].append(action);
-    } else if (!m_toolBar.isNull() && placed) {
+    } else if (!m_toolBar.isNull() && m_toolBar->actions().contains(action)) {
         m_toolBar->removeAction(action);
     }
 }
