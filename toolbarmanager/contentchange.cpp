@@ -83,15 +83,21 @@ void ContentChange::takeOff(QAction *action)
     const auto toolBars = m_manager->m_actionToToolBars.find(action);
     if (toolBars != m_manager->m_actionToToolBars.end())
         toolBars.value().removeAll(m_toolBar);
-    const bool isRegistered = m_manager->m_allActions.contains(action);
-    // One that the host deleted has left its widgets.
-    if (isRegistered && !m_toolBar->actions().contains(action))
-        return;
     // A registered action that became a separator later is still the host's.
-    const QPointer<QAction> separator(!isRegistered && action->isSeparator() ? action : nullptr);
+    if (m_manager->m_allActions.contains(action)) {
+        takeOffWidget(m_toolBar, action);
+        return;
+    }
+    const QPointer<QAction> separator(action->isSeparator() ? action : nullptr);
     m_toolBar->removeAction(action);
     if (separator && !isShared(separator))
         delete separator;
+}
+
+void ContentChange::takeOffWidget(QToolBar *toolBar, QAction *action)
+{
+    if (toolBar->actions().contains(action))
+        toolBar->removeAction(action);
 }
 
 // A separator action of the host may be on several default toolbars; the last one deletes it.
@@ -123,8 +129,8 @@ void ContentChange::placeAction(QAction *action)
     if (!isOver() && m_manager->m_allActions.contains(action)) {
         m_manager->m_actionToToolBars[action].append(m_toolBar);
         m_manager->m_toolBarsWithSeparators[m_toolBar].append(action);
-    } else if (!m_toolBar.isNull() && m_toolBar->actions().contains(action)) {
-        m_toolBar->removeAction(action);
+    } else if (!m_toolBar.isNull()) {
+        takeOffWidget(m_toolBar, action);
     }
 }
 

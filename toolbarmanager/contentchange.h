@@ -38,6 +38,9 @@ public:
     // managed then.
     bool empty();
 
+    // Leaves alone an action that is not on the toolbar, because the host may have deleted it.
+    static void takeOffWidget(QToolBar *toolBar, QAction *action);
+
     // Asks for another content, without effect if it is the one that is being placed.
     void replace(const QList<QAction *> &content);
 

@@ -2,6 +2,7 @@
 
 #include "rytoolbarmanager.h"
 
+#include "contentchange.h"
 #include "nameindex.h"
 
 RyToolBarManager::RyToolBarManager(QObject *parent)
@@ -62,9 +63,7 @@ void RyToolBarManager::takeOffToolBars(QAction *action)
         // No content has an action twice.
         content.value().removeOne(action);
         m_toolBarsWithSeparators[toolBar].removeOne(action);
-        // An action that was deleted has left its widgets.
-        if (toolBar->actions().contains(action))
-            toolBar->removeAction(action);
+        ContentChange::takeOffWidget(toolBar, action);
     }
 }
 
