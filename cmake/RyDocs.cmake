@@ -6,7 +6,7 @@ include_guard()
 # collection for Qt's tools, in the folder docs of the build tree. Fails if a name has no comment.
 
 find_package(Doxygen 1.9 REQUIRED)
-get_target_property(RY_QMAKE Qt5::qmake IMPORTED_LOCATION)
+get_target_property(RY_QMAKE ${RY_QT}::qmake IMPORTED_LOCATION)
 execute_process(COMMAND "${RY_QMAKE}" -query QT_INSTALL_BINS
     OUTPUT_VARIABLE RY_QT_BINDIR OUTPUT_STRIP_TRAILING_WHITESPACE)
 find_program(RY_QHELPGENERATOR qhelpgenerator HINTS "${RY_QT_BINDIR}")

@@ -3,11 +3,11 @@
 # The file that qmake needs for `CONFIG += rycustomizeddialog`. With Qt's own prefix, qmake finds it.
 # With another prefix, a host sets QMAKEFEATURES to its folder.
 
-set(RY_QMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/features")
+set(RY_QMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/qt${RYCUSTOMIZEDDIALOG_QT}/mkspecs/features")
 
 if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
     set(RY_QMAKE_LIBDIR "${CMAKE_INSTALL_FULL_LIBDIR}")
-    set(RY_QMAKE_INCLUDEDIR "${CMAKE_INSTALL_FULL_INCLUDEDIR}")
+    set(RY_QMAKE_INCLUDEDIR "${CMAKE_INSTALL_FULL_INCLUDEDIR}${RY_INCLUDE_FOLDER}")
 else()
     # Relative to the file, so that the installed tree can be moved.
     foreach(folder IN ITEMS LIBDIR INCLUDEDIR)
@@ -15,6 +15,7 @@ else()
             "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_${folder}}")
         set(RY_QMAKE_${folder} "\$\$PWD/${RY_FROM_QMAKE}")
     endforeach()
+    string(APPEND RY_QMAKE_INCLUDEDIR "${RY_INCLUDE_FOLDER}")
 endif()
 configure_file(cmake/rycustomizeddialog.prf.in "${PROJECT_BINARY_DIR}/rycustomizeddialog.prf" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/rycustomizeddialog.prf" DESTINATION "${RY_QMAKE_DIR}")

@@ -46,7 +46,7 @@ QTreeWidgetItem *RyCToolBarWidget::createActionItem(QAction *action)
 {
     QTreeWidgetItem *const item = new QTreeWidgetItem(QStringList(action->text()));
     item->setIcon(0, action->icon());
-    item->setTextAlignment(0, EntryAlignment);
+    item->setData(0, Qt::TextAlignmentRole, EntryAlignment);
     item->setFlags(item->flags() | Qt::ItemIsDragEnabled);
     // Most of them come in the order of their addresses.
     m_treeItemOfAction.insert(m_treeItemOfAction.constEnd(), action, item);
@@ -150,7 +150,7 @@ QListWidgetItem *RyCToolBarWidget::createEntry(QAction *action)
     if (!action)
         return entry;
     m_entryOfAction.insert(action, entry);
-    entry->setTextAlignment(EntryAlignment);
+    entry->setData(Qt::TextAlignmentRole, EntryAlignment);
     if (m_managerGuard && m_manager->actions().contains(action)) {
         entry->setText(action->text());
         entry->setIcon(action->icon());

@@ -27,7 +27,7 @@ QStringList RyTreeItemMimeData::formats() const
     return formatList;
 }
 
-QVariant RyTreeItemMimeData::retrieveData(const QString &mimeType, QVariant::Type type) const
+QVariant RyTreeItemMimeData::retrieveData(const QString &mimeType, PreferredType type) const
 {
     if (mimeType == QLatin1String("ItemMimeData"))
         return dragItem != nullptr;

@@ -7,6 +7,7 @@
 
 #include <QMimeData>
 #include <QStringList>
+#include <QVariant>
 
 class QTreeWidgetItem;
 
@@ -23,6 +24,15 @@ class RYCUSTOMIZEDDIALOG_EXPORT RyTreeItemMimeData : public QMimeData
     Q_OBJECT
 
 public:
+    /*!
+     * \brief How QMimeData names a type, which depends on Qt.
+     */
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    using PreferredType = QVariant::Type;
+#else
+    using PreferredType = QMetaType;
+#endif
+
     /*!
      * \brief Constructs a payload without an item and without formats.
      */
@@ -58,7 +68,7 @@ public:
      * \brief Returns for "ItemMimeData", whatever \a type is asked for, a boolean that is true if
      *        there is an item; what QMimeData returns for any other \a mimeType.
      */
-    QVariant retrieveData(const QString &mimeType, QVariant::Type type) const override;
+    QVariant retrieveData(const QString &mimeType, PreferredType type) const override;
 
 private:
     // The dragged item in the source tree, not owned.

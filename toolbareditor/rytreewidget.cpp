@@ -14,6 +14,15 @@
 
 namespace {
 
+QPoint position(const QDropEvent *event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event->pos();
+#else
+    return event->position().toPoint();
+#endif
+}
+
 bool comesFromTree(const QDropEvent *event)
 {
     return qobject_cast<RyTreeWidget *>(event->source());
@@ -113,7 +122,7 @@ void RyTreeWidget::dragMoveEvent(QDragMoveEvent *event)
     if (!comesFromTree(event))
         return;
     QTreeWidgetItem *const dragged = draggedItem(event);
-    QTreeWidgetItem *const item = itemAt(event->pos());
+    QTreeWidgetItem *const item = itemAt(position(event));
     if (!dragged || item == dragged) {
         event->ignore();
         return;
@@ -129,7 +138,7 @@ void RyTreeWidget::dropEvent(QDropEvent *event)
     if (!comesFromTree(event) || !dragged)
         return;
     QTreeWidgetItem *const copy = dragged->clone();
-    QTreeWidgetItem *const item = itemAt(event->pos());
+    QTreeWidgetItem *const item = itemAt(position(event));
     // On the dragged item itself, too, the copy goes to the end of the top level on purpose.
     if (item && item != dragged)
         item->addChild(copy);

@@ -103,9 +103,13 @@ void ContentChange::takeOffWidget(QToolBar *toolBar, QAction *action)
 // A separator action of the host may be on several default toolbars; the last one deletes it.
 bool ContentChange::isShared(QAction *separator) const
 {
-    const auto widgets = separator->associatedWidgets();
-    return std::any_of(widgets.cbegin(), widgets.cend(), [this, separator](QWidget *widget) {
-        QToolBar *const toolBar = qobject_cast<QToolBar *>(widget);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    const auto owners = separator->associatedWidgets();
+#else
+    const auto owners = separator->associatedObjects();
+#endif
+    return std::any_of(owners.cbegin(), owners.cend(), [this, separator](QObject *owner) {
+        QToolBar *const toolBar = qobject_cast<QToolBar *>(owner);
         return m_manager->m_toolBarsWithSeparators.value(toolBar).contains(separator);
     });
 }

@@ -31,7 +31,7 @@ ActionItem *createActionItem(QAction *action)
 {
     ActionItem *const item = new ActionItem(action->text(), action);
     item->setIcon(0, action->icon());
-    item->setTextAlignment(0, EntryAlignment);
+    item->setData(0, Qt::TextAlignmentRole, EntryAlignment);
     item->setFlags(item->flags() | Qt::ItemIsDragEnabled);
     return item;
 }
@@ -39,7 +39,7 @@ ActionItem *createActionItem(QAction *action)
 void decorate(QListWidgetItem *row, const QAction *action)
 {
     row->setIcon(action->icon());
-    row->setTextAlignment(EntryAlignment);
+    row->setData(Qt::TextAlignmentRole, EntryAlignment);
 }
 
 } // namespace

@@ -128,8 +128,8 @@ void Dressing::addShortcuts()
     addShortcut(m_actionTree, Qt::Key_Insert, m_rightButton);
     addShortcut(m_toolBarList, Qt::Key_Insert, part<QToolButton>("newButton"));
     addShortcut(m_toolBarList, Qt::Key_Delete, part<QToolButton>("removeButton"));
-    addShortcut(m_currentToolBarList, Qt::ALT + Qt::Key_Up, part<QToolButton>("upButton"));
-    addShortcut(m_currentToolBarList, Qt::ALT + Qt::Key_Down, part<QToolButton>("downButton"));
+    addShortcut(m_currentToolBarList, Qt::ALT | Qt::Key_Up, part<QToolButton>("upButton"));
+    addShortcut(m_currentToolBarList, Qt::ALT | Qt::Key_Down, part<QToolButton>("downButton"));
     addShortcut(m_currentToolBarList, Qt::Key_Delete, m_leftButton);
     // The list already handles this key.
     QToolButton *const renameButton = part<QToolButton>("renameButton");

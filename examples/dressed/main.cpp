@@ -6,8 +6,10 @@
 
 int main(int argc, char *argv[])
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // needed for sharp icons
+#endif
     QApplication application(argc, argv);
     DressedWindow window;
     window.show();

@@ -78,8 +78,8 @@ void ActionCatalog::addFileActions()
         QKeySequence::Refresh);
     add("file_save", "save", tr("Save"), tr("Save the document"), QKeySequence::Save);
     add("file_save_as", "save-as", tr("Save As…"), tr("Save the document under another name"),
-        Qt::CTRL + Qt::SHIFT + Qt::Key_S);
-    add("file_quit", "quit", tr("Quit"), tr("Quit the text editor"), Qt::CTRL + Qt::Key_Q);
+        Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    add("file_quit", "quit", tr("Quit"), tr("Quit the text editor"), Qt::CTRL | Qt::Key_Q);
 }
 
 void ActionCatalog::addEditActions()
@@ -96,7 +96,7 @@ void ActionCatalog::addEditActions()
     add("edit_select_all", "select-all", tr("Select All"), tr("Select the whole text"),
         QKeySequence::SelectAll);
     add("edit_duplicate_line", "duplicate-line", tr("Duplicate Line"),
-        tr("Duplicate the current line"), Qt::CTRL + Qt::Key_D);
+        tr("Duplicate the current line"), Qt::CTRL | Qt::Key_D);
     add("edit_upper_case", "upper-case", tr("Upper Case"),
         tr("Change the selection to capital letters"));
     add("edit_lower_case", "lower-case", tr("Lower Case"),
@@ -108,11 +108,11 @@ void ActionCatalog::addSearchActions()
     add("edit_find", "find", tr("Find…"), tr("Look for a text"), QKeySequence::Find);
     add("edit_find_next", "find-next", tr("Find Next"), tr("Go to the next match"), Qt::Key_F3);
     add("edit_find_previous", "find-previous", tr("Find Previous"), tr("Go to the previous match"),
-        Qt::SHIFT + Qt::Key_F3);
+        Qt::SHIFT | Qt::Key_F3);
     add("edit_replace", "replace", tr("Replace…"), tr("Find and replace a text"),
-        Qt::CTRL + Qt::Key_H);
+        Qt::CTRL | Qt::Key_H);
     add("edit_go_to_line", "go-to-line", tr("Go to Line…"), tr("Go to a line by its number"),
-        Qt::CTRL + Qt::Key_G);
+        Qt::CTRL | Qt::Key_G);
 }
 
 void ActionCatalog::addViewActions()
@@ -122,7 +122,7 @@ void ActionCatalog::addViewActions()
     add("view_zoom_out", "zoom-out", tr("Zoom Out"), tr("Show the text smaller"),
         QKeySequence::ZoomOut);
     add("view_zoom_reset", "zoom-reset", tr("Reset Zoom"), tr("Show the text in its original size"),
-        Qt::CTRL + Qt::Key_0);
+        Qt::CTRL | Qt::Key_0);
     addCheckable("view_word_wrap", "word-wrap", tr("Word Wrap"),
                  tr("Break long lines at the window's edge"));
     addCheckable("view_status_bar", "status-bar", tr("Status Bar"), tr("Show the status bar"));
@@ -151,19 +151,19 @@ void ActionCatalog::addParagraphActions()
     QActionGroup *const alignments = new QActionGroup(m_parent);
     alignments->addAction(addCheckable("format_align_left", "align-left", tr("Align Left"),
                                        tr("Align the paragraph to the left"),
-                                       Qt::CTRL + Qt::Key_L));
+                                       Qt::CTRL | Qt::Key_L));
     alignments->addAction(addCheckable("format_align_center", "align-center", tr("Center"),
-                                       tr("Center the paragraph"), Qt::CTRL + Qt::Key_E));
+                                       tr("Center the paragraph"), Qt::CTRL | Qt::Key_E));
     alignments->addAction(addCheckable("format_align_right", "align-right", tr("Align Right"),
                                        tr("Align the paragraph to the right"),
-                                       Qt::CTRL + Qt::Key_R));
+                                       Qt::CTRL | Qt::Key_R));
     alignments->addAction(addCheckable("format_align_justify", "align-justify", tr("Justify"),
                                        tr("Align the paragraph to both sides"),
-                                       Qt::CTRL + Qt::Key_J));
+                                       Qt::CTRL | Qt::Key_J));
     add("format_indent", "indent", tr("Indent"), tr("Move the paragraph to the right"),
-        Qt::CTRL + Qt::Key_BracketRight);
+        Qt::CTRL | Qt::Key_BracketRight);
     add("format_unindent", "unindent", tr("Unindent"), tr("Move the paragraph to the left"),
-        Qt::CTRL + Qt::Key_BracketLeft);
+        Qt::CTRL | Qt::Key_BracketLeft);
 }
 
 void ActionCatalog::addToolActions()

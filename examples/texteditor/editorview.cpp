@@ -86,7 +86,7 @@ QString EditorView::htmlContent() const
     // Without the font of the body, which is only the display font. When the file is read again, it
     // would become a format of the whole text, and the zoom would have no effect.
     static const QRegularExpression bodyStyle(QStringLiteral("<body style=\"[^\"]*\">"));
-    QString html = document()->toHtml("utf-8");
+    QString html = document()->toHtml();
     return html.replace(bodyStyle, QStringLiteral("<body>"));
 }
 

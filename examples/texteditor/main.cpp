@@ -24,8 +24,10 @@ std::unique_ptr<QSettings> openSettings(const QString &path)
 
 int main(int argc, char *argv[])
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("RyCustomizedDialog"));
     QApplication::setApplicationName(QStringLiteral("Text Editor"));

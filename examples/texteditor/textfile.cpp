@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QTextCodec>
 
 namespace {
 
@@ -28,23 +27,21 @@ bool TextFile::read(const QString &path)
             tr("%1 cannot be read: %2").arg(QDir::toNativeSeparators(path), file.errorString());
         return false;
     }
-    if (!decode(file.readAll(), isHtml(path))) {
+    if (!decode(file.readAll())) {
         m_error = tr("%1 is not a text in UTF-8.").arg(QDir::toNativeSeparators(path));
         return false;
     }
     return true;
 }
 
-bool TextFile::decode(const QByteArray &bytes, bool html)
+bool TextFile::decode(const QByteArray &bytes)
 {
-    QTextCodec *const utf8 = QTextCodec::codecForName("UTF-8");
-    QTextCodec *const codec = html ? QTextCodec::codecForHtml(bytes, utf8) : utf8;
-    QTextCodec::ConverterState state;
-    const QString text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0 || text.contains(QChar::Null))
+    m_hasByteOrderMark = bytes.startsWith(ByteOrderMark);
+    const QByteArray encoded = m_hasByteOrderMark ? bytes.mid(qstrlen(ByteOrderMark)) : bytes;
+    const QString text = QString::fromUtf8(encoded);
+    if (text.toUtf8() != encoded || text.contains(QChar::Null))
         return false;
     m_text = text;
-    m_hasByteOrderMark = bytes.startsWith(ByteOrderMark);
     m_hasCarriageReturns = text.contains(QLatin1String("\r\n"));
     m_text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     return true;

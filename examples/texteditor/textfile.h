@@ -34,7 +34,7 @@ public:
     QString error() const { return m_error; }
 
 private:
-    bool decode(const QByteArray &bytes, bool html);
+    bool decode(const QByteArray &bytes);
     QByteArray encode(const QString &text) const;
 
     QString m_text;

@@ -71,7 +71,7 @@ void BooksWindow::createToolBar()
     move->setObjectName(QStringLiteral("moveAcross"));
     move->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
     move->setToolTip(tr("Move the current item to the other tree (Ctrl+M)"));
-    move->setShortcut(Qt::CTRL + Qt::Key_M);
+    move->setShortcut(Qt::CTRL | Qt::Key_M);
     connect(move, &QAction::triggered, this, &BooksWindow::moveAcross);
 
     QToolBar *const toolBar = addToolBar(tr("Edit"));

@@ -53,7 +53,11 @@ void GuardedTree::keyReleaseEvent(QKeyEvent *event)
 void GuardedTree::dragMoveEvent(QDragMoveEvent *event)
 {
     RyTreeWidget::dragMoveEvent(event);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     const QTreeWidgetItem *const item = itemAt(event->pos());
+#else
+    const QTreeWidgetItem *const item = itemAt(event->position().toPoint());
+#endif
     if (item && !item->flags().testFlag(Qt::ItemIsDropEnabled))
         event->ignore();
 }

@@ -2,6 +2,7 @@
 
 #include "editorviews.h"
 #include "host.h"
+#include "qtdifferences.h"
 #include "rycustomizeddialog.h"
 #include "testcase.h"
 
@@ -24,9 +25,11 @@ private Q_SLOTS:
 void tst_guide_sharp_icons::initMain()
 {
     qputenv("QT_SCALE_FACTOR", "2");
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     //! [attribute]
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // before the QApplication
     //! [attribute]
+#endif
 }
 
 void tst_guide_sharp_icons::theButtonsShowTheSharpIcons()
@@ -48,8 +51,7 @@ void tst_guide_sharp_icons::theButtonsShowTheSharpIcons()
         const QImage sharp(
             QStringLiteral(":/RyCustomizedDialog/images/%1@2x.png").arg(QLatin1String(each.file)));
         QCOMPARE(sharp.size(), QSize(44, 44));
-        const QPixmap shown =
-            each.button->icon().pixmap(const_cast<QWindow *>(window), QSize(22, 22), QIcon::Normal);
+        const QPixmap shown = QtDifferences::pixmap(each.button->icon(), QSize(22, 22), window);
         QCOMPARE(shown.devicePixelRatio(), 2.0);
         const QImage image = shown.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
         QImage expected = sharp.convertToFormat(QImage::Format_ARGB32_Premultiplied);

@@ -44,7 +44,7 @@ struct DumpLine
 
 QList<DumpLine> dumpOnThePage()
 {
-    QFile file(QFINDTESTDATA("state-format.txt"));
+    QFile file(STATE_FORMAT);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
     const QRegularExpression format(

@@ -17,8 +17,12 @@ void loadTexts(QTranslator *qtTexts, QTranslator *dialogTexts)
 {
     const QLocale locale; // the user's language
     const QString separator = QStringLiteral("_");
-    if (qtTexts->load(locale, QStringLiteral("qtbase"), separator,
-                      QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    const QString folderOfQt = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    const QString folderOfQt = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+    if (qtTexts->load(locale, QStringLiteral("qtbase"), separator, folderOfQt))
         QCoreApplication::installTranslator(qtTexts);
     if (dialogTexts->load(locale, QStringLiteral("rycustomizeddialog"), separator,
                           QStringLiteral(TRANSLATIONS_DIR)))

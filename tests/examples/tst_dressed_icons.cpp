@@ -3,6 +3,7 @@
 #include "dressing.h"
 #include "editorviews.h"
 #include "host.h"
+#include "qtdifferences.h"
 #include "testcase.h"
 
 #include <RyCustomizedDialog>
@@ -58,7 +59,8 @@ void tst_Dressed_Icons::iconsAreDrawnFromTheSharpImages()
     const EditorViews views(&dialog);
     const QToolButton *const button = views.page->findChild<QToolButton *>(QTest::currentDataTag());
     dialog.show();
-    const QPixmap pixmap = button->icon().pixmap(dialog.windowHandle(), QSize(22, 22));
+    const QPixmap pixmap =
+        QtDifferences::pixmap(button->icon(), QSize(22, 22), dialog.windowHandle());
     QCOMPARE(pixmap.size(), QSize(44, 44));
     QCOMPARE(pixmap.devicePixelRatio(), 2.0);
     QImage drawn = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
@@ -84,7 +86,9 @@ void tst_Dressed_Icons::theLibrarysOwnImagesStay()
 int main(int argc, char *argv[])
 {
     qputenv("QT_SCALE_FACTOR", "2");
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     QApplication application(argc, argv);
     tst_Dressed_Icons test;
     return QTest::qExec(&test, argc, argv);

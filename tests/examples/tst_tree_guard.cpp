@@ -50,8 +50,9 @@ struct Stage : TreeStage
     {
         const QPoint place = tree->visualItemRect(itemNamed(tree, text)).center();
         QTest::mousePress(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-        QMouseEvent move(QEvent::MouseMove, place + QPoint(50, 0), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
+        const QPoint far = place + QPoint(50, 0);
+        QMouseEvent move(QEvent::MouseMove, far, tree->viewport()->mapToGlobal(far), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(tree->viewport(), &move);
         QTest::mouseRelease(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
     }

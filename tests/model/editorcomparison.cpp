@@ -76,8 +76,8 @@ void EditorComparison::compareRows()
     const int count = static_cast<int>(m_model.rows.size());
     m_differences->compare("toolbar rows", count, list->count());
     m_differences->compare("current toolbar row", m_model.currentRow(), list->currentRow());
-    m_differences->compare("rows of records", count, m_fields.listItemOfRecord.size());
-    m_differences->compare("records of rows", count, m_fields.recordOfListItem.size());
+    m_differences->compare("rows of records", count, int(m_fields.listItemOfRecord.size()));
+    m_differences->compare("records of rows", count, int(m_fields.recordOfListItem.size()));
     for (int row = 0; row < std::min(count, list->count()); ++row)
         compareRow(row);
 }
@@ -105,11 +105,11 @@ void EditorComparison::compareEntries()
     const int count = static_cast<int>(m_model.entries.size());
     m_differences->compare("entries", count, list->count());
     m_differences->compare("current entry", m_model.currentEntry, list->currentRow());
-    m_differences->compare("actions of entries", count, m_fields.actionOfEntry.size());
+    m_differences->compare("actions of entries", count, int(m_fields.actionOfEntry.size()));
     int actions = 0;
     for (const EditorModel::Entry &entry : m_model.entries)
         actions += entry.action ? 1 : 0;
-    m_differences->compare("entries of actions", actions, m_fields.entryOfAction.size());
+    m_differences->compare("entries of actions", actions, int(m_fields.entryOfAction.size()));
     for (int row = 0; row < std::min(count, list->count()); ++row)
         compareEntry(row);
 }
@@ -148,8 +148,8 @@ void EditorComparison::compareTree()
             compareActionItem(expected.actions[static_cast<std::size_t>(j)], found->child(j));
         known += children + (expected.item.isCategory ? 0 : 1);
     }
-    m_differences->compare("actions of items", known, m_fields.actionOfTreeItem.size());
-    m_differences->compare("items of actions", known, m_fields.treeItemOfAction.size());
+    m_differences->compare("actions of items", known, int(m_fields.actionOfTreeItem.size()));
+    m_differences->compare("items of actions", known, int(m_fields.treeItemOfAction.size()));
     compareCurrentItem();
 }
 

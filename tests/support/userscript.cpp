@@ -2,6 +2,8 @@
 
 #include "userscript.h"
 
+#include "qtdifferences.h"
+
 #include <QApplication>
 #include <QDropEvent>
 #include <QKeyEvent>
@@ -198,13 +200,13 @@ bool UserScript::eventFilter(QObject *object, QEvent *event)
     // Qt makes no move out of an entry at the place where it saw the pointer last.
     case QEvent::Enter:
         if (!inNestedLoop())
-            m_pointer = static_cast<QEnterEvent *>(event)->globalPos();
+            m_pointer = QtDifferences::globalPosition(static_cast<QEnterEvent *>(event));
         break;
     case QEvent::MouseMove:
-        m_pointer = static_cast<QMouseEvent *>(event)->globalPos();
+        m_pointer = QtDifferences::globalPosition(static_cast<QMouseEvent *>(event));
         break;
     case QEvent::DragMove:
-        m_pointer = window->mapToGlobal(static_cast<QDropEvent *>(event)->pos());
+        m_pointer = window->mapToGlobal(QtDifferences::position(static_cast<QDropEvent *>(event)));
         break;
     case QEvent::DragLeave:
         m_pointer = outside;

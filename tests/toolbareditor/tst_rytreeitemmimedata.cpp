@@ -8,7 +8,16 @@
 
 namespace {
 
+using PreferredType = RyTreeItemMimeData::PreferredType;
+
 const QString itemFormat = "ItemMimeData";
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+const PreferredType AsBool = QVariant::Bool;
+const PreferredType AsBytes = QVariant::ByteArray;
+#else
+const PreferredType AsBool(QMetaType::Bool);
+const PreferredType AsBytes(QMetaType::QByteArray);
+#endif
 
 } // namespace
 
@@ -83,13 +92,17 @@ void tst_RyTreeItemMimeData::retrievingTheItemFormatSaysWhetherThereIsAnItem_dat
 {
     QTest::addColumn<bool>("withItem");
     QTest::addColumn<int>("type");
-    const QList<QVariant::Type> types = {QVariant::Invalid, QVariant::Bool,      QVariant::Int,
-                                         QVariant::String,  QVariant::ByteArray, QVariant::List,
-                                         QVariant::Color};
-    for (const QVariant::Type type : types) {
-        const char *const name = type == QVariant::Invalid ? "none" : QVariant::typeToName(type);
-        QTest::addRow("item, asked for %s", name) << true << int(type);
-        QTest::addRow("null, asked for %s", name) << false << int(type);
+    const struct
+    {
+        const char *name;
+        QMetaType::Type type;
+    } types[] = {{"none", QMetaType::UnknownType}, {"bool", QMetaType::Bool},
+                 {"int", QMetaType::Int},          {"string", QMetaType::QString},
+                 {"bytes", QMetaType::QByteArray}, {"list", QMetaType::QVariantList},
+                 {"color", QMetaType::QColor}};
+    for (const auto &asked : types) {
+        QTest::addRow("item, asked for %s", asked.name) << true << int(asked.type);
+        QTest::addRow("null, asked for %s", asked.name) << false << int(asked.type);
     }
 }
 
@@ -100,8 +113,8 @@ void tst_RyTreeItemMimeData::retrievingTheItemFormatSaysWhetherThereIsAnItem()
     QTreeWidgetItem item;
     RyTreeItemMimeData payload;
     payload.SetDragData(itemFormat, withItem ? &item : nullptr);
-    const QVariant answer = payload.retrieveData(itemFormat, QVariant::Type(type));
-    QCOMPARE(answer.type(), QVariant::Bool);
+    const QVariant answer = payload.retrieveData(itemFormat, PreferredType(type));
+    QCOMPARE(answer.userType(), int(QMetaType::Bool));
     QCOMPARE(answer.toBool(), withItem);
 }
 
@@ -109,9 +122,9 @@ void tst_RyTreeItemMimeData::retrievingTheItemFormatNeedsNoReportedFormat()
 {
     QTreeWidgetItem item;
     RyTreeItemMimeData payload;
-    QCOMPARE(payload.retrieveData(itemFormat, QVariant::Bool), QVariant(false));
+    QCOMPARE(payload.retrieveData(itemFormat, AsBool), QVariant(false));
     payload.SetDragData("another/one", &item);
-    QCOMPARE(payload.retrieveData(itemFormat, QVariant::Bool), QVariant(true));
+    QCOMPARE(payload.retrieveData(itemFormat, AsBool), QVariant(true));
 }
 
 void tst_RyTreeItemMimeData::otherFormatsComeFromTheBaseClass_data()
@@ -131,7 +144,7 @@ void tst_RyTreeItemMimeData::otherFormatsComeFromTheBaseClass()
     RyTreeItemMimeData payload;
     payload.SetDragData(itemFormat, &item);
     payload.setData("my/bytes", QByteArrayLiteral("abc"));
-    QCOMPARE(payload.retrieveData(format, QVariant::ByteArray), expected);
+    QCOMPARE(payload.retrieveData(format, AsBytes), expected);
 }
 
 void tst_RyTreeItemMimeData::theItemFormatIsComparedExactly_data()
@@ -150,7 +163,7 @@ void tst_RyTreeItemMimeData::theItemFormatIsComparedExactly()
     QTreeWidgetItem item;
     RyTreeItemMimeData payload;
     payload.SetDragData(itemFormat, &item);
-    QCOMPARE(payload.retrieveData(format, QVariant::Bool), QVariant());
+    QCOMPARE(payload.retrieveData(format, AsBool), QVariant());
     QVERIFY(!payload.hasFormat(format));
 }
 
@@ -158,7 +171,7 @@ void tst_RyTreeItemMimeData::theItemFormatHidesDataStoredUnderIt()
 {
     RyTreeItemMimeData payload;
     payload.setData(itemFormat, QByteArrayLiteral("abc"));
-    QCOMPARE(payload.retrieveData(itemFormat, QVariant::ByteArray), QVariant(false));
+    QCOMPARE(payload.retrieveData(itemFormat, AsBytes), QVariant(false));
 }
 
 void tst_RyTreeItemMimeData::destroyingItLeavesTheItem()

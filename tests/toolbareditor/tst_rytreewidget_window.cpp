@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "qtdifferences.h"
 #include "rytreeitemmimedata.h"
 #include "rytreewidget.h"
 #include "testcase.h"
@@ -48,7 +49,7 @@ public:
 
     void dragMoveEvent(QDragMoveEvent *event) override
     {
-        const QTreeWidgetItem *const item = itemAt(event->pos());
+        const QTreeWidgetItem *const item = itemAt(QtDifferences::position(event));
         RyTreeWidget::dragMoveEvent(event);
         note("over " + (item ? item->text(0) : "nothing"), event);
     }

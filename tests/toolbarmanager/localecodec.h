@@ -3,7 +3,11 @@
 #ifndef LOCALECODEC_H
 #define LOCALECODEC_H
 
+#include <QtTest>
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
+#endif
 
 /*
  * Another local 8-bit encoding for as long as the object lives.
@@ -11,11 +15,29 @@
 class LocaleCodec
 {
 public:
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     explicit LocaleCodec(const char *name)
     {
         QTextCodec::setCodecForLocale(QTextCodec::codecForName(name));
     }
-    ~LocaleCodec() { QTextCodec::setCodecForLocale(nullptr); }
+    ~LocaleCodec()
+    {
+        QTextCodec::setCodecForLocale(nullptr);
+    }
+    static bool isPossible()
+    {
+        return true;
+    }
+#else
+    // The local encoding of Qt 6 is always UTF-8 on this platform.
+    explicit LocaleCodec(const char *)
+    {
+    }
+    static bool isPossible()
+    {
+        return false;
+    }
+#endif
 
 private:
     Q_DISABLE_COPY(LocaleCodec)

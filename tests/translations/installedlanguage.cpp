@@ -2,6 +2,8 @@
 
 #include "installedlanguage.h"
 
+#include "qtdifferences.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -15,7 +17,7 @@ InstalledLanguage::InstalledLanguage(const QString &language, Whose whose)
     : m_loaded(m_library.load(QLocale(language), "rycustomizeddialog", "_", RY_TRANSLATIONS_DIR))
 {
     if (whose == LibraryAndQt) {
-        const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+        const QString folder = QtDifferences::path(QLibraryInfo::TranslationsPath);
         m_loaded &= m_qt.load(QLocale(language), "qtbase", "_", folder);
         QCoreApplication::installTranslator(&m_qt);
     }

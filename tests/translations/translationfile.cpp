@@ -13,9 +13,9 @@ TranslationFile::Message readMessage(QXmlStreamReader &reader, const QString &co
     TranslationFile::Message message;
     message.context = context;
     while (reader.readNextStartElement()) {
-        if (reader.name() == "source") {
+        if (reader.name() == QLatin1String("source")) {
             message.source = reader.readElementText();
-        } else if (reader.name() == "translation") {
+        } else if (reader.name() == QLatin1String("translation")) {
             message.type = reader.attributes().value("type").toString();
             message.translation = reader.readElementText();
         } else {
@@ -29,9 +29,9 @@ void readContext(QXmlStreamReader &reader, QList<TranslationFile::Message> *mess
 {
     QString context;
     while (reader.readNextStartElement()) {
-        if (reader.name() == "name")
+        if (reader.name() == QLatin1String("name"))
             context = reader.readElementText();
-        else if (reader.name() == "message")
+        else if (reader.name() == QLatin1String("message"))
             *messages << readMessage(reader, context);
         else
             reader.skipCurrentElement();

@@ -8,7 +8,7 @@
 
 namespace {
 
-QStringList log;
+QStringList events;
 QString awaited;
 std::function<void()> awaiting;
 
@@ -16,8 +16,8 @@ std::function<void()> awaiting;
 
 QStringList RecordingPage::takeLog()
 {
-    const QStringList taken = log;
-    log.clear();
+    const QStringList taken = events;
+    events.clear();
     return taken;
 }
 
@@ -51,7 +51,7 @@ QWidget *RecordingPage::createPage(QWidget *parent)
     m_widget = new QWidget(parent);
     m_widget->setObjectName(m_title);
     const QString title = m_title;
-    QObject::connect(m_widget, &QObject::destroyed, [title] { log << title + " widget gone"; });
+    QObject::connect(m_widget, &QObject::destroyed, [title] { events << title + " widget gone"; });
     return m_widget;
 }
 
@@ -74,8 +74,8 @@ void RecordingPage::RestorDefaults()
 
 void RecordingPage::record(const QString &event) const
 {
-    log << m_title + " " + event;
-    if (awaiting && log.constLast() == awaited) {
+    events << m_title + " " + event;
+    if (awaiting && events.constLast() == awaited) {
         // The call may delete this page.
         const auto call = awaiting;
         awaiting = nullptr;

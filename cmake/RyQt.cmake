@@ -1,0 +1,46 @@
+# SPDX-License-Identifier: MIT
+
+# Chooses the Qt to build with, and what the names of this flavour of the library end with. The
+# library for Qt 5 came first and has the plain names.
+
+if(TARGET Qt6::Core AND NOT TARGET Qt5::Core)
+    # A host that has this as a subdirectory has found its Qt already.
+    set(RYCUSTOMIZEDDIALOG_QT 6 CACHE STRING "The Qt to build with: 5 or 6")
+else()
+    set(RYCUSTOMIZEDDIALOG_QT 5 CACHE STRING "The Qt to build with: 5 or 6")
+endif()
+set_property(CACHE RYCUSTOMIZEDDIALOG_QT PROPERTY STRINGS 5 6)
+
+if(RYCUSTOMIZEDDIALOG_QT STREQUAL "5")
+    set(RY_QT_MINIMUM 5.6)
+    set(RY_CXX_STANDARD 11)
+    set(RY_SUFFIX "")
+    set(RY_INCLUDE_FOLDER "")
+elseif(RYCUSTOMIZEDDIALOG_QT STREQUAL "6")
+    set(RY_QT_MINIMUM 6.2)
+    set(RY_CXX_STANDARD 17)
+    set(RY_SUFFIX -qt6)
+    set(RY_INCLUDE_FOLDER /RyCustomizedDialog-qt6)
+else()
+    message(FATAL_ERROR "RYCUSTOMIZEDDIALOG_QT is ${RYCUSTOMIZEDDIALOG_QT}, but must be 5 or 6.")
+endif()
+set(RY_QT Qt${RYCUSTOMIZEDDIALOG_QT})
+find_package(${RY_QT} ${RY_QT_MINIMUM} REQUIRED COMPONENTS Widgets)
+
+# Our own builds use nothing that is deprecated in their Qt 6. A later Qt may deprecate more, which
+# must not end the build of somebody else.
+set(RY_NOT_DEPRECATED_SINCE 0x050600)
+if(RYCUSTOMIZEDDIALOG_QT EQUAL 6)
+    set(RY_NOT_DEPRECATED_SINCE 0x060200)
+    if(RYCUSTOMIZEDDIALOG_WARNINGS_AS_ERRORS)
+        math(EXPR RY_NOT_DEPRECATED_SINCE "0x060000 + (${Qt6_VERSION_MINOR} << 8)"
+            OUTPUT_FORMAT HEXADECIMAL)
+    endif()
+endif()
+
+# One program can only have one Qt. An installed package makes the same check.
+get_property(RY_OTHER_QT GLOBAL PROPERTY RYCUSTOMIZEDDIALOG_QT)
+if(RY_OTHER_QT AND NOT RY_OTHER_QT EQUAL RYCUSTOMIZEDDIALOG_QT)
+    message(FATAL_ERROR "This build already uses RyCustomizedDialog for Qt ${RY_OTHER_QT}.")
+endif()
+set_property(GLOBAL PROPERTY RYCUSTOMIZEDDIALOG_QT ${RYCUSTOMIZEDDIALOG_QT})

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef QTDIFFERENCES_H
+#define QTDIFFERENCES_H
+
+#include <QDropEvent>
+#include <QEnterEvent>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QMouseEvent>
+#include <QWindow>
+
+/*
+ * Everything in which Qt 5 and Qt 6 differ for the tests is in this file.
+ */
+namespace QtDifferences {
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+
+inline QPoint position(const QDropEvent *event)
+{
+    return event->pos();
+}
+
+template <typename PointerEvent> QPoint globalPosition(const PointerEvent *event)
+{
+    return event->globalPos();
+}
+
+inline QString path(QLibraryInfo::LibraryLocation location)
+{
+    return QLibraryInfo::location(location);
+}
+
+inline QPixmap pixmap(const QIcon &icon, const QSize &size, const QWindow *window)
+{
+    return icon.pixmap(const_cast<QWindow *>(window), size);
+}
+
+#else
+
+inline QPoint position(const QDropEvent *event)
+{
+    return event->position().toPoint();
+}
+
+template <typename PointerEvent> QPoint globalPosition(const PointerEvent *event)
+{
+    return event->globalPosition().toPoint();
+}
+
+inline QString path(QLibraryInfo::LibraryPath location)
+{
+    return QLibraryInfo::path(location);
+}
+inline QPixmap pixmap(const QIcon &icon, const QSize &size, const QWindow *window)
+{
+    return icon.pixmap(size, window->devicePixelRatio());
+}
+
+#endif
+
+} // namespace QtDifferences
+
+#endif // QTDIFFERENCES_H
