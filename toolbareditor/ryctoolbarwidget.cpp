@@ -72,6 +72,8 @@ void RyCToolBarWidget::makeConnections()
     connect(ui->toolBarList, SIGNAL(itemChanged(QListWidgetItem*)),
             this, SLOT(toolBarRenamed(QListWidgetItem*)));
     // clang-format on
+    connect(ui->toolBarList, &QListWidget::currentRowChanged, this,
+            &RyCToolBarWidget::showCurrentToolBar);
 }
 
 void RyCToolBarWidget::showEvent(QShowEvent *event)
@@ -106,6 +108,16 @@ void RyCToolBarWidget::currentToolBarChanged(QListWidgetItem *current)
         ui->currentToolBarList->addItem(createEntry(action));
     if (!actions.isEmpty())
         ui->currentToolBarList->setCurrentRow(0);
+}
+
+// A click on another row may end a renaming, which sorts the rows again. Qt 6 then reports the row
+// that has come to the clicked one's place.
+void RyCToolBarWidget::showCurrentToolBar(int reported)
+{
+    // While the last row is removed, none is reported, but the row is still current.
+    QListWidgetItem *const current = reported < 0 ? nullptr : ui->toolBarList->currentItem();
+    if (m_currentRecord != m_recordOfListItem.value(current))
+        currentToolBarChanged(current);
 }
 
 void RyCToolBarWidget::currentToolBarActionChanged(QListWidgetItem *current)

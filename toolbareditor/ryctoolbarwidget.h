@@ -138,6 +138,7 @@ private:
     void deleteItem(ToolBarItem *item);
 
     Q_DECL_HIDDEN void makeConnections();
+    Q_DECL_HIDDEN void showCurrentToolBar(int reported);
     Q_DECL_HIDDEN void fillActionTree();
     Q_DECL_HIDDEN QTreeWidgetItem *createActionItem(QAction *action);
     Q_DECL_HIDDEN void fillToolBarList();

@@ -60,6 +60,8 @@ private Q_SLOTS:
     void isDefaultToolBarGoesByTheToolBar();
 
     void renameOpensTheEditorOfTheName();
+    void aClickOnAnotherRowEndsTheNaming_data();
+    void aClickOnAnotherRowEndsTheNaming();
     void renameTakesTheToolBarThatIsShown();
     void aDefaultToolBarCannotBeRenamed();
     void renameWhileTheEditorIsOpenKeepsItOpen();
@@ -439,6 +441,34 @@ void tst_RyCToolBarWidget_Commands::renameOpensTheEditorOfTheName()
     editor.views.typeName("Yours");
     QCOMPARE(currentOf(editor.views.toolBarList), "Yours");
     applyAndCompare(editor, {"File: open | save", "Tools: | cut", "Yours: cut copy paste"});
+}
+
+void tst_RyCToolBarWidget_Commands::aClickOnAnotherRowEndsTheNaming_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("clicked");
+    for (const char *name : {"A", "G", "N", "Z"}) {
+        for (const char *clicked : {"File", "Mine", "Tools"})
+            QTest::addRow("%s, then %s", name, clicked) << name << clicked;
+    }
+}
+
+// The row of the new toolbar moves to its place in the order while another one becomes current.
+void tst_RyCToolBarWidget_Commands::aClickOnAnotherRowEndsTheNaming()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, clicked);
+    FilledEditor editor;
+    editor.selectToolBar(clicked);
+    const QStringList content = rowsOf(editor.views.currentToolBarList);
+    editor.call("newClicked");
+    editor.nameEditor()->setText(name);
+    QListWidget *const list = editor.views.toolBarList;
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualItemRect(itemNamed(list, clicked)).center());
+    QCOMPARE(currentOf(list), clicked);
+    QCOMPARE(rowsOf(editor.views.currentToolBarList), content);
+    QCOMPARE(editor.inconsistency(), QString());
 }
 
 // Even while another row of the list is current.
