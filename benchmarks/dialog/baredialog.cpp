@@ -121,7 +121,7 @@ void BareDialog::fillToolBarList()
         return;
     QStringList titles;
     titles.reserve(m_toolBars.size());
-    for (const BareToolBar &toolBar : qAsConst(m_toolBars))
+    for (const BareToolBar &toolBar : std::as_const(m_toolBars))
         titles.append(toolBar.title);
     m_page.toolBarList->insertItems(0, titles);
     for (int i = 0; i < m_toolBars.size(); ++i) {

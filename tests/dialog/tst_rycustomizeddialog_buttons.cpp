@@ -97,7 +97,7 @@ void tst_RyCustomizedDialog_Buttons::theHostsSlotIsConnectedToNothing()
     QObjectList senders{shown.dialog, &shown.host.manager, &shown.host.window};
     for (QObject *below : shown.host.window.findChildren<QObject *>())
         senders << below;
-    for (QObject *sender : qAsConst(senders))
+    for (QObject *sender : std::as_const(senders))
         QVERIFY(!QObject::disconnect(sender, nullptr, shown.dialog, SLOT(slotUiModeChanged(bool))));
 }
 
@@ -265,7 +265,7 @@ void tst_RyCustomizedDialog_Buttons::modifiedDisablesApply()
     Announcer announcer;
     QVERIFY(QObject::connect(&announcer, SIGNAL(modifiedChanged(bool)), shown.dialog,
                              SLOT(slotUiModeChanged(bool))));
-    for (bool modified : qAsConst(notices))
+    for (bool modified : std::as_const(notices))
         Q_EMIT announcer.modifiedChanged(modified);
     const auto buttons = shown.box->buttons();
     for (QAbstractButton *button : buttons)

@@ -117,7 +117,7 @@ void tst_TextEditorProgram::helpAndVersionAreWritten()
     QVERIFY(program.process.waitForFinished());
     QCOMPARE(program.process.exitCode(), 0);
     const QString written = QString::fromUtf8(program.process.readAllStandardOutput());
-    for (const QString &text : qAsConst(expected))
+    for (const QString &text : std::as_const(expected))
         QVERIFY2(written.contains(text), qPrintable(written));
 }
 

@@ -11,7 +11,7 @@ RestoreModel::RestoreModel(const RyToolBarManager &manager)
 {
     m_model.mainWindow = manager.mainWindow();
     m_model.searchOrder = manager.actions().values();
-    for (QAction *action : qAsConst(m_model.searchOrder)) {
+    for (QAction *action : std::as_const(m_model.searchOrder)) {
         m_world.actions[action] = {action->objectName(), action->text()};
         m_model.registered[action] = manager.actionCategory(action);
         m_shown[action] = contentOf({action}).constFirst();

@@ -2,6 +2,7 @@
 
 #include "layouts.h"
 
+#include <QIcon>
 #include <QBoxLayout>
 #include <QDebug>
 #include <QGridLayout>
@@ -32,6 +33,16 @@ QString nameOf(QLayoutItem *item)
 }
 
 // What follows from the style, the screen, the parent and the layout.
+// Qt compares no pictures.
+bool isSame(const QVariant &left, const QVariant &right)
+{
+    if (left.userType() == QMetaType::QIcon && right.userType() == QMetaType::QIcon)
+        return left.value<QIcon>().cacheKey() == right.value<QIcon>().cacheKey();
+    if (left.userType() == QMetaType::QPixmap && right.userType() == QMetaType::QPixmap)
+        return left.value<QPixmap>().cacheKey() == right.value<QPixmap>().cacheKey();
+    return left == right;
+}
+
 bool isGeometry(const QByteArray &property)
 {
     static const QList<QByteArray> names{
@@ -110,7 +121,7 @@ QStringList differingProperties(const QObject *widget, const QObject *fresh)
     const QMetaObject *const metaObject = widget->metaObject();
     for (int i = 0; i < metaObject->propertyCount(); ++i) {
         const QMetaProperty property = metaObject->property(i);
-        if (!isGeometry(property.name()) && property.read(widget) != property.read(fresh))
+        if (!isGeometry(property.name()) && !isSame(property.read(widget), property.read(fresh)))
             names << property.name();
     }
     return names;
@@ -122,7 +133,7 @@ QStringList propertiesBelow(const QWidget *widget)
     QList<const QWidget *> widgets{widget};
     for (const QWidget *child : widget->findChildren<QWidget *>())
         widgets << child;
-    for (const QWidget *each : qAsConst(widgets)) {
+    for (const QWidget *each : std::as_const(widgets)) {
         const QMetaObject *const metaObject = each->metaObject();
         for (int i = 0; i < metaObject->propertyCount(); ++i) {
             const QMetaProperty property = metaObject->property(i);

@@ -17,6 +17,8 @@ namespace QtDifferences {
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
+const bool DialogsHaveContextHelp = true;
+
 inline QPoint position(const QDropEvent *event)
 {
     return event->pos();
@@ -38,6 +40,8 @@ inline QPixmap pixmap(const QIcon &icon, const QSize &size, const QWindow *windo
 }
 
 #else
+
+const bool DialogsHaveContextHelp = false;
 
 inline QPoint position(const QDropEvent *event)
 {

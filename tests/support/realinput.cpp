@@ -161,9 +161,9 @@ void RealInput::type(const QString &text)
 
 void RealInput::releaseAll()
 {
-    for (const quint8 button : qAsConst(m_heldButtons))
+    for (const quint8 button : std::as_const(m_heldButtons))
         fake(XCB_BUTTON_RELEASE, button);
-    for (const quint8 key : qAsConst(m_heldKeys))
+    for (const quint8 key : std::as_const(m_heldKeys))
         fake(XCB_KEY_RELEASE, key);
     m_heldButtons.clear();
     m_heldKeys.clear();

@@ -58,7 +58,7 @@ QString describe(const QSet<QWidget *> &widgets)
 QStringList TestCase::takeWarnings()
 {
     QStringList texts;
-    for (const Warning &warning : qAsConst(warnings))
+    for (const Warning &warning : std::as_const(warnings))
         texts << warning.text;
     warnings.clear();
     return texts;
@@ -67,7 +67,7 @@ QStringList TestCase::takeWarnings()
 QStringList TestCase::takeLocatedWarnings()
 {
     QStringList texts;
-    for (const Warning &warning : qAsConst(warnings))
+    for (const Warning &warning : std::as_const(warnings))
         texts << warning.source + ' ' + warning.text;
     warnings.clear();
     return texts;

@@ -65,13 +65,12 @@ private:
 
     void noteChild(const QChildEvent *event)
     {
-        if (!event->child()->isWidgetType())
-            return;
-        if (event->added()) {
-            watch(event->child(), "new");
+        QObject *const child = event->child();
+        if (event->added() && child->isWidgetType()) {
+            watch(child, "new");
             note("created");
-        } else if (event->removed()) {
-            note("deleted " + m_names.value(event->child()));
+        } else if (event->removed() && m_names.contains(child)) {
+            note("deleted " + m_names.value(child));
         }
     }
 

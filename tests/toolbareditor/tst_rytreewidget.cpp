@@ -378,7 +378,7 @@ void tst_RyTreeWidget::controlKeyChoosesTheOfferedAction()
     RyTreeWidget tree;
     fill(tree);
     makeCurrent(tree, "c");
-    for (const QString &key : qAsConst(keys)) {
+    for (const QString &key : std::as_const(keys)) {
         const bool down = key.startsWith('+');
         QVERIFY(codes.contains(key.mid(1)));
         sendKey(tree, down ? QEvent::KeyPress : QEvent::KeyRelease, codes.value(key.mid(1)),

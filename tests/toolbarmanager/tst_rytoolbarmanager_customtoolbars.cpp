@@ -178,7 +178,7 @@ void tst_RyToolBarManager_customtoolbars::createToolBarTakesTheFirstFreeNumber()
     Host defaults;
     Host customs;
     Host strangers;
-    for (const QString &each : qAsConst(existing)) {
+    for (const QString &each : std::as_const(existing)) {
         defaults.defaultToolBar(each, QStringList(), A);
         strangers.toolBar(each);
         strangers.defaultToolBar(QString(), QStringList(), A)->setWindowTitle(each);
@@ -334,7 +334,7 @@ void tst_RyToolBarManager_customtoolbars::widgetsOfADeletedToolBarReturnToTheirO
     host.manager.setToolBar(mine, boxes);
     host.manager.deleteToolBar(mine);
     QList<QObject *> owners;
-    for (const QAction *box : qAsConst(boxes))
+    for (const QAction *box : std::as_const(boxes))
         owners << box->parent();
     QCOMPARE(owners, toolBars);
 }

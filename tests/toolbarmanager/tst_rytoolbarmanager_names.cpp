@@ -189,7 +189,7 @@ void tst_RyToolBarManager_names::toolBarByNamePrefersTheLowestAddress()
     QFETCH(QList<int>, registered);
     Host host;
     const QList<QToolBar *> toolBars = toolBarsByAddress(host, 3);
-    for (const int i : qAsConst(registered)) {
+    for (const int i : std::as_const(registered)) {
         toolBars.at(i)->setObjectName("same");
         host.manager.addDefaultToolBar(toolBars.at(i), A);
     }
@@ -249,7 +249,7 @@ void tst_RyToolBarManager_names::findDefaultToolBarPrefersTheLowestAddress()
     QFETCH(QList<int>, registered);
     Host host;
     const QList<QToolBar *> toolBars = toolBarsByAddress(host, 6);
-    for (const int i : qAsConst(registered)) {
+    for (const int i : std::as_const(registered)) {
         toolBars.at(2 * i)->setObjectName("same");
         toolBars.at(2 * i + 1)->setWindowTitle("Same");
         host.manager.addDefaultToolBar(toolBars.at(2 * i), A);

@@ -130,6 +130,8 @@ void unregisterAndDelete(BusyHost &host)
 {
     for (const char *text : {"save", "paste", "cut"}) {
         if (QAction *const action = host.window.findChild<QAction *>(QString(text))) {
+            // Nobody finds it and registers it again: a registered action is not deleted.
+            action->setObjectName("deleted");
             host.manager.removeAction(action);
             // Not at once: Qt still uses the action of the event.
             action->deleteLater();

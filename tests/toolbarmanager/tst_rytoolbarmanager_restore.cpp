@@ -484,7 +484,7 @@ void tst_RyToolBarManager_restore::aCustomRecordChangesTheToolBarOfTheLowestAddr
     QFETCH(QList<int>, registered);
     Host host;
     const QList<QToolBar *> toolBars = toolBarsByAddress(host, 3);
-    for (const int i : qAsConst(registered)) {
+    for (const int i : std::as_const(registered)) {
         toolBars.at(i)->setObjectName("same");
         toolBars.at(i)->setWindowTitle(QString::number(i));
         host.manager.addDefaultToolBar(toolBars.at(i), A);
@@ -522,11 +522,11 @@ void tst_RyToolBarManager_restore::aCreatedToolBarIsNumberedThenNamedThenFilled(
     QFETCH(QStringList, stored);
     QFETCH(QStringList, log);
     Host host;
-    for (const QString &each : qAsConst(existing))
+    for (const QString &each : std::as_const(existing))
         host.defaultToolBar(each, QStringList(), A);
     host.registered("open", A);
     StateWriter writer = version3().defaults(0).customs(stored.size());
-    for (const QString &each : qAsConst(stored))
+    for (const QString &each : std::as_const(stored))
         writer.customToolBar(each, QString(), words("open"));
     CreationLog creations(&host.window);
     QVERIFY(host.manager.restoreState(writer.bytes(), 3));

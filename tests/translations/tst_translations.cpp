@@ -104,7 +104,7 @@ void tst_Translations::addLanguages()
     QTest::addColumn<QString>("language");
     auto languages = InstalledLanguage::all();
     languages.removeAll("en");
-    for (const QString &language : qAsConst(languages))
+    for (const QString &language : std::as_const(languages))
         QTest::newRow(qPrintable(language)) << language;
 }
 

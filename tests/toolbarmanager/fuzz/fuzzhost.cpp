@@ -138,7 +138,7 @@ void FuzzHost::addDefaultToolBars(const QStringList &names, const QStringList &t
         made.at(i)->setWindowTitle(titles.at(i));
         fill(made.at(i), contents.at(i));
     }
-    for (QToolBar *toolBar : qAsConst(made)) {
+    for (QToolBar *toolBar : std::as_const(made)) {
         manager.addDefaultToolBar(toolBar, "B");
         const auto standing = toolBar->actions();
         for (QAction *each : standing) {

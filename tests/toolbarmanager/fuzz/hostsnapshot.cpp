@@ -80,7 +80,7 @@ bool HostSnapshot::actionsAreUnambiguous() const
             standing.insert(action);
     }
     standing.remove(nullptr);
-    for (QAction *action : qAsConst(standing)) {
+    for (QAction *action : std::as_const(standing)) {
         const bool named = !action->objectName().isEmpty();
         const QString name = named ? action->objectName() : action->text();
         if (name.isEmpty() || byObjectName.value(name, byText.value(name)) != action)

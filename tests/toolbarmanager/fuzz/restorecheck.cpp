@@ -269,7 +269,7 @@ void RestoreCheck::checkSeparators(const HostSnapshot &now)
         for (QAction *action : children)
             require(!action->isSeparator() || standing.contains(action), "a separator leaked");
     }
-    for (const QPointer<QAction> &separator : qAsConst(m_host.separators))
+    for (const QPointer<QAction> &separator : std::as_const(m_host.separators))
         require(!separator || standing.contains(separator), "a separator of the host's leaked");
 }
 
