@@ -5,6 +5,7 @@
 
 #include <QDropEvent>
 #include <QEnterEvent>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QMouseEvent>
@@ -37,6 +38,13 @@ inline QPixmap pixmap(const QIcon &icon, const QSize &size, const QWindow *windo
     return icon.pixmap(const_cast<QWindow *>(window), size);
 }
 
+inline void forgetLayoutDirection()
+{
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+const bool librariesMayStay = false;
+
 #else
 
 inline QPoint position(const QDropEvent *event)
@@ -53,10 +61,21 @@ inline QString path(QLibraryInfo::LibraryPath location)
 {
     return QLibraryInfo::path(location);
 }
+
 inline QPixmap pixmap(const QIcon &icon, const QSize &size, const QWindow *window)
 {
     return icon.pixmap(size, window->devicePixelRatio());
 }
+
+// Takes no direction from its translations while the program has chosen one.
+inline void forgetLayoutDirection()
+{
+    QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
+}
+
+// Registers list types with variables that GCC makes unique in the process. The dynamic linker does
+// not unload a library with such a variable.
+const bool librariesMayStay = true;
 
 #endif
 
