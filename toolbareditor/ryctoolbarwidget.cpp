@@ -6,15 +6,26 @@
 #include "toolbaritem.h"
 #include "ui_ctoolbarpage.h"
 
+#include <QGuiApplication>
 #include <QHideEvent>
 #include <QIcon>
+#include <QPixmap>
 #include <QShowEvent>
 
 namespace {
 
 QIcon icon(const QString &name)
 {
-    return QIcon(QStringLiteral(":/RyCustomizedDialog/images/%1.png").arg(name));
+    const QString path = QStringLiteral(":/RyCustomizedDialog/images/%1%2.png");
+    QIcon result(path.arg(name, QString()));
+    // Qt 6.4 prefers the image with the nearest scale, at 1.5 the small one, to an image that is
+    // large enough. Between images of the same scale it looks at their sizes.
+    if (qApp->devicePixelRatio() > 1.0) {
+        QPixmap large(path.arg(name, QStringLiteral("@2x")));
+        large.setDevicePixelRatio(1.0);
+        result.addPixmap(large);
+    }
+    return result;
 }
 
 } // namespace

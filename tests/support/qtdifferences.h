@@ -6,10 +6,8 @@
 #include <QDropEvent>
 #include <QEnterEvent>
 #include <QGuiApplication>
-#include <QIcon>
 #include <QLibraryInfo>
 #include <QMouseEvent>
-#include <QWindow>
 
 /*
  * Everything in which Qt 5 and Qt 6 differ for the tests is in this file.
@@ -33,14 +31,15 @@ inline QString path(QLibraryInfo::LibraryLocation location)
     return QLibraryInfo::location(location);
 }
 
-inline QPixmap pixmap(const QIcon &icon, const QSize &size, const QWindow *window)
-{
-    return icon.pixmap(const_cast<QWindow *>(window), size);
-}
-
 inline void forgetLayoutDirection()
 {
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+// Before the application is constructed.
+inline void useSharpImages()
+{
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
 const bool librariesMayStay = false;
@@ -62,15 +61,14 @@ inline QString path(QLibraryInfo::LibraryPath location)
     return QLibraryInfo::path(location);
 }
 
-inline QPixmap pixmap(const QIcon &icon, const QSize &size, const QWindow *window)
-{
-    return icon.pixmap(size, window->devicePixelRatio());
-}
-
 // Takes no direction from its translations while the program has chosen one.
 inline void forgetLayoutDirection()
 {
     QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
+}
+
+inline void useSharpImages()
+{
 }
 
 // Registers list types with variables that GCC makes unique in the process. The dynamic linker does
