@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Renders vector/*.svg to the images that are compiled into the library: 22 x 22 pixels, the four
-# arrows as 8-bit RGBA, plus and minus as an 8-bit palette with a transparency chunk.
+# Renders vector/*.svg to the images that are compiled into the library: 22 x 22 pixels, and two and
+# three times that with the names that Qt looks for. The four arrows are 8-bit RGBA, plus and minus an
+# 8-bit palette with a transparency chunk.
 # Needs rsvg-convert, ImageMagick's convert and pngquant. The same versions of these tools give the
 # same bytes.
 set -euo pipefail
@@ -20,46 +21,53 @@ fi
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# to_rgba NAME: renders vector/NAME.svg to $scratch/NAME.png without time stamps or other metadata.
+# to_rgba NAME FACTOR IMAGE: renders vector/NAME.svg without time stamps or other metadata.
 to_rgba() {
-    rsvg-convert --width 22 --height 22 --format png "vector/$1.svg" >"$scratch/$1.raw.png"
-    convert "$scratch/$1.raw.png" -strip -interlace none \
+    local pixels=$((22 * $2))
+    rsvg-convert --width $pixels --height $pixels --format png "vector/$1.svg" >"$scratch/raw"
+    convert "$scratch/raw" -strip -interlace none \
         -define png:exclude-chunks=all -define png:compression-level=9 \
-        -define png:color-type=6 -define png:bit-depth=8 "$scratch/$1.png"
+        -define png:color-type=6 -define png:bit-depth=8 "$3"
 }
 
-# to_palette NAME: replaces $scratch/NAME.png by its palette form.
+# to_palette IMAGE: replaces the image by its palette form.
 to_palette() {
-    pngquant --strip --nofs --speed 1 --force --output "$scratch/$1.png" 256 "$scratch/$1.png"
+    pngquant --strip --nofs --speed 1 --force --output "$1" 256 "$1"
 }
 
-# check NAME COLOUR_TYPE: fails unless the header says 22 x 22, 8 bits, this type, no interlacing.
+# check IMAGE FACTOR COLOUR_TYPE: fails unless the header says this size, 8 bits, this type, no
+# interlacing.
 check() {
     local header wanted
-    header=$(od -An -v -tu1 -w13 -j16 -N13 "$scratch/$1.png" | tr -s ' ')
-    wanted=" 0 0 0 22 0 0 0 22 8 $2 0 0 0"
+    header=$(od -An -v -tu1 -w13 -j16 -N13 "$1" | tr -s ' ')
+    wanted=" 0 0 0 $((22 * $2)) 0 0 0 $((22 * $2)) 8 $3 0 0 0"
     if [ "$header" != "$wanted" ]; then
-        printf 'render.sh: %s.png has the header%s, wanted%s\n' "$1" "$header" "$wanted" >&2
+        printf 'render.sh: %s has the header%s, wanted%s\n' "${1##*/}" "$header" "$wanted" >&2
         exit 1
     fi
-    if [ "$2" = 3 ] && ! grep -qa tRNS "$scratch/$1.png"; then
-        printf 'render.sh: %s.png has no transparency chunk\n' "$1" >&2
+    if [ "$3" = 3 ] && ! grep -qa tRNS "$1"; then
+        printf 'render.sh: %s has no transparency chunk\n' "${1##*/}" >&2
         exit 1
     fi
 }
 
-for name in up down back forward; do
-    to_rgba "$name"
-    check "$name" 6
-done
-for name in plus minus; do
-    to_rgba "$name"
-    to_palette "$name"
-    check "$name" 3
+mkdir "$scratch/images"
+for factor in 1 2 3; do
+    suffix=@${factor}x
+    [ $factor -ne 1 ] || suffix=
+    for name in up down back forward; do
+        image=$scratch/images/$name$suffix.png
+        to_rgba "$name" $factor "$image"
+        check "$image" $factor 6
+    done
+    for name in plus minus; do
+        image=$scratch/images/$name$suffix.png
+        to_rgba "$name" $factor "$image"
+        to_palette "$image"
+        check "$image" $factor 3
+    done
 done
 
 # Only a complete set replaces the old one.
 mkdir -p images
-for name in up down back forward plus minus; do
-    cp "$scratch/$name.png" "images/$name.png"
-done
+cp "$scratch"/images/*.png images/

@@ -6,15 +6,30 @@
 #include "toolbaritem.h"
 #include "ui_ctoolbarpage.h"
 
+#include <QGuiApplication>
 #include <QHideEvent>
 #include <QIcon>
+#include <QPixmap>
 #include <QShowEvent>
 
 namespace {
 
+QString pathOf(const QString &image)
+{
+    return QStringLiteral(":/RyCustomizedDialog/images/%1.png").arg(image);
+}
+
 QIcon icon(const QString &name)
 {
-    return QIcon(QStringLiteral(":/RyCustomizedDialog/images/%1.png").arg(name));
+    QIcon result(pathOf(name));
+    // Qt 6.4 prefers the image with the nearest scale, at 1.5 the small one, to an image that is
+    // large enough. Between images of the same scale it looks at their sizes.
+    if (qApp->devicePixelRatio() > 1.0) {
+        QPixmap large(pathOf(name + QLatin1String("@2x")));
+        large.setDevicePixelRatio(1.0);
+        result.addPixmap(large);
+    }
+    return result;
 }
 
 } // namespace

@@ -3,22 +3,25 @@
 #
 # Takes pictures of the dialog for people to look at.
 #
-# usage: pictures.sh looks|translations|guide
+# usage: pictures.sh looks|translations|guide [--qt 5|6]
 #   looks         each style, light and dark, at three scale factors and in both directions, on one
-#                 sheet for each style, in build/pictures
+#                 sheet for each style, in build/pictures (build/pictures-qt6 with Qt 6)
 #   translations  each language, with Qt's own translations: both tabs and the message box of the Help
-#                 button, in build/pictures
+#                 button, in the same folder
 #   guide         the pictures of the page for users, in docs/images
 
 # shellcheck disable=SC2317 # step calls the functions
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
-start_log build/pictures.log
+choose_qt "$@"
+start_log "build/pictures$suffix.log"
 
-programs=build/release/tests/pictures
-pictures=build/pictures/${1-}
-styles=(Fusion Windows Breeze)
+programs=build/release$suffix/tests/pictures
+pictures=build/pictures$suffix/${arguments[0]-}
+styles=(Fusion Windows)
+# Debian 12 has Breeze only for Qt 5.
+[ "$qt" -eq 6 ] || styles+=(Breeze)
 
 looks() {
     local style colors scale direction
@@ -44,15 +47,15 @@ sheets() {
 
 # build TARGET
 build() {
-    step 'Packages' tools/install-packages.sh test pictures
-    step 'Configure' cmake --preset release -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
-    step 'Build' cmake --build --preset release --target "$1" --parallel "$(nproc)"
+    step 'Packages' tools/install-packages.sh test "qt$qt" pictures
+    step 'Configure' cmake --preset "release$suffix" -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
+    step 'Build' cmake --build "build/release$suffix" --target "$1" --parallel "$(nproc)"
     unset "${!QT_@}"
     export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
     rm -rf "$pictures" && mkdir -p "$pictures"
 }
 
-case ${1-} in
+case ${arguments[0]-} in
     looks)
         build dialogpicture
         step 'Pictures' looks
@@ -71,7 +74,7 @@ case ${1-} in
         finish 'the pictures are in docs/images'
         ;;
     *)
-        echo 'usage: tools/pictures.sh looks|translations|guide' >&2
+        echo 'usage: tools/pictures.sh looks|translations|guide [--qt 5|6]' >&2
         exit 2
         ;;
 esac

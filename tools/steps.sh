@@ -4,6 +4,24 @@
 # For scripts with steps: prints the title and the output of each step, also to a log file. At the end,
 # prints how long each step took, and the result in the last line. To be sourced by bash.
 
+# choose_qt ARGUMENT...: takes "--qt 5" or "--qt 6" off the arguments of a script, wherever it is. Sets qt
+# to the number, suffix to "" or "-qt6", and arguments to the rest.
+choose_qt() {
+    qt=5 arguments=()
+    while [ $# -gt 0 ]; do
+        case $1 in
+            --qt) qt=${2-} && shift ;;
+            *) arguments+=("$1") ;;
+        esac
+        shift
+    done
+    case $qt in
+        5) suffix= ;;
+        6) suffix=-qt6 ;;
+        *) echo "$0: after --qt comes 5 or 6" >&2; exit 2 ;;
+    esac
+}
+
 # start_log FILE: begins a new log.
 start_log() {
     log=$1

@@ -72,7 +72,7 @@ class Guide:
         self.folder = snippets
         self.snippets = {path.name: snippets_of(path)
                          for path in sorted(snippets.iterdir())
-                         if path.suffix in ('.cpp', '.h', '.txt', '.qrc')}
+                         if path.suffix in ('.cpp', '.h', '.txt')}
         self.unused = {(file, name) for file, names in self.snippets.items() for name in names}
         self.used = 0
 

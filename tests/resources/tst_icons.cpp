@@ -25,10 +25,22 @@ QStringList filesBelow(const QString &path)
     return files;
 }
 
+const QStringList names = {"back", "down", "forward", "minus", "plus", "up"};
+
 QStringList allFiles()
 {
-    return {folder + "back.png",  folder + "down.png", folder + "forward.png",
-            folder + "minus.png", folder + "plus.png", folder + "up.png"};
+    QStringList files;
+    for (const QString &name : names) {
+        for (const char *suffix : {"", "@2x", "@3x"})
+            files << folder + name + suffix + ".png";
+    }
+    return files;
+}
+
+// How much larger an image is than the icon on a coarse screen.
+int factorOf(const QString &path)
+{
+    return path.contains("@2x") ? 2 : path.contains("@3x") ? 3 : 1;
 }
 
 QByteArray bytesOf(const QString &path)
@@ -130,7 +142,7 @@ class tst_Icons : public TestCase
 
 private Q_SLOTS:
     void areThereBeforeAnythingIsConstructed();
-    void areExactlySixFiles();
+    void areSixIconsInThreeSizes();
     void theCollectionHoldsOneFolder();
     void areStoredUncompressed_data();
     void areStoredUncompressed();
@@ -145,6 +157,8 @@ private Q_SLOTS:
     void areDrawnOnTransparentGround_data();
     void areDrawnOnTransparentGround();
     void areAllDifferent();
+    void theLargeImagesShowTheSame_data();
+    void theLargeImagesShowTheSame();
     void theArrowsAreBroad_data();
     void theArrowsAreBroad();
     void theArrowsPointTheirWay();
@@ -159,7 +173,7 @@ private Q_SLOTS:
 
 private:
     static void addFiles();
-    static void addImages(const QStringList &names);
+    static void addImages(const QStringList &images);
 };
 
 void tst_Icons::addFiles()
@@ -170,10 +184,10 @@ void tst_Icons::addFiles()
         QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
 }
 
-void tst_Icons::addImages(const QStringList &names)
+void tst_Icons::addImages(const QStringList &images)
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : names)
+    for (const QString &name : images)
         QTest::newRow(qPrintable(name)) << name;
 }
 
@@ -182,7 +196,7 @@ void tst_Icons::areThereBeforeAnythingIsConstructed()
     QCOMPARE(filesBeforeTheApplication, allFiles());
 }
 
-void tst_Icons::areExactlySixFiles()
+void tst_Icons::areSixIconsInThreeSizes()
 {
     QCOMPARE(filesBelow(":/RyCustomizedDialog"), allFiles());
 }
@@ -191,7 +205,7 @@ void tst_Icons::theCollectionHoldsOneFolder()
 {
     const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
     QCOMPARE(QDir(":/RyCustomizedDialog").entryList(all), QStringList{"images"});
-    QCOMPARE(QDir(folder).entryList(all).size(), 6);
+    QCOMPARE(QDir(folder).entryList(all).size(), 18);
 }
 
 void tst_Icons::areStoredUncompressed_data()
@@ -258,7 +272,7 @@ void tst_Icons::havePngHeader_data()
     const auto files = allFiles();
     for (const QString &path : files) {
         const QString name = QFileInfo(path).baseName();
-        const bool palette = name == "plus" || name == "minus";
+        const bool palette = name.startsWith("plus") || name.startsWith("minus");
         QTest::newRow(qPrintable(name)) << path << (palette ? 3 : 6);
     }
 }
@@ -273,8 +287,8 @@ void tst_Icons::havePngHeader()
     QCOMPARE(chunks.first().type, QByteArray("IHDR"));
     const QByteArray header = chunks.first().data;
     QCOMPARE(header.size(), 13);
-    QCOMPARE(qFromBigEndian<qint32>(header.constData()), 22);
-    QCOMPARE(qFromBigEndian<qint32>(header.constData() + 4), 22);
+    QCOMPARE(qFromBigEndian<qint32>(header.constData()), 22 * factorOf(path));
+    QCOMPARE(qFromBigEndian<qint32>(header.constData() + 4), 22 * factorOf(path));
     QCOMPARE(int(header.at(8)), 8);
     QCOMPARE(int(header.at(9)), colourType);
     QCOMPARE(hasChunk(chunks, "PLTE"), colourType == 3);
@@ -291,10 +305,12 @@ void tst_Icons::areDrawnOnTransparentGround()
 {
     QFETCH(QString, path);
     const QImage image(path);
-    QCOMPARE(image.size(), QSize(22, 22));
-    for (const QPoint &corner : {QPoint(0, 0), QPoint(21, 0), QPoint(0, 21), QPoint(21, 21)})
+    QCOMPARE(image.size(), QSize(22, 22) * factorOf(path));
+    const QRect area = image.rect();
+    for (const QPoint &corner :
+         {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()})
         QCOMPARE(qAlpha(image.pixel(corner)), 0);
-    QCOMPARE(qAlpha(image.pixel(11, 11)), 255);
+    QCOMPARE(qAlpha(image.pixel(area.center())), 255);
 }
 
 void tst_Icons::areAllDifferent()
@@ -303,7 +319,33 @@ void tst_Icons::areAllDifferent()
     const auto files = allFiles();
     for (const QString &path : files)
         contents.insert(bytesOf(path));
-    QCOMPARE(contents.size(), 6);
+    QCOMPARE(contents.size(), 18);
+}
+
+void tst_Icons::theLargeImagesShowTheSame_data()
+{
+    addImages(names);
+}
+
+void tst_Icons::theLargeImagesShowTheSame()
+{
+    QFETCH(QString, name);
+    const QImage small = imageOf(name);
+    for (const char *suffix : {"@2x", "@3x"}) {
+        const QImage large =
+            imageOf(name + suffix)
+                .scaled(small.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        int different = 0;
+        for (int y = 0; y < small.height(); ++y) {
+            for (int x = 0; x < small.width(); ++x)
+                different += isFilled(small, x, y) != isFilled(large, x, y);
+        }
+        QVERIFY2(different <= 8, qPrintable(QString::number(different)));
+        const QColor smallFill = small.pixelColor(11, 11);
+        const QColor largeFill = large.pixelColor(11, 11);
+        QVERIFY2(qAbs(smallFill.hue() - largeFill.hue()) <= 5, qPrintable(largeFill.name()));
+        QVERIFY2(qAbs(smallFill.value() - largeFill.value()) <= 10, qPrintable(largeFill.name()));
+    }
 }
 
 void tst_Icons::theArrowsAreBroad_data()

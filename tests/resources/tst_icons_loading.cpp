@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 
+#include "qtdifferences.h"
 #include "testcase.h"
 
 #include <QDir>
 #include <QLibrary>
 #include <QtTest>
+
+#include <dlfcn.h>
 
 namespace {
 
@@ -16,6 +19,14 @@ QSet<QString> topFolders()
     return QSet<QString>(names.begin(), names.end());
 }
 
+bool isInMemory(const char *library)
+{
+    void *const handle = dlopen(library, RTLD_LAZY | RTLD_NOLOAD);
+    if (handle)
+        dlclose(handle);
+    return handle;
+}
+
 } // namespace
 
 // This program is not linked with the library.
@@ -24,20 +35,11 @@ class tst_Icons_Loading : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void theIconsComeAndGoWithTheLibrary();
     void theLibraryBringsOneCollection();
+    void theIconsComeAndGoWithTheLibrary();
 };
 
-void tst_Icons_Loading::theIconsComeAndGoWithTheLibrary()
-{
-    QLibrary library(RY_LIBRARY);
-    QVERIFY(!QFile::exists(icon));
-    QVERIFY2(library.load(), qPrintable(library.errorString()));
-    QVERIFY(QFile::exists(icon));
-    QVERIFY(library.unload());
-    QVERIFY(!QFile::exists(icon));
-}
-
+// The first function, because the library may stay in memory.
 void tst_Icons_Loading::theLibraryBringsOneCollection()
 {
     QLibrary library(RY_LIBRARY);
@@ -45,7 +47,19 @@ void tst_Icons_Loading::theLibraryBringsOneCollection()
     QVERIFY2(library.load(), qPrintable(library.errorString()));
     QCOMPARE(topFolders() - before, QSet<QString>{"RyCustomizedDialog"});
     QVERIFY(library.unload());
-    QCOMPARE(topFolders(), before);
+    if (!isInMemory(RY_LIBRARY))
+        QCOMPARE(topFolders(), before);
+}
+
+void tst_Icons_Loading::theIconsComeAndGoWithTheLibrary()
+{
+    QLibrary library(RY_LIBRARY);
+    QCOMPARE(QFile::exists(icon), isInMemory(RY_LIBRARY));
+    QVERIFY2(library.load(), qPrintable(library.errorString()));
+    QVERIFY(QFile::exists(icon));
+    QVERIFY(library.unload());
+    QCOMPARE(QFile::exists(icon), isInMemory(RY_LIBRARY));
+    QVERIFY(QtDifferences::librariesMayStay || !isInMemory(RY_LIBRARY));
 }
 
 QTEST_GUILESS_MAIN(tst_Icons_Loading)

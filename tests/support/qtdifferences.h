@@ -5,10 +5,9 @@
 
 #include <QDropEvent>
 #include <QEnterEvent>
-#include <QIcon>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QMouseEvent>
-#include <QWindow>
 
 /*
  * Everything in which Qt 5 and Qt 6 differ for the tests is in this file.
@@ -34,10 +33,18 @@ inline QString path(QLibraryInfo::LibraryLocation location)
     return QLibraryInfo::location(location);
 }
 
-inline QPixmap pixmap(const QIcon &icon, const QSize &size, const QWindow *window)
+inline void forgetLayoutDirection()
 {
-    return icon.pixmap(const_cast<QWindow *>(window), size);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
+
+// Before the application is constructed.
+inline void useSharpImages()
+{
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
+const bool librariesMayStay = false;
 
 #else
 
@@ -57,10 +64,20 @@ inline QString path(QLibraryInfo::LibraryPath location)
 {
     return QLibraryInfo::path(location);
 }
-inline QPixmap pixmap(const QIcon &icon, const QSize &size, const QWindow *window)
+
+// Takes no direction from its translations while the program has chosen one.
+inline void forgetLayoutDirection()
 {
-    return icon.pixmap(size, window->devicePixelRatio());
+    QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
 }
+
+inline void useSharpImages()
+{
+}
+
+// Registers list types with variables that GCC makes unique in the process. The dynamic linker does
+// not unload a library with such a variable.
+const bool librariesMayStay = true;
 
 #endif
 

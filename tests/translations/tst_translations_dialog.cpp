@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "installedlanguage.h"
+#include "qtdifferences.h"
 #include "testcase.h"
 #include "texts.h"
 #include "translateddialog.h"
@@ -55,7 +56,7 @@ private Q_SLOTS:
     void qtTurnsTheDialogForRightToLeft();
 
 protected:
-    void finish() override { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+    void finish() override { QtDifferences::forgetLayoutDirection(); }
 
 private:
     static void addLanguages();

@@ -20,80 +20,14 @@ if [ ! -x "$editor" ]; then
     echo "run.sh: there is no $editor; build the examples first" >&2
     exit 2
 fi
-missing=()
-for tool in Xvfb openbox dbus-daemon xdotool xprop import convert setpriv; do
-    command -v "$tool" >/dev/null || missing+=("$tool")
-done
-# Debian's own Python has the bindings.
-python=/usr/bin/python3
-"$python" -c 'import gi; gi.require_version("Atspi", "2.0")' 2>/dev/null \
-    || missing+=("the AT-SPI bindings of $python")
-if [ ${#missing[@]} -ne 0 ]; then
-    printf 'run.sh: not found: %s\n' "${missing[@]}" >&2
-    echo "run.sh: the section \"tour\" of tools/packages.txt lists the packages that it needs" >&2
-    exit 2
-fi
-
-mkdir -p "$2/log"
-output=$(realpath "$2")
-rm -f "$output"/[0-9][0-9]-*.png "$output"/{dialog,window}.png "$output"/tour.gif \
-    "$output"/log/{texteditor.log,widgets.txt}
-scratch=$(mktemp -d)
-started=()
-
-end_all() {
-    local index
-    for ((index = ${#started[@]} - 1; index >= 0; --index)); do
-        kill "${started[index]}" 2>/dev/null || true
-        wait "${started[index]}" 2>/dev/null || true
-    done
-    rm -rf "$scratch" || true
-}
-trap end_all EXIT
-trap 'exit 129' HUP
-trap 'exit 130' INT
-trap 'exit 143' TERM
-
-# Starts a program that ends with this script, even when the script is killed.
-start() {
-    local log=$1
-    shift
-    setpriv --pdeathsig TERM "$@" >"$output/log/$log" 2>&1 &
-    started+=($!)
-}
-
-# Reads from descriptor 3 what the program prints when it is ready.
-answer() {
-    local line
-    if ! read -r -t 30 -u 3 line; then
-        echo "run.sh: $1 does not start; see $output/log" >&2
-        exit 1
-    fi
-    printf '%s' "$line"
-}
-
-# The tour does not use or change the user's desktop and settings.
-for variable in "${!QT_@}" "${!XDG_@}" "${!AT_SPI_@}" "${!DBUS_@}" "${!LC_@}" LANGUAGE \
-    WAYLAND_DISPLAY; do
-    unset "$variable"
-done
-export LC_ALL=C.UTF-8 HOME="$scratch/home" XDG_RUNTIME_DIR="$scratch/runtime"
-mkdir "$HOME"
-mkdir -m 700 "$XDG_RUNTIME_DIR"
-mkfifo "$scratch/ready"
-exec 3<>"$scratch/ready"
+. "$here/session.sh"
+need Xvfb openbox xdotool xprop import
+begin_session "$2"
 
 start xserver.log Xvfb -displayfd 3 -screen 0 1280x860x24 -dpi 96 -nolisten tcp
 DISPLAY=:$(answer "the X server")
 export DISPLAY
-start bus.log dbus-daemon --session --nofork --nopidfile --print-address=3
-DBUS_SESSION_BUS_ADDRESS=$(answer "the message bus")
-export DBUS_SESSION_BUS_ADDRESS
-exec 3>&-
+start_bus
 start windowmanager.log openbox
-
-# In the background, so that an interrupt is taken at once.
-setpriv --pdeathsig TERM "$python" -B "$here/tour.py" "$editor" "$output" &
-started+=($!)
-wait $!
+take_tour "$here/tour.py" "$editor" "$output"
 "$here/animate.sh" "$output"

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Runs the tour of the text editor with Qt 6 in a Wayland session. Takes pictures only of failures, in
+# build/wayland.
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+. tools/steps.sh
+start_log build/wayland.log
+
+build=build/release-qt6
+step 'Packages' tools/install-packages.sh test qt6 wayland
+step 'Configure' cmake --preset release-qt6 -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
+step 'Build' cmake --build "$build" --target texteditor --parallel "$(nproc)"
+step 'Tour' tools/wayland/run.sh "$build" build/wayland
+finish 'every step of the tour passed in a Wayland session'
