@@ -11,6 +11,7 @@ examples=/usr/share/doc/librycustomizeddialog-examples/examples
 #   name      of the library for CMake, pkg-config and linkers
 #   package   of the library
 #   standard  the oldest C++ of hosts
+# shellcheck disable=SC2034 # not every test uses all of them
 with_each_qt() {
     for qt in 5 6; do
         case $qt in
