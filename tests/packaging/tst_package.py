@@ -3,7 +3,7 @@
 """Tests of what `cmake --install` gives, as a host meets it.
 
 CMake runs the test classes one by one and sets what they need in the environment: SOURCE_DIR,
-BUILD_DIR, LIBDIR, TRANSLATIONS, CMAKE, CXX and CXXFLAGS of the build under test.
+BUILD_DIR, QT, LIBDIR, TRANSLATIONS, CMAKE, QMAKE, CXX and CXXFLAGS of the build under test.
 """
 
 import os
@@ -13,14 +13,17 @@ import shutil
 import subprocess
 import tempfile
 import unittest
+from collections import namedtuple
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 SOURCE_DIR = Path(os.environ['SOURCE_DIR'])
 BUILD_DIR = Path(os.environ['BUILD_DIR'])
+QT = os.environ['QT']
 LIBDIR = os.environ['LIBDIR']
 TRANSLATIONS = os.environ['TRANSLATIONS']
 CMAKE = os.environ['CMAKE']
+QMAKE = os.environ['QMAKE']
 CXX = os.environ['CXX']
 CXXFLAGS = shlex.split(os.environ['CXXFLAGS'])
 # One name for each compiler that is there.
@@ -29,7 +32,17 @@ COMPILERS = {os.path.realpath(path): path
 
 VERSION = (SOURCE_DIR / 'VERSION').read_text().strip()
 MAJOR = int(VERSION.split('.')[0])
-FEATURES = f'{LIBDIR}/qt5/mkspecs/features'
+# What depends on the Qt that a library is for.
+Flavour = namedtuple('Flavour', 'qt name include features qt_minimum not_deprecated_since standard')
+FLAVOURS = {
+    '5': Flavour('5', 'RyCustomizedDialog', 'include', f'{LIBDIR}/qt5/mkspecs/features',
+                 '5.6', '0x050600', '-std=c++11'),
+    '6': Flavour('6', 'RyCustomizedDialog-qt6', 'include/RyCustomizedDialog-qt6',
+                 f'{LIBDIR}/qt6/mkspecs/features', '6.2', '0x060200', '-std=c++17'),
+}
+TESTED = FLAVOURS[QT]
+OTHER = FLAVOURS['6' if QT == '5' else '5']
+NAME = TESTED.name
 HOST_DIR = SOURCE_DIR / 'tests' / 'packaging' / 'host'
 EXAMPLES = ('dressed', 'minimal', 'plugins', 'texteditor', 'tree')
 
@@ -49,12 +62,14 @@ LANGUAGES = [path.stem for path in (SOURCE_DIR / 'translations').glob('*.ts')
              if TRANSLATIONS == 'ON']
 # The host's argument where it has to find them.
 TRANSLATED = ['translated'] if LANGUAGES else []
+# Both libraries have the same ones.
+SHARED_FILES = [f'share/rycustomizeddialog/translations/{name}.qm' for name in LANGUAGES]
 HEADERS = CLASSES + tuple(name.lower() + '.h' for name in CLASSES) + ('rycustomizeddialogexport.h',)
 
 # What a host may define before it includes a header.
 STRICT = (
     '-DQT_DEPRECATED_WARNINGS',
-    '-DQT_DISABLE_DEPRECATED_BEFORE=0x050600',
+    f'-DQT_DISABLE_DEPRECATED_BEFORE={TESTED.not_deprecated_since}',
     '-DQT_NO_CAST_FROM_ASCII',
     '-DQT_NO_CAST_FROM_BYTEARRAY',
     '-DQT_NO_CAST_TO_ASCII',
@@ -64,7 +79,7 @@ STRICT = (
     '-DQT_NO_URL_CAST_FROM_STRING',
     '-DQT_STRICT_ITERATORS',
 )
-CXX11 = ('-std=c++11', '-pedantic', '-Wall', '-Wextra', '-Werror', '-fPIC')
+PEDANTIC = (TESTED.standard, '-pedantic', '-Wall', '-Wextra', '-Werror', '-fPIC')
 
 
 def setUpModule():
@@ -101,9 +116,21 @@ def pkg_config(*arguments):
     return run('pkg-config', *arguments, PKG_CONFIG_PATH=str(path)).split()
 
 
+def installed_files(flavour):
+    """All but one that is named after the build type."""
+    name = flavour.name
+    package = f'{LIBDIR}/cmake/{name}/{name}'
+    files = [f'{flavour.include}/RyCustomizedDialog/{header}' for header in HEADERS]
+    files += [f'{flavour.features}/rycustomizeddialog.prf']
+    files += [f'{LIBDIR}/lib{name}.so{end}' for end in ('', f'.{MAJOR}', f'.{VERSION}')]
+    files += [f'{package}{end}.cmake' for end in ('Config', 'ConfigVersion', 'Targets')]
+    files += [f'{LIBDIR}/pkgconfig/{name}.pc']
+    return files + SHARED_FILES
+
+
 def qt_flags():
     """Qt's compiler flags, with its headers as system headers: their warnings are not ours."""
-    flags = run('pkg-config', '--cflags', 'Qt5Widgets').split()
+    flags = run('pkg-config', '--cflags', f'Qt{QT}Widgets').split()
     return ['-isystem' + flag[2:] if flag.startswith('-I') else flag for flag in flags]
 
 
@@ -117,29 +144,27 @@ def failures_of(commands):
 class InstalledTree(unittest.TestCase):
 
     def test_installs_exactly_these_files(self):
-        library = 'libRyCustomizedDialog.so'
-        package = f'{LIBDIR}/cmake/RyCustomizedDialog/RyCustomizedDialog'
-        expected = [f'include/RyCustomizedDialog/{header}' for header in HEADERS]
-        expected += [f'{FEATURES}/rycustomizeddialog.prf']
-        expected += [f'{LIBDIR}/{library}{end}' for end in ('', f'.{MAJOR}', f'.{VERSION}')]
-        expected += [f'{package}{end}.cmake' for end in ('Config', 'ConfigVersion', 'Targets')]
-        expected += [f'{LIBDIR}/pkgconfig/RyCustomizedDialog.pc']
-        expected += [f'share/rycustomizeddialog/translations/{name}.qm' for name in LANGUAGES]
-        found = [str(path.relative_to(prefix)) for path in prefix.rglob('*') if not path.is_dir()]
-        # One more file is named after the build type.
-        found = [path for path in found if not re.match(re.escape(package) + r'Targets-\w+', path)]
-        self.assertEqual(sorted(found), sorted(expected))
+        named_after_the_build_type = rf'.*/{NAME}Targets-\w+\.cmake'
+        found = [name for name in self.found() if not re.fullmatch(named_after_the_build_type, name)]
+        self.assertEqual(sorted(found), sorted(installed_files(TESTED)))
+
+    def test_shares_only_translations_with_the_library_for_the_other_qt(self):
+        shared = set(self.found()) & set(installed_files(OTHER))
+        self.assertEqual(sorted(shared), sorted(SHARED_FILES))
+
+    def found(self):
+        return [str(path.relative_to(prefix)) for path in prefix.rglob('*') if not path.is_dir()]
 
     def test_library_is_found_by_its_links(self):
         links = {path.name: os.readlink(path)
                  for path in (prefix / LIBDIR).iterdir() if path.is_symlink()}
         self.assertEqual(links, {
-            'libRyCustomizedDialog.so': f'libRyCustomizedDialog.so.{MAJOR}',
-            f'libRyCustomizedDialog.so.{MAJOR}': f'libRyCustomizedDialog.so.{VERSION}',
+            f'lib{NAME}.so': f'lib{NAME}.so.{MAJOR}',
+            f'lib{NAME}.so.{MAJOR}': f'lib{NAME}.so.{VERSION}',
         })
 
     def test_no_path_of_the_build_stays_in_it(self):
-        library = prefix / LIBDIR / f'libRyCustomizedDialog.so.{VERSION}'
+        library = prefix / LIBDIR / f'lib{NAME}.so.{VERSION}'
         run('strip', '--strip-debug', '-o', work / 'stripped', library)
         unwanted = [str(path).encode() for path in (SOURCE_DIR, BUILD_DIR, installed_to)]
         for path in prefix.rglob('*'):
@@ -149,18 +174,18 @@ class InstalledTree(unittest.TestCase):
                 self.assertEqual(found, [], f'in {path.relative_to(prefix)}')
 
     def test_pkg_config_knows_the_version_and_what_it_needs(self):
-        self.assertEqual(pkg_config('--modversion', 'RyCustomizedDialog'), [VERSION])
-        self.assertEqual(pkg_config('--print-requires', 'RyCustomizedDialog'),
-                         ['Qt5Widgets', '>=', '5.6'])
+        self.assertEqual(pkg_config('--modversion', NAME), [VERSION])
+        self.assertEqual(pkg_config('--print-requires', NAME),
+                         [f'Qt{QT}Widgets', '>=', TESTED.qt_minimum])
 
 
 class Library(unittest.TestCase):
 
     def setUp(self):
-        self.library = prefix / LIBDIR / 'libRyCustomizedDialog.so'
+        self.library = prefix / LIBDIR / f'lib{NAME}.so'
 
     def test_needs_qt_and_the_standard_runtime_only(self):
-        allowed = {f'libQt5{module}.so.5' for module in ('Core', 'Gui', 'Widgets')}
+        allowed = {f'libQt{QT}{module}.so.{QT}' for module in ('Core', 'Gui', 'Widgets')}
         allowed |= {'libstdc++.so.6', 'libm.so.6', 'libgcc_s.so.1', 'libc.so.6'}
         self.assertEqual(sorted(set(self.dynamic('NEEDED')) - allowed), [])
 
@@ -177,7 +202,7 @@ class Library(unittest.TestCase):
         self.assertEqual([line for line in lines if unwanted.search(line)], [])
 
     def test_soname_holds_the_major_version(self):
-        self.assertEqual(self.dynamic('SONAME'), [f'libRyCustomizedDialog.so.{MAJOR}'])
+        self.assertEqual(self.dynamic('SONAME'), [f'lib{NAME}.so.{MAJOR}'])
 
     def test_searches_no_folder_of_its_own(self):
         self.assertEqual(self.dynamic('RPATH') + self.dynamic('RUNPATH'), [])
@@ -187,6 +212,11 @@ class Library(unittest.TestCase):
 
 
 class Hosts(unittest.TestCase):
+
+    SOURCES = ('-DUSES=sources', f'-DQT={QT}')
+
+    def package(self, prefix):
+        return (f'-DUSES={NAME}', f'-DCMAKE_PREFIX_PATH={prefix}')
 
     def configure(self, source, name, *options):
         command = (CMAKE, '-S', source, '-B', work / name, '-G', 'Ninja',
@@ -205,9 +235,9 @@ class Hosts(unittest.TestCase):
         run(work / name / 'host', *TRANSLATED)
 
     def test_cmake_package_works_wherever_it_lies(self):
-        self.build_and_run('package', f'-DCMAKE_PREFIX_PATH={prefix}')
+        self.build_and_run('package', *self.package(prefix))
         used = run('ldd', work / 'package' / 'host')
-        self.assertIn(str(prefix / LIBDIR / 'libRyCustomizedDialog.so.'), used)
+        self.assertIn(str(prefix / LIBDIR / f'lib{NAME}.so.'), used)
 
     def test_cmake_package_answers_requests_for_versions(self):
         answers = {
@@ -221,38 +251,64 @@ class Hosts(unittest.TestCase):
         for wanted, answer in answers.items():
             with self.subTest(wanted=wanted):
                 code, output = self.configure(
-                    HOST_DIR, 'versions', f'-DCMAKE_PREFIX_PATH={prefix}',
-                    f'-DWANTED_VERSION={wanted}', '-URyCustomizedDialog_DIR')
+                    HOST_DIR, 'versions', *self.package(prefix),
+                    f'-DWANTED_VERSION={wanted}', f'-U{NAME}_DIR')
                 self.assertEqual(code == 0, answer, output)
                 if not answer:
                     self.assertIn(f'version: {VERSION}', output)
 
     def test_pkg_config_file_works_wherever_it_lies(self):
-        flags = pkg_config('--cflags', '--libs', 'RyCustomizedDialog')
-        folder = ''.join(pkg_config('--variable=translationsdir', 'RyCustomizedDialog'))
-        run(CXX, *CXXFLAGS, '-std=c++11', '-fPIC', f'-DTRANSLATIONS_DIR="{folder}"',
+        flags = pkg_config('--cflags', '--libs', NAME)
+        folder = ''.join(pkg_config('--variable=translationsdir', NAME))
+        run(CXX, *CXXFLAGS, TESTED.standard, '-fPIC', f'-DTRANSLATIONS_DIR="{folder}"',
             HOST_DIR / 'main.cpp', '-o', work / 'pc-host', *flags)
         run(work / 'pc-host', *TRANSLATED, LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
     def test_subdirectory_gives_the_same_target_without_tests_and_examples(self):
-        self.build_and_run('subdirectory', f'-DLIBRARY_SOURCE_DIR={SOURCE_DIR}',
+        self.build_and_run('sources', *self.SOURCES,
                            f'-DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS={TRANSLATIONS}')
-        cache = (work / 'subdirectory' / 'CMakeCache.txt').read_text()
+        cache = (work / 'sources' / 'CMakeCache.txt').read_text()
         for what in ('TESTS', 'EXAMPLES'):
             self.assertIn(f'\nRYCUSTOMIZEDDIALOG_BUILD_{what}:BOOL=OFF\n', cache)
 
+    def test_subdirectory_takes_the_qt_of_the_host(self):
+        code, output = self.configure(HOST_DIR, 'qt', *self.SOURCES)
+        self.assertEqual(code, 0, output)
+        cache = (work / 'qt' / 'CMakeCache.txt').read_text()
+        self.assertIn(f'\nRYCUSTOMIZEDDIALOG_QT:STRING={QT}\n', cache)
+
     def test_package_without_translations_names_no_folder(self):
         # In the folder of the other test, so that the library is compiled once.
-        self.build(HOST_DIR, 'subdirectory', f'-DLIBRARY_SOURCE_DIR={SOURCE_DIR}',
+        self.build(HOST_DIR, 'sources', *self.SOURCES,
                    '-DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=OFF', target='host')
-        run(work / 'subdirectory' / 'host')
-        run(CMAKE, '--install', work / 'subdirectory', '--prefix', work / 'without')
+        run(work / 'sources' / 'host')
+        run(CMAKE, '--install', work / 'sources', '--prefix', work / 'without')
         self.assertEqual(list((work / 'without').rglob('*translations*')), [])
-        self.build(HOST_DIR, 'untranslated', f'-DCMAKE_PREFIX_PATH={work / "without"}',
-                   target='host')
+        self.build(HOST_DIR, 'untranslated', *self.package(work / 'without'), target='host')
         run(work / 'untranslated' / 'host')
-        file = work / 'without' / LIBDIR / 'pkgconfig' / 'RyCustomizedDialog.pc'
+        file = work / 'without' / LIBDIR / 'pkgconfig' / f'{NAME}.pc'
         self.assertNotIn('translationsdir', file.read_text())
+
+    def test_one_build_cannot_use_the_libraries_for_both_qts(self):
+        self.write_other_package()
+        for uses in ((NAME, OTHER.name), (OTHER.name, NAME),
+                     ('sources', OTHER.name), (OTHER.name, 'sources')):
+            with self.subTest(uses=uses):
+                code, output = self.configure(
+                    HOST_DIR, '-'.join(uses), f'-DUSES={";".join(uses)}', f'-DQT={QT}',
+                    '-DWANTED_VERSION=', f'-DCMAKE_PREFIX_PATH={prefix};{work / "other"}')
+                self.assertNotEqual(code, 0)
+                first = OTHER.qt if uses[0] == OTHER.name else QT
+                self.assertIn(f'This build already uses RyCustomizedDialog for Qt {first}', output)
+
+    def write_other_package(self):
+        """What our package does before it looks for Qt, because the other Qt may not be there."""
+        text = (prefix / LIBDIR / 'cmake' / NAME / f'{NAME}Config.cmake').read_text()
+        text = text[:text.index('include(CMakeFindDependencyMacro)')]
+        text = re.sub(rf'\b(EQUAL|Qt|RYCUSTOMIZEDDIALOG_QT) {QT}\b', rf'\1 {OTHER.qt}', text)
+        folder = work / 'other' / LIBDIR / 'cmake' / OTHER.name
+        folder.mkdir(parents=True)
+        (folder / f'{OTHER.name}Config.cmake').write_text(text)
 
     def test_examples_build_against_the_package(self):
         folders = [path.parent for path in (SOURCE_DIR / 'examples').glob('*/CMakeLists.txt')]
@@ -269,10 +325,9 @@ class Hosts(unittest.TestCase):
         (folder / 'host.pro').write_text(
             f'CONFIG += rycustomizeddialog\nSOURCES = {HOST_DIR}/main.cpp\n'
             r'DEFINES += TRANSLATIONS_DIR=\\\"\\\"')
-        qmake = run('pkg-config', '--variable=host_bins', 'Qt5Core').strip() + '/qmake'
         # Debian's qmake would mix these with the flags of its own compiler.
-        run('env', '-u', 'CXX', '-u', 'CXXFLAGS', qmake, '-o', folder / 'Makefile',
-            folder / 'host.pro', QMAKEFEATURES=str(prefix / FEATURES))
+        run('env', '-u', 'CXX', '-u', 'CXXFLAGS', QMAKE, '-o', folder / 'Makefile',
+            folder / 'host.pro', QMAKEFEATURES=str(prefix / TESTED.features))
         run('make', '-C', folder)
         run(folder / 'host', LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
@@ -287,9 +342,9 @@ class Headers(unittest.TestCase):
         self.compile_each()
 
     def compile_each(self, *defines):
-        include = [flag for flag in pkg_config('--cflags', 'RyCustomizedDialog')
+        include = [flag for flag in pkg_config('--cflags', NAME)
                    if str(prefix.parent) in flag]
-        common = (*CXX11, *defines, *include, *qt_flags(), '-fsyntax-only')
+        common = (*PEDANTIC, *defines, *include, *qt_flags(), '-fsyntax-only')
         commands = {}
         for header in HEADERS:
             source = work / f'{header}.cpp'
