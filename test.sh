@@ -3,10 +3,13 @@
 #
 # Builds the library and the examples and runs all tests. Needs nothing but this folder on a Debian or
 # Ubuntu system. Installs missing packages with apt; everything else stays in build/.
+#
+# usage: test.sh [--qt 5|6]
 
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit
 . tools/steps.sh
-start_log build/test.log
+choose_qt "$@"
+start_log "build/test$suffix.log"
 
 test_preset release
-finish 'all tests passed'
+finish "all tests with Qt $qt passed"

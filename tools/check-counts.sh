@@ -12,7 +12,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
 start_log build/check-counts.log
 
-step 'Packages' tools/install-packages.sh bench
+step 'Packages' tools/install-packages.sh bench qt5
 step 'Configure' cmake --preset benchmark
 step 'Build' cmake --build --preset benchmark --parallel "$(nproc)"
 try 'Instructions' tools/check-counts/counts.py build/benchmark/benchmarks/benchmarks build/counts "$@"

@@ -13,7 +13,7 @@ cores=$(nproc)
 report=(gcovr --root . --filter '(dialog|toolbarmanager|toolbareditor|ribbon)/'
     --exclude-throw-branches --exclude-unreachable-branches build/coverage)
 
-step 'Packages' tools/install-packages.sh test coverage
+step 'Packages' tools/install-packages.sh test qt5 coverage
 step 'Configure' cmake --preset coverage
 step 'Build' cmake --build --preset coverage --parallel "$cores"
 find build/coverage -name '*.gcda' -delete

@@ -3,7 +3,7 @@
 #
 # Builds the library with optimization and runs random operations on it and on a model of it.
 #
-# usage: fuzz-operations.sh [SEQUENCES [JOBS [FIRST_SEED]]]
+# usage: fuzz-operations.sh [--qt 5|6] [SEQUENCES [JOBS [FIRST_SEED]]]
 #
 # Each sequence has 200 steps. Without FIRST_SEED, each run uses other seeds. A failure prints its seed
 # and the shortest script of steps that shows it.
@@ -13,12 +13,15 @@
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
 
-sequences=${1:-100000}
-jobs=${2:-$(nproc)}
-first_seed=${3:-$(date +%s)000000}
+choose_qt "$@"
+
+sequences=${arguments[0]:-100000}
+jobs=${arguments[1]:-$(nproc)}
+first_seed=${arguments[2]:-$(date +%s)000000}
 steps=200
-program=build/release/tests/model/operations
-logs=build/fuzz-operations
+preset=release$suffix
+program=build/$preset/tests/model/operations
+logs=build/fuzz-operations$suffix
 
 # run_job NUMBER: runs its share of the sequences; the last job also runs the remainder.
 run_job() {
@@ -51,10 +54,10 @@ show_sum() {
     echo "$jobs jobs, seeds from $first_seed on, $SECONDS s in all"
 }
 
-start_log build/fuzz-operations.log
-step 'Packages' tools/install-packages.sh test
-step 'Configure' cmake --preset release
-step 'Build' cmake --build --preset release --target operations --parallel "$jobs"
+start_log "build/fuzz-operations$suffix.log"
+step 'Packages' tools/install-packages.sh test "qt$qt"
+step 'Configure' cmake --preset "$preset"
+step 'Build' cmake --build --preset "$preset" --target operations --parallel "$jobs"
 try 'Run' run_jobs
 try 'Sum' show_sum
 finish 'no operation differed from the model'

@@ -5,7 +5,7 @@
 # with the address and undefined behaviour sanitizers. After each input, checks what must be true for
 # all bytes.
 #
-# usage: fuzz-restorestate.sh [SECONDS [JOBS]]
+# usage: fuzz-restorestate.sh [--qt 5|6] [SECONDS [JOBS]]
 #
 # The defaults are 60 SECONDS and 1 job. Inputs that reach new code are kept below build/ for the next
 # run. So is an input that breaks something, and its name is printed.
@@ -14,14 +14,16 @@
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
-start_log build/fuzz-restorestate.log
+choose_qt "$@"
+start_log "build/fuzz-restorestate$suffix.log"
 
-seconds=${1:-60}
-jobs=${2:-1}
-fuzzer=build/fuzz/tests/toolbarmanager/fuzz/fuzz-restorestate
+seconds=${arguments[0]:-60}
+jobs=${arguments[1]:-1}
+preset=fuzz$suffix
+fuzzer=build/$preset/tests/toolbarmanager/fuzz/fuzz-restorestate
 sources=tests/toolbarmanager/fuzz
-corpus=build/fuzz/corpus
-found=build/fuzz/found
+corpus=build/$preset/corpus
+found=build/$preset/found
 
 export ASAN_OPTIONS=quarantine_size_mb=32:abort_on_error=1
 export UBSAN_OPTIONS=print_stacktrace=1
@@ -69,10 +71,9 @@ figures() {
         "$(find "$corpus" "$sources/seeds" "$sources/findings" -type f ! -name '*.md' | wc -l)"
 }
 
-mkdir -p build/fuzz
-step 'Packages' tools/install-packages.sh fuzz-restorestate
-step 'Configure' cmake --preset fuzz
-step 'Build' cmake --build --preset fuzz --parallel "$(nproc)"
+step 'Packages' tools/install-packages.sh fuzz-restorestate "qt$qt"
+step 'Configure' cmake --preset "$preset"
+step 'Build' cmake --build --preset "$preset" --parallel "$(nproc)"
 step 'Kept inputs' replay
 step "$seconds seconds of random bytes in $jobs jobs" run_jobs
 finish 'nothing broke'

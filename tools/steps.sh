@@ -22,6 +22,14 @@ choose_qt() {
     esac
 }
 
+# qt_flags: how a compiler is to read the sources of the library with the chosen Qt.
+qt_flags() {
+    local standard=11
+    [ "$qt" -eq 5 ] || standard=17
+    printf '%s ' "-std=c++$standard" -fPIC
+    pkg-config --cflags "Qt${qt}Widgets" | sed 's/-I/-isystem/g'
+}
+
 # start_log FILE: begins a new log.
 start_log() {
     log=$1
@@ -66,16 +74,16 @@ finish() {
     exit "$status"
 }
 
-# test_preset PRESET: builds everything with a preset and runs all its tests.
+# test_preset PRESET: builds everything with a preset for the chosen Qt and runs all its tests.
 test_preset() {
-    local cores
+    local cores preset=$1$suffix
     cores=$(nproc)
-    step 'Packages' tools/install-packages.sh test
-    step 'Configure' cmake --preset "$1" -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
-    step 'Build' cmake --build --preset "$1" --parallel "$cores"
+    step 'Packages' tools/install-packages.sh test "qt$qt"
+    step 'Configure' cmake --preset "$preset" -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
+    step 'Build' cmake --build --preset "$preset" --parallel "$cores"
     try 'Tests without a display' \
-        ctest --preset "$1" --label-exclude window --no-tests=error --parallel "$cores"
+        ctest --preset "$preset" --label-exclude window --no-tests=error --parallel "$cores"
     # Each of these starts an X server and a window manager.
     try 'Tests in real windows' \
-        ctest --preset "$1" --label-regex window --no-tests=error --parallel $(((cores + 1) / 2))
+        ctest --preset "$preset" --label-regex window --no-tests=error --parallel $(((cores + 1) / 2))
 }

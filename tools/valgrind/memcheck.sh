@@ -3,10 +3,12 @@
 #
 # Runs one test program under valgrind's memcheck and prints the result in one line.
 #
-# usage: memcheck.sh PROGRAM
+# usage: memcheck.sh FOLDER PROGRAM
+#
+# Writes its log into the folder.
 
-name=$(basename "$1")
-log=build/valgrind/$name.log
+name=$(basename "$2")
+log=$1/$name.log
 # The JIT code of regular expressions reads past the ends of strings on purpose.
 export QT_ENABLE_REGEXP_JIT=0
 # Valgrind is about twenty times slower, so Qt Test's watchdog must wait longer.
@@ -15,7 +17,7 @@ export QTEST_FUNCTION_TIMEOUT=3600000
 # Tests that replace the allocation functions keep their own.
 if valgrind --quiet --soname-synonyms=somalloc=nouserintercepts --leak-check=full --show-leak-kinds=definite \
     --errors-for-leak-kinds=definite --error-exitcode=99 --num-callers=30 \
-    --suppressions=tests/support/qt-valgrind.supp "$1" >"$log" 2>&1; then
+    --suppressions=tests/support/qt-valgrind.supp "$2" >"$log" 2>&1; then
     echo "clean: $name ($(grep '^Totals' "$log"))"
 else
     echo "FAILED: $name"
