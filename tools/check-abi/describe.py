@@ -2,10 +2,12 @@
 # SPDX-License-Identifier: MIT
 """Prints one part of the binary contract as text, for tools/check-abi.sh.
 
-usage: describe.py symbols LIBRARY    the exported symbols
-       describe.py metaobjects        the signals and slots of each exported class, in their order
-       describe.py layouts FLAGS...   the bases and fields of each exported class and where they lie,
-                                      by Clang with these compiler flags
+usage: describe.py QT symbols LIBRARY    the exported symbols
+       describe.py QT metaobjects        the signals and slots of each exported class, in their order
+       describe.py QT layouts FLAGS...   the bases and fields of each exported class and where they
+                                         lie, by Clang with these compiler flags
+
+QT is 5 or 6.
 """
 
 import json
@@ -19,6 +21,10 @@ SOURCE_DIR = Path(__file__).resolve().parents[2]
 
 # The constructor for whole objects of an abstract class: nobody can call it, and only GCC emits it.
 NOT_IN_EVERY_BUILD = {'_ZN14RyCusInterfaceC1Ev'}
+
+# Instances of the templates of Qt and of the standard library. They belong to nobody, and each compiler
+# emits others.
+OF_OTHERS = re.compile(r'_Z(GV|T[ISV])?Z?N?K?(St|\d+Q)')
 
 
 def output_of(*command, text=None):
@@ -41,6 +47,7 @@ def exported_classes():
 def symbols(library):
     lines = output_of('nm', '-D', '--defined-only', '--format=posix', library).splitlines()
     names = sorted({line.split()[0] for line in lines} - NOT_IN_EVERY_BUILD)
+    names = [name for name in names if not OF_OTHERS.match(name)]
     for name, meaning in zip(names, demangled(names)):
         print(name, meaning)
 
@@ -59,7 +66,8 @@ def metaobjects():
 
 
 def described_by_moc(header):
-    moc = output_of('pkg-config', '--variable=host_bins', 'Qt5Core').strip() + '/moc'
+    folder = {'5': 'host_bins', '6': 'libexecdir'}[QT]
+    moc = output_of('pkg-config', f'--variable={folder}', f'Qt{QT}Core').strip() + '/moc'
     with tempfile.TemporaryDirectory() as folder:
         output_of(moc, '--no-notes', '--output-json', header, '-o', f'{folder}/moc')
         # Empty for a class without a meta-object.
@@ -78,8 +86,8 @@ def layouts(*flags):
     # A record is laid out once it is needed.
     source = ''.join(f'#include <{name.lower()}.h>\n' for name in classes)
     source += ''.join(f'static_assert(sizeof({name}) > 0, "");\n' for name in classes)
-    dumped = output_of('clang++', '-x', 'c++', '-std=c++11', '-fPIC', '-fsyntax-only', '-Xclang',
-                       '-fdump-record-layouts', *flags, '-', text=source)
+    dumped = output_of('clang++', '-x', 'c++', '-fsyntax-only', '-Xclang', '-fdump-record-layouts',
+                       *flags, '-', text=source)
     found = {}
     for record in dumped.split('*** Dumping AST Record Layout')[1:]:
         lines = [line for line in record.splitlines() if '|' in line]
@@ -92,4 +100,5 @@ def layouts(*flags):
 
 
 if __name__ == '__main__':
-    {'symbols': symbols, 'metaobjects': metaobjects, 'layouts': layouts}[sys.argv[1]](*sys.argv[2:])
+    QT = sys.argv[1]
+    {'symbols': symbols, 'metaobjects': metaobjects, 'layouts': layouts}[sys.argv[2]](*sys.argv[3:])
