@@ -75,7 +75,7 @@ private:
     // So that of several objects with one name the first remains.
     template <typename NameOf> void insertBackwards(Index &index, NameOf nameOf) const
     {
-        for (int i = m_objects.size() - 1; i >= 0; --i)
+        for (auto i = m_objects.size() - 1; i >= 0; --i)
             index.insert(nameOf(m_objects.at(i)), m_objects.at(i));
     }
 

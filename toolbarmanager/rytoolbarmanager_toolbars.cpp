@@ -19,7 +19,7 @@ int numberOf(const QString &objectName, int maximum)
     if (!objectName.startsWith(CustomToolBarPrefix))
         return 0;
     int number = 0;
-    for (int i = CustomToolBarPrefix.size(); i < objectName.size(); ++i) {
+    for (auto i = CustomToolBarPrefix.size(); i < objectName.size(); ++i) {
         const int digit = objectName.at(i).unicode() - '0';
         if (digit < 0 || digit > 9 || (digit == 0 && number == 0))
             return 0;
@@ -34,7 +34,7 @@ int numberOf(const QString &objectName, int maximum)
 QString freeObjectName(const QList<QToolBar *> &toolBars)
 {
     // Of one number more than there are toolbars at least one is free.
-    const int maximum = toolBars.size() + 1;
+    const int maximum = static_cast<int>(toolBars.size()) + 1;
     QVector<bool> taken(maximum + 1);
     for (const QToolBar *toolBar : toolBars)
         taken[numberOf(toolBar->objectName(), maximum)] = true;
@@ -43,7 +43,7 @@ QString freeObjectName(const QList<QToolBar *> &toolBars)
 
 bool insertNew(QSet<QAction *> &actions, QAction *action)
 {
-    const int size = actions.size();
+    const auto size = actions.size();
     actions.insert(action);
     return actions.size() > size;
 }

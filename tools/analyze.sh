@@ -4,7 +4,7 @@
 # Looks for mistakes in the sources: Clang with all its warnings, clang-tidy, clazy and cppcheck.
 # First it checks that they find the mistakes in a sample file.
 #
-# usage: analyze.sh [--all]
+# usage: analyze.sh [--qt 5|6] [--all]
 #   --all  clang-tidy and clazy also read the examples and the tests, which takes many minutes
 
 # shellcheck disable=SC2317 # the steps are functions
@@ -12,20 +12,23 @@
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
 set -o pipefail
-start_log build/analyze.log
+choose_qt "$@"
+start_log "build/analyze$suffix.log"
 
 cores=$(nproc)
-build=build/analyze
+build=build/analyze$suffix
 library=(dialog toolbarmanager toolbareditor ribbon)
 sample=tools/analyze/wrong.cpp
 others=OFF
-[ "${1-}" != --all ] || others=ON
+[ "${arguments[0]-}" != --all ] || others=ON
 
 # Checks of clazy. old-style-connect checks the signatures of connections by string, which the library
 # uses on purpose. Left out:
 #   qmap-with-pointer-key  the editor and the saved state use the order by address
 #   const-signal-or-slot   which functions are slots is part of the binary contract
 clazy_checks=level0,level1,old-style-connect,no-qmap-with-pointer-key,no-const-signal-or-slot
+# The containers of Qt 6 take a const_iterator where those of Qt 5 take an iterator.
+[ "$qt" -eq 5 ] || clazy_checks+=,no-strict-iterators
 
 # Warnings of Clang that are left out: those about older standards, about gaps in objects, and
 # about the semicolon after Q_UNUSED().
@@ -52,12 +55,8 @@ sources() {
     git -c safe.directory="$PWD" ls-files -- "$@" | grep '\.cpp$' | grep -v '^tests/packaging/'
 }
 
-qt_flags() {
-    pkg-config --cflags Qt5Widgets | sed 's/-I/-isystem/g'
-}
-
 configure() {
-    cmake --preset clang -B "$build" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON \
+    cmake --preset "clang$suffix" -B "$build" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON \
         -DRYCUSTOMIZEDDIALOG_BUILD_TESTS="$others" -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES="$others"
 }
 
@@ -73,7 +72,7 @@ every_warning() {
     read -ra flags < <(qt_flags)
     # With -I for the library's folders, so that its headers are checked too.
     sources "${library[@]}" |
-        over clang++ -fsyntax-only -std=c++11 -fPIC "${all_warnings[@]}" "${flags[@]}" \
+        over clang++ -fsyntax-only "${all_warnings[@]}" "${flags[@]}" \
             "${library[@]/#/-I}" -isystem "$build" \
             -DRYCUSTOMIZEDDIALOG_LIBRARY {}
 }
@@ -105,7 +104,6 @@ run_cppcheck() {
 find_mistakes() {
     local flags said=$build/sample.txt line number wanted missed=0
     read -ra flags < <(qt_flags)
-    flags+=(-std=c++11 -fPIC)
     {
         clang++ -fsyntax-only "${all_warnings[@]}" "${flags[@]}" "$sample"
         clang-tidy --quiet "$sample" -- "${flags[@]}"
@@ -122,7 +120,7 @@ find_mistakes() {
     [ "$missed" -eq 0 ] && echo "All $(grep -cE '[^ /].* // ' "$sample") mistakes were found."
 }
 
-step 'Packages' tools/install-packages.sh analyze
+step 'Packages' tools/install-packages.sh analyze "qt$qt"
 step 'Configure' configure
 step 'Generated sources' generate
 try 'Mistakes are found' find_mistakes
