@@ -21,7 +21,7 @@ SNIPPETS = SOURCE_DIR / 'tests' / 'docs'
 UPDATE = SOURCE_DIR / 'tools' / 'update-snippets.py'
 
 # What Qt offers since a later version than the first one that a host may have. The library itself is
-# read by tools/check-old-qt.sh.
+# read by tools/check-qt-versions.sh.
 NEWER_THAN_QT_5_6 = {
     r'\bqAsConst\b': '5.7',
     r'\b(qOverload|qConstOverload|qNonConstOverload|QOverload|QConstOverload|QNonConstOverload)\b':

@@ -10,6 +10,7 @@ distinct; in templates it cannot know which class a function belongs to and call
 """
 
 import os
+import re
 import sys
 from ctypes import POINTER, byref, c_uint
 from pathlib import Path
@@ -33,7 +34,7 @@ library.clang_getOverriddenCursors.restype = None
 
 def is_qt(cursor):
     file = cursor.location.file
-    return file is not None and '/qt5/' in file.name
+    return file is not None and re.search('/qt[56]/', file.name) is not None
 
 
 def qualified(cursor):

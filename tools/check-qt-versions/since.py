@@ -2,12 +2,16 @@
 # SPDX-License-Identifier: MIT
 """Says since which Qt there is what uses.py prints.
 
-usage: since.py lookup PAGES LIST <USES   looks it up in Qt's documentation and prints a new list
-       since.py check LIST <USES          fails for what is not in the list or newer than Qt 5.6
+usage: since.py lookup PAGES LIST <USES    looks it up in Qt's documentation and prints a new list
+       since.py check LIST OLDEST <USES    fails for what is not in the list or newer than that Qt
+       since.py deprecated LIST <USES      fails for what is in this list
 
-A list has lines of "VERSION<tab>NAME". The version is "-" for what is documented without one, which
-is as old as Qt 5 itself or older, and "?" where the pages do not say it clearly. Lines with a third
-field were written by hand: it gives the reason, and a look-up keeps them.
+The first LIST has lines of "VERSION<tab>NAME". The version is "-" for what is documented without one,
+which is as old as Qt 5 itself or older, and "?" where the pages do not say it clearly. Lines with a
+third field were written by hand: it gives the reason, and a look-up keeps them.
+
+The list of what is deprecated has lines of "VERSION<tab>NAME<tab>SUBSTITUTE". The name of a class or
+function is also that of its members or overloads.
 """
 
 import html
@@ -27,8 +31,12 @@ def version_in(text):
     return found.group(1) if found else '-'
 
 
-def is_old(version):
-    return version == '-' or tuple(map(int, version.split('.'))) <= (5, 6)
+def number(version):
+    return tuple(map(int, version.split('.')))
+
+
+def is_old(version, oldest='5.6'):
+    return version == '-' or number(version) <= number(oldest)
 
 
 def squeezed(types):
@@ -124,16 +132,28 @@ def lookup(folder, path):
         print(known[name] if by_hand else f'{pages.since(name) or "?"}\t{name}')
 
 
-def check(path):
+def check(path, oldest):
     known, uses, wrong = read_list(path), sys.stdin.read().splitlines(), 0
     for name, place in (line.split('\t') for line in uses):
         version = known.get(name, 'not in the list').split('\t')[0]
-        if not re.fullmatch(r'-|\d+\.\d+', version) or not is_old(version):
+        if not re.fullmatch(r'-|\d+\.\d+', version) or not is_old(version, oldest):
             print(f'{place}: {name}: {version}')
             wrong += 1
     print(f'{len(uses)} things of Qt are used; {wrong} are too new or unknown.')
     return 1 if wrong or not uses else 0
 
 
+def deprecated(path):
+    known, uses, wrong = read_list(path), sys.stdin.read().splitlines(), 0
+    for name, place in (line.split('\t') for line in uses):
+        for entry in known:
+            if re.match(re.escape(entry) + r'($|[(:])', name):
+                version, _, substitute = known[entry].split('\t')
+                print(f'{place}: {name}: deprecated since {version}; {substitute}')
+                wrong += 1
+    print(f'{len(uses)} things of Qt 6 are used; {wrong} of them are deprecated in a later one.')
+    return 1 if wrong or not uses else 0
+
+
 if __name__ == '__main__':
-    sys.exit({'lookup': lookup, 'check': check}[sys.argv[1]](*sys.argv[2:]))
+    sys.exit({'lookup': lookup, 'check': check, 'deprecated': deprecated}[sys.argv[1]](*sys.argv[2:]))

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 /*
- * Wrong on purpose and built by nobody: tools/check-old-qt.sh shows with it that it finds what Qt
+ * Wrong on purpose and built by nobody: tools/check-qt-versions.sh shows with it that it finds what Qt
  * 5.6 does not have. Each comment names what has to be found in its line.
  */
 
