@@ -37,8 +37,10 @@ QString pictureOf(QWidget *widget)
 {
     const QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    for (int y = 0; y < image.height(); ++y)
-        hash.addData(reinterpret_cast<const char *>(image.constScanLine(y)), image.width() * 4);
+    for (int y = 0; y < image.height(); ++y) {
+        const auto line = reinterpret_cast<const char *>(image.constScanLine(y));
+        hash.addData(QByteArray::fromRawData(line, image.width() * 4));
+    }
     return QStringLiteral("%1 x %2 pixels ").arg(image.width()).arg(image.height())
         + QString::fromLatin1(hash.result().toHex());
 }

@@ -4,6 +4,7 @@
 
 #include <QDataStream>
 #include <QHash>
+#include <QIODevice>
 
 namespace {
 

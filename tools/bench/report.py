@@ -2,10 +2,10 @@
 # SPDX-License-Identifier: MIT
 """Prints the results of the benchmarks as a table, and writes them as CSV and the curves as SVG.
 
-usage: report.py FIGURES.json OUTPUT [--update]
+usage: report.py OUTPUT FIGURES.json... [--update]
 
-OUTPUT is the path of the files to write, without suffix. Fails if a target is missed and
-explained.txt does not give the reason.
+OUTPUT is the path of the files to write, without suffix. Each file of figures is of another Qt and
+has columns of its own. Fails if a target is missed and explained.txt does not give the reason.
 """
 
 import csv
@@ -25,7 +25,7 @@ DOCUMENT = SOURCE_DIR / 'docs' / 'performance.md'
 PICTURE = SOURCE_DIR / 'docs' / 'images' / 'performance-curves.svg'
 
 
-def machine(figures):
+def machine(all_figures):
     """Date and machine of the measurement, in one sentence."""
     model = platform.processor() or platform.machine()
     for line in Path('/proc/cpuinfo').read_text().splitlines():
@@ -37,8 +37,9 @@ def machine(figures):
     if release.exists():
         found = re.search(r'PRETTY_NAME="(.*)"', release.read_text())
         system = found.group(1) if found else system
+    versions = ' and '.join(f'Qt {figures["qt"]}' for figures in all_figures)
     return (f'{datetime.date.today()}, {system}, {os.cpu_count()} cores of {model}, '
-            f'Qt {figures["qt"]}, {figures["compiler"]}, optimized build, offscreen platform')
+            f'{versions}, {all_figures[0]["compiler"]}, optimized build, offscreen platform')
 
 
 def milliseconds(value):
@@ -63,45 +64,71 @@ def explained():
     return reasons
 
 
-def verdict(met, title, reasons):
-    if met:
+def names_of(all_figures):
+    """Qt 5 and Qt 6, in the order of the figures."""
+    return [f'Qt {figures["qt"].split(".")[0]}' for figures in all_figures]
+
+
+def verdict(title, met, reasons):
+    """What came of the target; met says it for each Qt by name."""
+    missed = [name for name in met if not met[name]]
+    if not missed:
         return 'met'
-    return 'missed, explained' if title in reasons else 'missed'
+    result = 'missed' if len(missed) == len(met) else f'missed with {missed[0]}'
+    known = all({title, f'{title} ({name})'} & reasons.keys() for name in missed)
+    return f'{result}, explained' if known else result
 
 
-def time_line(row, reasons):
+def time_cells(row):
+    """What we need, what bare Qt needs, and the ratio."""
     ours, bare = (' → '.join(map(milliseconds, row[side])) for side in ('ours', 'bare'))
-    value, target = f'{row["value"]:.2f}', f'{row["target"]:.2f}'
-    if row['kind'] == 'milliseconds':
-        value, target = '', f'{row["target"]:g} ms'
-    result = verdict(round(row['value'], 2) <= row['target'], row['title'], reasons)
-    return [row['title'], ours, bare, value, target, result]
+    return [ours, bare, '' if row['kind'] == 'milliseconds' else f'{row["value"]:.2f}']
 
 
-def memory_line(row, reasons):
-    own = row['ours'] - row['bare']
-    target, result = '', ''
-    if row['target']:
-        target = number(row['target'])
-        result = verdict(own <= row['target'], row['title'], reasons)
-    return [row['title'], number(row['ours']), number(row['bare']), number(own), target, result]
+def time_line(rows, names, reasons):
+    first = rows[0]
+    is_time = first['kind'] == 'milliseconds'
+    target = f'{first["target"]:g} ms' if is_time else f'{first["target"]:.2f}'
+    met = {name: round(row['value'], 2) <= row['target'] for name, row in zip(names, rows)}
+    cells = [cell for row in rows for cell in time_cells(row)]
+    return [first['title'], *cells, target, verdict(first['title'], met, reasons)]
 
 
-def figure_line(row):
-    return [row['title'], milliseconds(row['ours'][0]), milliseconds(row['bare'][0]),
-            f'{row["value"]:.2f}']
+def memory_line(rows, names, reasons):
+    first = rows[0]
+    cells, met = [], {}
+    for name, row in zip(names, rows):
+        own = row['ours'] - row['bare']
+        cells += [number(row['ours']), number(row['bare']), number(own)]
+        met[name] = own <= row['target']
+    if not first['target']:
+        return [first['title'], *cells, '', '']
+    return [first['title'], *cells, number(first['target']), verdict(first['title'], met, reasons)]
 
 
-def tables(figures):
+def figure_line(rows):
+    return [rows[0]['title'], *(cell for row in rows for cell in time_cells(row))]
+
+
+def columns(names, last):
+    """The heads of the columns of each Qt, the last of which is the comparison."""
+    if len(names) == 1:
+        return ['ours', 'bare Qt', last]
+    return [head for name in names for head in (f'ours, {name}', f'bare {name}', last)]
+
+
+def tables(all_figures):
     """Three tables: title, head, lines."""
-    reasons = explained()
+    reasons, names = explained(), names_of(all_figures)
+    rows = list(zip(*(figures['rows'] for figures in all_figures)))
+    memory = zip(*(figures.get('memory', []) for figures in all_figures))
     return [
-        ('Times', ['operation', 'ours', 'bare Qt', 'ratio', 'target', 'result'],
-         [time_line(row, reasons) for row in figures['rows'] if row['kind'] != 'figure']),
-        ('Large hosts', ['host and operation', 'ours', 'bare Qt', 'ratio'],
-         [figure_line(row) for row in figures['rows'] if row['kind'] == 'figure']),
-        ('Memory', ['figure', 'ours', 'bare Qt', 'own share', 'target', 'result'],
-         [memory_line(row, reasons) for row in figures.get('memory', [])]),
+        ('Times', ['operation', *columns(names, 'ratio'), 'target', 'result'],
+         [time_line(row, names, reasons) for row in rows if row[0]['kind'] != 'figure']),
+        ('Large hosts', ['host and operation', *columns(names, 'ratio')],
+         [figure_line(row) for row in rows if row[0]['kind'] == 'figure']),
+        ('Memory', ['figure', *columns(names, 'own share'), 'target', 'result'],
+         [memory_line(row, names, reasons) for row in memory]),
     ]
 
 
@@ -213,9 +240,9 @@ def curves_svg(curves):
     return '\n'.join(lines + ['</svg>', ''])
 
 
-def update_document(figures, parts):
+def update_document(all_figures, parts):
     text = DOCUMENT.read_text(encoding='utf-8')
-    blocks = {'machine': machine(figures) + '.'}
+    blocks = {'machine': machine(all_figures) + '.'}
     blocks.update({title.lower(): markdown(head, lines) for title, head, lines in parts})
     for name, block in blocks.items():
         pattern = rf'(<!-- begin {name} -->\n).*?(<!-- end {name} -->)'
@@ -227,21 +254,24 @@ def update_document(figures, parts):
 
 
 def main():
-    figures = json.loads(Path(sys.argv[1]).read_text(encoding='utf-8'))
-    output = sys.argv[2]
-    parts = tables(figures)
-    print(machine(figures))
+    update = sys.argv[-1] == '--update'
+    output, *paths = sys.argv[1:-1] if update else sys.argv[1:]
+    all_figures = [json.loads(Path(path).read_text(encoding='utf-8')) for path in paths]
+    parts = tables(all_figures)
+    print(machine(all_figures))
     for title, head, lines in parts:
         print(f'\n{title}\n')
         print_table(head, lines)
     write_csv(f'{output}.csv', parts)
-    picture = curves_svg(figures['curves'])
+    # The curves of all Qts look alike.
+    picture = curves_svg(all_figures[0]['curves'])
     Path(f'{output}.svg').write_text(picture, encoding='utf-8')
-    if sys.argv[3:] == ['--update']:
-        update_document(figures, parts)
+    if update:
+        update_document(all_figures, parts)
         PICTURE.write_text(picture, encoding='utf-8')
         print(f'\nWritten: {DOCUMENT.name} and {PICTURE.name}')
-    missed = [line[0] for part in parts for line in part[2] if line[-1] == 'missed']
+    missed = [f'{line[0]}: {line[-1]}' for part in parts for line in part[2]
+              if line[-1].startswith('missed') and not line[-1].endswith('explained')]
     if missed:
         print('\nMissed:\n  ' + '\n  '.join(missed))
     sys.exit(1 if missed else 0)
