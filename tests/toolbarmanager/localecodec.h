@@ -3,14 +3,15 @@
 #ifndef LOCALECODEC_H
 #define LOCALECODEC_H
 
-#include <QtTest>
+#include <QString>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
 #endif
 
 /*
- * Another local 8-bit encoding for as long as the object lives.
+ * Another local 8-bit encoding for as long as the object lives. With Qt 6 it stays UTF-8, which it
+ * always is on this platform.
  */
 class LocaleCodec
 {
@@ -38,6 +39,12 @@ public:
         return false;
     }
 #endif
+
+    // Text in this encoding as it looks where UTF-8 is expected.
+    static QString shown(const QString &text)
+    {
+        return QString::fromUtf8(text.toLocal8Bit());
+    }
 
 private:
     Q_DISABLE_COPY(LocaleCodec)
