@@ -38,6 +38,7 @@ private Q_SLOTS:
     void aSequentialDeviceIsReadToItsEnd_data();
     void aSequentialDeviceIsReadToItsEnd();
     void anEarlierErrorCutsNothing();
+    void anEarlierErrorCutsNothingOfASequentialDevice();
     void aFailedTransactionEnds();
     void eachListMayGoAsFarPastTheEnd();
 };
@@ -131,6 +132,15 @@ void tst_CountedEntries::anEarlierErrorCutsNothing()
     QCOMPARE(entriesOf(stream, 3000), 3000);
     QCOMPARE(entriesOf(stream, std::numeric_limits<qint32>::max()), 3000);
     QCOMPARE(stream.status(), QDataStream::ReadCorruptData);
+}
+
+void tst_CountedEntries::anEarlierErrorCutsNothingOfASequentialDevice()
+{
+    Pipe pipe(QByteArray(5000, '\0'));
+    QVERIFY(pipe.open(QIODevice::ReadOnly));
+    QDataStream stream(&pipe);
+    stream.setStatus(QDataStream::ReadCorruptData);
+    QCOMPARE(entriesOf(stream, 3000), 3000);
 }
 
 // Qt reads nothing more from it, though the device is not at its end.
