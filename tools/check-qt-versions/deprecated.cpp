@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 /*
- * Wrong on purpose and built by nobody: tools/check-qt-versions.sh shows with it that it finds what Qt 6
- * deprecates. Each comment names what the list or the compiler has to say of its line.
+ * Wrong on purpose and built by nobody: tools/check-qt-versions.sh shows with it that it finds what
+ * Qt 6 deprecates. Each comment names what the list or the compiler has to say of its line.
  */
 
 #include <QAction>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 /*
- * Wrong on purpose and built by nobody: tools/check-qt-versions.sh shows with it that it finds what Qt
- * 5.6 does not have. Each comment names what has to be found in its line.
+ * Wrong on purpose and built by nobody: tools/check-qt-versions.sh shows with it that it finds what
+ * Qt 5.6 does not have. Each comment names what has to be found in its line.
  */
 
 #include <QAction>
