@@ -161,6 +161,6 @@ void tst_CountedEntries::eachListMayGoAsFarPastTheEnd()
     QCOMPARE(entriesOf(stream, 500), 500);
 }
 
-QTEST_APPLESS_MAIN(tst_CountedEntries)
+QTEST_GUILESS_MAIN(tst_CountedEntries)
 
 #include "tst_countedentries.moc"
