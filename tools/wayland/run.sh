@@ -7,19 +7,11 @@
 # and a keyboard of our own. Takes pictures only of failures. Otherwise like examples/texteditor/tour/run.sh.
 set -euo pipefail
 
-if [ $# -ne 2 ]; then
-    echo "usage: run.sh BUILD_DIR OUTPUT_DIR" >&2
-    exit 2
-fi
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-editor=$(realpath "$1")/examples/texteditor/texteditor
-if [ ! -x "$editor" ]; then
-    echo "run.sh: there is no $editor; build the examples first" >&2
-    exit 2
-fi
 . "$here/../../examples/texteditor/tour/session.sh"
+read_arguments "$@"
 need sway grim
-begin_session "$2"
+begin_session
 
 # Sway refuses to run as root, so root gives it away.
 as_user=()

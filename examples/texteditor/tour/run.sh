@@ -10,19 +10,11 @@
 # Fails if a step fails. In tools/packages.txt, the section "tour" lists the Debian packages.
 set -euo pipefail
 
-if [ $# -ne 2 ]; then
-    echo "usage: run.sh BUILD_DIR OUTPUT_DIR" >&2
-    exit 2
-fi
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-editor=$(realpath "$1")/examples/texteditor/texteditor
-if [ ! -x "$editor" ]; then
-    echo "run.sh: there is no $editor; build the examples first" >&2
-    exit 2
-fi
 . "$here/session.sh"
+read_arguments "$@"
 need Xvfb openbox xdotool xprop import
-begin_session "$2"
+begin_session
 
 start xserver.log Xvfb -displayfd 3 -screen 0 1280x860x24 -dpi 96 -nolisten tcp
 DISPLAY=:$(answer "the X server")

@@ -4,6 +4,22 @@
 # For scripts that run the tour: a session with a message bus, a home folder and programs that end with
 # the script. To be sourced by bash.
 
+# read_arguments BUILD_DIR OUTPUT_DIR: sets editor to the program of that build, and output to the
+# folder, which need not exist yet.
+read_arguments() {
+    if [ $# -ne 2 ]; then
+        echo "usage: ${0##*/} BUILD_DIR OUTPUT_DIR" >&2
+        exit 2
+    fi
+    editor=$(realpath "$1")/examples/texteditor/texteditor
+    if [ ! -x "$editor" ]; then
+        echo "${0##*/}: there is no $editor; build the examples first" >&2
+        exit 2
+    fi
+    mkdir -p "$2/log"
+    output=$(realpath "$2")
+}
+
 # need TOOL...: ends the script if the tools, or what Python needs for the tour, are missing.
 need() {
     local tool missing=()
@@ -21,11 +37,9 @@ need() {
     fi
 }
 
-# begin_session OUTPUT_DIR: sets output to the folder, without old files, and scratch to another one.
+# begin_session: removes old files from the folder output, and sets scratch to another folder.
 begin_session() {
     local variable
-    mkdir -p "$1/log"
-    output=$(realpath "$1")
     rm -f "$output"/[0-9][0-9]-*.png "$output"/{dialog,window}.png "$output"/tour.gif \
         "$output"/log/{texteditor.log,widgets.txt}
     scratch=$(mktemp -d)
