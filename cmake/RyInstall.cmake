@@ -5,7 +5,6 @@
 
 include(CMakePackageConfigHelpers)
 
-set(RY_NAME RyCustomizedDialog${RY_SUFFIX})
 set(RY_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/${RY_NAME}")
 set(RY_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 set(RY_TRANSLATIONS_DIR "${CMAKE_INSTALL_DATADIR}/rycustomizeddialog/translations")

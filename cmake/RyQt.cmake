@@ -1,26 +1,26 @@
 # SPDX-License-Identifier: MIT
 
-# Chooses the Qt to build with, and what the names of this flavour of the library end with. The
-# library for Qt 5 came first and has the plain names.
+# Chooses the Qt to build with, and what this flavour of the library is called. That for Qt 5
+# came first and has the plain name.
 
+set(RY_DEFAULT_QT 5)
 if(TARGET Qt6::Core AND NOT TARGET Qt5::Core)
     # A host that has this as a subdirectory has found its Qt already.
-    set(RYCUSTOMIZEDDIALOG_QT 6 CACHE STRING "The Qt to build with: 5 or 6")
-else()
-    set(RYCUSTOMIZEDDIALOG_QT 5 CACHE STRING "The Qt to build with: 5 or 6")
+    set(RY_DEFAULT_QT 6)
 endif()
+set(RYCUSTOMIZEDDIALOG_QT ${RY_DEFAULT_QT} CACHE STRING "The Qt to build with: 5 or 6")
 set_property(CACHE RYCUSTOMIZEDDIALOG_QT PROPERTY STRINGS 5 6)
 
 if(RYCUSTOMIZEDDIALOG_QT STREQUAL "5")
     set(RY_QT_MINIMUM 5.6)
     set(RY_CXX_STANDARD 11)
-    set(RY_SUFFIX "")
+    set(RY_NAME RyCustomizedDialog)
     set(RY_INCLUDE_FOLDER "")
 elseif(RYCUSTOMIZEDDIALOG_QT STREQUAL "6")
     set(RY_QT_MINIMUM 6.2)
     set(RY_CXX_STANDARD 17)
-    set(RY_SUFFIX -qt6)
-    set(RY_INCLUDE_FOLDER /RyCustomizedDialog-qt6)
+    set(RY_NAME RyCustomizedDialog-qt6)
+    set(RY_INCLUDE_FOLDER /${RY_NAME})
 else()
     message(FATAL_ERROR "RYCUSTOMIZEDDIALOG_QT is ${RYCUSTOMIZEDDIALOG_QT}, but must be 5 or 6.")
 endif()
@@ -36,12 +36,6 @@ if(RYCUSTOMIZEDDIALOG_QT EQUAL 6)
         math(EXPR RY_NOT_DEPRECATED_SINCE "0x060000 + (${Qt6_VERSION_MINOR} << 8)"
             OUTPUT_FORMAT HEXADECIMAL)
     endif()
-endif()
-
-# The lists of Qt 6 compare even nothing with memcmp(), whose pointers are null then. The compiler takes
-# that for ours, because it is in a header.
-if(RYCUSTOMIZEDDIALOG_QT EQUAL 6 AND CMAKE_CXX_FLAGS MATCHES "-fsanitize=.*undefined")
-    add_compile_options(-fno-sanitize=nonnull-attribute)
 endif()
 
 # One program can only have one Qt. An installed package makes the same check.
