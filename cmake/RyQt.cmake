@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# Chooses the Qt to build with, and what this flavour of the library is called. That for Qt 5
-# came first and has the plain name.
+# Chooses the Qt to build with, and what this flavour of the libraries is called. That for Qt 5
+# came first and has the plain names.
 
 set(RY_DEFAULT_QT 5)
 if(TARGET Qt6::Core AND NOT TARGET Qt5::Core)
@@ -15,11 +15,13 @@ if(RYCUSTOMIZEDDIALOG_QT STREQUAL "5")
     set(RY_QT_MINIMUM 5.6)
     set(RY_CXX_STANDARD 11)
     set(RY_NAME RyCustomizedDialog)
+    set(RY_KIT_NAME RyToolBarKit)
     set(RY_INCLUDE_FOLDER "")
 elseif(RYCUSTOMIZEDDIALOG_QT STREQUAL "6")
     set(RY_QT_MINIMUM 6.2)
     set(RY_CXX_STANDARD 17)
     set(RY_NAME RyCustomizedDialog-qt6)
+    set(RY_KIT_NAME RyToolBarKit-qt6)
     set(RY_INCLUDE_FOLDER /${RY_NAME})
 else()
     message(FATAL_ERROR "RYCUSTOMIZEDDIALOG_QT is ${RYCUSTOMIZEDDIALOG_QT}, but must be 5 or 6.")

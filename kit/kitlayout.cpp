@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+
+#include "kitlayout.h"
+
+#include <QCryptographicHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSet>
+
+namespace {
+
+const int Format = 1;
+const int LargestValue = 1000000;
+const int MostToolBars = 1000;
+const int MostEntries = 1000;
+
+QByteArray checksum(const QJsonObject &layout)
+{
+    const QByteArray compact = QJsonDocument(layout).toJson(QJsonDocument::Compact);
+    return QCryptographicHash::hash(compact, QCryptographicHash::Sha1).toHex();
+}
+
+QJsonArray arrayOf(const QStringList &names)
+{
+    QJsonArray array;
+    for (const QString &name : names)
+        array.append(name.isNull() ? QJsonValue() : QJsonValue(name));
+    return array;
+}
+
+// Each name once; null strings only if there may be separators.
+QStringList namesIn(const QJsonValue &value, bool separators)
+{
+    QStringList names;
+    QSet<QString> found;
+    const QJsonArray array = value.toArray();
+    for (const QJsonValue item : array) {
+        const QString name = item.toString();
+        if (separators && item.isNull()) {
+            names.append(QString());
+        } else if (!name.isEmpty() && !found.contains(name)) {
+            found.insert(name);
+            names.append(name);
+        }
+    }
+    return names;
+}
+
+QJsonObject without(QJsonObject object, const QStringList &keys)
+{
+    for (const QString &key : keys)
+        object.remove(key);
+    return object;
+}
+
+QStringList toolBarKeys()
+{
+    return {QStringLiteral("entries"), QStringLiteral("known"), QStringLiteral("shown"),
+            QStringLiteral("shownByProgram"), QStringLiteral("title")};
+}
+
+QJsonObject objectOf(const KitToolBar &toolBar)
+{
+    QJsonObject object = toolBar.others;
+    if (toolBar.custom)
+        object.insert(QStringLiteral("title"), toolBar.title);
+    if (toolBar.custom || toolBar.customized)
+        object.insert(QStringLiteral("entries"), arrayOf(toolBar.entries));
+    if (toolBar.customized && !toolBar.custom)
+        object.insert(QStringLiteral("known"), arrayOf(toolBar.known));
+    if (toolBar.visibility != KitToolBar::AsProgrammed) {
+        object.insert(QStringLiteral("shown"), toolBar.visibility == KitToolBar::Shown);
+        object.insert(QStringLiteral("shownByProgram"), toolBar.shownByProgram);
+    }
+    return object;
+}
+
+KitToolBar toolBarOf(const QJsonObject &object)
+{
+    KitToolBar toolBar;
+    toolBar.custom = object.contains(QStringLiteral("title"));
+    toolBar.title = object.value(QStringLiteral("title")).toString();
+    toolBar.customized = object.contains(QStringLiteral("entries"));
+    toolBar.entries = namesIn(object.value(QStringLiteral("entries")), true);
+    toolBar.known = namesIn(object.value(QStringLiteral("known")), false);
+    if (object.contains(QStringLiteral("shown"))) {
+        toolBar.visibility =
+            object.value(QStringLiteral("shown")).toBool() ? KitToolBar::Shown : KitToolBar::Hidden;
+    }
+    toolBar.shownByProgram = object.value(QStringLiteral("shownByProgram")).toBool(true);
+    toolBar.others = without(object, toolBarKeys());
+    return toolBar;
+}
+
+QStringList areaNames()
+{
+    return {QStringLiteral("bottom"), QStringLiteral("left"), QStringLiteral("right"),
+            QStringLiteral("top")};
+}
+
+QJsonObject objectOf(const KitPlaces &places)
+{
+    QJsonObject object;
+    for (auto it = places.lines.cbegin(); it != places.lines.cend(); ++it) {
+        QJsonArray lines;
+        for (const QStringList &line : it.value())
+            lines.append(arrayOf(line));
+        object.insert(it.key(), lines);
+    }
+    QJsonObject floating;
+    for (auto it = places.floating.cbegin(); it != places.floating.cend(); ++it)
+        floating.insert(it.key(), QJsonArray() << it.value().x() << it.value().y());
+    if (!floating.isEmpty())
+        object.insert(QStringLiteral("floating"), floating);
+    return object;
+}
+
+KitPlaces placesOf(const QJsonObject &object)
+{
+    KitPlaces places;
+    QSet<QString> found;
+    const QStringList areas = areaNames();
+    for (const QString &area : areas) {
+        const QJsonArray lines = object.value(area).toArray();
+        for (const QJsonValue line : lines) {
+            QStringList names;
+            const QStringList all = namesIn(line, false);
+            for (const QString &name : all) {
+                if (!found.contains(name))
+                    names.append(name);
+                found.insert(name);
+            }
+            if (!names.isEmpty())
+                places.lines[area].append(names);
+        }
+    }
+    const QJsonObject floating = object.value(QStringLiteral("floating")).toObject();
+    for (auto it = floating.constBegin(); it != floating.constEnd(); ++it) {
+        const QJsonArray position = it.value().toArray();
+        places.floating.insert(it.key(), QPoint(position.at(0).toInt(), position.at(1).toInt()));
+    }
+    return places;
+}
+
+bool isTooLarge(const QJsonObject &layout)
+{
+    const QJsonObject toolBars = layout.value(QStringLiteral("toolBars")).toObject();
+    for (auto it = toolBars.constBegin(); it != toolBars.constEnd(); ++it) {
+        if (it.value().toObject().value(QStringLiteral("entries")).toArray().size() > MostEntries)
+            return true;
+    }
+    return toolBars.size() > MostToolBars;
+}
+
+// Why a value is refused, or an empty string.
+QString refusal(const QJsonObject &value)
+{
+    const QJsonValue format = value.value(QStringLiteral("format"));
+    const QJsonObject layout = value.value(QStringLiteral("layout")).toObject();
+    if (!format.isDouble() || !value.value(QStringLiteral("layout")).isObject())
+        return QStringLiteral("the value is not a layout of toolbars");
+    if (format.toDouble() > Format)
+        return QStringLiteral("the layout is from a newer version");
+    if (value.value(QStringLiteral("checksum")).toString() != QString::fromLatin1(checksum(layout)))
+        return QStringLiteral("the layout is damaged: its checksum is wrong");
+    if (isTooLarge(layout))
+        return QStringLiteral("the layout has too many toolbars or entries");
+    return QString();
+}
+
+} // namespace
+
+bool operator==(const KitPlaces &a, const KitPlaces &b)
+{
+    return a.lines == b.lines && a.floating == b.floating;
+}
+
+bool KitLayout::isDefault() const
+{
+    for (const KitToolBar &toolBar : toolBars) {
+        if (!toolBar.isDefault())
+            return false;
+    }
+    return places.isEmpty();
+}
+
+QJsonObject KitLayout::toObject() const
+{
+    QJsonObject toolBarObjects;
+    for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it) {
+        const QJsonObject object = objectOf(it.value());
+        if (!object.isEmpty())
+            toolBarObjects.insert(it.key(), object);
+    }
+    QJsonObject layout = m_layoutOthers;
+    layout.insert(QStringLiteral("toolBars"), toolBarObjects);
+    if (!places.isEmpty())
+        layout.insert(QStringLiteral("places"), objectOf(places));
+    return layout;
+}
+
+QByteArray KitLayout::toJson() const
+{
+    // Text that is not valid Unicode changes when it is written, so the checksum is that of what
+    // is read again.
+    const QByteArray written = QJsonDocument(toObject()).toJson(QJsonDocument::Compact);
+    const QJsonObject layout = QJsonDocument::fromJson(written).object();
+    QJsonObject value = m_others;
+    value.insert(QStringLiteral("checksum"), QString::fromLatin1(checksum(layout)));
+    value.insert(QStringLiteral("format"), Format);
+    value.insert(QStringLiteral("layout"), layout);
+    return QJsonDocument(value).toJson(QJsonDocument::Compact);
+}
+
+KitLayout KitLayout::fromJson(const QByteArray &json, QString *reason)
+{
+    KitLayout layout;
+    if (json.size() > LargestValue) {
+        *reason = QStringLiteral("the value is larger than 1 MB");
+        return layout;
+    }
+    const QJsonObject value = QJsonDocument::fromJson(json).object();
+    *reason = refusal(value);
+    if (reason->isEmpty())
+        layout.read(value);
+    return layout;
+}
+
+void KitLayout::read(const QJsonObject &object)
+{
+    m_others = without(
+        object, {QStringLiteral("checksum"), QStringLiteral("format"), QStringLiteral("layout")});
+    const QJsonObject layout = object.value(QStringLiteral("layout")).toObject();
+    m_layoutOthers = without(layout, {QStringLiteral("toolBars"), QStringLiteral("places")});
+    const QJsonObject toolBarObjects = layout.value(QStringLiteral("toolBars")).toObject();
+    for (auto it = toolBarObjects.constBegin(); it != toolBarObjects.constEnd(); ++it)
+        toolBars.insert(it.key(), toolBarOf(it.value().toObject()));
+    places = placesOf(layout.value(QStringLiteral("places")).toObject());
+}

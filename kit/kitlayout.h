@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef KITLAYOUT_H
+#define KITLAYOUT_H
+
+#include <QJsonObject>
+#include <QList>
+#include <QMap>
+#include <QPoint>
+#include <QStringList>
+
+/*!
+ * \brief Where toolbars are: their names, line by line in each area, and the floating ones.
+ */
+struct KitPlaces
+{
+    bool isEmpty() const { return lines.isEmpty() && floating.isEmpty(); }
+
+    // By the name of the area: "left", "right", "top" or "bottom".
+    QMap<QString, QList<QStringList>> lines;
+    // The position on the screen of each floating toolbar; those are in a line too.
+    QMap<QString, QPoint> floating;
+};
+
+bool operator==(const KitPlaces &a, const KitPlaces &b);
+
+/*!
+ * \brief What the user has made of one toolbar.
+ */
+struct KitToolBar
+{
+    enum Visibility { AsProgrammed, Shown, Hidden };
+
+    bool isDefault() const { return !custom && !customized && visibility == AsProgrammed; }
+
+    // The title of a custom toolbar.
+    QString title;
+    bool custom = false;
+    // False if the content is the default content; there are no entries then.
+    bool customized = false;
+    // The names of the actions; a null string is a separator.
+    QStringList entries;
+    // Each default action that a release had when the entries were stored.
+    QStringList known;
+    Visibility visibility = AsProgrammed;
+    // What the program had chosen when the user chose the visibility.
+    bool shownByProgram = true;
+    // Keys of a later version.
+    QJsonObject others;
+};
+
+/*!
+ * \brief A layout as data. kit/README.md describes the value that it is stored as.
+ */
+class KitLayout
+{
+public:
+    /*!
+     * \brief Returns true if nothing is customized.
+     */
+    bool isDefault() const;
+
+    /*!
+     * \brief Returns the value, with a checksum, as text in UTF-8.
+     */
+    QByteArray toJson() const;
+
+    /*!
+     * \brief Returns the layout of a value.
+     *
+     * \param reason is set to why the value is refused, or to an empty string. The result is the
+     *        default layout in the first case.
+     */
+    static KitLayout fromJson(const QByteArray &json, QString *reason);
+
+    // By name.
+    QMap<QString, KitToolBar> toolBars;
+    // Empty if the toolbars are where the program has them.
+    KitPlaces places;
+
+private:
+    QJsonObject toObject() const;
+    void read(const QJsonObject &object);
+
+    // Keys of a later version, in the value and in its layout.
+    QJsonObject m_others;
+    QJsonObject m_layoutOthers;
+};
+
+#endif // KITLAYOUT_H

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+
+#include "mergedentries.h"
+
+#include <QHash>
+#include <QVector>
+
+QStringList mergedEntries(const QStringList &entries, const QStringList &model,
+                          const QSet<QString> &missing)
+{
+    QHash<QString, int> indexOf;
+    for (int i = 0; i < entries.size(); ++i) {
+        if (!entries.at(i).isNull())
+            indexOf.insert(entries.at(i), i);
+    }
+
+    // What is inserted before each entry, and at the end.
+    QVector<QStringList> inserted(entries.size() + 1);
+    int place = 0;
+    QStringList waiting; // until something of the model is found in the entries
+    for (const QString &name : model) {
+        if (name.isNull()) {
+            if (place < entries.size() && entries.at(place).isNull()) {
+                inserted[place] += waiting;
+                waiting.clear();
+                ++place;
+            }
+        } else if (indexOf.contains(name)) {
+            const int index = indexOf.value(name);
+            inserted[index] += waiting;
+            waiting.clear();
+            place = index + 1;
+        } else if (missing.contains(name)) {
+            if (place == 0)
+                waiting.append(name);
+            else
+                inserted[place].append(name);
+        }
+    }
+    inserted[place] += waiting;
+
+    QStringList merged;
+    for (int i = 0; i < entries.size(); ++i)
+        merged << inserted.at(i) << entries.at(i);
+    return merged << inserted.last();
+}

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+
+#include "rytoolbarkit.h"
+
+#include "rytoolbarkitprivate.h"
+
+#include <QAction>
+#include <QMainWindow>
+
+RyToolBarKit::RyToolBarKit(QMainWindow *window, bool printProblems)
+    : QObject(window)
+    , d(nullptr)
+{
+    QMainWindow *attached = window;
+    if (!window) {
+        qWarning("RyToolBarKit: there is no window");
+    } else if (window->findChildren<RyToolBarKit *>(QString(), Qt::FindDirectChildrenOnly).size()
+               > 1) {
+        qWarning("RyToolBarKit: the window has a kit already");
+        attached = nullptr;
+    }
+    d = new RyToolBarKitPrivate(this, attached, printProblems);
+}
+
+RyToolBarKit::~RyToolBarKit()
+{
+    delete d;
+}
+
+void RyToolBarKit::setFeatures(Features features)
+{
+    d->features = features;
+}
+
+RyToolBarKit::Features RyToolBarKit::features() const
+{
+    return d->features;
+}
+
+QAction *RyToolBarKit::customizeAction()
+{
+    return d->customizeAction;
+}
+
+RyToolBarManager *RyToolBarKit::manager()
+{
+    return d->manager.data();
+}
+
+void RyToolBarKit::setSettings(QSettings *settings, const QString &key)
+{
+    d->store.set(settings, key);
+}
+
+bool RyToolBarKit::restoreNow()
+{
+    return d->restoreNow();
+}
+
+QByteArray RyToolBarKit::saveLayout()
+{
+    return d->saveLayout();
+}
+
+bool RyToolBarKit::restoreLayout(const QByteArray &layout)
+{
+    return d->restoreLayout(layout);
+}
+
+void RyToolBarKit::addActions(const QList<QAction *> &actions, const QString &category)
+{
+    d->addActions(actions, category);
+}
+
+void RyToolBarKit::setFormerNames(QObject *object, const QStringList &names)
+{
+    d->setFormerNames(object, names);
+}
+
+void RyToolBarKit::setExcluded(QObject *object)
+{
+    d->setExcluded(object);
+}
+
+void RyToolBarKit::setRequired(QAction *action)
+{
+    d->setRequired(action);
+}
+
+QStringList RyToolBarKit::problems()
+{
+    return d->problems();
+}
+
+bool RyToolBarKit::isDefault()
+{
+    return d->isDefault();
+}

@@ -1,0 +1,483 @@
+// SPDX-License-Identifier: MIT
+
+#include "rytoolbarkitprivate.h"
+
+#include "menuactions.h"
+#include "mergedentries.h"
+#include "toolbarplaces.h"
+
+#include <QAction>
+#include <QActionEvent>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDir>
+#include <QMainWindow>
+#include <QMenu>
+#include <QToolBar>
+#include <QUrl>
+#include <QWidgetAction>
+
+namespace {
+
+const int StoreDelay = 500; // milliseconds without another move of a toolbar
+
+// For actions that are registered but in no category.
+const char *const HiddenCategory = "RyToolBarKit";
+
+bool isPath(const QString &text)
+{
+    return QDir::isAbsolutePath(text) || text.contains(QLatin1String("://"));
+}
+
+bool hasDigitAsMnemonic(const QString &text)
+{
+    const int index = text.indexOf(QLatin1Char('&'));
+    return index >= 0 && index + 1 < text.size() && text.at(index + 1).isDigit();
+}
+
+// The best text that a widget without a title has.
+QString textOfWidget(const QWidget *widget)
+{
+    const char *const names[] = {"windowTitle", "accessibleName", "placeholderText", "toolTip"};
+    for (const char *name : names) {
+        const QString text = StableNames::plainText(widget->property(name).toString());
+        if (!text.isEmpty())
+            return text;
+    }
+    return QLatin1String(widget->metaObject()->className());
+}
+
+bool isShownByProgram(const QToolBar *toolBar)
+{
+    return !toolBar->testAttribute(Qt::WA_WState_ExplicitShowHide) || !toolBar->isHidden();
+}
+
+} // namespace
+
+RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window, bool printProblems)
+    : features(RyToolBarKit::FindActions | RyToolBarKit::FindToolBars | RyToolBarKit::KeepPlaces
+               | RyToolBarKit::KeepVisibility | RyToolBarKit::KeepButtons
+               | RyToolBarKit::AddNewDefaults | RyToolBarKit::FollowOthers
+               | RyToolBarKit::StoreChanges)
+    , customizeAction(new QAction(RyToolBarKit::tr("Customize Toolbars…"), kit))
+    , m_kit(kit)
+    , m_window(window)
+    , m_printProblems(printProblems)
+    , m_menus(nullptr)
+    , m_actionNames(window)
+    , m_toolBarNames(window)
+    , m_isRestored(false)
+    , m_isReset(false)
+{
+    customizeAction->setObjectName(QStringLiteral("customizeToolBars"));
+    connect(customizeAction, SIGNAL(triggered()), this, SLOT(customize()));
+    m_updateTimer.setSingleShot(true);
+    m_storeTimer.setSingleShot(true);
+    m_storeTimer.setInterval(StoreDelay);
+    connect(&m_updateTimer, SIGNAL(timeout()), this, SLOT(update()));
+    connect(&m_storeTimer, SIGNAL(timeout()), this, SLOT(storeChanges()));
+    if (!window)
+        return;
+    m_menus = new MenuActions(window, this);
+    connect(m_menus, SIGNAL(changed()), &m_updateTimer, SLOT(start()));
+    connect(qApp, SIGNAL(aboutToQuit()), this, SLOT(storeNow()));
+    window->installEventFilter(this);
+    if (window->testAttribute(Qt::WA_WState_Polished))
+        m_updateTimer.start();
+}
+
+RyToolBarKitPrivate::~RyToolBarKitPrivate()
+{
+    // A window that is being deleted is no main window any more.
+    if (qobject_cast<QMainWindow *>(m_kit->parent()))
+        storeNow();
+}
+
+bool RyToolBarKitPrivate::findEverything()
+{
+    if (!m_window || manager)
+        return false;
+    const QString name = m_window->objectName();
+    store.setDefault(name.isEmpty() ? QLatin1String(m_window->metaObject()->className()) : name);
+    createManager();
+    if (m_printProblems) {
+        const QStringList all = problems();
+        for (const QString &problem : all)
+            qWarning("RyToolBarKit: %s", qPrintable(problem));
+    }
+    m_printProblems = false;
+    return true;
+}
+
+void RyToolBarKitPrivate::createManager()
+{
+    manager.reset(new RyToolBarManager);
+    manager->setMainWindow(m_window);
+    m_actionNames = StableNames(m_window);
+    m_toolBarNames = StableNames(m_window);
+    findMenus();
+    findToolBars();
+}
+
+// A manager cannot forget a toolbar of the program, so another one takes its place.
+void RyToolBarKitPrivate::startAgain()
+{
+    const bool dialogWasOpen = m_dialog;
+    if (m_dialog)
+        m_dialog->reject();
+    const auto customToolBars = m_customToolBars;
+    m_customToolBars.clear();
+    for (const QPointer<QToolBar> &toolBar : customToolBars)
+        delete toolBar.data();
+    setToDefaults();
+    createManager();
+    restore(KitLayout(m_layout));
+    if (dialogWasOpen)
+        customize();
+}
+
+// What stands on a toolbar when it is registered becomes its default content.
+void RyToolBarKitPrivate::setToDefaults()
+{
+    RyToolBarManager once;
+    const auto toolBars = ToolBarPlaces::toolBarsIn(m_window);
+    for (QToolBar *toolBar : toolBars) {
+        if (!m_defaults.contains(toolBar))
+            continue;
+        QList<QAction *> actions;
+        const QStringList names = m_defaults.value(toolBar);
+        for (const QString &name : names) {
+            QAction *const action = static_cast<QAction *>(m_actionNames.object(name));
+            if (!name.isNull() && !action)
+                continue;
+            once.addAction(action, QString());
+            actions.append(action);
+        }
+        once.addDefaultToolBar(toolBar, QString());
+        once.setToolBar(toolBar, actions);
+    }
+}
+
+void RyToolBarKitPrivate::findMenus()
+{
+    if (features & RyToolBarKit::FindActions) {
+        const auto found = m_menus->find(m_excluded);
+        for (const MenuActions::Found &item : found) {
+            if (!isListEntry(item.action))
+                offer(item.action, item.category);
+        }
+    }
+    offerHandedOver();
+}
+
+void RyToolBarKitPrivate::offerHandedOver()
+{
+    const auto items = m_handedOver;
+    for (const auto &item : items)
+        offer(item.first, item.second);
+}
+
+void RyToolBarKitPrivate::findToolBars()
+{
+    if (!(features & RyToolBarKit::FindToolBars))
+        return;
+    const auto managed = manager->toolBars();
+    const auto toolBars = ToolBarPlaces::toolBarsIn(m_window);
+    QList<QToolBar *> added;
+    for (QToolBar *toolBar : toolBars) {
+        if (managed.contains(toolBar) || m_excluded.contains(toolBar))
+            continue;
+        addToolBar(toolBar);
+        added.append(toolBar);
+    }
+    if (added.isEmpty())
+        return;
+    m_placesByProgram =
+        ToolBarPlaces::merged(m_placesByProgram, ToolBarPlaces::read(m_window, toolBarNames()));
+    if (m_isRestored) {
+        placeAll();
+        for (QToolBar *toolBar : toolBars)
+            applyVisibility(toolBar);
+        applyPlaces();
+    }
+}
+
+bool RyToolBarKitPrivate::isOffered(QAction *action) const
+{
+    return manager->actions().contains(action);
+}
+
+bool RyToolBarKitPrivate::isListEntry(const QAction *action) const
+{
+    if (m_actionNames.hasName(action))
+        return false;
+    return action->text().isEmpty() || hasDigitAsMnemonic(action->text()) || isPath(action->text())
+        || isPath(action->data().toString()) || isPath(action->toolTip())
+        || isPath(action->statusTip());
+}
+
+void RyToolBarKitPrivate::offer(QAction *action, const QString &category)
+{
+    if (!action || action->isSeparator() || isOffered(action))
+        return;
+    m_actionNames.add(action);
+    connect(action, SIGNAL(destroyed(QObject *)), this, SLOT(actionDestroyed(QObject *)),
+            Qt::UniqueConnection);
+    if (m_excluded.contains(action))
+        keepOutOfDialog(action);
+    else
+        manager->addAction(action, category);
+}
+
+// Adding a category that exists makes it list nothing, and it goes with its last action.
+void RyToolBarKitPrivate::keepOutOfDialog(QAction *action)
+{
+    const QString category = QLatin1String(HiddenCategory);
+    QAction last(nullptr);
+    manager->addAction(action, category);
+    manager->addCategory(category);
+    manager->addAction(&last, category);
+    manager->removeAction(&last);
+}
+
+void RyToolBarKitPrivate::addToolBar(QToolBar *toolBar)
+{
+    m_toolBarNames.add(toolBar);
+    QString category = StableNames::plainText(toolBar->windowTitle());
+    if (category.isEmpty())
+        category = RyToolBarKit::tr("Other");
+    const auto actions = toolBar->actions();
+    for (QAction *action : actions) {
+        prepareAction(toolBar, action);
+        offer(action, category);
+    }
+    manager->addDefaultToolBar(toolBar, category);
+    if (!m_defaults.contains(toolBar)) {
+        m_defaults.insert(toolBar, namesOf(manager->actions(toolBar)));
+        m_shownByProgram.insert(toolBar, isShownByProgram(toolBar));
+    }
+    watchToolBar(toolBar);
+}
+
+// The dialog has only the text to show an action, and the widget exists only once.
+void RyToolBarKitPrivate::prepareAction(QToolBar *toolBar, QAction *action)
+{
+    const QWidgetAction *const widgetAction = qobject_cast<QWidgetAction *>(action);
+    const QWidget *const widget = widgetAction ? widgetAction->defaultWidget() : nullptr;
+    if (widget && !m_homes.contains(action))
+        m_homes.insert(action, toolBar);
+    if (action->isSeparator() || !action->text().isEmpty())
+        return;
+    const QString text = widget ? textOfWidget(widget) : action->toolTip();
+    if (!text.isEmpty())
+        action->setText(text);
+}
+
+void RyToolBarKitPrivate::watchToolBar(QToolBar *toolBar)
+{
+    toolBar->installEventFilter(this);
+    connect(toolBar, SIGNAL(destroyed(QObject *)), this, SLOT(toolBarDestroyed(QObject *)),
+            Qt::UniqueConnection);
+    connect(toolBar, SIGNAL(topLevelChanged(bool)), &m_storeTimer, SLOT(start()),
+            Qt::UniqueConnection);
+    connect(toolBar->toggleViewAction(), SIGNAL(triggered(bool)), this,
+            SLOT(visibilityChosen(bool)), Qt::UniqueConnection);
+}
+
+// What has come since, and what the program has done to its toolbars.
+void RyToolBarKitPrivate::update()
+{
+    if (!manager) {
+        if (m_isRestored)
+            startAgain();
+        else
+            restoreNow();
+        return;
+    }
+    const QSet<QAction *> before = manager->actions();
+    findMenus();
+    const QSet<const QToolBar *> changed = m_changedToolBars;
+    m_changedToolBars.clear();
+    const auto toolBars = manager->toolBars();
+    for (QToolBar *toolBar : toolBars) {
+        if (changed.contains(toolBar))
+            followProgram(toolBar);
+    }
+    if (manager->actions() != before)
+        placeAll();
+    findToolBars();
+}
+
+void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
+{
+    const QList<QAction *> onWidget = toolBar->actions();
+    const QList<QAction *> inManager = manager->actions(toolBar);
+    QStringList model;
+    bool isChanged = false;
+    for (QAction *action : onWidget) {
+        if (action->isSeparator()) {
+            model.append(QString());
+            continue;
+        }
+        const bool isNew = !inManager.contains(action);
+        isChanged |= isNew;
+        if (isNew) {
+            prepareAction(toolBar, action);
+            offer(action, StableNames::plainText(toolBar->windowTitle()));
+        }
+        model.append(m_actionNames.nameOf(action));
+        m_takenOff[toolBar].remove(model.last());
+        if (isNew && m_defaults.contains(toolBar))
+            m_defaults[toolBar] = mergedEntries(m_defaults.value(toolBar), model, {model.last()});
+    }
+    for (QAction *action : inManager) {
+        if (!action || onWidget.contains(action))
+            continue;
+        isChanged = true;
+        m_takenOff[toolBar].insert(m_actionNames.nameOf(action));
+    }
+    if (!isChanged)
+        return;
+    place(toolBar);
+    // The manager does not know what it has not put there.
+    const QList<QAction *> placed = manager->actions(toolBar);
+    for (QAction *action : onWidget) {
+        if (!action->isSeparator() && !placed.contains(action))
+            toolBar->removeAction(action);
+    }
+}
+
+bool RyToolBarKitPrivate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window)
+        windowEvent(event);
+    else if (QToolBar *const toolBar = qobject_cast<QToolBar *>(watched))
+        toolBarEvent(toolBar, event);
+    return QObject::eventFilter(watched, event);
+}
+
+void RyToolBarKitPrivate::windowEvent(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Polish:
+    case QEvent::Show:
+        if (!m_isRestored)
+            restoreNow();
+        break;
+    case QEvent::Close:
+        storeNow();
+        break;
+    case QEvent::ChildAdded:
+    case QEvent::ChildPolished:
+        if (manager)
+            m_updateTimer.start();
+        break;
+    default:
+        break;
+    }
+}
+
+void RyToolBarKitPrivate::toolBarEvent(QToolBar *toolBar, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Move:
+        m_storeTimer.start();
+        break;
+    case QEvent::ActionRemoved:
+        if (features & RyToolBarKit::KeepButtons)
+            m_buttons.read(toolBar, static_cast<QActionEvent *>(event)->action());
+        followLater(toolBar);
+        break;
+    case QEvent::ActionAdded:
+        followLater(toolBar);
+        break;
+    default:
+        break;
+    }
+}
+
+void RyToolBarKitPrivate::followLater(const QToolBar *toolBar)
+{
+    m_changedToolBars.insert(toolBar);
+    m_updateTimer.start();
+}
+
+void RyToolBarKitPrivate::actionDestroyed(QObject *object)
+{
+    QAction *const action = static_cast<QAction *>(object);
+    if (manager)
+        manager->removeAction(action);
+    m_actionNames.remove(object);
+    m_buttons.forget(action);
+    m_homes.remove(action);
+}
+
+void RyToolBarKitPrivate::toolBarDestroyed(QObject *object)
+{
+    QToolBar *const toolBar = static_cast<QToolBar *>(object);
+    m_toolBarNames.remove(object);
+    m_defaults.remove(toolBar);
+    m_takenOff.remove(toolBar);
+    m_shownByProgram.remove(toolBar);
+    m_changedToolBars.remove(toolBar);
+    if (!manager || !manager->toolBars().contains(toolBar))
+        return;
+    manager.reset();
+    m_updateTimer.start();
+}
+
+void RyToolBarKitPrivate::addActions(const QList<QAction *> &actions, const QString &category)
+{
+    for (QAction *action : actions) {
+        if (!action)
+            continue;
+        m_handedOver.append({action, category});
+        if (manager)
+            offer(action, category);
+    }
+    if (m_isRestored && manager)
+        placeAll();
+}
+
+void RyToolBarKitPrivate::setFormerNames(QObject *object, const QStringList &names)
+{
+    if (!qobject_cast<QAction *>(object) && !qobject_cast<QToolBar *>(object))
+        return;
+    for (auto it = m_formerNames.begin(); it != m_formerNames.end();)
+        it = it.value() == object ? m_formerNames.erase(it) : it + 1;
+    for (const QString &name : names)
+        m_formerNames.insert(name, object);
+    if (m_isRestored && manager)
+        placeAll();
+}
+
+void RyToolBarKitPrivate::setExcluded(QObject *object)
+{
+    if (!object)
+        return;
+    m_excluded.insert(object);
+    connect(object, SIGNAL(destroyed(QObject *)), this, SLOT(excludedDestroyed(QObject *)),
+            Qt::UniqueConnection);
+}
+
+void RyToolBarKitPrivate::excludedDestroyed(QObject *object)
+{
+    m_excluded.remove(object);
+}
+
+void RyToolBarKitPrivate::setRequired(QAction *action)
+{
+    if (action)
+        m_required.append(action);
+}
+
+QStringList RyToolBarKitPrivate::problems() const
+{
+    QStringList all;
+    if (!manager)
+        return all;
+    if (m_window->objectName().isEmpty() && store.isDefault())
+        all.append(QStringLiteral("The window has no objectName: give it one that no other window "
+                                  "has, because its layout is stored below that name"));
+    return all + m_toolBarNames.problems() + m_actionNames.problems();
+}

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef RYTOOLBARKITPRIVATE_H
+#define RYTOOLBARKITPRIVATE_H
+
+#include "buttonproperties.h"
+#include "kitlayout.h"
+#include "layoutstore.h"
+#include "rytoolbarkit.h"
+#include "stablenames.h"
+
+#include <RyToolBarManager>
+
+#include <QDialog>
+#include <QPair>
+#include <QPointer>
+#include <QScopedPointer>
+#include <QTimer>
+
+class FormerLayout;
+class MenuActions;
+class QAction;
+class QModelIndex;
+class QToolBar;
+
+/*!
+ * \brief What the kit knows of one window, and the order in which everything happens.
+ *
+ * The layout is what is to be shown; collect() brings it up to date with what the user has done.
+ * Records of toolbars and actions that this run does not have stay in it.
+ */
+class RyToolBarKitPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window, bool printProblems);
+    ~RyToolBarKitPrivate() override;
+
+    bool restoreNow();
+    bool restoreLayout(const QByteArray &value);
+    QByteArray saveLayout();
+    bool isDefault();
+    void addActions(const QList<QAction *> &actions, const QString &category);
+    void setFormerNames(QObject *object, const QStringList &names);
+    void setExcluded(QObject *object);
+    void setRequired(QAction *action);
+    QStringList problems() const;
+    void takeOver(const QByteArray &value);
+
+    RyToolBarKit::Features features;
+    LayoutStore store;
+    // Null before everything is found, and after a toolbar of the program was deleted until the
+    // event loop runs again.
+    QScopedPointer<RyToolBarManager> manager;
+    QAction *customizeAction;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private Q_SLOTS:
+    void customize();
+    void update();
+    void storeChanges();
+    void storeNow();
+    void applied();
+    void resetClicked();
+    void dialogFinished(int result);
+    void markRequired(const QModelIndex &parent, int first, int last);
+    void actionDestroyed(QObject *action);
+    void toolBarDestroyed(QObject *toolBar);
+    void excludedDestroyed(QObject *object);
+    void visibilityChosen(bool shown);
+
+private:
+    // Finding
+    bool findEverything();
+    void createManager();
+    void startAgain();
+    void findMenus();
+    void findToolBars();
+    void offer(QAction *action, const QString &category);
+    void offerHandedOver();
+    void keepOutOfDialog(QAction *action);
+    void addToolBar(QToolBar *toolBar);
+    void prepareAction(QToolBar *toolBar, QAction *action);
+    void watchToolBar(QToolBar *toolBar);
+    void followLater(const QToolBar *toolBar);
+    void followProgram(QToolBar *toolBar);
+    bool isOffered(QAction *action) const;
+    bool isListEntry(const QAction *action) const;
+    void windowEvent(QEvent *event);
+    void toolBarEvent(QToolBar *toolBar, QEvent *event);
+    void setToDefaults();
+
+    // The layout
+    void collect();
+    void collectToolBar(QToolBar *toolBar);
+    void forgetRemovedToolBars();
+    void collectPlaces();
+    void restore(const KitLayout &layout);
+    KitLayout readStored(bool *found);
+    KitLayout converted(const FormerLayout &former) const;
+    void createCustomToolBars();
+    void nameCustomToolBar(QToolBar *toolBar, const QString &name);
+    void followFormerNames();
+    void renameInLayout(const QString &before, const QString &now, bool isToolBar);
+    void placeAll();
+    void place(QToolBar *toolBar);
+    void applyPlaces();
+    void applyVisibility(QToolBar *toolBar);
+    void bringBackRequired();
+    bool storeIfChanged();
+    QStringList entriesOf(QToolBar *toolBar) const;
+    QStringList namesOf(const QList<QAction *> &actions) const;
+    QSet<QString> absentNames(QToolBar *toolBar, const QStringList &names) const;
+    QHash<const QToolBar *, QString> toolBarNames() const;
+
+    // The dialog
+    void adoptCreatedToolBars();
+    void takeOffStrangeWidgets();
+    void completeReset();
+    void tellOthers();
+
+    RyToolBarKit *m_kit;
+    // Null if the host passed none. It owns the kit.
+    QMainWindow *m_window;
+    bool m_printProblems;
+    MenuActions *m_menus;
+    StableNames m_actionNames;
+    StableNames m_toolBarNames;
+
+    // What the program has handed over or said, for each time that everything is found again.
+    QList<QPair<QPointer<QAction>, QString>> m_handedOver;
+    QSet<const QObject *> m_excluded;
+    QList<QPointer<QAction>> m_required;
+    QHash<QString, QPointer<QObject>> m_formerNames;
+
+    // For each toolbar of the program: its default content, with the names of deleted actions.
+    QHash<const QToolBar *, QStringList> m_defaults;
+    // What the program has taken off itself, and may put back.
+    QHash<const QToolBar *, QSet<QString>> m_takenOff;
+    // Whether the program had shown it when it was found.
+    QHash<const QToolBar *, bool> m_shownByProgram;
+    KitPlaces m_placesByProgram;
+    // The actions whose widget exists only once, with the toolbar that it belongs to.
+    QHash<const QAction *, const QToolBar *> m_homes;
+    ButtonProperties m_buttons;
+    QList<QPointer<QToolBar>> m_customToolBars;
+
+    KitLayout m_layout;
+    bool m_isRestored;
+    // The layout as last stored or restored.
+    QByteArray m_value;
+
+    QSet<const QToolBar *> m_changedToolBars;
+    QTimer m_updateTimer;
+    QTimer m_storeTimer;
+    QPointer<QDialog> m_dialog;
+    // Whether Restore Defaults was pressed since the dialog was opened or changes were applied.
+    bool m_isReset;
+    // The names of the actions that the open dialog had when it was opened.
+    QSet<QString> m_namesInDialog;
+};
+
+#endif // RYTOOLBARKITPRIVATE_H

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+
+#include "rytoolbarkitprivate.h"
+
+#include <RyCustomizedDialog>
+#include <QAction>
+#include <QApplication>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QToolBar>
+
+void RyToolBarKitPrivate::customize()
+{
+    if (!m_window)
+        return;
+    if (m_dialog) {
+        m_dialog->activateWindow();
+        return;
+    }
+    restoreNow();
+    update(); // what the program has just added belongs in the dialog
+    m_namesInDialog.clear();
+    const auto actions = manager->actions();
+    for (const QAction *action : actions)
+        m_namesInDialog.insert(m_actionNames.nameOf(action));
+
+    RyCustomizedDialog *const dialog = new RyCustomizedDialog({manager.data(), nullptr}, m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowModality(Qt::ApplicationModal);
+    m_dialog = dialog;
+    m_isReset = false;
+    // After the dialog's own connection, when the toolbars have changed.
+    connect(dialog->applyButton(), SIGNAL(clicked()), this, SLOT(applied()));
+    connect(dialog->RestoreDefaultButton(), SIGNAL(clicked()), this, SLOT(resetClicked()));
+    connect(dialog, SIGNAL(finished(int)), this, SLOT(dialogFinished(int)));
+    if (QListWidget *const rows =
+            dialog->findChild<QListWidget *>(QStringLiteral("currentToolBarList"))) {
+        connect(rows->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), this,
+                SLOT(markRequired(QModelIndex, int, int)));
+    }
+    Q_EMIT m_kit->aboutToCustomize(dialog);
+    dialog->show();
+}
+
+void RyToolBarKitPrivate::dialogFinished(int result)
+{
+    if (result == QDialog::Accepted)
+        applied();
+    m_dialog = nullptr;
+}
+
+void RyToolBarKitPrivate::markRequired(const QModelIndex &, int first, int last)
+{
+    const QListWidget *const rows =
+        m_dialog->findChild<QListWidget *>(QStringLiteral("currentToolBarList"));
+    for (int row = first; row <= last; ++row) {
+        for (const QPointer<QAction> &action : m_required) {
+            if (action && rows->item(row)->text() == action->text())
+                rows->item(row)->setToolTip(
+                    RyToolBarKit::tr("If you remove it, it returns at the next start."));
+        }
+    }
+}
+
+void RyToolBarKitPrivate::applied()
+{
+    if (!manager)
+        return;
+    adoptCreatedToolBars();
+    takeOffStrangeWidgets();
+    if (m_isReset)
+        completeReset();
+    m_isReset = false;
+    collect();
+    placeAll();
+    storeNow();
+    Q_EMIT m_kit->customized();
+    if (features & RyToolBarKit::FollowOthers)
+        tellOthers();
+}
+
+void RyToolBarKitPrivate::adoptCreatedToolBars()
+{
+    const auto toolBars = manager->toolBars();
+    for (QToolBar *toolBar : toolBars) {
+        if (m_toolBarNames.nameOf(toolBar).isEmpty())
+            nameCustomToolBar(toolBar, toolBar->objectName());
+    }
+}
+
+// A widget that exists only once would be missing on one of its toolbars.
+void RyToolBarKitPrivate::takeOffStrangeWidgets()
+{
+    const auto contents = manager->toolBarsActions();
+    for (auto it = contents.cbegin(); it != contents.cend(); ++it) {
+        QList<QAction *> actions;
+        for (QAction *action : it.value()) {
+            if (!m_homes.contains(action) || m_homes.value(action) == it.key())
+                actions.append(action);
+        }
+        manager->setToolBar(it.key(), actions);
+    }
+}
+
+void RyToolBarKitPrivate::resetClicked()
+{
+    m_isReset = true;
+}
+
+// The manager does not know the default actions that have come since it was made.
+void RyToolBarKitPrivate::completeReset()
+{
+    const auto defaults = manager->defaultToolBars();
+    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
+        if (it.value() != manager->actions(it.key()))
+            continue;
+        m_layout.toolBars[m_toolBarNames.nameOf(it.key())].customized = false;
+        place(it.key());
+    }
+}
+
+void RyToolBarKitPrivate::tellOthers()
+{
+    const auto widgets = QApplication::topLevelWidgets();
+    for (const QWidget *widget : widgets) {
+        const auto kits = widget->findChildren<RyToolBarKit *>();
+        for (const RyToolBarKit *kit : kits) {
+            if (kit != m_kit && kit->d->store.isSameAs(store)
+                && (kit->d->features & RyToolBarKit::FollowOthers))
+                kit->d->takeOver(m_value);
+        }
+    }
+}
+
+void RyToolBarKitPrivate::takeOver(const QByteArray &value)
+{
+    if (!manager || !m_isRestored || value == m_value)
+        return;
+    QString reason;
+    restore(KitLayout::fromJson(value, &reason));
+    Q_EMIT m_kit->layoutChanged();
+}
