@@ -438,8 +438,9 @@ void RyToolBarKitPrivate::setFormerNames(QObject *object, const QStringList &nam
 {
     if (!qobject_cast<QAction *>(object) && !qobject_cast<QToolBar *>(object))
         return;
-    for (auto it = m_formerNames.begin(); it != m_formerNames.end();)
-        it = it.value() == object ? m_formerNames.erase(it) : it + 1;
+    const auto before = m_formerNames.keys(object);
+    for (const QString &name : before)
+        m_formerNames.remove(name);
     for (const QString &name : names)
         m_formerNames.insert(name, object);
     if (m_isRestored && manager)
