@@ -157,7 +157,8 @@ QString refusal(const QJsonObject &value)
 {
     const QJsonValue format = value.value(QStringLiteral("format"));
     const QJsonObject layout = value.value(QStringLiteral("layout")).toObject();
-    if (!format.isDouble() || !value.value(QStringLiteral("layout")).isObject())
+    if (!format.isDouble() || format.toDouble() < 1
+        || !value.value(QStringLiteral("layout")).isObject())
         return QStringLiteral("the value is not a layout of toolbars");
     if (format.toDouble() > Format)
         return QStringLiteral("the layout is from a newer version");

@@ -44,3 +44,13 @@ QStringList mergedEntries(const QStringList &entries, const QStringList &model,
         merged << inserted.at(i) << entries.at(i);
     return merged << inserted.last();
 }
+
+QSet<QString> namesIn(const QStringList &entries)
+{
+    QSet<QString> names;
+    for (const QString &name : entries) {
+        if (!name.isNull())
+            names.insert(name);
+    }
+    return names;
+}

@@ -20,4 +20,9 @@
 QStringList mergedEntries(const QStringList &entries, const QStringList &model,
                           const QSet<QString> &missing);
 
+/*!
+ * \brief Returns the names in \a entries, without separators.
+ */
+QSet<QString> namesIn(const QStringList &entries);
+
 #endif // MERGEDENTRIES_H

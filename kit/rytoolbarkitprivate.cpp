@@ -67,6 +67,7 @@ RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window,
     , m_actionNames(window)
     , m_toolBarNames(window)
     , m_isRestored(false)
+    , m_rowsInDialog(nullptr)
     , m_isReset(false)
 {
     customizeAction->setObjectName(QStringLiteral("customizeToolBars"));
@@ -308,41 +309,35 @@ void RyToolBarKitPrivate::update()
     findToolBars();
 }
 
+// Whatever the manager has not put on a toolbar, the program has.
 void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
 {
-    const QList<QAction *> onWidget = toolBar->actions();
     const QList<QAction *> inManager = manager->actions(toolBar);
-    QStringList model;
-    bool isChanged = false;
-    for (QAction *action : onWidget) {
+    QList<QAction *> onWidget; // without separators, which the manager may delete
+    QStringList names;
+    const auto all = toolBar->actions();
+    for (QAction *action : all) {
         if (action->isSeparator()) {
-            model.append(QString());
+            names.append(QString());
             continue;
         }
-        const bool isNew = !inManager.contains(action);
-        isChanged |= isNew;
-        if (isNew) {
-            prepareAction(toolBar, action);
-            offer(action, StableNames::plainText(toolBar->windowTitle()));
-        }
-        model.append(m_actionNames.nameOf(action));
-        m_takenOff[toolBar].remove(model.last());
-        if (isNew && m_defaults.contains(toolBar))
-            m_defaults[toolBar] = mergedEntries(m_defaults.value(toolBar), model, {model.last()});
+        prepareAction(toolBar, action);
+        offer(action, StableNames::plainText(toolBar->windowTitle()));
+        onWidget.append(action);
+        names.append(m_actionNames.nameOf(action));
     }
-    for (QAction *action : inManager) {
-        if (!action || onWidget.contains(action))
-            continue;
-        isChanged = true;
-        m_takenOff[toolBar].insert(m_actionNames.nameOf(action));
-    }
-    if (!isChanged)
+    const QSet<QString> before = namesIn(namesOf(inManager));
+    const QSet<QString> now = namesIn(names);
+    if (before == now)
         return;
+    m_takenOff[toolBar] -= now;
+    m_takenOff[toolBar] += before - now;
+    if (m_defaults.contains(toolBar))
+        m_defaults[toolBar] = mergedEntries(m_defaults.value(toolBar), names, now - before);
     place(toolBar);
-    // The manager does not know what it has not put there.
     const QList<QAction *> placed = manager->actions(toolBar);
     for (QAction *action : onWidget) {
-        if (!action->isSeparator() && !placed.contains(action))
+        if (!placed.contains(action))
             toolBar->removeAction(action);
     }
 }
@@ -443,8 +438,9 @@ void RyToolBarKitPrivate::setFormerNames(QObject *object, const QStringList &nam
 {
     if (!qobject_cast<QAction *>(object) && !qobject_cast<QToolBar *>(object))
         return;
-    for (auto it = m_formerNames.begin(); it != m_formerNames.end();)
-        it = it.value() == object ? m_formerNames.erase(it) : it + 1;
+    const auto before = m_formerNames.keys(object);
+    for (const QString &name : before)
+        m_formerNames.remove(name);
     for (const QString &name : names)
         m_formerNames.insert(name, object);
     if (m_isRestored && manager)

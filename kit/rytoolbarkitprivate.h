@@ -20,6 +20,7 @@
 class FormerLayout;
 class MenuActions;
 class QAction;
+class QListWidget;
 class QModelIndex;
 class QToolBar;
 
@@ -103,6 +104,7 @@ private:
     KitLayout converted(const FormerLayout &former) const;
     void createCustomToolBars();
     void nameCustomToolBar(QToolBar *toolBar, const QString &name);
+    bool isAnyMovable() const;
     void followFormerNames();
     void renameInLayout(const QString &before, const QString &now, bool isToolBar);
     void placeAll();
@@ -157,6 +159,8 @@ private:
     QTimer m_updateTimer;
     QTimer m_storeTimer;
     QPointer<QDialog> m_dialog;
+    // The rows of the toolbar that is current in the open dialog.
+    QListWidget *m_rowsInDialog;
     // Whether Restore Defaults was pressed since the dialog was opened or changes were applied.
     bool m_isReset;
     // The names of the actions that the open dialog had when it was opened.

@@ -2,6 +2,7 @@
 
 #include "rytoolbarkitprivate.h"
 
+#include <RyCToolBarWidget>
 #include <RyCustomizedDialog>
 #include <QAction>
 #include <QApplication>
@@ -34,11 +35,11 @@ void RyToolBarKitPrivate::customize()
     connect(dialog->applyButton(), SIGNAL(clicked()), this, SLOT(applied()));
     connect(dialog->RestoreDefaultButton(), SIGNAL(clicked()), this, SLOT(resetClicked()));
     connect(dialog, SIGNAL(finished(int)), this, SLOT(dialogFinished(int)));
-    if (QListWidget *const rows =
-            dialog->findChild<QListWidget *>(QStringLiteral("currentToolBarList"))) {
-        connect(rows->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), this,
-                SLOT(markRequired(QModelIndex, int, int)));
-    }
+    // The other page has widgets with the same names.
+    const QWidget *const page = dialog->findChild<RyCToolBarWidget *>();
+    m_rowsInDialog = page->findChild<QListWidget *>(QStringLiteral("currentToolBarList"));
+    connect(m_rowsInDialog->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), this,
+            SLOT(markRequired(QModelIndex, int, int)));
     Q_EMIT m_kit->aboutToCustomize(dialog);
     dialog->show();
 }
@@ -52,12 +53,10 @@ void RyToolBarKitPrivate::dialogFinished(int result)
 
 void RyToolBarKitPrivate::markRequired(const QModelIndex &, int first, int last)
 {
-    const QListWidget *const rows =
-        m_dialog->findChild<QListWidget *>(QStringLiteral("currentToolBarList"));
     for (int row = first; row <= last; ++row) {
         for (const QPointer<QAction> &action : m_required) {
-            if (action && rows->item(row)->text() == action->text())
-                rows->item(row)->setToolTip(
+            if (action && m_rowsInDialog->item(row)->text() == action->text())
+                m_rowsInDialog->item(row)->setToolTip(
                     RyToolBarKit::tr("If you remove it, it returns at the next start."));
         }
     }

@@ -12,19 +12,9 @@
 
 namespace {
 
-QSet<QString> setOf(const QStringList &names)
-{
-    QSet<QString> set;
-    for (const QString &name : names) {
-        if (!name.isNull())
-            set.insert(name);
-    }
-    return set;
-}
-
 QStringList withNew(QStringList names, const QStringList &others)
 {
-    QSet<QString> all = setOf(names);
+    QSet<QString> all = namesIn(names);
     for (const QString &name : others) {
         if (name.isNull() || all.contains(name))
             continue;
@@ -229,7 +219,19 @@ void RyToolBarKitPrivate::nameCustomToolBar(QToolBar *toolBar, const QString &na
         toolBar->setObjectName(name);
     m_toolBarNames.add(toolBar, name);
     m_customToolBars.append(toolBar);
+    toolBar->setMovable(isAnyMovable());
     watchToolBar(toolBar);
+}
+
+// A program that locks its toolbars locks all of them.
+bool RyToolBarKitPrivate::isAnyMovable() const
+{
+    const auto defaults = manager->defaultToolBars();
+    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
+        if (it.key()->isMovable())
+            return true;
+    }
+    return defaults.isEmpty();
 }
 
 void RyToolBarKitPrivate::followFormerNames()
@@ -301,7 +303,7 @@ QStringList RyToolBarKitPrivate::entriesOf(QToolBar *toolBar) const
         return defaults;
     QSet<QString> missing;
     if (features & RyToolBarKit::AddNewDefaults)
-        missing = setOf(defaults) - setOf(record.known);
+        missing = namesIn(defaults) - namesIn(record.known);
     return mergedEntries(record.entries, defaults, missing);
 }
 
@@ -357,7 +359,7 @@ void RyToolBarKitPrivate::bringBackRequired()
     QSet<QString> placed;
     const auto toolBars = manager->toolBars();
     for (QToolBar *toolBar : toolBars)
-        placed += setOf(namesOf(manager->actions(toolBar)));
+        placed += namesIn(namesOf(manager->actions(toolBar)));
     for (const QPointer<QAction> &action : m_required) {
         const QString name = m_actionNames.nameOf(action);
         if (name.isEmpty() || placed.contains(name))
@@ -432,7 +434,8 @@ void RyToolBarKitPrivate::collectPlaces()
 {
     const KitPlaces now = ToolBarPlaces::read(m_window, toolBarNames());
     const auto isGone = [this](const QString &name) { return !m_toolBarNames.object(name); };
-    if (now == without(m_placesByProgram, isGone))
+    const bool isAllThere = without(m_layout.places, isGone) == m_layout.places;
+    if (isAllThere && now == without(m_placesByProgram, isGone))
         m_layout.places = KitPlaces();
     else
         m_layout.places = ToolBarPlaces::merged(now, m_layout.places);

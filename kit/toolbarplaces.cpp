@@ -42,7 +42,7 @@ void setFloating(QToolBar *toolBar, const QPoint &position)
     toolBar->setVisible(!hidden);
 }
 
-QSet<QString> namesIn(const KitPlaces &places)
+QSet<QString> toolBarsOf(const KitPlaces &places)
 {
     QSet<QString> names;
     for (const QList<QStringList> &lines : places.lines) {
@@ -144,7 +144,7 @@ void ToolBarPlaces::apply(QMainWindow *window, const QHash<const QToolBar *, QSt
 KitPlaces ToolBarPlaces::merged(const KitPlaces &places, const KitPlaces &model)
 {
     KitPlaces result = places;
-    const QSet<QString> found = namesIn(places);
+    const QSet<QString> found = toolBarsOf(places);
     for (auto it = model.lines.cbegin(); it != model.lines.cend(); ++it) {
         QList<QStringList> &lines = result.lines[it.key()];
         for (int i = 0; i < it.value().size(); ++i) {

@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+
+#include "kitlayout.h"
+#include "testcase.h"
+
+#include <QCryptographicHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QtTest>
+
+class tst_KitLayout : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aLayoutIsReadAsItWasWritten();
+    void aLayoutIsReadAsTheFirstVersionWroteIt();
+    void anEmptyLayoutIsTheDefault();
+    void eachPartMakesItDifferentFromTheDefault_data();
+    void eachPartMakesItDifferentFromTheDefault();
+    void keysOfALaterVersionAreKept();
+    void textThatIsNotUnicodeDoesNotBreakTheChecksum();
+    void otherValuesAreRefused_data();
+    void otherValuesAreRefused();
+    void everyShorterValueIsRefused();
+    void everyChangedByteIsRefusedOrChangesNothing();
+    void strangeLayoutsAreReadAsFarAsTheyMakeSense();
+};
+
+namespace {
+
+KitLayout sample()
+{
+    KitLayout layout;
+    KitToolBar &edit = layout.toolBars["edit"];
+    edit.customized = true;
+    edit.entries = QStringList({"cut", QString(), "copy"});
+    edit.known = QStringList({"copy", "cut", "paste"});
+    KitToolBar &mine = layout.toolBars["_Custom_Toolbar_1"];
+    mine.custom = true;
+    mine.customized = true;
+    mine.title = QString::fromUtf8("Mine – “ü”");
+    mine.entries = QStringList({"open"});
+    KitToolBar &view = layout.toolBars["view"];
+    view.visibility = KitToolBar::Hidden;
+    view.shownByProgram = true;
+    layout.places.lines["top"] = {{"edit", "_Custom_Toolbar_1"}, {"view"}};
+    layout.places.floating["view"] = QPoint(-3, 40);
+    return layout;
+}
+
+// A value with a correct checksum.
+QByteArray sealed(const QByteArray &layout)
+{
+    const QByteArray compact = QJsonDocument::fromJson(layout).toJson(QJsonDocument::Compact);
+    return "{\"format\":1,\"checksum\":\""
+        + QCryptographicHash::hash(compact, QCryptographicHash::Sha1).toHex()
+        + "\",\"layout\":" + compact + "}";
+}
+
+QString refusal(const QByteArray &value)
+{
+    QString reason;
+    KitLayout::fromJson(value, &reason);
+    return reason;
+}
+
+QByteArray rewritten(const QByteArray &value)
+{
+    QString reason;
+    const KitLayout layout = KitLayout::fromJson(value, &reason);
+    return reason.isEmpty() ? layout.toJson() : QByteArray();
+}
+
+} // namespace
+
+void tst_KitLayout::aLayoutIsReadAsItWasWritten()
+{
+    QString reason = "something";
+    const KitLayout layout = KitLayout::fromJson(sample().toJson(), &reason);
+    QCOMPARE(reason, QString());
+    QCOMPARE(layout.toolBars.keys(), sample().toolBars.keys());
+    const KitToolBar edit = layout.toolBars.value("edit");
+    QVERIFY(edit.customized && !edit.custom);
+    QCOMPARE(edit.entries, QStringList({"cut", QString(), "copy"}));
+    QVERIFY(edit.entries.at(1).isNull());
+    QCOMPARE(edit.known, QStringList({"copy", "cut", "paste"}));
+    QCOMPARE(edit.visibility, KitToolBar::AsProgrammed);
+    const KitToolBar mine = layout.toolBars.value("_Custom_Toolbar_1");
+    QVERIFY(mine.custom);
+    QCOMPARE(mine.title, QString::fromUtf8("Mine – “ü”"));
+    const KitToolBar view = layout.toolBars.value("view");
+    QVERIFY(!view.customized && !view.custom);
+    QCOMPARE(view.visibility, KitToolBar::Hidden);
+    QVERIFY(view.shownByProgram);
+    QVERIFY(layout.places == sample().places);
+    QCOMPARE(layout.toJson(), sample().toJson());
+}
+
+void tst_KitLayout::aLayoutIsReadAsTheFirstVersionWroteIt()
+{
+    const QByteArray value =
+        R"({"checksum":"CHECKSUM","format":1,"layout":{"places":{"floating":{"view":[-3,40]},)"
+        R"("top":[["edit","_Custom_Toolbar_1"],["view"]]},"toolBars":{"_Custom_Toolbar_1":)"
+        R"({"entries":["open"],"title":"Mine – “ü”"},"edit":{"entries":["cut",null,"copy"],)"
+        R"("known":["copy","cut","paste"]},"view":{"shown":false,"shownByProgram":true}}}})";
+    QByteArray expected = value;
+    expected.replace("CHECKSUM", "");
+    QByteArray actual = sample().toJson();
+    const int checksum = actual.indexOf("\"checksum\":\"") + 12;
+    actual.remove(checksum, 40);
+    QCOMPARE(actual, expected);
+}
+
+void tst_KitLayout::anEmptyLayoutIsTheDefault()
+{
+    KitLayout layout;
+    QVERIFY(layout.isDefault());
+    layout.toolBars["edit"]; // as the program has it
+    QVERIFY(layout.isDefault());
+    QCOMPARE(rewritten(layout.toJson()), KitLayout().toJson());
+}
+
+void tst_KitLayout::eachPartMakesItDifferentFromTheDefault_data()
+{
+    QTest::addColumn<QByteArray>("layout");
+    QTest::newRow("content") << QByteArray(R"({"toolBars":{"a":{"entries":[]}}})");
+    QTest::newRow("custom") << QByteArray(R"({"toolBars":{"a":{"title":""}}})");
+    QTest::newRow("hidden") << QByteArray(R"({"toolBars":{"a":{"shown":false}}})");
+    QTest::newRow("shown") << QByteArray(R"({"toolBars":{"a":{"shown":true}}})");
+    QTest::newRow("lines") << QByteArray(R"({"places":{"top":[["a"]]}})");
+    QTest::newRow("floating") << QByteArray(R"({"places":{"floating":{"a":[1,2]}}})");
+}
+
+void tst_KitLayout::eachPartMakesItDifferentFromTheDefault()
+{
+    QFETCH(QByteArray, layout);
+    QString reason;
+    QVERIFY(!KitLayout::fromJson(sealed(layout), &reason).isDefault());
+    QCOMPARE(reason, QString());
+}
+
+void tst_KitLayout::keysOfALaterVersionAreKept()
+{
+    const QByteArray layout =
+        R"({"toolBars":{"a":{"entries":[],"known":[],"size":[1]}},"x":{"y":2}})";
+    QByteArray value = sealed(layout);
+    value.insert(1, "\"later\":true,");
+    const QJsonObject kept = QJsonDocument::fromJson(rewritten(value)).object();
+    QCOMPARE(kept.value("later"), QJsonValue(true));
+    QCOMPARE(kept.value("layout").toObject(), QJsonDocument::fromJson(layout).object());
+}
+
+void tst_KitLayout::textThatIsNotUnicodeDoesNotBreakTheChecksum()
+{
+    KitLayout layout;
+    KitToolBar &toolBar = layout.toolBars["a"];
+    toolBar.custom = true;
+    toolBar.title = QString(QChar(0xd800)) + QChar('x');
+    QCOMPARE(refusal(layout.toJson()), QString());
+}
+
+void tst_KitLayout::otherValuesAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("reason");
+
+    QByteArray newer = sealed("{}");
+    newer.replace("\"format\":1", "\"format\":2");
+    QByteArray damaged = sample().toJson();
+    damaged.replace("cut", "cat");
+    QByteArray many = R"({"toolBars":{)";
+    for (int i = 0; i < 1001; ++i)
+        many += (i == 0 ? "\"" : ",\"") + QByteArray::number(i) + "\":{}";
+    many += "}}";
+    QByteArray wide =
+        R"({"toolBars":{"a":{"entries":[0)" + QByteArray(",0").repeated(1000) + "]}}}";
+
+    const QString other = "the value is not a layout of toolbars";
+    const QString tooMany = "the layout has too many toolbars or entries";
+    QTest::newRow("nothing") << QByteArray() << other;
+    QTest::newRow("text") << QByteArray("hello") << other;
+    QTest::newRow("an array") << QByteArray("[1]") << other;
+    QTest::newRow("no layout") << QByteArray(R"({"format":1,"checksum":""})") << other;
+    QTest::newRow("no format") << QByteArray(R"({"layout":{},"checksum":""})") << other;
+    QTest::newRow("newer") << newer << "the layout is from a newer version";
+    QTest::newRow("damaged") << damaged << "the layout is damaged: its checksum is wrong";
+    QTest::newRow("many toolbars") << sealed(many) << tooMany;
+    QTest::newRow("many entries") << sealed(wide) << tooMany;
+    QTest::newRow("large") << sealed("{}") + QByteArray(1000000, ' ')
+                           << "the value is larger than 1 MB";
+}
+
+void tst_KitLayout::otherValuesAreRefused()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QString, reason);
+    QString given;
+    const KitLayout layout = KitLayout::fromJson(value, &given);
+    QCOMPARE(given, reason);
+    QVERIFY(layout.isDefault());
+}
+
+void tst_KitLayout::everyShorterValueIsRefused()
+{
+    const QByteArray value = sample().toJson();
+    for (int size = 0; size < value.size(); ++size)
+        QVERIFY2(!refusal(value.left(size)).isEmpty(), QByteArray::number(size).constData());
+}
+
+void tst_KitLayout::everyChangedByteIsRefusedOrChangesNothing()
+{
+    const QByteArray value = sample().toJson();
+    for (int i = 0; i < value.size(); ++i) {
+        for (const char change : {'\x01', '\x20', '\x80'}) {
+            QByteArray damaged = value;
+            damaged[i] = char(damaged.at(i) ^ change);
+            const QByteArray again = rewritten(damaged);
+            QVERIFY2(again.isEmpty() || again == value, damaged.constData());
+        }
+    }
+}
+
+void tst_KitLayout::strangeLayoutsAreReadAsFarAsTheyMakeSense()
+{
+    const QByteArray layout =
+        R"({"toolBars":{"a":{"entries":["x","x","",3,null],"known":[null,"y","y"]},"b":7},)"
+        R"("places":{"top":[["a","a"],["a"],[]],"left":5,"floating":{"a":"here"}}})";
+    QString reason;
+    const KitLayout read = KitLayout::fromJson(sealed(layout), &reason);
+    QCOMPARE(reason, QString());
+    QCOMPARE(read.toolBars.value("a").entries, QStringList({"x", QString()}));
+    QCOMPARE(read.toolBars.value("a").known, QStringList({"y"}));
+    QVERIFY(read.toolBars.value("b").isDefault());
+    QCOMPARE(read.places.lines.keys(), QStringList({"top"}));
+    QCOMPARE(read.places.lines.value("top"), QList<QStringList>({{"a"}}));
+    QCOMPARE(read.places.floating.value("a", QPoint(1, 1)), QPoint(0, 0));
+}
+
+QTEST_MAIN(tst_KitLayout)
+#include "tst_kitlayout.moc"

@@ -1,0 +1,495 @@
+// SPDX-License-Identifier: MIT
+
+#include "editorviews.h"
+#include "kitwindow.h"
+#include "testcase.h"
+
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPointer>
+#include <QPushButton>
+#include <QToolButton>
+#include <QtTest>
+
+class tst_RyToolBarKit_changes : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void actionsThatComeLateAreOffered();
+    void actionsThatComeLateGoWhereTheLayoutHasThem();
+    void handedOverActionsGoWhereTheLayoutHasThem();
+    void deletedActionsKeepTheirPlace();
+    void deletedMenusAreForgotten();
+    void toolBarsThatComeLateGetTheirLayout();
+    void toolBarsMayBeDeleted();
+    void toolBarsMayBeDeletedWithTheDialogOpen();
+    void actionsThatComeWithTheDialogOpenAreNotLost();
+    void actionsMayBeDeletedWithTheDialogOpen();
+    void anActionThatTheProgramAddsToAToolBarStays();
+    void anActionThatTheUserRemovedDoesNotComeBack();
+    void anActionThatTheProgramTakesOffMayComeBack();
+    void restoreDefaultsKnowsWhatTheProgramAdded();
+    void theWindowMayBeDeletedAtAnyTime_data();
+    void theWindowMayBeDeletedAtAnyTime();
+    void theKitMayBeDeleted();
+    void propertiesOfButtonsArePutBack();
+    void menusOfButtonsArePutBack();
+    void widgetsStayOnTheirToolBar();
+    void movesAreStoredTogether();
+    void aMoveIsStoredWhenTheWindowCloses();
+    void theDialogIsOpenedOnce();
+    void applyStoresAndKeepsTheDialogOpen();
+    void cancelChangesNothing();
+    void aboutToCustomizeComesBeforeTheDialogIsShown();
+    void requiredRowsSayWhatHappens();
+    void toolBarsOfTheUserCanBeMovedLikeThoseOfTheProgram();
+};
+
+namespace {
+
+QToolButton *button(const KitProgram &program, const QString &toolBar, const QString &action)
+{
+    return qobject_cast<QToolButton *>(
+        program.toolBar(toolBar)->widgetForAction(program.action(action)));
+}
+
+QMenu *menu(const KitProgram &program, const QString &title)
+{
+    const auto actions = program.window()->menuBar()->actions();
+    for (const QAction *action : actions) {
+        if (action->text() == title)
+            return action->menu();
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void tst_RyToolBarKit_changes::actionsThatComeLateAreOffered()
+{
+    KitProgram program;
+    program.start();
+    QAction *const late = addAction(menu(program, "&File"), "late");
+    QMenu *const menu = program.window()->menuBar()->addMenu("Tools");
+    QAction *const tool = addAction(menu, "tool");
+    letTheKitFollow();
+    QCOMPARE(program.kit()->manager()->actionCategory(late), QString("File"));
+    QCOMPARE(program.kit()->manager()->actionCategory(tool), QString("Tools"));
+    program.window()->setMenuBar(new QMenuBar);
+    addAction(program.window()->menuBar()->addMenu("New"), "other");
+    letTheKitFollow();
+    QCOMPARE(program.kit()->manager()->actionCategory(program.action("other")), QString("New"));
+}
+
+void tst_RyToolBarKit_changes::actionsThatComeLateGoWhereTheLayoutHasThem()
+{
+    KitProgram program;
+    const auto load = [&] { return addAction(menu(program, "&File"), "plugin"); };
+    program.start();
+    load();
+    letTheKitFollow();
+    program.edit("edit", "cut | plugin copy");
+    program.start();
+    QCOMPARE(program.content("edit"), QString("cut | copy"));
+    load();
+    letTheKitFollow();
+    QCOMPARE(program.content("edit"), QString("cut | plugin copy"));
+}
+
+void tst_RyToolBarKit_changes::handedOverActionsGoWhereTheLayoutHasThem()
+{
+    KitProgram program;
+    const auto load = [&] {
+        program.kit()->addActions({addAction(program.window(), "plugin")}, "Plugin");
+    };
+    program.start();
+    load();
+    program.create("Mine", "plugin open");
+    program.start();
+    QCOMPARE(program.content("_Custom_Toolbar_1"), QString("open"));
+    load();
+    QCOMPARE(program.content("_Custom_Toolbar_1"), QString("plugin open"));
+}
+
+void tst_RyToolBarKit_changes::deletedActionsKeepTheirPlace()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "cut open | copy");
+    delete program.action("open");
+    QCOMPARE(program.content("edit"), QString("cut | copy"));
+    program.edit("edit", "paste cut | copy");
+    addAction(menu(program, "&File"), "open");
+    letTheKitFollow();
+    QCOMPARE(program.content("edit"), QString("paste cut open | copy"));
+    QCOMPARE(program.content("file"), QString("new open save"));
+}
+
+void tst_RyToolBarKit_changes::deletedMenusAreForgotten()
+{
+    KitProgram program;
+    program.start([](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QMenu *const tools = window->menuBar()->addMenu("Tools");
+        addAction(tools, "tool")->setParent(tools);
+    });
+    program.create("Mine", "tool open");
+    delete menu(program, "Tools");
+    letTheKitFollow();
+    QCOMPARE(program.content("_Custom_Toolbar_1"), QString("open"));
+    QVERIFY(!program.kit()->manager()->hasCategory("Tools"));
+}
+
+void tst_RyToolBarKit_changes::toolBarsThatComeLateGetTheirLayout()
+{
+    KitProgram program;
+    const auto load = [&] {
+        QToolBar *const bar = new QToolBar("Plugin");
+        bar->setObjectName("plugin");
+        bar->addAction(program.action("open"));
+        program.window()->addToolBar(bar);
+        letTheKitFollow();
+    };
+    program.start();
+    load();
+    program.edit("plugin", "copy | open");
+    program.window()->addToolBar(Qt::LeftToolBarArea, program.toolBar("plugin"));
+    program.start();
+    load();
+    QCOMPARE(program.content("plugin"), QString("copy | open"));
+    QCOMPARE(program.places(), QStringList({"left: plugin", "top: file, edit"}));
+}
+
+void tst_RyToolBarKit_changes::toolBarsMayBeDeleted()
+{
+    KitProgram program;
+    program.start();
+    program.edit("file", "save");
+    program.create("Mine", "open copy");
+    delete program.toolBar("edit");
+    QVERIFY(!program.kit()->manager());
+    delete program.action("new");
+    letTheKitFollow();
+    QVERIFY(program.kit()->manager());
+    QCOMPARE(program.contents(), QStringList({"_Custom_Toolbar_1: open copy", "file: save"}));
+    QCOMPARE(program.kit()->manager()->toolBars().size(), 2);
+    program.restoreDefaults();
+    QCOMPARE(program.contents(), QStringList("file: open save"));
+}
+
+void tst_RyToolBarKit_changes::toolBarsMayBeDeletedWithTheDialogOpen()
+{
+    KitProgram program;
+    program.start();
+    const QPointer<RyCustomizedDialog> dialog = program.openDialog();
+    delete program.toolBar("edit");
+    letTheKitFollow();
+    QVERIFY(!dialog || !dialog->isVisible());
+    RyCustomizedDialog *const again = program.openDialog();
+    QVERIFY(again);
+    QCOMPARE(EditorViews(again).toolBarList->count(), 1);
+    QTest::mouseClick(again->okButton(), Qt::LeftButton);
+    QCOMPARE(program.contents(), QStringList("file: new open save"));
+}
+
+void tst_RyToolBarKit_changes::actionsThatComeWithTheDialogOpenAreNotLost()
+{
+    KitProgram program;
+    const auto load = [&] {
+        addAction(menu(program, "&File"), "plugin");
+        letTheKitFollow();
+    };
+    program.start();
+    load();
+    program.edit("edit", "cut plugin copy");
+    program.start();
+    RyCustomizedDialog *const dialog = program.openDialog();
+    load();
+    QCOMPARE(program.content("edit"), QString("cut plugin copy"));
+    QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
+    letTheKitFollow();
+    QCOMPARE(program.content("edit"), QString("cut plugin copy"));
+    program.edit("edit", "cut copy");
+    QCOMPARE(program.content("edit"), QString("cut copy"));
+}
+
+void tst_RyToolBarKit_changes::actionsMayBeDeletedWithTheDialogOpen()
+{
+    KitProgram program;
+    program.start();
+    RyCustomizedDialog *const dialog = program.openDialog();
+    delete program.action("open");
+    delete program.action("cut");
+    QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
+    QCOMPARE(program.contents(), QStringList({"edit: | copy", "file: new save"}));
+}
+
+void tst_RyToolBarKit_changes::anActionThatTheProgramAddsToAToolBarStays()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "copy | cut");
+    program.toolBar("edit")->addAction(program.action("upper"));
+    program.toolBar("file")->insertAction(program.action("open"),
+                                          addAction(program.window(), "extra"));
+    letTheKitFollow();
+    QCOMPARE(program.content("file"), QString("new extra open save"));
+    QVERIFY(program.content("edit").contains("upper"));
+    QCOMPARE(program.kit()->manager()->actions(program.toolBar("file")).size(), 4);
+    program.edit("file", "extra new");
+    QCOMPARE(program.content("file"), QString("extra new"));
+}
+
+void tst_RyToolBarKit_changes::anActionThatTheUserRemovedDoesNotComeBack()
+{
+    KitProgram program;
+    const auto load = [&] {
+        program.toolBar("file")->addAction(addAction(program.window(), "extra"));
+        letTheKitFollow();
+    };
+    program.start();
+    load();
+    program.edit("file", "new open");
+    program.start();
+    load();
+    QCOMPARE(program.content("file"), QString("new open"));
+}
+
+void tst_RyToolBarKit_changes::anActionThatTheProgramTakesOffMayComeBack()
+{
+    KitProgram program;
+    program.start();
+    program.edit("file", "save open | new");
+    QAction *const open = program.action("open");
+    program.toolBar("file")->removeAction(open);
+    letTheKitFollow();
+    program.edit("file", "save | cut new");
+    program.toolBar("file")->addAction(open);
+    letTheKitFollow();
+    QCOMPARE(program.content("file"), QString("save open | cut new"));
+}
+
+void tst_RyToolBarKit_changes::restoreDefaultsKnowsWhatTheProgramAdded()
+{
+    KitProgram program;
+    program.start();
+    program.toolBar("file")->addAction(addAction(program.window(), "extra"));
+    letTheKitFollow();
+    program.edit("file", "cut");
+    program.restoreDefaults();
+    QCOMPARE(program.content("file"), QString("new open save extra"));
+    QVERIFY(program.kit()->isDefault());
+    program.edit("file", "new open save"); // what the manager takes for the default
+    QCOMPARE(program.content("file"), QString("new open save"));
+}
+
+void tst_RyToolBarKit_changes::theWindowMayBeDeletedAtAnyTime_data()
+{
+    QTest::addColumn<int>("when");
+    QTest::newRow("before it is polished") << 0;
+    QTest::newRow("while it is shown") << 1;
+    QTest::newRow("with the dialog open") << 2;
+    QTest::newRow("after a toolbar was deleted") << 3;
+    QTest::newRow("after something has changed") << 4;
+}
+
+void tst_RyToolBarKit_changes::theWindowMayBeDeletedAtAnyTime()
+{
+    QFETCH(int, when);
+    KitProgram program;
+    QMainWindow *const window = new QMainWindow;
+    RyToolBarKit *const kit = new RyToolBarKit(window, false);
+    kit->setSettings(program.settings.get(), "key");
+    KitProgram::buildDefault(window);
+    if (when > 0)
+        window->show();
+    if (when == 2)
+        kit->customizeAction()->trigger();
+    if (when == 3)
+        delete window->findChild<QToolBar *>("edit");
+    if (when == 4)
+        addAction(window->findChild<QToolBar *>("edit"), "late");
+    delete window;
+    letTheKitFollow();
+}
+
+void tst_RyToolBarKit_changes::theKitMayBeDeleted()
+{
+    KitProgram program;
+    program.start();
+    program.create("Mine", "open");
+    program.window()->addToolBar(Qt::LeftToolBarArea, program.toolBar("file"));
+    delete program.kit();
+    QVERIFY(program.stored().contains("\"left\""));
+    QCOMPARE(program.contents(),
+             QStringList({"_Custom_Toolbar_1: open", "edit: cut | copy", "file: new open save"}));
+    delete program.action("open");
+    delete program.toolBar("edit");
+    letTheKitFollow();
+}
+
+void tst_RyToolBarKit_changes::propertiesOfButtonsArePutBack()
+{
+    KitProgram program;
+    program.start();
+    QToolButton *const before = button(program, "file", "open");
+    before->setPopupMode(QToolButton::InstantPopup);
+    before->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    before->setObjectName("openButton");
+    before->setProperty("mine", 7);
+    before->setStyleSheet("color: red");
+    program.edit("file", "save open");
+    const QToolButton *const after = button(program, "file", "open");
+    QVERIFY(after);
+    QCOMPARE(after->popupMode(), QToolButton::InstantPopup);
+    QCOMPARE(after->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+    QCOMPARE(after->objectName(), QString("openButton"));
+    QCOMPARE(after->property("mine").toInt(), 7);
+    QCOMPARE(after->styleSheet(), QString("color: red"));
+    QCOMPARE(button(program, "file", "save")->toolButtonStyle(),
+             program.toolBar("file")->toolButtonStyle());
+    program.toolBar("file")->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    program.edit("file", "open save");
+    QCOMPARE(button(program, "file", "save")->toolButtonStyle(), Qt::ToolButtonTextOnly);
+    QCOMPARE(button(program, "file", "open")->popupMode(), QToolButton::InstantPopup);
+}
+
+void tst_RyToolBarKit_changes::menusOfButtonsArePutBack()
+{
+    KitProgram program;
+    program.start();
+    QMenu *const menu = new QMenu(program.window());
+    button(program, "file", "open")->setMenu(menu);
+    program.edit("file", "open new");
+    QCOMPARE(button(program, "file", "open")->menu(), menu);
+    program.kit()->setFeatures(program.kit()->features() & ~RyToolBarKit::KeepButtons);
+    program.edit("file", "new open");
+    QVERIFY(!button(program, "file", "open")->menu());
+}
+
+void tst_RyToolBarKit_changes::widgetsStayOnTheirToolBar()
+{
+    KitProgram program;
+    QLineEdit *const line = new QLineEdit;
+    QAction *find = nullptr;
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        find = program.toolBar("edit")->addWidget(line);
+        find->setObjectName("find");
+    });
+    program.edit("edit", "find cut");
+    QCOMPARE(program.toolBar("edit")->widgetForAction(find), line);
+    program.edit("file", "open find");
+    QCOMPARE(program.content("file"), QString("open"));
+    QCOMPARE(program.content("edit"), QString("find cut"));
+    QCOMPARE(program.toolBar("edit")->widgetForAction(find), line);
+    QVERIFY(line->isVisible());
+}
+
+void tst_RyToolBarKit_changes::movesAreStoredTogether()
+{
+    KitProgram program;
+    program.start();
+    for (int i = 0; i < 5; ++i) {
+        program.window()->addToolBar(Qt::LeftToolBarArea, program.toolBar("file"));
+        program.window()->addToolBar(Qt::BottomToolBarArea, program.toolBar("file"));
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(program.stored(), QString());
+    QTRY_COMPARE(program.layoutChanges, 1);
+    QVERIFY(program.stored().contains("\"bottom\":[[\"file\"]]"));
+}
+
+void tst_RyToolBarKit_changes::aMoveIsStoredWhenTheWindowCloses()
+{
+    KitProgram program;
+    program.start();
+    program.window()->addToolBar(Qt::LeftToolBarArea, program.toolBar("file"));
+    program.window()->close();
+    QVERIFY(program.stored().contains("\"left\":[[\"file\"]]"));
+}
+
+void tst_RyToolBarKit_changes::theDialogIsOpenedOnce()
+{
+    KitProgram program;
+    program.start();
+    RyCustomizedDialog *const dialog = program.openDialog();
+    QVERIFY(dialog);
+    QCOMPARE(program.openDialog(), dialog);
+    QCOMPARE(program.window()->findChildren<RyCustomizedDialog *>().size(), 1);
+}
+
+void tst_RyToolBarKit_changes::applyStoresAndKeepsTheDialogOpen()
+{
+    KitProgram program;
+    program.start();
+    RyCustomizedDialog *const dialog = program.openDialog();
+    QTest::mouseClick(EditorViews(dialog).newButton, Qt::LeftButton);
+    QTest::mouseClick(dialog->applyButton(), Qt::LeftButton);
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(program.customizations, 1);
+    QCOMPARE(program.layoutChanges, 1);
+    QVERIFY(program.stored().contains("_Custom_Toolbar_1"));
+}
+
+void tst_RyToolBarKit_changes::cancelChangesNothing()
+{
+    KitProgram program;
+    program.start();
+    const QPointer<RyCustomizedDialog> dialog = program.openDialog();
+    QTest::mouseClick(EditorViews(dialog).newButton, Qt::LeftButton);
+    dialog->reject();
+    letTheKitFollow();
+    QVERIFY(!dialog);
+    QCOMPARE(program.customizations, 0);
+    QCOMPARE(program.stored(), QString());
+}
+
+void tst_RyToolBarKit_changes::aboutToCustomizeComesBeforeTheDialogIsShown()
+{
+    KitProgram program;
+    program.start();
+    RyCustomizedDialog *given = nullptr;
+    bool wasVisible = true;
+    QObject::connect(program.kit(), &RyToolBarKit::aboutToCustomize,
+                     [&](RyCustomizedDialog *dialog) {
+                         given = dialog;
+                         wasVisible = dialog->isVisible();
+                     });
+    RyCustomizedDialog *const dialog = program.openDialog();
+    QCOMPARE(dialog, given);
+    QVERIFY(given && !wasVisible);
+}
+
+void tst_RyToolBarKit_changes::requiredRowsSayWhatHappens()
+{
+    KitProgram program;
+    program.start();
+    program.kit()->setRequired(program.action("open"));
+    RyCustomizedDialog *const dialog = program.openDialog();
+    const EditorViews views(dialog);
+    views.click(views.toolBarList, "File");
+    QStringList tips;
+    for (int row = 0; row < views.currentToolBarList->count(); ++row)
+        tips << views.currentToolBarList->item(row)->toolTip();
+    QCOMPARE(tips, QStringList({"", "If you remove it, it returns at the next start.", ""}));
+}
+
+void tst_RyToolBarKit_changes::toolBarsOfTheUserCanBeMovedLikeThoseOfTheProgram()
+{
+    for (const bool isMovable : {true, false}) {
+        KitProgram program;
+        program.start([&](QMainWindow *window) {
+            KitProgram::buildDefault(window);
+            program.toolBar("file")->setMovable(isMovable);
+            program.toolBar("edit")->setMovable(isMovable);
+        });
+        program.create("Mine", "open");
+        QCOMPARE(program.toolBar("_Custom_Toolbar_1")->isMovable(), isMovable);
+        QCOMPARE(program.toolBar("file")->isMovable(), isMovable);
+    }
+}
+
+QTEST_MAIN(tst_RyToolBarKit_changes)
+#include "tst_rytoolbarkit_changes.moc"

@@ -1,0 +1,384 @@
+// SPDX-License-Identifier: MIT
+
+#include "kitwindow.h"
+#include "testcase.h"
+
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QPointer>
+#include <QSpinBox>
+#include <QUrl>
+#include <QWidgetAction>
+#include <QtTest>
+
+class tst_RyToolBarKit_find : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aKitWithoutAWindowPrintsAnErrorAndDoesNothing();
+    void theSecondKitOfAWindowPrintsAnError();
+    void theCustomizeActionIsThereFromTheBeginning();
+    void nothingIsFoundBeforeTheWindowIsPolished();
+    void actionsAreInTheCategoriesOfTheirMenus();
+    void toolBarsAreDefaultToolBarsWithTheirContent();
+    void anActionInTwoMenusIsInTheFirstCategory();
+    void entriesOfListsAreNotOffered_data();
+    void entriesOfListsAreNotOffered();
+    void invisibleActionsAreOfferedWhenTheyBecomeVisible();
+    void handedOverActionsAreInTheirCategory();
+    void excludedObjectsAreNotOffered();
+    void excludedActionsStayOnTheirToolBar();
+    void featuresThatAreOffFindNothing();
+    void namesAreFoundWithoutAnObjectName_data();
+    void namesAreFoundWithoutAnObjectName();
+    void objectsOfTheProgramKeepTheirNames();
+    void whatHasNoStableNameIsAProblem();
+    void widgetsWithoutTextGetOne();
+};
+
+namespace {
+
+QStringList offered(const KitProgram &program, const QString &category)
+{
+    QStringList texts;
+    const auto actions = program.kit()->manager()->categoryActions(category);
+    for (const QAction *action : actions)
+        texts << action->text();
+    return texts;
+}
+
+// The entries of the toolbar "bar" in the stored layout, after one more action was put on it.
+QString storedEntries(KitProgram *program)
+{
+    const QString text = program->kit()->saveLayout();
+    const int begin = text.indexOf("\"entries\":") + 10;
+    return text.mid(begin, text.indexOf(']', begin) + 1 - begin);
+}
+
+} // namespace
+
+void tst_RyToolBarKit_find::aKitWithoutAWindowPrintsAnErrorAndDoesNothing()
+{
+    RyToolBarKit kit(nullptr, true);
+    QCOMPARE(takeWarnings(), QStringList("RyToolBarKit: there is no window"));
+    QVERIFY(kit.customizeAction());
+    kit.customizeAction()->trigger();
+    QVERIFY(!kit.manager());
+    QVERIFY(!kit.restoreNow());
+    QVERIFY(!kit.restoreLayout("{}"));
+    kit.addActions({kit.customizeAction(), nullptr}, "A");
+    kit.setFormerNames(kit.customizeAction(), {"a"});
+    kit.setExcluded(kit.customizeAction());
+    kit.setRequired(kit.customizeAction());
+    kit.setSettings(nullptr, "key");
+    QCOMPARE(kit.problems(), QStringList());
+    QVERIFY(kit.isDefault());
+    kit.saveLayout();
+}
+
+void tst_RyToolBarKit_find::theSecondKitOfAWindowPrintsAnError()
+{
+    KitProgram program;
+    program.start();
+    RyToolBarKit second(program.window());
+    QCOMPARE(takeWarnings(), QStringList("RyToolBarKit: the window has a kit already"));
+    QVERIFY(!second.restoreNow());
+    QVERIFY(!second.manager());
+}
+
+void tst_RyToolBarKit_find::theCustomizeActionIsThereFromTheBeginning()
+{
+    QMainWindow window;
+    RyToolBarKit kit(&window);
+    QCOMPARE(kit.customizeAction()->text(), QString::fromUtf8("Customize Toolbars…"));
+    QCOMPARE(kit.customizeAction()->objectName(), QString("customizeToolBars"));
+}
+
+void tst_RyToolBarKit_find::nothingIsFoundBeforeTheWindowIsPolished()
+{
+    QMainWindow window;
+    RyToolBarKit kit(&window, false);
+    kit.setSettings(nullptr, QString());
+    addAction(window.menuBar()->addMenu("File"), "open");
+    QVERIFY(!kit.manager());
+    QCOMPARE(kit.problems(), QStringList());
+    window.ensurePolished();
+    QVERIFY(kit.manager());
+    QCOMPARE(kit.manager()->categories(), QStringList("File"));
+    QVERIFY(!kit.restoreNow());
+}
+
+void tst_RyToolBarKit_find::actionsAreInTheCategoriesOfTheirMenus()
+{
+    KitProgram program;
+    program.start();
+    QCOMPARE(program.kit()->manager()->categories(),
+             QStringList({"Edit", "Edit / Special", "File"}));
+    QCOMPARE(offered(program, "File"), QStringList({"New", "Open", "Save"}));
+    QCOMPARE(offered(program, "Edit"), QStringList({"Cut", "Copy", "Paste", "&Special"}));
+    QCOMPARE(offered(program, "Edit / Special"), QStringList("Upper"));
+}
+
+void tst_RyToolBarKit_find::toolBarsAreDefaultToolBarsWithTheirContent()
+{
+    KitProgram program;
+    program.start();
+    QCOMPARE(program.contents(), QStringList({"edit: cut | copy", "file: new open save"}));
+    QCOMPARE(program.kit()->manager()->toolBars().size(), 2);
+    for (const char *name : {"file", "edit"}) {
+        QToolBar *const toolBar = program.toolBar(name);
+        QVERIFY(program.kit()->manager()->isDefaultToolBar(toolBar));
+        QCOMPARE(program.kit()->manager()->actions(toolBar).size(), 3);
+    }
+    QVERIFY(program.kit()->isDefault());
+}
+
+void tst_RyToolBarKit_find::anActionInTwoMenusIsInTheFirstCategory()
+{
+    KitProgram program;
+    program.start([](QMainWindow *window) {
+        QMenu *const first = window->menuBar()->addMenu("First");
+        QMenu *const second = window->menuBar()->addMenu("Second");
+        second->addAction(addAction(first, "both"));
+        second->addAction(first->menuAction()); // a menu in itself must not loop either
+        first->addAction(second->menuAction());
+    });
+    QCOMPARE(offered(program, "First").first(), QString("Both"));
+    QVERIFY(!offered(program, "Second").contains("Both"));
+}
+
+void tst_RyToolBarKit_find::entriesOfListsAreNotOffered_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("data");
+    QTest::addColumn<QString>("statusTip");
+    QTest::addColumn<QString>("objectName");
+    QTest::addColumn<bool>("isOffered");
+
+    const QVariant none;
+    QTest::newRow("plain") << "Notes" << none << ""
+                           << "" << true;
+    QTest::newRow("path as text") << "/home/notes.txt" << none << ""
+                                  << "" << false;
+    QTest::newRow("path as data") << "notes.txt" << QVariant("/home/notes.txt") << ""
+                                  << "" << false;
+    QTest::newRow("URL as data") << "notes" << QVariant(QUrl("https://a.example/b")) << ""
+                                 << "" << false;
+    QTest::newRow("path as status tip") << "notes.txt" << none << "/home/notes.txt"
+                                        << "" << false;
+    QTest::newRow("digit as mnemonic") << "&1 notes.txt" << none << ""
+                                       << "" << false;
+    QTest::newRow("no text") << "" << none << ""
+                             << "" << false;
+    QTest::newRow("with a name") << "/home/notes.txt" << none << ""
+                                 << "recent" << true;
+}
+
+void tst_RyToolBarKit_find::entriesOfListsAreNotOffered()
+{
+    QFETCH(QString, text);
+    QFETCH(QVariant, data);
+    QFETCH(QString, statusTip);
+    QFETCH(QString, objectName);
+    QFETCH(bool, isOffered);
+
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        QAction *const action = window->menuBar()->addMenu("File")->addAction(text);
+        action->setData(data);
+        action->setStatusTip(statusTip);
+        action->setObjectName(objectName);
+    });
+    QCOMPARE(offered(program, "File").size(), isOffered ? 1 : 0);
+}
+
+void tst_RyToolBarKit_find::invisibleActionsAreOfferedWhenTheyBecomeVisible()
+{
+    KitProgram program;
+    program.start([](QMainWindow *window) {
+        addAction(window->menuBar()->addMenu("File"), "late")->setVisible(false);
+    });
+    QCOMPARE(offered(program, "File"), QStringList());
+    program.action("late")->setVisible(true);
+    letTheKitFollow();
+    QCOMPARE(offered(program, "File"), QStringList("Late"));
+    program.action("late")->setVisible(false);
+    letTheKitFollow();
+    QCOMPARE(offered(program, "File"), QStringList("Late"));
+}
+
+void tst_RyToolBarKit_find::handedOverActionsAreInTheirCategory()
+{
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        QAction *const early = addAction(window, "early");
+        QAction *const inMenu = addAction(window->menuBar()->addMenu("File"), "menu");
+        program.kit()->addActions({early, nullptr, early, inMenu}, "Mine");
+    });
+    QCOMPARE(offered(program, "Mine"), QStringList("Early"));
+    QCOMPARE(offered(program, "File"), QStringList("Menu"));
+    program.kit()->addActions({addAction(program.window(), "late")}, "Mine");
+    QCOMPARE(offered(program, "Mine"), QStringList({"Early", "Late"}));
+}
+
+void tst_RyToolBarKit_find::excludedObjectsAreNotOffered()
+{
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        program.kit()->setExcluded(program.action("paste"));
+        program.kit()->setExcluded(program.window()->findChild<QMenu *>("special"));
+        program.kit()->setExcluded(program.toolBar("edit"));
+        program.kit()->setExcluded(nullptr);
+    });
+    QCOMPARE(program.kit()->manager()->categories(), QStringList({"Edit", "File"}));
+    QCOMPARE(offered(program, "Edit"), QStringList({"Cut", "Copy"}));
+    QCOMPARE(program.kit()->manager()->toolBars(), QList<QToolBar *>({program.toolBar("file")}));
+    QCOMPARE(program.content("edit"), QString("cut | copy"));
+}
+
+void tst_RyToolBarKit_find::excludedActionsStayOnTheirToolBar()
+{
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        program.kit()->setExcluded(program.action("open"));
+    });
+    QCOMPARE(program.content("file"), QString("new open save"));
+    QCOMPARE(offered(program, "File"), QStringList({"New", "Save"}));
+    QCOMPARE(program.kit()->manager()->categories(),
+             QStringList({"Edit", "Edit / Special", "File"}));
+    program.edit("file", "save open");
+    QCOMPARE(program.content("file"), QString("save open"));
+}
+
+void tst_RyToolBarKit_find::featuresThatAreOffFindNothing()
+{
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        program.kit()->setFeatures(program.kit()->features() & ~RyToolBarKit::FindActions);
+    });
+    QCOMPARE(program.kit()->manager()->categories(), QStringList({"Edit", "File"}));
+    QCOMPARE(offered(program, "Edit"), QStringList({"Cut", "Copy"}));
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        program.kit()->setFeatures(program.kit()->features() & ~RyToolBarKit::FindToolBars);
+    });
+    QCOMPARE(program.kit()->manager()->toolBars().size(), 0);
+    QCOMPARE(offered(program, "Edit").size(), 4);
+}
+
+void tst_RyToolBarKit_find::namesAreFoundWithoutAnObjectName_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("objectName") << "objectName"
+                                << "[\"own\",\"other\"]";
+    QTest::newRow("menu") << "menu"
+                          << "[\"menuOfIt\",\"other\"]";
+    QTest::newRow("widget") << "widget"
+                            << "[\"widgetOfIt\",\"other\"]";
+    QTest::newRow("class of a widget") << "class"
+                                       << "[\"widget:QSpinBox\",\"other\"]";
+    QTest::newRow("dock widget") << "dock"
+                                 << "[\"dock/toggleViewAction\",\"other\"]";
+    QTest::newRow("property") << "property"
+                              << "[\"memberOfIt\",\"other\"]";
+    QTest::newRow("text") << "text"
+                          << "[\"text:Text\",\"other\"]";
+}
+
+void tst_RyToolBarKit_find::namesAreFoundWithoutAnObjectName()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, name);
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        QToolBar *const bar = window->addToolBar("Bar");
+        bar->setObjectName("bar");
+        if (kind == "objectName") {
+            bar->addAction("Own")->setObjectName("own");
+        } else if (kind == "menu") {
+            QMenu *const menu = new QMenu("Menu", window);
+            menu->setObjectName("menuOfIt");
+            bar->addAction(menu->menuAction());
+        } else if (kind == "widget") {
+            QSpinBox *const box = new QSpinBox;
+            box->setObjectName("widgetOfIt");
+            bar->addWidget(box);
+        } else if (kind == "class") {
+            bar->addWidget(new QSpinBox);
+        } else if (kind == "dock") {
+            QDockWidget *const dock = new QDockWidget("Dock", window);
+            dock->setObjectName("dock");
+            bar->addAction(dock->toggleViewAction());
+        } else if (kind == "property") {
+            window->setProperty("memberOfIt", QVariant::fromValue<QObject *>(bar->addAction("A")));
+        } else {
+            bar->addAction("Te&xt");
+        }
+        program.kit()->addActions({addAction(window, "other")}, "Mine");
+    });
+    QToolBar *const bar = program.toolBar("bar");
+    program.kit()->manager()->setToolBar(
+        bar, program.kit()->manager()->actions(bar) << program.action("other"));
+    QCOMPARE(storedEntries(&program), name);
+    QCOMPARE(program.kit()->problems().size(), kind == "text" ? 1 : 0);
+}
+
+void tst_RyToolBarKit_find::objectsOfTheProgramKeepTheirNames()
+{
+    KitProgram program;
+    QPointer<QAction> action;
+    program.start([&](QMainWindow *window) {
+        QToolBar *const bar = window->addToolBar("Bar");
+        action = bar->addAction("Text");
+    });
+    QCOMPARE(action->objectName(), QString());
+    QCOMPARE(program.window()->findChildren<QToolBar *>().first()->objectName(), QString());
+    program.kit()->restoreLayout(QByteArray());
+    QCOMPARE(action->objectName(), QString());
+}
+
+void tst_RyToolBarKit_find::whatHasNoStableNameIsAProblem()
+{
+    KitProgram program;
+    program.start([](QMainWindow *window) {
+        QMenu *const menu = window->menuBar()->addMenu("File");
+        menu->addAction("&Nameless");
+        addAction(menu, "twice");
+        addAction(menu, "twice");
+        window->addToolBar("Bar");
+    });
+    const QString noName = "has no name that is the same in every language: give it an objectName";
+    QCOMPARE(
+        program.kit()->problems(),
+        QStringList({"QToolBar \"Bar\" " + noName, "QAction \"Nameless\" " + noName,
+                     "QAction \"Twice\" has the name \"twice\", but something else has it too: "
+                     "give each an objectName of its own"}));
+}
+
+void tst_RyToolBarKit_find::widgetsWithoutTextGetOne()
+{
+    KitProgram program;
+    QAction *spin = nullptr;
+    QAction *titled = nullptr;
+    QAction *own = nullptr;
+    program.start([&](QMainWindow *window) {
+        QToolBar *const bar = window->addToolBar("Bar");
+        spin = bar->addWidget(new QSpinBox);
+        QSpinBox *const box = new QSpinBox;
+        box->setToolTip("Size");
+        titled = bar->addWidget(box);
+        own = bar->addWidget(new QSpinBox);
+        own->setText("Own");
+    });
+    QCOMPARE(spin->text(), QString("QSpinBox"));
+    QCOMPARE(titled->text(), QString("Size"));
+    QCOMPARE(own->text(), QString("Own"));
+}
+
+QTEST_MAIN(tst_RyToolBarKit_find)
+#include "tst_rytoolbarkit_find.moc"

@@ -1,0 +1,562 @@
+// SPDX-License-Identifier: MIT
+
+#include "kitwindow.h"
+#include "testcase.h"
+
+#include <QMenuBar>
+#include <QtTest>
+
+class tst_RyToolBarKit_layout : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingIsStoredWithoutAChange();
+    void theContentReturnsAtTheNextStart();
+    void customToolBarsReturnAtTheNextStart();
+    void removedToolBarsStayAway();
+    void restoreDefaultsIsStoredToo();
+    void placesReturnAtTheNextStart();
+    void floatingToolBarsReturnAtTheNextStart();
+    void aLayoutOfTheProgramIsNotOurs();
+    void whatTheUserHidesStaysHidden();
+    void whatTheProgramHidesIsNotKept();
+    void theProgramWinsIfItStartsDifferently();
+    void aNewDefaultActionAppearsBesideItsNeighbour();
+    void aRemovedDefaultActionStaysAway();
+    void aToolBarAsShippedFollowsTheProgram();
+    void formerNamesAreFollowed();
+    void formerNamesOfToolBarsAreFollowed();
+    void namesOfAnotherReleaseKeepTheirPlace();
+    void toolBarsOfAnotherReleaseKeepTheirLayout();
+    void aRequiredActionReturnsAtTheNextStart();
+    void damagedValuesLeaveTheSecondCopy();
+    void refusedValuesAreKeptUntilTheUserChangesSomething();
+    void bytesOfAManagerAreTakenOver();
+    void bytesOfAWindowAreTakenOver();
+    void restoreLayoutReplacesEverything();
+    void restoreLayoutRefusesOtherBytes();
+    void restoreNowRestoresInTheConstructor();
+    void anEmptyKeyStoresNothing();
+    void theKeyHasTheNameOfTheWindow();
+    void windowsWithTheSameKeyFollow();
+    void windowsWithOtherKeysDoNot();
+};
+
+namespace {
+
+void buildWithout(QMainWindow *window, const QString &name)
+{
+    KitProgram::buildDefault(window);
+    delete window->findChild<QAction *>(name);
+}
+
+} // namespace
+
+void tst_RyToolBarKit_layout::nothingIsStoredWithoutAChange()
+{
+    KitProgram program;
+    program.start();
+    QVERIFY(program.kit()->isDefault());
+    QTest::mouseClick(program.openDialog()->okButton(), Qt::LeftButton);
+    program.end();
+    QCOMPARE(program.stored(), QString());
+    QCOMPARE(program.layoutChanges, 0);
+    QCOMPARE(program.customizations, 1);
+}
+
+void tst_RyToolBarKit_layout::theContentReturnsAtTheNextStart()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste | upper cut | new");
+    QCOMPARE(program.content("edit"), QString("paste | upper cut | new"));
+    QCOMPARE(program.layoutChanges, 1);
+    QVERIFY(!program.kit()->isDefault());
+    QVERIFY(!program.stored().isEmpty());
+    program.start();
+    QCOMPARE(program.contents(),
+             QStringList({"edit: paste | upper cut | new", "file: new open save"}));
+    QVERIFY(!program.kit()->isDefault());
+}
+
+void tst_RyToolBarKit_layout::customToolBarsReturnAtTheNextStart()
+{
+    KitProgram program;
+    program.start();
+    program.create("Mine", "open | copy");
+    program.create("", "");
+    program.start();
+    QCOMPARE(program.contents(),
+             QStringList({"_Custom_Toolbar_1: open | copy",
+                          "_Custom_Toolbar_2: ", "edit: cut | copy", "file: new open save"}));
+    QCOMPARE(program.toolBar("_Custom_Toolbar_1")->windowTitle(), QString("Mine"));
+    QVERIFY(program.toolBar("_Custom_Toolbar_1")->isVisible());
+    QVERIFY(!program.kit()->manager()->isDefaultToolBar(program.toolBar("_Custom_Toolbar_1")));
+}
+
+void tst_RyToolBarKit_layout::removedToolBarsStayAway()
+{
+    KitProgram program;
+    program.start();
+    program.create("One", "open");
+    program.create("Two", "copy");
+    program.remove("_Custom_Toolbar_1");
+    program.start();
+    QCOMPARE(program.contents(),
+             QStringList({"_Custom_Toolbar_2: copy", "edit: cut | copy", "file: new open save"}));
+    program.remove("_Custom_Toolbar_2");
+    QVERIFY(program.kit()->isDefault());
+}
+
+void tst_RyToolBarKit_layout::restoreDefaultsIsStoredToo()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    program.create("Mine", "open");
+    program.restoreDefaults();
+    QVERIFY(program.kit()->isDefault());
+    program.start();
+    QCOMPARE(program.contents(), QStringList({"edit: cut | copy", "file: new open save"}));
+}
+
+void tst_RyToolBarKit_layout::placesReturnAtTheNextStart()
+{
+    KitProgram program;
+    program.start();
+    program.create("Mine", "open");
+    QMainWindow *const window = program.window();
+    window->addToolBar(Qt::LeftToolBarArea, program.toolBar("file"));
+    window->addToolBarBreak();
+    window->addToolBar(program.toolBar("edit"));
+    const QStringList places = {"left: file", "top: _Custom_Toolbar_1 / edit"};
+    QCOMPARE(program.places(), places);
+    program.start();
+    QCOMPARE(program.places(), places);
+    program.start();
+    QCOMPARE(program.places(), places);
+    QCOMPARE(program.layoutChanges, 2);
+}
+
+void tst_RyToolBarKit_layout::floatingToolBarsReturnAtTheNextStart()
+{
+    KitProgram program;
+    program.start();
+    program.toolBar("edit")->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    program.toolBar("edit")->move(120, 80);
+    program.toolBar("edit")->show();
+    program.start();
+    QVERIFY(program.toolBar("edit")->isFloating());
+    QCOMPARE(program.toolBar("edit")->pos(), QPoint(120, 80));
+    QVERIFY(program.toolBar("edit")->isVisible());
+    QVERIFY(!program.toolBar("file")->isFloating());
+}
+
+void tst_RyToolBarKit_layout::aLayoutOfTheProgramIsNotOurs()
+{
+    QByteArray state;
+    KitProgram program;
+    program.start();
+    program.create("Mine", "open");
+    program.window()->addToolBar(Qt::LeftToolBarArea, program.toolBar("file"));
+    state = program.window()->saveState();
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        window->restoreState(state);
+    });
+    QCOMPARE(program.places(), QStringList({"left: file", "top: edit, _Custom_Toolbar_1"}));
+    QVERIFY(program.toolBar("_Custom_Toolbar_1")->isVisible());
+}
+
+void tst_RyToolBarKit_layout::whatTheUserHidesStaysHidden()
+{
+    KitProgram program;
+    program.start();
+    program.create("Mine", "open");
+    program.toolBar("edit")->toggleViewAction()->trigger();
+    program.toolBar("_Custom_Toolbar_1")->toggleViewAction()->trigger();
+    program.start();
+    QVERIFY(!program.toolBar("edit")->isVisible());
+    QVERIFY(!program.toolBar("_Custom_Toolbar_1")->isVisible());
+    QVERIFY(program.toolBar("file")->isVisible());
+    program.toolBar("edit")->toggleViewAction()->trigger();
+    program.start();
+    QVERIFY(program.toolBar("edit")->isVisible());
+    QVERIFY(!program.toolBar("_Custom_Toolbar_1")->isVisible());
+}
+
+void tst_RyToolBarKit_layout::whatTheProgramHidesIsNotKept()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    program.toolBar("file")->hide(); // as for full screen
+    program.start();
+    QVERIFY(program.toolBar("file")->isVisible());
+}
+
+void tst_RyToolBarKit_layout::theProgramWinsIfItStartsDifferently()
+{
+    const auto buildHidden = [](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        window->findChild<QToolBar *>("edit")->hide();
+    };
+    KitProgram program;
+    program.start(buildHidden);
+    program.toolBar("edit")->toggleViewAction()->trigger();
+    program.start(buildHidden);
+    QVERIFY(program.toolBar("edit")->isVisible());
+    program.start();
+    QVERIFY(program.toolBar("edit")->isVisible());
+    program.start(buildHidden);
+    QVERIFY(program.toolBar("edit")->isVisible());
+    program.toolBar("edit")->toggleViewAction()->trigger();
+    program.start();
+    program.toolBar("edit")->toggleViewAction()->trigger();
+    program.start(buildHidden); // as a program does that keeps this itself
+    QVERIFY(!program.toolBar("edit")->isVisible());
+}
+
+void tst_RyToolBarKit_layout::aNewDefaultActionAppearsBesideItsNeighbour()
+{
+    KitProgram program;
+    program.start([](QMainWindow *window) { buildWithout(window, "open"); });
+    program.edit("file", "cut | new copy save");
+    program.start();
+    QCOMPARE(program.content("file"), QString("cut | new open copy save"));
+    QCOMPARE(program.layoutChanges, 1);
+    program.edit("file", "cut | new copy save");
+    program.start();
+    QCOMPARE(program.content("file"), QString("cut | new copy save"));
+}
+
+void tst_RyToolBarKit_layout::aRemovedDefaultActionStaysAway()
+{
+    KitProgram program;
+    program.start();
+    program.edit("file", "save");
+    program.start([](QMainWindow *window) { buildWithout(window, "open"); });
+    program.edit("file", "save cut"); // this release does not have "open" and must not forget it
+    program.start();
+    QCOMPARE(program.content("file"), QString("save cut"));
+}
+
+void tst_RyToolBarKit_layout::aToolBarAsShippedFollowsTheProgram()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    program.start([](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QToolBar *const bar = window->findChild<QToolBar *>("file");
+        const auto actions = bar->actions();
+        bar->clear();
+        bar->addActions({actions.at(2), actions.at(0)});
+    });
+    QCOMPARE(program.content("file"), QString("save new"));
+}
+
+void tst_RyToolBarKit_layout::formerNamesAreFollowed()
+{
+    KitProgram program;
+    program.start();
+    program.edit("file", "paste open");
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QAction *const action = program.action("open");
+        action->setObjectName("openFile");
+        program.kit()->setFormerNames(action, {"load", "open"});
+        program.kit()->setFormerNames(nullptr, {"new"});
+        program.kit()->setFormerNames(program.action("new"), {"paste"}); // still a name
+    });
+    QCOMPARE(program.content("file"), QString("paste openFile"));
+}
+
+void tst_RyToolBarKit_layout::formerNamesOfToolBarsAreFollowed()
+{
+    KitProgram program;
+    program.start();
+    program.edit("file", "paste open");
+    program.window()->addToolBar(Qt::BottomToolBarArea, program.toolBar("file"));
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QToolBar *const toolBar = program.toolBar("file");
+        toolBar->setObjectName("fileBar");
+        program.kit()->setFormerNames(toolBar, {"file"});
+    });
+    QCOMPARE(program.content("fileBar"), QString("paste open"));
+    QCOMPARE(program.places(), QStringList({"bottom: fileBar", "top: edit"}));
+}
+
+void tst_RyToolBarKit_layout::namesOfAnotherReleaseKeepTheirPlace()
+{
+    const auto build = [](QMainWindow *window) {
+        for (const char *name : {"open", "save"})
+            delete window->findChild<QAction *>(name);
+    };
+    KitProgram program;
+    program.start();
+    program.edit("edit", "cut open | save copy");
+    const auto buildOther = [&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        build(window);
+    };
+    for (int run = 0; run < 3; ++run) {
+        program.start(buildOther);
+        QCOMPARE(program.content("edit"), QString("cut | copy"));
+    }
+    program.edit("edit", "paste cut | copy");
+    program.start(buildOther);
+    program.start();
+    QCOMPARE(program.content("edit"), QString("paste cut open | save copy"));
+}
+
+void tst_RyToolBarKit_layout::toolBarsOfAnotherReleaseKeepTheirLayout()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    program.window()->insertToolBar(program.toolBar("file"), program.toolBar("edit"));
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        delete window->findChild<QToolBar *>("edit");
+    });
+    program.edit("file", "save");
+    program.create("Mine", "copy");
+    program.start();
+    QCOMPARE(program.contents(),
+             QStringList({"_Custom_Toolbar_1: copy", "edit: paste", "file: save"}));
+    QCOMPARE(program.places(), QStringList("top: edit, file, _Custom_Toolbar_1"));
+}
+
+void tst_RyToolBarKit_layout::aRequiredActionReturnsAtTheNextStart()
+{
+    const auto build = [](KitProgram *program) {
+        program->kit()->setRequired(program->action("open"));
+        program->kit()->setRequired(program->action("paste")); // on no default toolbar
+        program->kit()->setRequired(nullptr);
+    };
+    KitProgram program;
+    const auto buildRequired = [&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        build(&program);
+    };
+    program.start(buildRequired);
+    program.edit("file", "new save");
+    QCOMPARE(program.content("file"), QString("new save"));
+    program.start(buildRequired);
+    QCOMPARE(program.content("file"), QString("new open save"));
+    program.edit("file", "new save");
+    program.edit("edit", "open");
+    program.start(buildRequired);
+    QCOMPARE(program.content("file"), QString("new save"));
+}
+
+void tst_RyToolBarKit_layout::damagedValuesLeaveTheSecondCopy()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    program.end();
+    const QString good = program.stored();
+    QString damaged = good;
+    damaged.replace("paste", "pasta");
+    program.store(damaged);
+    program.start();
+    QCOMPARE(program.refusals, QStringList("the layout is damaged: its checksum is wrong"));
+    QCOMPARE(program.content("edit"), QString("paste"));
+    program.end();
+    QCOMPARE(program.stored(), damaged);
+}
+
+void tst_RyToolBarKit_layout::refusedValuesAreKeptUntilTheUserChangesSomething()
+{
+    KitProgram program;
+    program.store("something else");
+    program.start();
+    QCOMPARE(program.refusals, QStringList("the value is not a layout of toolbars"));
+    QCOMPARE(program.contents(), QStringList({"edit: cut | copy", "file: new open save"}));
+    program.end();
+    QCOMPARE(program.stored(), QString("something else"));
+    program.start();
+    program.edit("edit", "paste");
+    QVERIFY(program.stored().contains("paste"));
+    program.start();
+    QCOMPARE(program.refusals.size(), 2);
+    QCOMPARE(program.content("edit"), QString("paste"));
+}
+
+void tst_RyToolBarKit_layout::bytesOfAManagerAreTakenOver()
+{
+    QByteArray bytes;
+    {
+        KitProgram program;
+        program.start();
+        program.edit("edit", "paste | new");
+        program.create("Mine", "open | save");
+        bytes = program.kit()->manager()->saveState(3);
+    }
+    for (const bool inSettings : {false, true}) {
+        KitProgram program;
+        if (inSettings)
+            program.settings->setValue("toolBars", bytes);
+        program.start([](QMainWindow *window) { buildWithout(window, "new"); });
+        if (!inSettings)
+            QVERIFY(program.kit()->restoreLayout(bytes));
+        QCOMPARE(program.content("edit"), QString("paste |"));
+        QCOMPARE(program.content("_Custom_Toolbar_1"), QString("open | save"));
+        QCOMPARE(program.toolBar("_Custom_Toolbar_1")->windowTitle(), QString("Mine"));
+        program.edit("file", "cut");
+        program.start();
+        QCOMPARE(program.content("edit"), QString("paste | new"));
+    }
+}
+
+void tst_RyToolBarKit_layout::bytesOfAWindowAreTakenOver()
+{
+    KitProgram program;
+    program.start();
+    program.window()->addToolBar(Qt::RightToolBarArea, program.toolBar("file"));
+    program.window()->addToolBar(Qt::RightToolBarArea, program.toolBar("edit"));
+    program.toolBar("edit")->hide();
+    const QByteArray bytes = program.window()->saveState(5);
+    KitProgram later;
+    later.start();
+    QVERIFY(later.kit()->restoreLayout(bytes));
+    QCOMPARE(later.places(), QStringList("right: file, edit"));
+    QVERIFY(!later.toolBar("edit")->isVisible());
+    QVERIFY(later.toolBar("file")->isVisible());
+    later.start();
+    QCOMPARE(later.places(), QStringList("right: file, edit"));
+    for (int size = 0; size < bytes.size(); ++size)
+        QVERIFY2(size == 0 || !later.kit()->restoreLayout(bytes.left(size)),
+                 QByteArray::number(size).constData());
+}
+
+void tst_RyToolBarKit_layout::restoreLayoutReplacesEverything()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    program.create("Mine", "open");
+    const QByteArray layout = program.kit()->saveLayout();
+    QVERIFY(program.kit()->restoreLayout(QByteArray()));
+    QVERIFY(program.kit()->isDefault());
+    QCOMPARE(program.contents(), QStringList({"edit: cut | copy", "file: new open save"}));
+    program.create("Other", "copy");
+    program.create("Third", "copy");
+    QVERIFY(program.kit()->restoreLayout(layout));
+    QCOMPARE(program.contents(),
+             QStringList({"_Custom_Toolbar_1: open", "edit: paste", "file: new open save"}));
+    QCOMPARE(program.toolBar("_Custom_Toolbar_1")->windowTitle(), QString("Mine"));
+    QCOMPARE(program.kit()->saveLayout(), layout);
+    QCOMPARE(program.stored(), QString(layout));
+}
+
+void tst_RyToolBarKit_layout::restoreLayoutRefusesOtherBytes()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    const QByteArray layout = program.kit()->saveLayout();
+    QByteArray state = program.kit()->manager()->saveState(1);
+    state.chop(1);
+    const QList<QByteArray> values = {"x", "{}", QByteArray(4, '\0'), state, layout.left(50)};
+    for (const QByteArray &value : values) {
+        QVERIFY(!program.kit()->restoreLayout(value));
+        QCOMPARE(program.kit()->saveLayout(), layout);
+    }
+    QCOMPARE(program.refusals.size(), values.size());
+}
+
+void tst_RyToolBarKit_layout::restoreNowRestoresInTheConstructor()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QVERIFY(program.kit()->restoreNow());
+        QCOMPARE(program.content("edit"), QString("paste"));
+        QVERIFY(!program.kit()->restoreNow());
+    });
+    QCOMPARE(program.content("edit"), QString("paste"));
+    program.end();
+    program.settings->clear();
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QVERIFY(!program.kit()->restoreNow());
+    });
+}
+
+void tst_RyToolBarKit_layout::anEmptyKeyStoresNothing()
+{
+    KitProgram program;
+    const auto build = [&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        program.kit()->setSettings(program.settings.get(), QString());
+    };
+    program.start(build);
+    program.edit("edit", "paste");
+    QCOMPARE(program.settings->allKeys(), QStringList());
+    const QByteArray layout = program.kit()->saveLayout();
+    program.start(build);
+    QCOMPARE(program.content("edit"), QString("cut | copy"));
+    QVERIFY(program.kit()->restoreLayout(layout));
+    QCOMPARE(program.content("edit"), QString("paste"));
+}
+
+void tst_RyToolBarKit_layout::theKeyHasTheNameOfTheWindow()
+{
+    QTemporaryDir folder;
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    QCoreApplication::setOrganizationName("Tests");
+    for (const char *name : {"editor", ""}) {
+        QMainWindow window;
+        window.setObjectName(name);
+        RyToolBarKit kit(&window, false);
+        KitProgram::buildDefault(&window);
+        kit.restoreNow();
+        QCOMPARE(kit.problems().size(), *name ? 0 : 1);
+        kit.manager()->setToolBar(window.findChild<QToolBar *>("edit"), {});
+        window.close();
+    }
+    QStringList keys = QSettings().allKeys();
+    keys.sort();
+    QCOMPARE(keys,
+             QStringList({"toolBars/QMainWindow", "toolBars/QMainWindow.format1", "toolBars/editor",
+                          "toolBars/editor.format1"}));
+}
+
+void tst_RyToolBarKit_layout::windowsWithTheSameKeyFollow()
+{
+    KitProgram program;
+    program.start();
+    KitProgram other;
+    other.settings.reset(
+        new QSettings(program.folder.filePath("settings.ini"), QSettings::IniFormat));
+    other.start();
+    program.edit("edit", "paste");
+    program.create("Mine", "open");
+    QCOMPARE(other.contents(), program.contents());
+    QCOMPARE(other.layoutChanges, 2);
+    QCOMPARE(other.customizations, 0);
+    other.kit()->setFeatures(other.kit()->features() & ~RyToolBarKit::FollowOthers);
+    program.edit("edit", "copy");
+    QCOMPARE(other.content("edit"), QString("paste"));
+}
+
+void tst_RyToolBarKit_layout::windowsWithOtherKeysDoNot()
+{
+    KitProgram program;
+    program.start();
+    KitProgram other;
+    other.start();
+    program.edit("edit", "paste");
+    QCOMPARE(other.content("edit"), QString("cut | copy"));
+}
+
+QTEST_MAIN(tst_RyToolBarKit_layout)
+#include "tst_rytoolbarkit_layout.moc"
