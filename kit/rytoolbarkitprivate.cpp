@@ -92,6 +92,7 @@ RyToolBarKitPrivate::~RyToolBarKitPrivate()
     // A window that is being deleted is no main window any more.
     if (qobject_cast<QMainWindow *>(m_kit->parent()))
         storeNow();
+    giveUpManager();
 }
 
 bool RyToolBarKitPrivate::findEverything()
@@ -112,12 +113,20 @@ bool RyToolBarKitPrivate::findEverything()
 
 void RyToolBarKitPrivate::createManager()
 {
-    manager.reset(new RyToolBarManager);
+    manager = new RyToolBarManager;
     manager->setMainWindow(m_window);
     m_actionNames = StableNames(m_window);
     m_toolBarNames = StableNames(m_window);
     findMenus();
     findToolBars();
+}
+
+// One of its own calls may be the reason.
+void RyToolBarKitPrivate::giveUpManager()
+{
+    if (manager)
+        manager->deleteLater();
+    manager = nullptr;
 }
 
 // A manager cannot forget a toolbar of the program, so another one takes its place.
@@ -161,14 +170,14 @@ void RyToolBarKitPrivate::setToDefaults()
 
 void RyToolBarKitPrivate::findMenus()
 {
+    offerHandedOver();
     if (features & RyToolBarKit::FindActions) {
         const auto found = m_menus->find(m_excluded);
         for (const MenuActions::Found &item : found) {
-            if (!isListEntry(item.action))
+            if (!isOffered(item.action) && !isListEntry(item.action))
                 offer(item.action, item.category);
         }
     }
-    offerHandedOver();
 }
 
 void RyToolBarKitPrivate::offerHandedOver()
@@ -299,6 +308,7 @@ void RyToolBarKitPrivate::update()
     findMenus();
     const QSet<const QToolBar *> changed = m_changedToolBars;
     m_changedToolBars.clear();
+    m_newButtons.clear(); // made by the program, which sets their properties itself
     const auto toolBars = manager->toolBars();
     for (QToolBar *toolBar : toolBars) {
         if (changed.contains(toolBar))
@@ -330,6 +340,10 @@ void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
     const QSet<QString> now = namesIn(names);
     if (before == now)
         return;
+    for (QAction *action : inManager) {
+        if (action && !onWidget.contains(action))
+            m_buttons.forget(action);
+    }
     m_takenOff[toolBar] -= now;
     m_takenOff[toolBar] += before - now;
     if (m_defaults.contains(toolBar))
@@ -384,6 +398,7 @@ void RyToolBarKitPrivate::toolBarEvent(QToolBar *toolBar, QEvent *event)
         followLater(toolBar);
         break;
     case QEvent::ActionAdded:
+        m_newButtons[toolBar].insert(static_cast<QActionEvent *>(event)->action());
         followLater(toolBar);
         break;
     default:
@@ -415,9 +430,10 @@ void RyToolBarKitPrivate::toolBarDestroyed(QObject *object)
     m_takenOff.remove(toolBar);
     m_shownByProgram.remove(toolBar);
     m_changedToolBars.remove(toolBar);
+    m_newButtons.remove(toolBar);
     if (!manager || !manager->toolBars().contains(toolBar))
         return;
-    manager.reset();
+    giveUpManager();
     m_updateTimer.start();
 }
 

@@ -14,7 +14,6 @@
 #include <QDialog>
 #include <QPair>
 #include <QPointer>
-#include <QScopedPointer>
 #include <QTimer>
 
 class FormerLayout;
@@ -53,7 +52,7 @@ public:
     LayoutStore store;
     // Null before everything is found, and after a toolbar of the program was deleted until the
     // event loop runs again.
-    QScopedPointer<RyToolBarManager> manager;
+    QPointer<RyToolBarManager> manager;
     QAction *customizeAction;
 
 protected:
@@ -77,6 +76,7 @@ private:
     // Finding
     bool findEverything();
     void createManager();
+    void giveUpManager();
     void startAgain();
     void findMenus();
     void findToolBars();
@@ -109,6 +109,7 @@ private:
     void renameInLayout(const QString &before, const QString &now, bool isToolBar);
     void placeAll();
     void place(QToolBar *toolBar);
+    void putBackButtons(QToolBar *toolBar);
     void applyPlaces();
     void applyVisibility(QToolBar *toolBar);
     void bringBackRequired();
@@ -148,6 +149,8 @@ private:
     // The actions whose widget exists only once, with the toolbar that it belongs to.
     QHash<const QAction *, const QToolBar *> m_homes;
     ButtonProperties m_buttons;
+    // The actions whose buttons Qt has made since the last look.
+    QHash<const QToolBar *, QSet<const QAction *>> m_newButtons;
     QList<QPointer<QToolBar>> m_customToolBars;
 
     KitLayout m_layout;

@@ -26,7 +26,7 @@ void RyToolBarKitPrivate::customize()
     for (const QAction *action : actions)
         m_namesInDialog.insert(m_actionNames.nameOf(action));
 
-    RyCustomizedDialog *const dialog = new RyCustomizedDialog({manager.data(), nullptr}, m_window);
+    RyCustomizedDialog *const dialog = new RyCustomizedDialog({manager, nullptr}, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::ApplicationModal);
     m_dialog = dialog;

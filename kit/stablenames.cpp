@@ -168,8 +168,10 @@ QString StableNames::memberOf(const QObject *object) const
     };
     const QMetaObject *const meta = m_window->metaObject();
     for (int i = QMainWindow::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
-        if (holds(meta->property(i).read(m_window)))
-            return QLatin1String(meta->property(i).name());
+        // Reading others may do something in the program.
+        const QMetaProperty property = meta->property(i);
+        if (QByteArray(property.typeName()).endsWith('*') && holds(property.read(m_window)))
+            return QLatin1String(property.name());
     }
     const auto dynamicNames = m_window->dynamicPropertyNames();
     for (const QByteArray &name : dynamicNames) {
