@@ -78,7 +78,8 @@ none_is_installed() {
 list_files() {
     tools/as-root.sh find /etc /opt /usr /var/lib \
         \( -path /var/lib/apt -o -path /var/lib/dpkg \) -prune -o -print >"$1.unsorted" &&
-        find /var/lib/dpkg/info -name '*rycustomizeddialog*' >>"$1.unsorted" &&
+        find /var/lib/dpkg/info -name '*rycustomizeddialog*' -o -name '*rytoolbarkit*' \
+            >>"$1.unsorted" &&
         sort "$1.unsorted" >"$1" && echo "$(wc -l <"$1") files and folders"
 }
 
@@ -113,7 +114,8 @@ no_trace_is_left() {
         echo "taken away: $path"
         left=1
     done < <(comm -23 "$work/before.txt" "$work/after.txt")
-    ! ldconfig -p | grep RyCustomizedDialog && [ "$left" -eq 0 ] && echo 'Nothing is left behind.'
+    ! ldconfig -p | grep -E 'RyCustomizedDialog|RyToolBarKit' && [ "$left" -eq 0 ] &&
+        echo 'Nothing is left behind.'
 }
 
 step 'Packages' tools/install-packages.sh package

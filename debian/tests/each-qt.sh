@@ -10,13 +10,16 @@ examples=/usr/share/doc/librycustomizeddialog-examples/examples
 #   qt        5 or 6
 #   name      of the library for CMake, pkg-config and linkers
 #   package   of the library
+#   kit, kit_package  the same of the kit
 #   standard  the oldest C++ of hosts
 # shellcheck disable=SC2034 # not every test uses all of them
 with_each_qt() {
     for qt in 5 6; do
         case $qt in
-            5) name=RyCustomizedDialog package=librycustomizeddialog1 standard=c++11 ;;
-            6) name=RyCustomizedDialog-qt6 package=librycustomizeddialog-qt6-1 standard=c++17 ;;
+            5) name=RyCustomizedDialog package=librycustomizeddialog1
+               kit=RyToolBarKit kit_package=librytoolbarkit1 standard=c++11 ;;
+            6) name=RyCustomizedDialog-qt6 package=librycustomizeddialog-qt6-1
+               kit=RyToolBarKit-qt6 kit_package=librytoolbarkit-qt6-1 standard=c++17 ;;
         esac
         mkdir "$AUTOPKGTEST_TMP/$1-qt$qt"
         cd "$AUTOPKGTEST_TMP/$1-qt$qt" || exit
@@ -32,16 +35,28 @@ build_with_cmake() {
     cmake --build . --parallel "$(nproc)"
 }
 
+# library_is_from PACKAGE PROGRAM NAME
+library_is_from() {
+    library=$(ldd "./$2" | sed -n "s/.*lib$3\.so.* => \(\S*\).*/\1/p")
+    dpkg-query -S "$(realpath "$library")" | grep "^$1:"
+}
+
 # visit_minimal: a user opens the dialog of the smallest example and presses OK, and the layout is
 # kept. The library is the one of the package.
 visit_minimal() {
     # shellcheck disable=SC2046 # several words are meant
     g++ -std=c++17 -fPIC -shared -Wall -Werror "$sources/tools/package/visitor.cpp" \
         -o visitor.so $(pkg-config --cflags --libs "Qt${qt}Widgets")
-    library=$(ldd ./minimal | sed -n "s/.*lib$name\.so.* => \(\S*\).*/\1/p")
-    dpkg-query -S "$(realpath "$library")" | grep "^$package:"
+    library_is_from "$package" minimal "$name"
     # The offscreen platform always warns.
     HOME=$PWD/home XDG_CONFIG_HOME=$PWD/home QT_QPA_PLATFORM=offscreen LD_PRELOAD=$PWD/visitor.so \
         timeout 60 ./minimal 2>&1
     grep '^toolBars=' home/RyCustomizedDialog/Minimal.conf
+}
+
+# visit_kithost: the host of the kit has a user of its own, who reads German.
+visit_kithost() {
+    library_is_from "$kit_package" kithost "$kit"
+    library_is_from "$package" kithost "$name"
+    QT_QPA_PLATFORM=offscreen timeout 60 ./kithost translated 2>&1
 }

@@ -14,7 +14,7 @@ import unittest
 from pathlib import Path
 
 SOURCE_DIR = Path(os.environ['SOURCE_DIR'])
-SUBSYSTEMS = ('dialog', 'toolbarmanager', 'toolbareditor', 'ribbon')
+SUBSYSTEMS = ('dialog', 'toolbarmanager', 'toolbareditor', 'ribbon', 'kit')
 
 # Headers of functions that share a class.
 NAMED_AFTER_FUNCTIONS = ('toolbarmanager/nameindex.h',)
@@ -97,7 +97,9 @@ class Files(unittest.TestCase):
 
     def test_debian_packages_promise_the_symbols_of_the_contract(self):
         contracts = {'librycustomizeddialog1': 'symbols.txt',
-                     'librycustomizeddialog-qt6-1': 'symbols-qt6.txt'}
+                     'librycustomizeddialog-qt6-1': 'symbols-qt6.txt',
+                     'librytoolbarkit1': 'kit-symbols.txt',
+                     'librytoolbarkit-qt6-1': 'kit-symbols-qt6.txt'}
         lists = tracked('debian/*.symbols')
         self.assertEqual(sorted(path.stem for path in lists), sorted(contracts))
         for path in lists:
