@@ -231,6 +231,7 @@ void RyToolBarKitPrivate::offer(QAction *action, const QString &category)
     if (!action || action->isSeparator() || isOffered(action))
         return;
     m_actionNames.add(action);
+    m_offered.insert(action, action);
     connect(action, SIGNAL(destroyed(QObject *)), this, SLOT(actionDestroyed(QObject *)),
             Qt::UniqueConnection);
     if (m_excluded.contains(action))
@@ -306,7 +307,7 @@ void RyToolBarKitPrivate::update()
     }
     const QSet<QAction *> before = manager->actions();
     findMenus();
-    const QSet<const QToolBar *> changed = m_changedToolBars;
+    const QSet<const QObject *> changed = m_changedToolBars;
     m_changedToolBars.clear();
     m_newButtons.clear(); // made by the program, which sets their properties itself
     const auto toolBars = manager->toolBars();
@@ -414,27 +415,37 @@ void RyToolBarKitPrivate::followLater(const QToolBar *toolBar)
 
 void RyToolBarKitPrivate::actionDestroyed(QObject *object)
 {
-    QAction *const action = static_cast<QAction *>(object);
+    QAction *const action = m_offered.take(object);
     if (manager)
         manager->removeAction(action);
     m_actionNames.remove(object);
-    m_buttons.forget(action);
-    m_homes.remove(action);
+    m_buttons.forget(object);
+    m_homes.remove(object);
 }
 
 void RyToolBarKitPrivate::toolBarDestroyed(QObject *object)
 {
-    QToolBar *const toolBar = static_cast<QToolBar *>(object);
     m_toolBarNames.remove(object);
-    m_defaults.remove(toolBar);
-    m_takenOff.remove(toolBar);
-    m_shownByProgram.remove(toolBar);
-    m_changedToolBars.remove(toolBar);
-    m_newButtons.remove(toolBar);
-    if (!manager || !manager->toolBars().contains(toolBar))
+    m_defaults.remove(object);
+    m_takenOff.remove(object);
+    m_shownByProgram.remove(object);
+    m_changedToolBars.remove(object);
+    m_newButtons.remove(object);
+    if (!isManaged(object))
         return;
     giveUpManager();
     m_updateTimer.start();
+}
+
+// False for a toolbar that the manager itself has deleted.
+bool RyToolBarKitPrivate::isManaged(const QObject *object) const
+{
+    const auto toolBars = manager ? manager->toolBars() : QList<QToolBar *>();
+    for (const QToolBar *toolBar : toolBars) {
+        if (toolBar == object)
+            return true;
+    }
+    return false;
 }
 
 void RyToolBarKitPrivate::addActions(const QList<QAction *> &actions, const QString &category)
