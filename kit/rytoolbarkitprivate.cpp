@@ -35,16 +35,21 @@ bool hasDigitAsMnemonic(const QString &text)
     return index >= 0 && index + 1 < text.size() && text.at(index + 1).isDigit();
 }
 
-// The best text that a widget without a title has.
+// The best text that a widget on a toolbar has.
 QString textOfWidget(const QWidget *widget)
 {
-    const char *const names[] = {"windowTitle", "accessibleName", "placeholderText", "toolTip"};
+    const char *const names[] = {"windowTitle", "accessibleName", "placeholderText",
+                                 "toolTip",     "statusTip",      "text"};
     for (const char *name : names) {
         const QString text = StableNames::plainText(widget->property(name).toString());
         if (!text.isEmpty())
             return text;
     }
-    return QLatin1String(widget->metaObject()->className());
+    if (!widget->objectName().isEmpty())
+        return StableNames::inWords(widget->objectName());
+    return widget->metaObject() == &QWidget::staticMetaObject
+        ? RyToolBarKit::tr("Space")
+        : QString::fromLatin1(widget->metaObject()->className());
 }
 
 bool isShownByProgram(const QToolBar *toolBar)
@@ -274,14 +279,19 @@ void RyToolBarKitPrivate::addToolBar(QToolBar *toolBar)
 void RyToolBarKitPrivate::prepareAction(QToolBar *toolBar, QAction *action)
 {
     const QWidgetAction *const widgetAction = qobject_cast<QWidgetAction *>(action);
-    const QWidget *const widget = widgetAction ? widgetAction->defaultWidget() : nullptr;
+    QWidget *const widget = widgetAction ? widgetAction->defaultWidget() : nullptr;
     if (widget && !m_homes.contains(action))
         m_homes.insert(action, toolBar);
     if (action->isSeparator() || !action->text().isEmpty())
         return;
     const QString text = widget ? textOfWidget(widget) : action->toolTip();
-    if (!text.isEmpty())
-        action->setText(text);
+    if (text.isEmpty())
+        return;
+    // Each change of the action makes Qt enable or disable the widget like the action.
+    const bool isDisabled = widget && widget->testAttribute(Qt::WA_ForceDisabled);
+    action->setText(text);
+    if (isDisabled)
+        widget->setEnabled(false);
 }
 
 void RyToolBarKitPrivate::watchToolBar(QToolBar *toolBar)

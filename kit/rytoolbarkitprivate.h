@@ -121,6 +121,8 @@ private:
     QHash<const QToolBar *, QString> toolBarNames() const;
 
     // The dialog
+    void giveTitles();
+    void takeTitlesBack();
     void adoptCreatedToolBars();
     void takeOffStrangeWidgets();
     void completeReset();
@@ -170,6 +172,9 @@ private:
     QListWidget *m_rowsInDialog;
     // Whether Restore Defaults was pressed since the dialog was opened or changes were applied.
     bool m_isReset;
+    // The toolbars without a title that have one while the dialog is open, and the texts of the
+    // actions that show them.
+    QList<QPair<QPointer<QToolBar>, QString>> m_untitled;
     // The names of the actions that the open dialog had when it was opened.
     QSet<QString> m_namesInDialog;
 };
