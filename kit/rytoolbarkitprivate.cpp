@@ -35,16 +35,21 @@ bool hasDigitAsMnemonic(const QString &text)
     return index >= 0 && index + 1 < text.size() && text.at(index + 1).isDigit();
 }
 
-// The best text that a widget without a title has.
+// The best text that a widget on a toolbar has.
 QString textOfWidget(const QWidget *widget)
 {
-    const char *const names[] = {"windowTitle", "accessibleName", "placeholderText", "toolTip"};
+    const char *const names[] = {"windowTitle", "accessibleName", "placeholderText",
+                                 "toolTip",     "statusTip",      "text"};
     for (const char *name : names) {
         const QString text = StableNames::plainText(widget->property(name).toString());
         if (!text.isEmpty())
             return text;
     }
-    return QLatin1String(widget->metaObject()->className());
+    if (!widget->objectName().isEmpty())
+        return StableNames::inWords(widget->objectName());
+    return widget->metaObject() == &QWidget::staticMetaObject
+        ? RyToolBarKit::tr("Space")
+        : QString::fromLatin1(widget->metaObject()->className());
 }
 
 bool isShownByProgram(const QToolBar *toolBar)
@@ -231,6 +236,7 @@ void RyToolBarKitPrivate::offer(QAction *action, const QString &category)
     if (!action || action->isSeparator() || isOffered(action))
         return;
     m_actionNames.add(action);
+    m_offered.insert(action, action);
     connect(action, SIGNAL(destroyed(QObject *)), this, SLOT(actionDestroyed(QObject *)),
             Qt::UniqueConnection);
     if (m_excluded.contains(action))
@@ -273,14 +279,19 @@ void RyToolBarKitPrivate::addToolBar(QToolBar *toolBar)
 void RyToolBarKitPrivate::prepareAction(QToolBar *toolBar, QAction *action)
 {
     const QWidgetAction *const widgetAction = qobject_cast<QWidgetAction *>(action);
-    const QWidget *const widget = widgetAction ? widgetAction->defaultWidget() : nullptr;
+    QWidget *const widget = widgetAction ? widgetAction->defaultWidget() : nullptr;
     if (widget && !m_homes.contains(action))
         m_homes.insert(action, toolBar);
     if (action->isSeparator() || !action->text().isEmpty())
         return;
     const QString text = widget ? textOfWidget(widget) : action->toolTip();
-    if (!text.isEmpty())
-        action->setText(text);
+    if (text.isEmpty())
+        return;
+    // Each change of the action makes Qt enable or disable the widget like the action.
+    const bool isDisabled = widget && widget->testAttribute(Qt::WA_ForceDisabled);
+    action->setText(text);
+    if (isDisabled)
+        widget->setEnabled(false);
 }
 
 void RyToolBarKitPrivate::watchToolBar(QToolBar *toolBar)
@@ -306,7 +317,7 @@ void RyToolBarKitPrivate::update()
     }
     const QSet<QAction *> before = manager->actions();
     findMenus();
-    const QSet<const QToolBar *> changed = m_changedToolBars;
+    const QSet<const QObject *> changed = m_changedToolBars;
     m_changedToolBars.clear();
     m_newButtons.clear(); // made by the program, which sets their properties itself
     const auto toolBars = manager->toolBars();
@@ -414,27 +425,37 @@ void RyToolBarKitPrivate::followLater(const QToolBar *toolBar)
 
 void RyToolBarKitPrivate::actionDestroyed(QObject *object)
 {
-    QAction *const action = static_cast<QAction *>(object);
+    QAction *const action = m_offered.take(object);
     if (manager)
         manager->removeAction(action);
     m_actionNames.remove(object);
-    m_buttons.forget(action);
-    m_homes.remove(action);
+    m_buttons.forget(object);
+    m_homes.remove(object);
 }
 
 void RyToolBarKitPrivate::toolBarDestroyed(QObject *object)
 {
-    QToolBar *const toolBar = static_cast<QToolBar *>(object);
     m_toolBarNames.remove(object);
-    m_defaults.remove(toolBar);
-    m_takenOff.remove(toolBar);
-    m_shownByProgram.remove(toolBar);
-    m_changedToolBars.remove(toolBar);
-    m_newButtons.remove(toolBar);
-    if (!manager || !manager->toolBars().contains(toolBar))
+    m_defaults.remove(object);
+    m_takenOff.remove(object);
+    m_shownByProgram.remove(object);
+    m_changedToolBars.remove(object);
+    m_newButtons.remove(object);
+    if (!isManaged(object))
         return;
     giveUpManager();
     m_updateTimer.start();
+}
+
+// False for a toolbar that the manager itself has deleted.
+bool RyToolBarKitPrivate::isManaged(const QObject *object) const
+{
+    const auto toolBars = manager ? manager->toolBars() : QList<QToolBar *>();
+    for (const QToolBar *toolBar : toolBars) {
+        if (toolBar == object)
+            return true;
+    }
+    return false;
 }
 
 void RyToolBarKitPrivate::addActions(const QList<QAction *> &actions, const QString &category)

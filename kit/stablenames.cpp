@@ -143,6 +143,23 @@ QString StableNames::plainText(const QString &text)
     return plain.trimmed();
 }
 
+QString StableNames::inWords(const QString &name)
+{
+    QString words;
+    bool begins = true;
+    for (const QChar letter : name) {
+        const bool isLetter = letter.isLetterOrNumber();
+        if (isLetter && (begins || (letter.isUpper() && words.at(words.size() - 1).isLower()))) {
+            words += words.isEmpty() ? QString() : QStringLiteral(" ");
+            words += letter.toUpper();
+        } else if (isLetter) {
+            words += letter;
+        }
+        begins = !isLetter;
+    }
+    return words;
+}
+
 bool StableNames::hasName(const QAction *action) const
 {
     return !nameFor(action).isEmpty();

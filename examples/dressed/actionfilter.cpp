@@ -2,6 +2,8 @@
 
 #include "actionfilter.h"
 
+#include "plaintextdelegate.h"
+
 #include <QKeyEvent>
 #include <QTreeWidget>
 
@@ -10,7 +12,7 @@ namespace {
 bool contains(const QTreeWidgetItem *item, const QString &text)
 {
     // The text for screen readers may be simpler than the one that is shown.
-    return item->text(0).contains(text, Qt::CaseInsensitive)
+    return PlainTextDelegate::plainText(item->text(0)).contains(text, Qt::CaseInsensitive)
         || item->data(0, Qt::AccessibleTextRole).toString().contains(text, Qt::CaseInsensitive);
 }
 

@@ -3,6 +3,7 @@
 #include "dressing.h"
 
 #include "actionfilter.h"
+#include "plaintextdelegate.h"
 
 #include <RyCustomizedDialog>
 
@@ -45,12 +46,22 @@ Dressing::Dressing(RyCustomizedDialog *dialog)
     , m_back(m_leftButton->icon())
     , m_forward(m_rightButton->icon())
 {
+    hideMnemonics();
     addFilter();
     addNames();
     addShortcuts();
     replaceHelp();
     pointArrows();
     m_page->installEventFilter(this);
+}
+
+// One for each view: a delegate reports the end of an edit to all its views.
+void Dressing::hideMnemonics()
+{
+    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_actionTree),
+                                    static_cast<QAbstractItemView *>(m_toolBarList),
+                                    static_cast<QAbstractItemView *>(m_currentToolBarList)})
+        view->setItemDelegate(new PlainTextDelegate(view));
 }
 
 void Dressing::addFilter()

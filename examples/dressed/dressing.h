@@ -14,8 +14,8 @@ class RyCustomizedDialog;
 
 /*!
  * \brief Additions that a host can make to RyCustomizedDialog from outside: a filter for the
- *        actions, names for screen readers, shortcuts, the host's own help, and arrows that follow
- *        the layout direction.
+ *        actions, texts without "&", names for screen readers, shortcuts, the host's own help, and
+ *        arrows that follow the layout direction.
  *
  * It finds the dialog's parts by their objectNames, which never change.
  *
@@ -24,6 +24,8 @@ class RyCustomizedDialog;
  * new Dressing(&dialog);
  * dialog.exec();
  * \endcode
+ *
+ * With RyToolBarKit, do it when aboutToCustomize() is emitted.
  */
 class Dressing : public QObject
 {
@@ -46,6 +48,7 @@ private Q_SLOTS:
 
 private:
     template <typename Widget> Widget *part(const char *name) const;
+    void hideMnemonics();
     void addFilter();
     void addNames();
     void addShortcuts();

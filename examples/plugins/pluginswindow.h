@@ -3,10 +3,7 @@
 #ifndef PLUGINSWINDOW_H
 #define PLUGINSWINDOW_H
 
-#include "pluginactions.h"
 #include "textplugin.h"
-
-#include <RyToolBarManager>
 
 #include <QMainWindow>
 
@@ -21,34 +18,22 @@ class PluginsWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    //! Restores the layout and switches on the plugins that the user had on; at first, all of them.
+    //! Switches on the plugins that the user had on; at first, all of them.
     //!
     //! \param settings the application's settings, which must outlive the window.
     //! \param plugins the plugins that are installed now; they may differ from those of the last
     //! run.
     PluginsWindow(QSettings *settings, const QList<TextPlugin> &plugins, QWidget *parent = nullptr);
 
-protected:
-    void closeEvent(QCloseEvent *event) override;
-
-private Q_SLOTS:
-    void customizeToolBars();
-    void forgetAbsentPlugins();
-
 private:
     void createOwnCommands();
     void createPluginsMenu(const QList<TextPlugin> &plugins);
     void createSettingsMenu();
-    void restoreLayout();
-    void saveToolBars();
     void switchPlugin(const TextPlugin &plugin, bool on);
 
     QSettings *const m_settings;
     QPlainTextEdit *const m_editor;
-    QMenu *m_pluginsMenu = nullptr;
     QMenu *m_commandsMenu = nullptr;
-    RyToolBarManager m_manager;
-    PluginActions m_pluginActions;
     // The actions of each plugin that is on.
     QHash<QString, QList<QAction *>> m_running;
 };

@@ -31,21 +31,6 @@ QPixmap withHalo(const QPixmap &drawing, const QColor &color)
     return result;
 }
 
-// A style tints the icons of selected rows with the color of their background, so they can hardly
-// be seen in the toolbar editor. These icons have their own pixmaps for selected rows.
-QIcon iconNamed(const char *name)
-{
-    const QIcon drawing(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
-    const QColor selected = QGuiApplication::palette().color(QPalette::HighlightedText);
-    QIcon icon;
-    for (const int size : {16, 22, 24, 32}) {
-        const QPixmap pixmap = drawing.pixmap(size);
-        icon.addPixmap(pixmap);
-        icon.addPixmap(withHalo(pixmap, selected), QIcon::Selected);
-    }
-    return icon;
-}
-
 } // namespace
 
 ActionCatalog::ActionCatalog(QObject *parent)
@@ -69,9 +54,23 @@ QAction *ActionCatalog::action(const char *name) const
     return action;
 }
 
+// A style tints the icons of selected rows with the color of their background, so they can hardly
+// be seen in the toolbar editor. These icons have their own pixmaps for selected rows.
+QIcon ActionCatalog::icon(const char *name)
+{
+    const QIcon drawing(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
+    const QColor selected = QGuiApplication::palette().color(QPalette::HighlightedText);
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32}) {
+        const QPixmap pixmap = drawing.pixmap(size);
+        icon.addPixmap(pixmap);
+        icon.addPixmap(withHalo(pixmap, selected), QIcon::Selected);
+    }
+    return icon;
+}
+
 void ActionCatalog::addFileActions()
 {
-    startCategory(tr("File"));
     add("file_new", "new", tr("New"), tr("Start an empty document"), QKeySequence::New);
     add("file_open", "open", tr("Open…"), tr("Open a document"), QKeySequence::Open);
     add("file_reload", "reload", tr("Reload"), tr("Read the document from its file again"),
@@ -84,7 +83,6 @@ void ActionCatalog::addFileActions()
 
 void ActionCatalog::addEditActions()
 {
-    startCategory(tr("Edit"));
     add("edit_undo", "undo", tr("Undo"), tr("Undo the last change"), QKeySequence::Undo);
     add("edit_redo", "redo", tr("Redo"), tr("Redo the last undone change"), QKeySequence::Redo);
     add("edit_cut", "cut", tr("Cut"), tr("Move the selection to the clipboard"), QKeySequence::Cut);
@@ -117,7 +115,6 @@ void ActionCatalog::addSearchActions()
 
 void ActionCatalog::addViewActions()
 {
-    startCategory(tr("View"));
     add("view_zoom_in", "zoom-in", tr("Zoom In"), tr("Show the text larger"), QKeySequence::ZoomIn);
     add("view_zoom_out", "zoom-out", tr("Zoom Out"), tr("Show the text smaller"),
         QKeySequence::ZoomOut);
@@ -132,7 +129,6 @@ void ActionCatalog::addViewActions()
 
 void ActionCatalog::addFormatActions()
 {
-    startCategory(tr("Format"));
     addCheckable("format_bold", "bold", tr("Bold"), tr("Make the selection bold"),
                  QKeySequence::Bold);
     addCheckable("format_italic", "italic", tr("Italic"), tr("Make the selection italic"),
@@ -168,7 +164,6 @@ void ActionCatalog::addParagraphActions()
 
 void ActionCatalog::addToolActions()
 {
-    startCategory(tr("Tools"));
     add("tools_date_time", "date-time", tr("Insert Date and Time"),
         tr("Insert the current date and time"), Qt::Key_F9);
     add("tools_sort_lines", "sort-lines", tr("Sort Lines"),
@@ -176,23 +171,15 @@ void ActionCatalog::addToolActions()
     add("tools_word_count", "word-count", tr("Word Count"),
         tr("Count lines, words and characters"));
     addCheckable("tools_read_only", "read-only", tr("Read Only"), tr("Protect the text"));
-    add("tools_customize_toolbars", "customize-toolbars", tr("Customize Toolbars…"),
-        tr("Choose the buttons of the toolbars"));
     add("tools_reset_toolbars", "reset-toolbars", tr("Reset Toolbars"),
-        tr("Restore the original content of the default toolbars"));
+        tr("Restore the original toolbars"));
 }
 
 void ActionCatalog::addHelpActions()
 {
-    startCategory(tr("Help"));
     add("help_tour", "help", tr("Toolbar Tour"), tr("Open a page about the toolbars"),
         QKeySequence::HelpContents);
     add("help_about", "about", tr("About Text Editor"), tr("Show what this application is"));
-}
-
-void ActionCatalog::startCategory(const QString &title)
-{
-    m_categories.append({title, QList<QAction *>()});
 }
 
 QAction *ActionCatalog::add(const char *name, const char *icon, const QString &text,
@@ -200,7 +187,7 @@ QAction *ActionCatalog::add(const char *name, const char *icon, const QString &t
 {
     QAction *const action = new QAction(m_parent);
     action->setObjectName(QLatin1String(name));
-    action->setIcon(iconNamed(icon));
+    action->setIcon(ActionCatalog::icon(icon));
     action->setText(text);
     action->setStatusTip(tip);
     action->setToolTip(tip);
@@ -208,7 +195,7 @@ QAction *ActionCatalog::add(const char *name, const char *icon, const QString &t
     if (!shortcut.isEmpty())
         action->setToolTip(
             tip + QStringLiteral(" (%1)").arg(shortcut.toString(QKeySequence::NativeText)));
-    m_categories.last().actions.append(action);
+    m_all.append(action);
     return action;
 }
 

@@ -5,35 +5,33 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QIcon>
 #include <QKeySequence>
 #include <QList>
 #include <QString>
 
 /*!
- * \brief Every command of the application: its action and its category.
+ * \brief Every command of the application.
  *
- * The menus, the default toolbars and the toolbar manager all take their actions from here. An
- * saved toolbar layout identifies an action by its objectName, so names must be unique and must
- * never change. The texts may change. They have no "&", because the toolbar editor would show it.
+ * The menus and the default toolbars take their actions from here. A stored layout identifies an
+ * action by its objectName, so names must be unique and must never change. The texts may change.
+ * They have no "&", because the toolbar editor would show it.
  */
 class ActionCatalog
 {
     Q_DECLARE_TR_FUNCTIONS(ActionCatalog)
 
 public:
-    struct Category
-    {
-        QString title;
-        QList<QAction *> actions;
-    };
-
     //! Creates all actions as children of \a parent.
     explicit ActionCatalog(QObject *parent);
 
     //! Returns the action called \a name, which must exist.
     QAction *action(const char *name) const;
 
-    const QList<Category> &categories() const { return m_categories; }
+    const QList<QAction *> &all() const { return m_all; }
+
+    //! Returns the icon called \a name, which must exist.
+    static QIcon icon(const char *name);
 
 private:
     void addFileActions();
@@ -44,14 +42,13 @@ private:
     void addParagraphActions();
     void addToolActions();
     void addHelpActions();
-    void startCategory(const QString &title);
     QAction *add(const char *name, const char *icon, const QString &text, const QString &tip,
                  const QKeySequence &shortcut = QKeySequence());
     QAction *addCheckable(const char *name, const char *icon, const QString &text,
                           const QString &tip, const QKeySequence &shortcut = QKeySequence());
 
     QObject *const m_parent;
-    QList<Category> m_categories;
+    QList<QAction *> m_all;
 };
 
 #endif // ACTIONCATALOG_H

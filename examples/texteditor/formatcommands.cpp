@@ -94,10 +94,8 @@ void FormatCommands::showAlignment()
 
 void FormatCommands::setReadOnly(bool readOnly)
 {
-    for (const ActionCatalog::Category &category : m_actions.categories()) {
-        for (QAction *action : category.actions) {
-            if (action->objectName().startsWith(QLatin1String("format_")))
-                action->setEnabled(!readOnly);
-        }
+    for (QAction *action : m_actions.all()) {
+        if (action->objectName().startsWith(QLatin1String("format_")))
+            action->setEnabled(!readOnly);
     }
 }

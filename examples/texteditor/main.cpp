@@ -38,10 +38,9 @@ int main(int argc, char *argv[])
     commandLine.process(application);
     const auto settings = openSettings(commandLine.settingsFile());
 
-    MainWindow window(settings.get()); // registers every action and toolbar
     if (commandLine.resetLayout())
-        window.forgetLayout();
-    window.restoreLayout();
+        MainWindow::forgetLayout(settings.get());
+    MainWindow window(settings.get());
     window.show();
     if (!commandLine.document().isEmpty())
         window.openFile(commandLine.document());

@@ -10,22 +10,32 @@
 #include "statusline.h"
 #include "viewcommands.h"
 
-#include <RyCustomizedDialog>
+#include <RyToolBarKit>
 
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QVBoxLayout>
 
+namespace {
+
+const QLatin1String LayoutGroup("layout");
+const QLatin1String LayoutKey("layout/toolBars");
+const QLatin1String GeometryKey("window/geometry");
+
+} // namespace
+
 MainWindow::MainWindow(QSettings *settings, QWidget *parent)
     : QMainWindow(parent)
+    , m_settings(settings)
     , m_actions(this)
-    , m_layout(this, &m_manager, settings)
     , m_recentFiles(settings)
+    , m_kit(new RyToolBarKit(this))
     , m_editor(new EditorView)
     , m_findBar(new FindBar(m_editor))
     , m_statusLine(new StatusLine(statusBar(), m_editor))
@@ -44,11 +54,12 @@ MainWindow::MainWindow(QSettings *settings, QWidget *parent)
     new ViewCommands(m_actions, m_editor, this, settings);
     createMenus();
     createToolBars();
-    registerWithManager();
+    setUpKit();
     connectActions();
 
     setIconSize(QSize(22, 22));
     resize(960, 680);
+    restoreGeometry(settings->value(GeometryKey).toByteArray());
     showPath(QString());
     m_editor->setFocus();
 }
@@ -62,6 +73,7 @@ void MainWindow::createMenus()
     recent->setIcon(QIcon(QStringLiteral(":/icons/recent.svg")));
     file->insertMenu(m_actions.action("file_reload"), recent);
     m_recentFiles.fill(recent);
+    m_kit->setExcluded(recent); // filled each time it is shown
 
     createMenu(tr("&Edit"),
                {"edit_undo", "edit_redo", "|", "edit_cut", "edit_copy", "edit_paste", "edit_delete",
@@ -81,7 +93,7 @@ void MainWindow::createMenus()
     QMenu *const settings = createMenu(tr("&Settings"), {});
     createToolBarsMenu(settings);
     settings->addSeparator();
-    addActionsTo(settings, {"tools_customize_toolbars", "tools_reset_toolbars"});
+    addKitActionsTo(settings);
     createMenu(tr("&Help"), {"help_tour", "|", "help_about"});
 }
 
@@ -95,6 +107,13 @@ void MainWindow::createToolBarsMenu(QMenu *parent)
         for (QToolBar *toolBar : toolBars)
             menu->addAction(toolBar->toggleViewAction());
     });
+    m_kit->setExcluded(menu);
+}
+
+void MainWindow::addKitActionsTo(QMenu *menu)
+{
+    menu->addAction(m_kit->customizeAction());
+    menu->addAction(m_actions.action("tools_reset_toolbars"));
 }
 
 void MainWindow::createToolBars()
@@ -139,18 +158,39 @@ void MainWindow::addActionsTo(QWidget *widget, std::initializer_list<const char 
     }
 }
 
-// Registers every action that may be placed on a toolbar, with its category, and every toolbar of
-// the application. A reset brings back the contents that the toolbars have now.
-void MainWindow::registerWithManager()
+// The kit finds the menus and toolbars by itself. This says where the layout is kept, and shows the
+// user what goes wrong with it.
+void MainWindow::setUpKit()
 {
-    m_manager.setMainWindow(this);
-    for (const ActionCatalog::Category &category : m_actions.categories()) {
-        for (QAction *action : category.actions)
-            m_manager.addAction(action, category.title);
-    }
-    const auto toolBars = findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QToolBar *toolBar : toolBars)
-        m_manager.addDefaultToolBar(toolBar, toolBar->windowTitle());
+    m_kit->setSettings(m_settings, LayoutKey);
+    m_kit->customizeAction()->setIcon(ActionCatalog::icon("customize-toolbars"));
+    m_kit->customizeAction()->setStatusTip(tr("Choose the buttons of the toolbars"));
+    connect(m_actions.action("tools_reset_toolbars"), &QAction::triggered, m_kit,
+            [this] { m_kit->restoreLayout(QByteArray()); });
+    connect(m_kit, &RyToolBarKit::layoutRefused, this, [this] {
+        notify(tr("The stored toolbars cannot be read; a copy of them or the default toolbars are "
+                  "shown."));
+    });
+    connect(m_kit, &RyToolBarKit::layoutChanged, this, [this] {
+        m_settings->sync();
+        notify(settingsProblem());
+    });
+    if (m_settings->status() == QSettings::FormatError)
+        notify(tr("The settings file %1 is damaged.").arg(m_settings->fileName()));
+    else
+        notify(settingsProblem());
+}
+
+QString MainWindow::settingsProblem() const
+{
+    if (m_settings->status() == QSettings::AccessError || !m_settings->isWritable())
+        return tr("The toolbars cannot be stored in %1.").arg(m_settings->fileName());
+    return QString();
+}
+
+void MainWindow::forgetLayout(QSettings *settings)
+{
+    settings->remove(LayoutGroup);
 }
 
 void MainWindow::connectActions()
@@ -158,43 +198,10 @@ void MainWindow::connectActions()
     connect(m_actions.action("file_quit"), &QAction::triggered, this, &QWidget::close);
     connect(m_actions.action("tools_word_count"), &QAction::triggered, this,
             &MainWindow::showWordCount);
-    connect(m_actions.action("tools_customize_toolbars"), &QAction::triggered, this,
-            &MainWindow::customizeToolBars);
-    connect(m_actions.action("tools_reset_toolbars"), &QAction::triggered, this,
-            &MainWindow::resetToolBars);
     connect(m_actions.action("help_about"), &QAction::triggered, this, &MainWindow::showAbout);
     connect(m_editor->document(), &QTextDocument::modificationChanged, this,
             &QWidget::setWindowModified);
     connect(m_files, &FileCommands::pathChanged, this, &MainWindow::showPath);
-}
-
-void MainWindow::restoreLayout()
-{
-    notify(m_layout.restore());
-}
-
-void MainWindow::forgetLayout()
-{
-    m_layout.forget();
-}
-
-void MainWindow::customizeToolBars()
-{
-    RyCustomizedDialog dialog({&m_manager, nullptr}, this);
-    dialog.exec();
-    // No matter what the result is: after Apply and Cancel, the toolbars have changed too.
-    saveLayout();
-}
-
-void MainWindow::resetToolBars()
-{
-    m_manager.resetAllToolBars();
-    saveLayout();
-}
-
-void MainWindow::saveLayout()
-{
-    notify(m_layout.save());
 }
 
 // Shows the notice even if the user has hidden the status bar. An empty text removes the notice.
@@ -211,7 +218,7 @@ QMenu *MainWindow::createPopupMenu()
     if (!menu)
         menu = new QMenu(this);
     menu->addSeparator();
-    addActionsTo(menu, {"tools_customize_toolbars", "tools_reset_toolbars"});
+    addKitActionsTo(menu);
     return menu;
 }
 
@@ -256,6 +263,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
-    saveLayout();
+    m_settings->setValue(GeometryKey, saveGeometry());
     event->accept();
 }

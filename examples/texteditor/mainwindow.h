@@ -5,9 +5,6 @@
 
 #include "actioncatalog.h"
 #include "recentfiles.h"
-#include "toolbarlayout.h"
-
-#include <RyToolBarManager>
 
 #include <QMainWindow>
 
@@ -15,13 +12,12 @@ class EditorView;
 class FileCommands;
 class FindBar;
 class QSettings;
+class RyToolBarKit;
 class StatusLine;
 
 /*!
- * \brief The window of the text editor. It creates the parts and registers actions and toolbars
- *        with the toolbar manager.
- *
- * The order at the start matters: construct, restoreLayout(), show().
+ * \brief The window of the text editor. It creates the parts, and a kit that lets the user
+ * customize the toolbars.
  */
 class MainWindow : public QMainWindow
 {
@@ -31,21 +27,14 @@ public:
     //! \param settings the application's settings, which must outlive the window.
     explicit MainWindow(QSettings *settings, QWidget *parent = nullptr);
 
-    //! Restores the stored layout; call it once, before the window is shown.
-    void restoreLayout();
-
-    //! Forgets the stored layout; call it before restoreLayout().
-    void forgetLayout();
+    //! Forgets the toolbars that \a settings have; call it before the window is constructed.
+    static void forgetLayout(QSettings *settings);
 
     //! Opens a document; reports errors to the user.
     bool openFile(const QString &path);
 
     //! A menu with all toolbars and "Customize Toolbars"; Qt calls it on a right click.
     QMenu *createPopupMenu() override;
-
-public Q_SLOTS:
-    void customizeToolBars();
-    void resetToolBars();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -54,23 +43,24 @@ private:
     void createToolBars();
     void createMenus();
     void createToolBarsMenu(QMenu *parent);
-    void registerWithManager();
+    void setUpKit();
     void connectActions();
     QToolBar *createToolBar(const char *name, const QString &title,
                             std::initializer_list<const char *> actions);
     QMenu *createMenu(const QString &title, std::initializer_list<const char *> actions);
     void addActionsTo(QWidget *widget, std::initializer_list<const char *> actions);
-    void saveLayout();
+    void addKitActionsTo(QMenu *menu);
+    QString settingsProblem() const;
     void notify(const QString &text);
     void showPath(const QString &path);
     void showWordCount();
     void showAbout();
 
+    QSettings *const m_settings;
     ActionCatalog m_actions;
-    RyToolBarManager m_manager;
-    ToolBarLayout m_layout;
     RecentFiles m_recentFiles;
     // The widget tree owns the rest.
+    RyToolBarKit *const m_kit;
     EditorView *const m_editor;
     FindBar *const m_findBar;
     StatusLine *const m_statusLine;

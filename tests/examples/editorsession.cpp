@@ -18,7 +18,6 @@ EditorSession::EditorSession(const QString &settingsFile)
 
 void EditorSession::start()
 {
-    window.restoreLayout();
     window.show();
 }
 
@@ -44,7 +43,7 @@ QStringList EditorSession::toolBarTitles() const
 
 void EditorSession::customize(const DialogSteps &steps)
 {
-    ::customize(action("tools_customize_toolbars"), steps);
+    ::customize(action("customizeToolBars"), steps);
 }
 
 void EditorSession::addToolBar(const QString &title, const QStringList &actionTexts)

@@ -18,7 +18,7 @@ class EditorSession
 public:
     explicit EditorSession(const QString &settingsFile);
 
-    // Restores the layout and shows the window, as main() does.
+    // Shows the window, as main() does.
     void start();
 
     // What the status bar says until further notice.

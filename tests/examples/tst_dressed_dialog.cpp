@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTabWidget>
 #include <QTimer>
 #include <QtTest>
@@ -23,6 +24,7 @@ class tst_Dressed_Dialog : public TestCase
 private Q_SLOTS:
     void viewsAndButtonsHaveNames_data();
     void viewsAndButtonsHaveNames();
+    void textsAreShownWithoutMnemonics();
     void theHiddenHeaderIsSpokenAsTheCaption();
     void separatorsAreSpokenAsAWord();
     void defaultToolBarsAreDescribed();
@@ -96,6 +98,19 @@ void tst_Dressed_Dialog::viewsAndButtonsHaveNames()
     QVERIFY(part);
     QCOMPARE(spoken(part, QAccessible::Name), name);
     QCOMPARE(spoken(part, QAccessible::Description), description);
+}
+
+void tst_Dressed_Dialog::textsAreShownWithoutMnemonics()
+{
+    DressedDialog stage;
+    for (const QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(stage.views.actionTree),
+          static_cast<QAbstractItemView *>(stage.views.toolBarList),
+          static_cast<QAbstractItemView *>(stage.views.currentToolBarList)}) {
+        const auto *const delegate = qobject_cast<QStyledItemDelegate *>(view->itemDelegate());
+        QVERIFY(delegate);
+        QCOMPARE(delegate->displayText("&Open && Close", QLocale()), "Open & Close");
+    }
 }
 
 void tst_Dressed_Dialog::theHiddenHeaderIsSpokenAsTheCaption()

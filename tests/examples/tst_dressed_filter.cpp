@@ -19,6 +19,7 @@ class tst_Dressed_Filter : public TestCase
 private Q_SLOTS:
     void typingLeavesWhatMatches_data();
     void typingLeavesWhatMatches();
+    void whatIsShownIsFound();
     void theFirstMatchBecomesCurrent();
     void aVisibleCurrentItemStaysCurrent();
     void withoutAMatchNothingCanBeAdded();
@@ -64,6 +65,14 @@ void tst_Dressed_Filter::typingLeavesWhatMatches()
     QCOMPARE(stage.visibleItems(), left.split(',', Qt::SkipEmptyParts));
     if (!typed.isEmpty() && itemNamed(stage.views.actionTree, "Edit"))
         QVERIFY(itemNamed(stage.views.actionTree, "Edit")->isExpanded());
+}
+
+void tst_Dressed_Filter::whatIsShownIsFound()
+{
+    DressedDialog stage;
+    itemNamed(stage.views.actionTree, "Copy")->setText(0, "C&opy && Go");
+    stage.filter->setText("copy & g");
+    QCOMPARE(stage.visibleItems(), QStringList({"Edit", "C&opy && Go"}));
 }
 
 void tst_Dressed_Filter::theFirstMatchBecomesCurrent()

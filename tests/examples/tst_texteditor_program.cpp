@@ -142,7 +142,7 @@ void tst_TextEditorProgram::resetLayoutForgetsTheStoredLayout()
     const QString settings = m_folder.filePath("reset.ini");
     QFile file(settings);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[layout]\nversion=1\n\n[view]\nwordWrap=false\n");
+    file.write("[layout]\ntoolBars=x\n\n[view]\nwordWrap=false\n");
     file.close();
     Running program({"--settings", settings, "--reset-layout"});
     QVERIFY(program.started);

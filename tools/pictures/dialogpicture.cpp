@@ -11,6 +11,7 @@
 
 #include <RyCToolBarWidget>
 
+#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QListWidget>
@@ -94,12 +95,13 @@ int main(int argc, char *argv[])
     QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
     MainWindow window(&settings);
     window.show();
-    QTimer::singleShot(0, &window, [&arguments] {
-        QWidget *const dialog = QApplication::activeModalWidget();
-        editToolBars(dialog);
-        // Some styles take a while to show that a button has become enabled.
-        QTimer::singleShot(500, dialog, [=] { takePicture(dialog, arguments.at(4)); });
+    window.findChild<QAction *>(QStringLiteral("customizeToolBars"))->trigger();
+    QWidget *const dialog = QApplication::activeModalWidget();
+    editToolBars(dialog);
+    // Some styles take a while to show that a button has become enabled.
+    QTimer::singleShot(500, dialog, [=] {
+        takePicture(dialog, arguments.at(4));
+        QCoreApplication::quit();
     });
-    window.customizeToolBars();
-    return 0;
+    return QApplication::exec();
 }
