@@ -15,6 +15,8 @@ function(ry_set_up_library target output_name symbol)
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
         AUTOMOC ON
+        # So that moc does not wait for other libraries.
+        AUTOGEN_ORIGIN_DEPENDS OFF
         DEFINE_SYMBOL ${symbol})
     target_compile_definitions(${target} PRIVATE
         QT_DEPRECATED_WARNINGS
