@@ -2,14 +2,18 @@
 # SPDX-License-Identifier: MIT
 """Breaks the library on purpose, one place at a time, and checks that the tests notice.
 
-usage: tools/mutate.py [--count N | --all] [--jobs N] [--only FILE[:LINE]] [--explained] [--list]
+usage: tools/mutate.py [--kit] [--count N | --all] [--jobs N] [--only FILE[:LINE]] [--explained] [--list]
        tools/mutate.py --check-explained
+
+With --kit it breaks the kit, for which only the tests count that use it. Those of the kit do not count for
+the library.
 
 Each job works in a copy of the sources below build/mutants/, so the sources do not change. Changes
 that do not compile are not counted. Changes that no test catches are printed at the end. For a public
-header, tools/check-abi.sh is one of the tests. The changes in tools/mutate/equivalent.txt have no
-visible effect, each for the reason given there. They take the most time, because every test runs, so
-they are made only with --explained. An entry that fits no line of the sources is an error.
+header, tools/check-abi.sh is one of the tests. The changes in tools/mutate/equivalent.txt, and for the
+kit in equivalent-kit.txt, have no visible effect, each for the reason given there. They take the most
+time, because every test runs, so they are made only with --explained. An entry that fits no line of the
+sources is an error.
 """
 
 import argparse
@@ -28,14 +32,18 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 WORK = ROOT / "build" / "mutants"
-FOLDERS = ("dialog", "toolbarmanager", "toolbareditor", "ribbon", "resources")
-EQUIVALENT = ROOT / "tools" / "mutate" / "equivalent.txt"
 # The largest accepted share of changes that no test catches; each is printed.
 ALLOWED = 0.03
 TEST_TIMEOUT = 300
 CODE_IN_HEADERS = ("nameindex.h", "toolbarstateformat.h")
 
 Mutant = collections.namedtuple("Mutant", "path line kind old new")
+# What is broken: the build target, the folders with the sources, and the list of explained changes.
+Subject = collections.namedtuple("Subject", "target folders equivalent")
+LIBRARY = Subject("RyCustomizedDialog",
+                  ("dialog", "toolbarmanager", "toolbareditor", "ribbon", "resources"),
+                  ROOT / "tools" / "mutate" / "equivalent.txt")
+KIT = Subject("RyToolBarKit", ("kit",), ROOT / "tools" / "mutate" / "equivalent-kit.txt")
 
 
 def code_changes(line):
@@ -183,12 +191,14 @@ def tracked(*folders):
     return [Path(name) for name in done.stdout.split("\0") if name]
 
 
-def sources():
-    return [p for p in tracked(*FOLDERS) if p.suffix in (".cpp", ".h", ".ui", ".qrc")]
+def all_mutants(subject):
+    sources = [p for p in tracked(*subject.folders) if p.suffix in (".cpp", ".h", ".ui", ".qrc")]
+    return [m for path in sources for m in mutants_of(path)]
 
 
 def is_public_header(path):
-    return path.suffix == ".h" and path.name.startswith("ry")
+    return (path.suffix == ".h" and path.name.startswith("ry")
+            and not path.name.endswith("private.h"))
 
 
 def digest(*texts):
@@ -209,13 +219,13 @@ def sample(mutants, count):
     return chosen
 
 
-def read_equivalent():
-    """The changes in tools/mutate/equivalent.txt, like identity()."""
+def read_equivalent(file):
+    """The changes in the list, like identity()."""
     known = []
-    for block in re.split(r"\n\s*\n", EQUIVALENT.read_text()):
+    for block in re.split(r"\n\s*\n", file.read_text()):
         rows = [r.strip() for r in block.split("\n") if r.strip() and not r.startswith("#")]
         if len(rows) not in (0, 4):
-            sys.exit(f"{EQUIVALENT.name}: not a file, a line, a changed line and a reason:\n{block}")
+            sys.exit(f"{file.name}: not a file, a line, a changed line and a reason:\n{block}")
         if rows:
             known.append((rows[0], squeezed(rows[1]), squeezed(rows[2])))
     return known
@@ -230,19 +240,23 @@ def identity(mutant):
     return str(mutant.path), squeezed(mutant.old), squeezed(mutant.new)
 
 
-def check_explained(mutants, known):
-    """Ends with a message if an entry fits no line of the sources or is there twice."""
+def check_explained(subject, mutants):
+    """Returns the explained changes. Ends with a message if an entry fits no line of the sources or is
+    there twice."""
+    known = read_equivalent(subject.equivalent)
     possible = {identity(m) for m in mutants}
     wrong = [entry for entry in known if entry not in possible or known.count(entry) > 1]
     if wrong:
-        sys.exit(f"{EQUIVALENT.name}: no such change of the sources, or there twice:\n\n"
+        sys.exit(f"{subject.equivalent.name}: no such change of the sources, or there twice:\n\n"
                  + "\n\n".join("\n".join(entry) for entry in wrong))
+    return known
 
 
 class Tree:
     """A copy of the sources with a separate build."""
 
-    def __init__(self, number, with_headers):
+    def __init__(self, number, subject, with_headers):
+        self.subject = subject
         self.source = WORK / f"tree{number}"
         self.build = WORK / f"build{number}"
         for name in tracked():
@@ -260,11 +274,17 @@ class Tree:
         self.run("ninja", "-C", self.build, check=True)
         listed = self.run("ctest", "-N", check=True).stdout
         self.tests = [t for t in re.findall(r"Test +#\d+: (\S+)", listed)
-                      if not t.startswith(("tst_package", "tst_sources"))]
+                      if not t.startswith(("tst_package", "tst_sources")) and self.counts(t)]
         if not self.passes(self.tests):
             sys.exit("The tests fail before anything is broken:\n" + self.output)
         if with_headers and not self.keeps_contract():
             sys.exit("tools/check-abi.sh fails before anything is broken:\n" + self.output)
+
+    def counts(self, test):
+        if self.subject is LIBRARY:
+            return self.folder(test) != "kit"
+        programs = self.build.glob(f"tests/*/{test}")
+        return any(b"libRyToolBarKit.so" in program.read_bytes() for program in programs)
 
     def run(self, *command, check=False):
         done = subprocess.run([str(c) for c in command], cwd=self.build if self.build.exists()
@@ -292,8 +312,9 @@ class Tree:
         slow = [t for t in self.tests if re.search("_damage|_findings|_window|_titlebar|^operations", t)]
         own = [t for t in self.tests if t not in slow and path.parts[0] == self.folder(t)]
         rest = [t for t in self.tests if t not in slow and t not in own]
-        # The manager does not use windows, and nothing else uses saved bytes.
-        worth = "damage|findings|operations" if path.parts[0] == "toolbarmanager" else "window|operations"
+        # The manager does not use windows, and except for the kit nothing else uses saved bytes.
+        worth = {"toolbarmanager": "damage|findings|operations",
+                 "kit": ""}.get(path.parts[0], "window|operations")
         return own, rest, [t for t in slow if re.search(worth, t)]
 
     def folder(self, test):
@@ -310,7 +331,7 @@ class Tree:
             target.write_text("\n".join(lines))
             # The tests need not notice another order of slots or fields. They take long to build.
             if is_public_header(mutant.path):
-                if self.run("ninja", "-C", self.build, "RyCustomizedDialog").returncode:
+                if self.run("ninja", "-C", self.build, self.subject.target).returncode:
                     return "does not compile"
                 if not self.keeps_contract():
                     return "caught by tools/check-abi.sh"
@@ -325,11 +346,11 @@ class Tree:
             target.write_text(original)
 
 
-def check(mutants, jobs):
+def check(subject, mutants, jobs):
     trees = queue.Queue()
     with_headers = any(is_public_header(m.path) for m in mutants)
     for number in range(jobs):
-        trees.put(Tree(number, with_headers))
+        trees.put(Tree(number, subject, with_headers))
     done = []
 
     def judge(mutant):
@@ -369,23 +390,25 @@ def report(done, explained):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
+    parser.add_argument("--kit", action="store_true", help="the kit, not the library")
     parser.add_argument("--count", type=int, default=200, help="number of places, roughly (200)")
     parser.add_argument("--all", action="store_true", help="all known places")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--only", help="FILE or FILE:LINE")
     parser.add_argument("--explained", action="store_true",
-                        help="also make those of tools/mutate/equivalent.txt")
+                        help="also make those that are explained")
     parser.add_argument("--list", action="store_true", help="only print the changes")
     parser.add_argument("--check-explained", action="store_true",
-                        help="only check that the entries of tools/mutate/equivalent.txt are possible")
+                        help="only check that the explained changes of both are possible")
     arguments = parser.parse_args()
 
-    mutants = [m for path in sources() for m in mutants_of(path)]
-    known = read_equivalent()
-    check_explained(mutants, known)
     if arguments.check_explained:
-        print(f"{len(known)} explained changes are possible.")
+        counts = [len(check_explained(s, all_mutants(s))) for s in (LIBRARY, KIT)]
+        print(f"{counts[0]} explained changes of the library and {counts[1]} of the kit are possible.")
         return 0
+    subject = KIT if arguments.kit or str(arguments.only).startswith("kit/") else LIBRARY
+    mutants = all_mutants(subject)
+    known = check_explained(subject, mutants)
     if arguments.only:
         mutants = [m for m in mutants
                    if arguments.only in (str(m.path), f"{m.path}:{m.line}")]
@@ -400,7 +423,7 @@ def main():
         print(len(mutants))
         return 0
     WORK.mkdir(parents=True, exist_ok=True)
-    return 0 if report(check(mutants, arguments.jobs), explained) else 1
+    return 0 if report(check(subject, mutants, arguments.jobs), explained) else 1
 
 
 if __name__ == "__main__":
