@@ -17,7 +17,7 @@ start_log "build/analyze$suffix.log"
 
 cores=$(nproc)
 build=build/analyze$suffix
-library=(dialog toolbarmanager toolbareditor ribbon)
+library=(dialog toolbarmanager toolbareditor ribbon kit)
 sample=tools/analyze/wrong.cpp
 others=OFF
 [ "${arguments[0]-}" != --all ] || others=ON
@@ -73,8 +73,8 @@ every_warning() {
     # With -I for the library's folders, so that its headers are checked too.
     sources "${library[@]}" |
         over clang++ -fsyntax-only "${all_warnings[@]}" "${flags[@]}" \
-            "${library[@]/#/-I}" -isystem "$build" \
-            -DRYCUSTOMIZEDDIALOG_LIBRARY {}
+            "${library[@]/#/-I}" -isystem "$build" -isystem "$build/include/RyCustomizedDialog" \
+            -DRYCUSTOMIZEDDIALOG_LIBRARY -DRYTOOLBARKIT_LIBRARY {}
 }
 
 tidy() {
@@ -84,7 +84,7 @@ tidy() {
 clazy() {
     sources "$@" | over clazy-standalone -p "$build" -checks="$clazy_checks" \
         -extra-arg=-Wno-error \
-        -header-filter="^$PWD/(dialog|toolbarmanager|toolbareditor|ribbon|tests|examples)/.*" {}
+        -header-filter="^$PWD/(dialog|toolbarmanager|toolbareditor|ribbon|kit|tests|examples)/.*" {}
 }
 
 check_with_cppcheck() {

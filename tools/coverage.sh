@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Counts which lines and branches of the library the tests run. Fails below 98 % of the lines or 90 %
-# of the branches. Prints the lines that no test runs; build/coverage/report has the details.
+# Counts which lines and branches of the library and of the kit the tests run. Fails if one of them is below
+# 98 % of the lines or 90 % of the branches. Prints the lines that no test runs; build/coverage/report and
+# build/coverage/kit have the details.
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
@@ -10,8 +11,15 @@ start_log build/coverage.log
 
 cores=$(nproc)
 # Without branches that only an exception takes: the library throws and catches none.
-report=(gcovr --root . --filter '(dialog|toolbarmanager|toolbareditor|ribbon)/'
-    --exclude-throw-branches --exclude-unreachable-branches build/coverage)
+report=(gcovr --root . --exclude-throw-branches --exclude-unreachable-branches build/coverage)
+
+# check_share LIBRARY FOLDERS DETAILS
+check_share() {
+    try "Lines of the $1" "${report[@]}" --filter "$2" --txt --fail-under-line 98
+    try "Branches of the $1" "${report[@]}" --filter "$2" --txt --branches --fail-under-branch 90
+    mkdir -p "$3"
+    try "Report of the $1" "${report[@]}" --filter "$2" --html-details "$3/index.html"
+}
 
 step 'Packages' tools/install-packages.sh test qt5 coverage
 step 'Configure' cmake --preset coverage
@@ -20,8 +28,6 @@ find build/coverage -name '*.gcda' -delete
 try 'Tests without a display' ctest --preset coverage --no-tests=error --parallel "$cores" \
     --label-exclude 'window|packaging'
 try 'Tests in real windows' ctest --preset coverage --no-tests=error --label-regex window
-mkdir -p build/coverage/report
-try 'Lines' "${report[@]}" --txt --fail-under-line 98
-try 'Branches' "${report[@]}" --txt --branches --fail-under-branch 90
-try 'Report' "${report[@]}" --html-details build/coverage/report/index.html
+check_share library '(dialog|toolbarmanager|toolbareditor|ribbon)/' build/coverage/report
+check_share kit 'kit/' build/coverage/kit
 finish 'at least 98 % of the lines and 90 % of the branches'

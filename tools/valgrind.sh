@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Runs the tests of the dialog, the manager, the editor and the ribbon page under valgrind's
+# Runs the tests of the dialog, the manager, the editor, the ribbon page and the kit under valgrind's
 # memcheck. Fails on any invalid access and on any block that is definitely lost.
 #
 # usage: valgrind.sh [--qt 5|6]
@@ -18,7 +18,7 @@ start_log "build/valgrind$suffix.log"
 find_programs() {
     ctest --preset "$preset" -N -LE window -E _damage |
         sed -nE 's/^ *Test +#[0-9]+: (tst_\w+)$/\1/p' >"$folder/tests"
-    find "build/$preset/tests/"{dialog,toolbarmanager,toolbareditor,ribbon} -maxdepth 1 -type f -executable |
+    find "build/$preset/tests/"{dialog,toolbarmanager,toolbareditor,ribbon,kit} -maxdepth 1 -type f -executable |
         grep --extended-regexp "/($(paste --serial --delimiters='|' "$folder/tests"))$" | sort
 }
 
