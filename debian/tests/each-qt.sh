@@ -41,22 +41,22 @@ library_is_from() {
     dpkg-query -S "$(realpath "$library")" | grep "^$1:"
 }
 
-# visit_minimal: a user opens the dialog of the smallest example and presses OK, and the layout is
-# kept. The library is the one of the package.
+# visit_minimal: a user changes a toolbar of the smallest example, which uses the kit, and the layout is
+# kept. The libraries are those of the packages.
 visit_minimal() {
     # shellcheck disable=SC2046 # several words are meant
     g++ -std=c++17 -fPIC -shared -Wall -Werror "$sources/tools/package/visitor.cpp" \
         -o visitor.so $(pkg-config --cflags --libs "Qt${qt}Widgets")
+    library_is_from "$kit_package" minimal "$kit"
     library_is_from "$package" minimal "$name"
     # The offscreen platform always warns.
     HOME=$PWD/home XDG_CONFIG_HOME=$PWD/home QT_QPA_PLATFORM=offscreen LD_PRELOAD=$PWD/visitor.so \
         timeout 60 ./minimal 2>&1
-    grep '^toolBars=' home/RyCustomizedDialog/Minimal.conf
+    grep '^editor=' home/RyCustomizedDialog/Minimal.conf
 }
 
-# visit_kithost: the host of the kit has a user of its own, who reads German.
-visit_kithost() {
-    library_is_from "$kit_package" kithost "$kit"
-    library_is_from "$package" kithost "$name"
-    QT_QPA_PLATFORM=offscreen timeout 60 ./kithost translated 2>&1
+# visit_host: a host without the kit that has a user of its own, who reads German.
+visit_host() {
+    library_is_from "$package" host "$name"
+    QT_QPA_PLATFORM=offscreen timeout 60 ./host translated 2>&1
 }
