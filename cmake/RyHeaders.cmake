@@ -32,12 +32,9 @@ function(ry_add_headers target)
         file(CREATE_LINK "${path}" "${build_includedir}/${ARG_FOLDER}/${header}" SYMBOLIC)
         target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${folder}>")
     endforeach()
-    # The inner folder comes first: beside it is a folder with the name of one of the headers.
     target_include_directories(${target} PUBLIC
         "$<BUILD_INTERFACE:${build_includedir}/${ARG_FOLDER}>"
-        "$<BUILD_INTERFACE:${build_includedir}>"
-        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}${RY_INCLUDE_FOLDER}/${ARG_FOLDER}>"
-        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}${RY_INCLUDE_FOLDER}>")
+        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}${RY_INCLUDE_FOLDER}/${ARG_FOLDER}>")
     set_property(GLOBAL APPEND PROPERTY RY_PUBLIC_HEADERS ${headers})
     install(FILES ${headers} ${forwarding_headers}
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}${RY_INCLUDE_FOLDER}/${ARG_FOLDER}")

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# What `cmake --install` gives: the library, its headers, its translations, a relocatable CMake
-# package and a pkg-config file.
+# What `cmake --install` gives besides the headers: the libraries, their translations, a relocatable CMake
+# package, and a pkg-config file and a qmake feature for each library.
 
 include(CMakePackageConfigHelpers)
 
@@ -9,16 +9,26 @@ set(RY_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/${RY_NAME}")
 set(RY_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 set(RY_TRANSLATIONS_DIR "${CMAKE_INSTALL_DATADIR}/rycustomizeddialog/translations")
 
-install(TARGETS RyCustomizedDialog RyToolBarKit EXPORT ${RY_NAME}Targets
-    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+# ry_install_library(target export)
+#
+# The target goes into a file of its own, because the kit may be left out of an installation.
+function(ry_install_library target export)
+    install(TARGETS ${target} EXPORT ${export}
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+    install(EXPORT ${export}
+        NAMESPACE RyCustomizedDialog::
+        DESTINATION "${RY_PACKAGE_DIR}")
+endfunction()
+ry_install_library(RyCustomizedDialog ${RY_NAME}Targets)
+ry_install_library(RyToolBarKit ${RY_NAME}KitTargets)
+# A linker may leave out the library that only the kit uses. Then the path of the program does not count.
+set_target_properties(RyToolBarKit PROPERTIES INSTALL_RPATH "$ORIGIN")
 install(FILES ${RY_TRANSLATIONS}
     DESTINATION "${RY_TRANSLATIONS_DIR}")
 
-install(EXPORT ${RY_NAME}Targets
-    NAMESPACE RyCustomizedDialog::
-    DESTINATION "${RY_PACKAGE_DIR}")
+string(TOLOWER "lib${RY_KIT_NAME}-dev" RY_KIT_PACKAGE)
 configure_package_config_file(
     cmake/RyCustomizedDialogConfig.cmake.in
     "${PROJECT_BINARY_DIR}/${RY_NAME}Config.cmake"
@@ -55,6 +65,8 @@ if(RYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS)
         "translationsdir=${RY_PKGCONFIG_DATADIR}/rycustomizeddialog/translations\n")
 endif()
 configure_file(cmake/RyCustomizedDialog.pc.in "${PROJECT_BINARY_DIR}/${RY_NAME}.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/${RY_NAME}.pc" DESTINATION "${RY_PKGCONFIG_DIR}")
+configure_file(cmake/RyToolBarKit.pc.in "${PROJECT_BINARY_DIR}/${RY_KIT_NAME}.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/${RY_NAME}.pc" "${PROJECT_BINARY_DIR}/${RY_KIT_NAME}.pc"
+    DESTINATION "${RY_PKGCONFIG_DIR}")
 
 include(RyQmake)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# The file that qmake needs for `CONFIG += rycustomizeddialog`. With Qt's own prefix, qmake finds it.
-# With another prefix, a host sets QMAKEFEATURES to its folder.
+# The files that qmake needs for `CONFIG += rycustomizeddialog` and `CONFIG += rytoolbarkit`. With Qt's own
+# prefix, qmake finds them. With another prefix, a host sets QMAKEFEATURES to their folder.
 
 set(RY_QMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/qt${RYCUSTOMIZEDDIALOG_QT}/mkspecs/features")
 
@@ -17,5 +17,7 @@ else()
     endforeach()
     string(APPEND RY_QMAKE_INCLUDEDIR "${RY_INCLUDE_FOLDER}")
 endif()
-configure_file(cmake/rycustomizeddialog.prf.in "${PROJECT_BINARY_DIR}/rycustomizeddialog.prf" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/rycustomizeddialog.prf" DESTINATION "${RY_QMAKE_DIR}")
+foreach(feature IN ITEMS rycustomizeddialog rytoolbarkit)
+    configure_file(cmake/${feature}.prf.in "${PROJECT_BINARY_DIR}/${feature}.prf" @ONLY)
+    install(FILES "${PROJECT_BINARY_DIR}/${feature}.prf" DESTINATION "${RY_QMAKE_DIR}")
+endforeach()

@@ -32,7 +32,10 @@ public:
      */
     void putBack(const QToolBar *toolBar, QAction *action) const;
 
-    void forget(const QAction *action) { m_ofAction.remove(action); }
+    /*!
+     * \brief Forgets what was read for \a action, which may have been deleted.
+     */
+    void forget(const QObject *action) { m_ofAction.remove(action); }
 
 private:
     struct Button
@@ -42,7 +45,7 @@ private:
         QPointer<QMenu> menu;
     };
 
-    QHash<const QAction *, Button> m_ofAction;
+    QHash<const QObject *, Button> m_ofAction;
 };
 
 #endif // BUTTONPROPERTIES_H

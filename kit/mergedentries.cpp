@@ -14,35 +14,36 @@ QStringList mergedEntries(const QStringList &entries, const QStringList &model,
             indexOf.insert(entries.at(i), i);
     }
 
-    // What is inserted before each entry, and at the end.
-    QVector<QStringList> inserted(entries.size() + 1);
+    // At each place, what follows the entry before it and what precedes the entry after it.
+    QVector<QStringList> following(entries.size() + 1);
+    QVector<QStringList> preceding(entries.size() + 1);
     int place = 0;
     QStringList waiting; // until something of the model is found in the entries
     for (const QString &name : model) {
         if (name.isNull()) {
             if (place < entries.size() && entries.at(place).isNull()) {
-                inserted[place] += waiting;
+                preceding[place] += waiting;
                 waiting.clear();
                 ++place;
             }
         } else if (indexOf.contains(name)) {
             const int index = indexOf.value(name);
-            inserted[index] += waiting;
+            preceding[index] += waiting;
             waiting.clear();
             place = index + 1;
         } else if (missing.contains(name)) {
             if (place == 0)
                 waiting.append(name);
             else
-                inserted[place].append(name);
+                following[place].append(name);
         }
     }
-    inserted[place] += waiting;
+    preceding[place] += waiting;
 
     QStringList merged;
     for (int i = 0; i < entries.size(); ++i)
-        merged << inserted.at(i) << entries.at(i);
-    return merged << inserted.last();
+        merged << following.at(i) << preceding.at(i) << entries.at(i);
+    return merged << following.last() << preceding.last();
 }
 
 QSet<QString> namesIn(const QStringList &entries)

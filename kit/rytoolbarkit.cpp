@@ -44,7 +44,7 @@ QAction *RyToolBarKit::customizeAction()
 
 RyToolBarManager *RyToolBarKit::manager()
 {
-    return d->manager.data();
+    return d->manager;
 }
 
 void RyToolBarKit::setSettings(QSettings *settings, const QString &key)

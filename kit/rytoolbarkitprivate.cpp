@@ -35,16 +35,21 @@ bool hasDigitAsMnemonic(const QString &text)
     return index >= 0 && index + 1 < text.size() && text.at(index + 1).isDigit();
 }
 
-// The best text that a widget without a title has.
+// The best text that a widget on a toolbar has.
 QString textOfWidget(const QWidget *widget)
 {
-    const char *const names[] = {"windowTitle", "accessibleName", "placeholderText", "toolTip"};
+    const char *const names[] = {"windowTitle", "accessibleName", "placeholderText",
+                                 "toolTip",     "statusTip",      "text"};
     for (const char *name : names) {
         const QString text = StableNames::plainText(widget->property(name).toString());
         if (!text.isEmpty())
             return text;
     }
-    return QLatin1String(widget->metaObject()->className());
+    if (!widget->objectName().isEmpty())
+        return StableNames::inWords(widget->objectName());
+    return widget->metaObject() == &QWidget::staticMetaObject
+        ? RyToolBarKit::tr("Space")
+        : QString::fromLatin1(widget->metaObject()->className());
 }
 
 bool isShownByProgram(const QToolBar *toolBar)
@@ -92,6 +97,7 @@ RyToolBarKitPrivate::~RyToolBarKitPrivate()
     // A window that is being deleted is no main window any more.
     if (qobject_cast<QMainWindow *>(m_kit->parent()))
         storeNow();
+    giveUpManager();
 }
 
 bool RyToolBarKitPrivate::findEverything()
@@ -112,12 +118,20 @@ bool RyToolBarKitPrivate::findEverything()
 
 void RyToolBarKitPrivate::createManager()
 {
-    manager.reset(new RyToolBarManager);
+    manager = new RyToolBarManager;
     manager->setMainWindow(m_window);
     m_actionNames = StableNames(m_window);
     m_toolBarNames = StableNames(m_window);
     findMenus();
     findToolBars();
+}
+
+// One of its own calls may be the reason.
+void RyToolBarKitPrivate::giveUpManager()
+{
+    if (manager)
+        manager->deleteLater();
+    manager = nullptr;
 }
 
 // A manager cannot forget a toolbar of the program, so another one takes its place.
@@ -161,14 +175,14 @@ void RyToolBarKitPrivate::setToDefaults()
 
 void RyToolBarKitPrivate::findMenus()
 {
+    offerHandedOver();
     if (features & RyToolBarKit::FindActions) {
         const auto found = m_menus->find(m_excluded);
         for (const MenuActions::Found &item : found) {
-            if (!isListEntry(item.action))
+            if (!isOffered(item.action) && !isListEntry(item.action))
                 offer(item.action, item.category);
         }
     }
-    offerHandedOver();
 }
 
 void RyToolBarKitPrivate::offerHandedOver()
@@ -222,6 +236,7 @@ void RyToolBarKitPrivate::offer(QAction *action, const QString &category)
     if (!action || action->isSeparator() || isOffered(action))
         return;
     m_actionNames.add(action);
+    m_offered.insert(action, action);
     connect(action, SIGNAL(destroyed(QObject *)), this, SLOT(actionDestroyed(QObject *)),
             Qt::UniqueConnection);
     if (m_excluded.contains(action))
@@ -264,14 +279,19 @@ void RyToolBarKitPrivate::addToolBar(QToolBar *toolBar)
 void RyToolBarKitPrivate::prepareAction(QToolBar *toolBar, QAction *action)
 {
     const QWidgetAction *const widgetAction = qobject_cast<QWidgetAction *>(action);
-    const QWidget *const widget = widgetAction ? widgetAction->defaultWidget() : nullptr;
+    QWidget *const widget = widgetAction ? widgetAction->defaultWidget() : nullptr;
     if (widget && !m_homes.contains(action))
         m_homes.insert(action, toolBar);
     if (action->isSeparator() || !action->text().isEmpty())
         return;
     const QString text = widget ? textOfWidget(widget) : action->toolTip();
-    if (!text.isEmpty())
-        action->setText(text);
+    if (text.isEmpty())
+        return;
+    // Each change of the action makes Qt enable or disable the widget like the action.
+    const bool isDisabled = widget && widget->testAttribute(Qt::WA_ForceDisabled);
+    action->setText(text);
+    if (isDisabled)
+        widget->setEnabled(false);
 }
 
 void RyToolBarKitPrivate::watchToolBar(QToolBar *toolBar)
@@ -297,8 +317,9 @@ void RyToolBarKitPrivate::update()
     }
     const QSet<QAction *> before = manager->actions();
     findMenus();
-    const QSet<const QToolBar *> changed = m_changedToolBars;
+    const QSet<const QObject *> changed = m_changedToolBars;
     m_changedToolBars.clear();
+    m_newButtons.clear(); // made by the program, which sets their properties itself
     const auto toolBars = manager->toolBars();
     for (QToolBar *toolBar : toolBars) {
         if (changed.contains(toolBar))
@@ -330,6 +351,10 @@ void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
     const QSet<QString> now = namesIn(names);
     if (before == now)
         return;
+    for (QAction *action : inManager) {
+        if (action && !onWidget.contains(action))
+            m_buttons.forget(action);
+    }
     m_takenOff[toolBar] -= now;
     m_takenOff[toolBar] += before - now;
     if (m_defaults.contains(toolBar))
@@ -384,6 +409,7 @@ void RyToolBarKitPrivate::toolBarEvent(QToolBar *toolBar, QEvent *event)
         followLater(toolBar);
         break;
     case QEvent::ActionAdded:
+        m_newButtons[toolBar].insert(static_cast<QActionEvent *>(event)->action());
         followLater(toolBar);
         break;
     default:
@@ -399,26 +425,37 @@ void RyToolBarKitPrivate::followLater(const QToolBar *toolBar)
 
 void RyToolBarKitPrivate::actionDestroyed(QObject *object)
 {
-    QAction *const action = static_cast<QAction *>(object);
+    QAction *const action = m_offered.take(object);
     if (manager)
         manager->removeAction(action);
     m_actionNames.remove(object);
-    m_buttons.forget(action);
-    m_homes.remove(action);
+    m_buttons.forget(object);
+    m_homes.remove(object);
 }
 
 void RyToolBarKitPrivate::toolBarDestroyed(QObject *object)
 {
-    QToolBar *const toolBar = static_cast<QToolBar *>(object);
     m_toolBarNames.remove(object);
-    m_defaults.remove(toolBar);
-    m_takenOff.remove(toolBar);
-    m_shownByProgram.remove(toolBar);
-    m_changedToolBars.remove(toolBar);
-    if (!manager || !manager->toolBars().contains(toolBar))
+    m_defaults.remove(object);
+    m_takenOff.remove(object);
+    m_shownByProgram.remove(object);
+    m_changedToolBars.remove(object);
+    m_newButtons.remove(object);
+    if (!isManaged(object))
         return;
-    manager.reset();
+    giveUpManager();
     m_updateTimer.start();
+}
+
+// False for a toolbar that the manager itself has deleted.
+bool RyToolBarKitPrivate::isManaged(const QObject *object) const
+{
+    const auto toolBars = manager ? manager->toolBars() : QList<QToolBar *>();
+    for (const QToolBar *toolBar : toolBars) {
+        if (toolBar == object)
+            return true;
+    }
+    return false;
 }
 
 void RyToolBarKitPrivate::addActions(const QList<QAction *> &actions, const QString &category)

@@ -14,7 +14,6 @@
 #include <QDialog>
 #include <QPair>
 #include <QPointer>
-#include <QScopedPointer>
 #include <QTimer>
 
 class FormerLayout;
@@ -53,7 +52,7 @@ public:
     LayoutStore store;
     // Null before everything is found, and after a toolbar of the program was deleted until the
     // event loop runs again.
-    QScopedPointer<RyToolBarManager> manager;
+    QPointer<RyToolBarManager> manager;
     QAction *customizeAction;
 
 protected:
@@ -77,6 +76,7 @@ private:
     // Finding
     bool findEverything();
     void createManager();
+    void giveUpManager();
     void startAgain();
     void findMenus();
     void findToolBars();
@@ -88,6 +88,7 @@ private:
     void watchToolBar(QToolBar *toolBar);
     void followLater(const QToolBar *toolBar);
     void followProgram(QToolBar *toolBar);
+    bool isManaged(const QObject *object) const;
     bool isOffered(QAction *action) const;
     bool isListEntry(const QAction *action) const;
     void windowEvent(QEvent *event);
@@ -109,6 +110,7 @@ private:
     void renameInLayout(const QString &before, const QString &now, bool isToolBar);
     void placeAll();
     void place(QToolBar *toolBar);
+    void putBackButtons(QToolBar *toolBar);
     void applyPlaces();
     void applyVisibility(QToolBar *toolBar);
     void bringBackRequired();
@@ -119,6 +121,8 @@ private:
     QHash<const QToolBar *, QString> toolBarNames() const;
 
     // The dialog
+    void giveTitles();
+    void takeTitlesBack();
     void adoptCreatedToolBars();
     void takeOffStrangeWidgets();
     void completeReset();
@@ -139,15 +143,20 @@ private:
     QHash<QString, QPointer<QObject>> m_formerNames;
 
     // For each toolbar of the program: its default content, with the names of deleted actions.
-    QHash<const QToolBar *, QStringList> m_defaults;
+    QHash<const QObject *, QStringList> m_defaults;
     // What the program has taken off itself, and may put back.
-    QHash<const QToolBar *, QSet<QString>> m_takenOff;
+    QHash<const QObject *, QSet<QString>> m_takenOff;
     // Whether the program had shown it when it was found.
-    QHash<const QToolBar *, bool> m_shownByProgram;
+    QHash<const QObject *, bool> m_shownByProgram;
     KitPlaces m_placesByProgram;
+    // The actions that the kit has offered. The keys of this and the like may be what an action or
+    // a toolbar was before it was deleted.
+    QHash<const QObject *, QAction *> m_offered;
     // The actions whose widget exists only once, with the toolbar that it belongs to.
-    QHash<const QAction *, const QToolBar *> m_homes;
+    QHash<const QObject *, const QToolBar *> m_homes;
     ButtonProperties m_buttons;
+    // The actions whose buttons Qt has made since the last look.
+    QHash<const QObject *, QSet<const QAction *>> m_newButtons;
     QList<QPointer<QToolBar>> m_customToolBars;
 
     KitLayout m_layout;
@@ -155,7 +164,7 @@ private:
     // The layout as last stored or restored.
     QByteArray m_value;
 
-    QSet<const QToolBar *> m_changedToolBars;
+    QSet<const QObject *> m_changedToolBars;
     QTimer m_updateTimer;
     QTimer m_storeTimer;
     QPointer<QDialog> m_dialog;
@@ -163,6 +172,9 @@ private:
     QListWidget *m_rowsInDialog;
     // Whether Restore Defaults was pressed since the dialog was opened or changes were applied.
     bool m_isReset;
+    // The toolbars without a title that have one while the dialog is open, and the texts of the
+    // actions that show them.
+    QList<QPair<QPointer<QToolBar>, QString>> m_untitled;
     // The names of the actions that the open dialog had when it was opened.
     QSet<QString> m_namesInDialog;
 };

@@ -26,7 +26,8 @@ void RyToolBarKitPrivate::customize()
     for (const QAction *action : actions)
         m_namesInDialog.insert(m_actionNames.nameOf(action));
 
-    RyCustomizedDialog *const dialog = new RyCustomizedDialog({manager.data(), nullptr}, m_window);
+    giveTitles();
+    RyCustomizedDialog *const dialog = new RyCustomizedDialog({manager, nullptr}, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::ApplicationModal);
     m_dialog = dialog;
@@ -49,6 +50,34 @@ void RyToolBarKitPrivate::dialogFinished(int result)
     if (result == QDialog::Accepted)
         applied();
     m_dialog = nullptr;
+    takeTitlesBack();
+}
+
+// The dialog shows toolbars by their titles.
+void RyToolBarKitPrivate::giveTitles()
+{
+    int number = 0;
+    const auto defaults = manager->defaultToolBars();
+    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
+        QToolBar *const toolBar = it.key();
+        if (!toolBar->windowTitle().isEmpty())
+            continue;
+        const QString name = StableNames::inWords(toolBar->objectName());
+        m_untitled.append({toolBar, toolBar->toggleViewAction()->text()});
+        toolBar->setWindowTitle(name.isEmpty() ? RyToolBarKit::tr("Toolbar %1").arg(++number)
+                                               : name);
+    }
+}
+
+void RyToolBarKitPrivate::takeTitlesBack()
+{
+    for (const auto &item : m_untitled) {
+        if (!item.first)
+            continue;
+        item.first->setWindowTitle(QString());
+        item.first->toggleViewAction()->setText(item.second);
+    }
+    m_untitled.clear();
 }
 
 void RyToolBarKitPrivate::markRequired(const QModelIndex &, int first, int last)

@@ -284,10 +284,17 @@ void RyToolBarKitPrivate::place(QToolBar *toolBar)
             actions.append(static_cast<QAction *>(action));
     }
     manager->setToolBar(toolBar, actions);
+    putBackButtons(toolBar);
+}
+
+void RyToolBarKitPrivate::putBackButtons(QToolBar *toolBar)
+{
+    const QSet<const QAction *> made = m_newButtons.take(toolBar);
     if (!(features & RyToolBarKit::KeepButtons))
         return;
+    const auto actions = manager->actions(toolBar);
     for (QAction *action : actions) {
-        if (action)
+        if (made.contains(action))
             m_buttons.putBack(toolBar, action);
     }
 }

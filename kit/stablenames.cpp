@@ -143,6 +143,23 @@ QString StableNames::plainText(const QString &text)
     return plain.trimmed();
 }
 
+QString StableNames::inWords(const QString &name)
+{
+    QString words;
+    bool begins = true;
+    for (const QChar letter : name) {
+        const bool isLetter = letter.isLetterOrNumber();
+        if (isLetter && (begins || (letter.isUpper() && words.at(words.size() - 1).isLower()))) {
+            words += words.isEmpty() ? QString() : QStringLiteral(" ");
+            words += letter.toUpper();
+        } else if (isLetter) {
+            words += letter;
+        }
+        begins = !isLetter;
+    }
+    return words;
+}
+
 bool StableNames::hasName(const QAction *action) const
 {
     return !nameFor(action).isEmpty();
@@ -168,8 +185,10 @@ QString StableNames::memberOf(const QObject *object) const
     };
     const QMetaObject *const meta = m_window->metaObject();
     for (int i = QMainWindow::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
-        if (holds(meta->property(i).read(m_window)))
-            return QLatin1String(meta->property(i).name());
+        // Reading others may do something in the program.
+        const QMetaProperty property = meta->property(i);
+        if (QByteArray(property.typeName()).endsWith('*') && holds(property.read(m_window)))
+            return QLatin1String(property.name());
     }
     const auto dynamicNames = m_window->dynamicPropertyNames();
     for (const QByteArray &name : dynamicNames) {

@@ -58,6 +58,11 @@ public:
     static QString plainText(const QString &text);
 
     /*!
+     * \brief Returns a name such as "fontSize_box" as text: "Font Size Box".
+     */
+    static QString inWords(const QString &name);
+
+    /*!
      * \brief Returns true if \a action has a name that is not made of its text.
      */
     bool hasName(const QAction *action) const;

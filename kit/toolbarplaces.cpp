@@ -18,7 +18,7 @@ QMap<QString, Qt::ToolBarArea> areas()
             {QStringLiteral("bottom"), Qt::BottomToolBarArea}};
 }
 
-// What only has to be there, without the toolbars that the window does not have.
+// The lines without the toolbars that the window does not have.
 QList<QStringList> presentLines(const QList<QStringList> &lines, const QSet<QString> &present)
 {
     QList<QStringList> result;
@@ -54,7 +54,6 @@ QSet<QString> toolBarsOf(const KitPlaces &places)
     return names;
 }
 
-// The line that has the most of a line's neighbours is the one with the first of them.
 int lineWithAnyOf(const QList<QStringList> &lines, const QStringList &names)
 {
     for (int i = 0; i < lines.size(); ++i) {
@@ -126,7 +125,6 @@ void ToolBarPlaces::apply(QMainWindow *window, const QHash<const QToolBar *, QSt
         const Qt::ToolBarArea area = allAreas.value(it.key());
         bool first = true;
         for (const QStringList &line : lines) {
-            // An empty line is left out when it is followed by another break.
             if (!first)
                 window->addToolBarBreak(area);
             first = false;

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Compares the binary contract of the library with the record in tools/check-abi/: exported symbols
-# as GCC and as Clang build them, signals and slots, fields, functions and types. Except for signals and
-# slots, each Qt has a record of its own.
+# Compares the binary contracts of the library and of the kit with the records in tools/check-abi/: exported
+# symbols as GCC and as Clang build them, signals and slots, fields, functions and types. Except for signals
+# and slots, each Qt has a record of its own.
 #
 # usage: check-abi.sh [--qt 5|6] [--update]
 #   --update  updates the record after an intended change
@@ -20,7 +20,6 @@ cores=$(nproc)
 contract=tools/check-abi
 update=${arguments[0]-}
 build=build/abi$suffix
-library=libRyCustomizedDialog$suffix.so
 
 build() {
     local said=$build-$1.txt
@@ -52,40 +51,50 @@ describe() {
     python3 "$contract/describe.py" "$qt" "$@"
 }
 
+# layouts FOLDER
 layouts() {
     local flags
     read -ra flags < <(qt_flags)
-    describe layouts "${flags[@]}" -Idialog -Itoolbarmanager -Itoolbareditor -Iribbon
+    describe layouts "$1" "${flags[@]}"
 }
 
-# A description of all functions and types of our own headers, without Qt's types: these would take
-# most of the room and change with each version of Qt.
+# abi_description FOLDER LIBRARY: all functions and types of our own headers, without Qt's types: these
+# would take most of the room and change with each version of Qt.
 abi_description() {
     local headers=$build-headers
-    mkdir -p "$headers"
-    cp {dialog,toolbarmanager,toolbareditor,ribbon}/ry*.h "$headers"
+    rm -rf "$headers" && mkdir -p "$headers" && cp -L "$1"/*.h "$headers" || return
     abidw --suppressions "$contract/qt-types.abignore" --headers-dir "$headers" \
         --drop-private-types --drop-undefined-syms --no-corpus-path --no-comp-dir-path \
         --no-show-locs --no-elf-needed --no-parameter-names --no-architecture --type-id-style hash \
+        "$2"
+}
+
+# compare_description FILE FOLDER LIBRARY
+compare_description() {
+    local file=$contract/$1 now=$build-now.abi
+    abi_description "${@:2}" >"$now" || return
+    if [ "$update" = --update ]; then
+        cp "$now" "$file"
+    fi
+    abidiff --no-show-locs "$file" "$now"
+}
+
+# check_contract PREFIX HEADERS LIBRARY: the records begin with the prefix.
+check_contract() {
+    local headers=$build-g++/include/$2 library=$3$suffix.so compiler
+    for compiler in g++ clang++; do
+        try "Symbols of $2 by $compiler" compare "$1symbols$suffix.txt" \
+            describe symbols "$build-$compiler/$library"
+    done
+    try "Signals and slots of $2" compare "$1metaobjects.txt" describe metaobjects "$headers"
+    try "Fields of $2" compare "$1layouts$suffix.txt" layouts "$headers"
+    try "Functions and types of $2" compare_description "$1library$suffix.abi" "$headers" \
         "$build-g++/$library"
 }
 
-compare_description() {
-    local now=$build-now.abi
-    abi_description >"$now" || return
-    if [ "$update" = --update ]; then
-        cp "$now" "$contract/library$suffix.abi"
-    fi
-    abidiff --no-show-locs "$contract/library$suffix.abi" "$now"
-}
-
 step 'Packages' tools/install-packages.sh check-abi "qt$qt"
-for compiler in g++ clang++; do
-    step "Build with $compiler" build "$compiler"
-    try "Symbols by $compiler" compare "symbols$suffix.txt" \
-        describe symbols "$build-$compiler/$library"
-done
-try 'Signals and slots' compare metaobjects.txt describe metaobjects
-try 'Fields' compare "layouts$suffix.txt" layouts
-try 'Functions and types' compare_description
-finish 'the binary contract is kept'
+step 'Build with g++' build g++
+step 'Build with clang++' build clang++
+check_contract '' RyCustomizedDialog libRyCustomizedDialog
+check_contract kit- RyToolBarKit kit/libRyToolBarKit
+finish 'the binary contracts are kept'

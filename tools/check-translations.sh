@@ -39,7 +39,7 @@ take_texts() {
     rm -rf "$fresh"
     mkdir -p "$fresh" && cp translations/*.ts "$fresh" &&
         "$lupdate" -silent -no-obsolete -locations none -source-language en \
-            dialog toolbareditor toolbarmanager ribbon -ts "${files[@]/#/$fresh/}"
+            dialog toolbareditor toolbarmanager ribbon kit -ts "${files[@]/#/$fresh/}"
 }
 
 compare() {

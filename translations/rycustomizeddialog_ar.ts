@@ -202,4 +202,19 @@
         <translation>مستند مساعدة KORVA!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>خصّص أشرطة الأدوات…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>أخرى</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>إذا أزلته فسيعود عند بدء التشغيل التالي.</translation>
+    </message>
+</context>
 </TS>

@@ -202,4 +202,19 @@
         <translation>KORVA-Hilfedokument!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>Werkzeugleisten anpassen…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstiges</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>Wenn Sie sie entfernen, ist sie beim nächsten Start wieder da.</translation>
+    </message>
+</context>
 </TS>

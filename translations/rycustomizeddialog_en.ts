@@ -202,4 +202,19 @@
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

@@ -202,4 +202,19 @@
         <translation>¡Documento de ayuda de KORVA!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>Personalizar las barras de herramientas…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Otros</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>Si la quita, volverá a aparecer en el próximo inicio.</translation>
+    </message>
+</context>
 </TS>

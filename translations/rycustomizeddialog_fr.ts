@@ -202,4 +202,19 @@
         <translation>Document d&apos;aide de KORVA&#xa0;!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>Personnaliser les barres d&apos;outils…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>Si vous la retirez, elle reviendra au prochain démarrage.</translation>
+    </message>
+</context>
 </TS>

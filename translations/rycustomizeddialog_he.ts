@@ -202,4 +202,19 @@
         <translation>מסמך העזרה של KORVA!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>התאם אישית את סרגלי הכלים…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>אחר</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>אם תסיר אותה, היא תחזור בהפעלה הבאה.</translation>
+    </message>
+</context>
 </TS>

@@ -202,4 +202,19 @@
         <translation>Documento d&apos;aiuto di KORVA!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>Personalizza le barre degli strumenti…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Altro</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>Se la rimuovi, tornerà al prossimo avvio.</translation>
+    </message>
+</context>
 </TS>

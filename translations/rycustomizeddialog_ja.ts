@@ -202,4 +202,19 @@
         <translation>KORVA のヘルプ文書！</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>ツールバーをカスタマイズ…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>削除しても、次回の起動時に元に戻ります。</translation>
+    </message>
+</context>
 </TS>

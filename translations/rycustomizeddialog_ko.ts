@@ -202,4 +202,19 @@
         <translation>KORVA 도움말 문서!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>도구 모음 사용자 정의…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>기타</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>제거해도 다음에 시작할 때 다시 나타납니다.</translation>
+    </message>
+</context>
 </TS>

@@ -202,4 +202,19 @@
         <translation>Dokument pomocy KORVA!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>Dostosuj paski narzędzi…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Inne</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>Jeśli je usuniesz, wróci przy następnym uruchomieniu.</translation>
+    </message>
+</context>
 </TS>

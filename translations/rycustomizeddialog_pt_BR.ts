@@ -202,4 +202,19 @@
         <translation>Documento de ajuda do KORVA!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>Personalizar as barras de ferramentas…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Outros</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>Se você a remover, ela voltará na próxima inicialização.</translation>
+    </message>
+</context>
 </TS>

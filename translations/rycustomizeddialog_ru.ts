@@ -202,4 +202,19 @@
         <translation>Справочный документ KORVA!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>Настроить панели инструментов…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Прочее</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>Если его убрать, оно вернётся при следующем запуске.</translation>
+    </message>
+</context>
 </TS>

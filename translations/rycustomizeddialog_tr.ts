@@ -202,4 +202,19 @@
         <translation>KORVA yardım belgesi!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>Araç Çubuklarını Özelleştir…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Diğer</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>Kaldırırsanız bir sonraki açılışta geri gelir.</translation>
+    </message>
+</context>
 </TS>

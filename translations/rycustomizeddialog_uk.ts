@@ -202,4 +202,19 @@
         <translation>Довідковий документ KORVA!</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>Налаштувати панелі інструментів…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Інше</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>Якщо її прибрати, вона повернеться під час наступного запуску.</translation>
+    </message>
+</context>
 </TS>

@@ -202,4 +202,19 @@
         <translation>KORVA 帮助文档！</translation>
     </message>
 </context>
+<context>
+    <name>RyToolBarKit</name>
+    <message>
+        <source>Customize Toolbars…</source>
+        <translation>自定义工具栏…</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>If you remove it, it returns at the next start.</source>
+        <translation>如果将其移除，下次启动时会恢复。</translation>
+    </message>
+</context>
 </TS>

@@ -96,6 +96,10 @@ void tst_mergedentries::missingNamesReturnBesideTheirNeighbours_data()
                                                      << "a | b"
                                                      << "a"
                                                      << "a | b";
+    QTest::newRow("both beside their neighbours") << "c b"
+                                                  << "a b c d"
+                                                  << "a d"
+                                                  << "c d a b";
     QTest::newRow("not in the model") << "a"
                                       << "a"
                                       << "b"

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void cancelChangesNothing();
     void aboutToCustomizeComesBeforeTheDialogIsShown();
     void requiredRowsSayWhatHappens();
+    void toolBarsWithoutATitleHaveOneInTheDialog();
     void toolBarsOfTheUserCanBeMovedLikeThoseOfTheProgram();
 };
 
@@ -474,6 +475,29 @@ void tst_RyToolBarKit_changes::requiredRowsSayWhatHappens()
     for (int row = 0; row < views.currentToolBarList->count(); ++row)
         tips << views.currentToolBarList->item(row)->toolTip();
     QCOMPARE(tips, QStringList({"", "If you remove it, it returns at the next start.", ""}));
+}
+
+void tst_RyToolBarKit_changes::toolBarsWithoutATitleHaveOneInTheDialog()
+{
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        for (const char *name : {"graphBar", ""}) {
+            QToolBar *const toolBar = window->addToolBar("");
+            toolBar->setObjectName(name);
+            toolBar->toggleViewAction()->setText("&Own");
+        }
+    });
+    RyCustomizedDialog *const dialog = program.openDialog();
+    QStringList rows;
+    const QListWidget *const list = EditorViews(dialog).toolBarList;
+    for (int row = 0; row < list->count(); ++row)
+        rows << list->item(row)->text();
+    QCOMPARE(rows, QStringList({"Edit", "File", "Graph Bar", "Toolbar 1"}));
+    QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
+    QCOMPARE(program.toolBar("graphBar")->windowTitle(), QString());
+    QCOMPARE(program.toolBar("graphBar")->toggleViewAction()->text(), QString("&Own"));
+    QVERIFY(program.kit()->isDefault());
 }
 
 void tst_RyToolBarKit_changes::toolBarsOfTheUserCanBeMovedLikeThoseOfTheProgram()

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void objectsOfTheProgramKeepTheirNames();
     void whatHasNoStableNameIsAProblem();
     void widgetsWithoutTextGetOne();
+    void disabledWidgetsStayDisabled();
 };
 
 namespace {
@@ -216,10 +217,10 @@ void tst_RyToolBarKit_find::handedOverActionsAreInTheirCategory()
         QAction *const inMenu = addAction(window->menuBar()->addMenu("File"), "menu");
         program.kit()->addActions({early, nullptr, early, inMenu}, "Mine");
     });
-    QCOMPARE(offered(program, "Mine"), QStringList("Early"));
-    QCOMPARE(offered(program, "File"), QStringList("Menu"));
+    QCOMPARE(offered(program, "Mine"), QStringList({"Early", "Menu"}));
+    QCOMPARE(offered(program, "File"), QStringList());
     program.kit()->addActions({addAction(program.window(), "late")}, "Mine");
-    QCOMPARE(offered(program, "Mine"), QStringList({"Early", "Late"}));
+    QCOMPARE(offered(program, "Mine"), QStringList({"Early", "Menu", "Late"}));
 }
 
 void tst_RyToolBarKit_find::excludedObjectsAreNotOffered()
@@ -366,6 +367,8 @@ void tst_RyToolBarKit_find::widgetsWithoutTextGetOne()
     QAction *spin = nullptr;
     QAction *titled = nullptr;
     QAction *own = nullptr;
+    QAction *named = nullptr;
+    QAction *space = nullptr;
     program.start([&](QMainWindow *window) {
         QToolBar *const bar = window->addToolBar("Bar");
         spin = bar->addWidget(new QSpinBox);
@@ -374,10 +377,27 @@ void tst_RyToolBarKit_find::widgetsWithoutTextGetOne()
         titled = bar->addWidget(box);
         own = bar->addWidget(new QSpinBox);
         own->setText("Own");
+        QSpinBox *const namedBox = new QSpinBox;
+        namedBox->setObjectName("fontSize_box2");
+        named = bar->addWidget(namedBox);
+        space = bar->addWidget(new QWidget);
     });
     QCOMPARE(spin->text(), QString("QSpinBox"));
     QCOMPARE(titled->text(), QString("Size"));
     QCOMPARE(own->text(), QString("Own"));
+    QCOMPARE(named->text(), QString("Font Size Box2"));
+    QCOMPARE(space->text(), QString("Space"));
+}
+
+void tst_RyToolBarKit_find::disabledWidgetsStayDisabled()
+{
+    KitProgram program;
+    QSpinBox *const box = new QSpinBox;
+    program.start([&](QMainWindow *window) {
+        window->addToolBar("Bar")->addWidget(box);
+        box->setEnabled(false);
+    });
+    QVERIFY(!box->isEnabled());
 }
 
 QTEST_MAIN(tst_RyToolBarKit_find)

@@ -33,16 +33,19 @@ COMPILERS = {os.path.realpath(path): path
 VERSION = (SOURCE_DIR / 'VERSION').read_text().strip()
 MAJOR = int(VERSION.split('.')[0])
 # What depends on the Qt that a library is for.
-Flavour = namedtuple('Flavour', 'qt name include features qt_minimum not_deprecated_since standard')
+Flavour = namedtuple('Flavour',
+                     'qt name kit include features qt_minimum not_deprecated_since standard')
 FLAVOURS = {
-    '5': Flavour('5', 'RyCustomizedDialog', 'include', f'{LIBDIR}/qt5/mkspecs/features',
-                 '5.6', '0x050600', '-std=c++11'),
-    '6': Flavour('6', 'RyCustomizedDialog-qt6', 'include/RyCustomizedDialog-qt6',
-                 f'{LIBDIR}/qt6/mkspecs/features', '6.2', '0x060200', '-std=c++17'),
+    '5': Flavour('5', 'RyCustomizedDialog', 'RyToolBarKit', 'include',
+                 f'{LIBDIR}/qt5/mkspecs/features', '5.6', '0x050600', '-std=c++11'),
+    '6': Flavour('6', 'RyCustomizedDialog-qt6', 'RyToolBarKit-qt6',
+                 'include/RyCustomizedDialog-qt6', f'{LIBDIR}/qt6/mkspecs/features', '6.2',
+                 '0x060200', '-std=c++17'),
 }
 TESTED = FLAVOURS[QT]
 OTHER = FLAVOURS['6' if QT == '5' else '5']
 NAME = TESTED.name
+KIT = TESTED.kit
 HOST_DIR = SOURCE_DIR / 'tests' / 'packaging' / 'host'
 EXAMPLES = ('dressed', 'minimal', 'plugins', 'texteditor', 'tree')
 
@@ -60,11 +63,15 @@ CLASSES = (
 )
 LANGUAGES = [path.stem for path in (SOURCE_DIR / 'translations').glob('*.ts')
              if TRANSLATIONS == 'ON']
-# The host's argument where it has to find them.
+# The argument of hosts that have to find them.
 TRANSLATED = ['translated'] if LANGUAGES else []
 # Both libraries have the same ones.
 SHARED_FILES = [f'share/rycustomizeddialog/translations/{name}.qm' for name in LANGUAGES]
 HEADERS = CLASSES + tuple(name.lower() + '.h' for name in CLASSES) + ('rycustomizeddialogexport.h',)
+KIT_HEADERS = ('RyToolBarKit', 'rytoolbarkit.h', 'rytoolbarkitexport.h')
+# With the folder where a host may say that they are.
+HEADERS_IN_FOLDERS = ([('RyCustomizedDialog', header) for header in HEADERS]
+                      + [('RyToolBarKit', header) for header in KIT_HEADERS])
 
 # What a host may define before it includes a header.
 STRICT = (
@@ -117,14 +124,17 @@ def pkg_config(*arguments):
 
 
 def installed_files(flavour):
-    """All but one that is named after the build type."""
+    """All but those that are named after the build type."""
     name = flavour.name
     package = f'{LIBDIR}/cmake/{name}/{name}'
-    files = [f'{flavour.include}/RyCustomizedDialog/{header}' for header in HEADERS]
-    files += [f'{flavour.features}/rycustomizeddialog.prf']
-    files += [f'{LIBDIR}/lib{name}.so{end}' for end in ('', f'.{MAJOR}', f'.{VERSION}')]
-    files += [f'{package}{end}.cmake' for end in ('Config', 'ConfigVersion', 'Targets')]
-    files += [f'{LIBDIR}/pkgconfig/{name}.pc']
+    files = [f'{flavour.include}/{folder}/{header}' for folder, header in HEADERS_IN_FOLDERS]
+    files += [f'{package}{end}.cmake'
+              for end in ('Config', 'ConfigVersion', 'Targets', 'KitTargets')]
+    for library in (name, flavour.kit):
+        files += [f'{LIBDIR}/lib{library}.so{end}' for end in ('', f'.{MAJOR}', f'.{VERSION}')]
+        files += [f'{LIBDIR}/pkgconfig/{library}.pc']
+    files += [f'{flavour.features}/{feature}.prf'
+              for feature in ('rycustomizeddialog', 'rytoolbarkit')]
     return files + SHARED_FILES
 
 
@@ -144,7 +154,7 @@ def failures_of(commands):
 class InstalledTree(unittest.TestCase):
 
     def test_installs_exactly_these_files(self):
-        named_after_the_build_type = rf'.*/{NAME}Targets-\w+\.cmake'
+        named_after_the_build_type = rf'.*/{NAME}(Kit)?Targets-\w+\.cmake'
         found = [name for name in self.found() if not re.fullmatch(named_after_the_build_type, name)]
         self.assertEqual(sorted(found), sorted(installed_files(TESTED)))
 
@@ -155,39 +165,43 @@ class InstalledTree(unittest.TestCase):
     def found(self):
         return [str(path.relative_to(prefix)) for path in prefix.rglob('*') if not path.is_dir()]
 
-    def test_library_is_found_by_its_links(self):
+    def test_libraries_are_found_by_their_links(self):
         links = {path.name: os.readlink(path)
                  for path in (prefix / LIBDIR).iterdir() if path.is_symlink()}
-        self.assertEqual(links, {
-            f'lib{NAME}.so': f'lib{NAME}.so.{MAJOR}',
-            f'lib{NAME}.so.{MAJOR}': f'lib{NAME}.so.{VERSION}',
-        })
+        expected = {}
+        for library in (NAME, KIT):
+            expected[f'lib{library}.so'] = f'lib{library}.so.{MAJOR}'
+            expected[f'lib{library}.so.{MAJOR}'] = f'lib{library}.so.{VERSION}'
+        self.assertEqual(links, expected)
 
     def test_no_path_of_the_build_stays_in_it(self):
-        library = prefix / LIBDIR / f'lib{NAME}.so.{VERSION}'
-        run('strip', '--strip-debug', '-o', work / 'stripped', library)
         unwanted = [str(path).encode() for path in (SOURCE_DIR, BUILD_DIR, installed_to)]
         for path in prefix.rglob('*'):
-            if path.is_file():
-                content = (work / 'stripped' if path == library.resolve() else path).read_bytes()
-                found = [text.decode() for text in unwanted if text in content]
-                self.assertEqual(found, [], f'in {path.relative_to(prefix)}')
+            if not path.is_file():
+                continue
+            content = path.read_bytes()
+            if path.name.endswith(f'.so.{VERSION}'):
+                run('strip', '--strip-debug', '-o', work / 'stripped', path)
+                content = (work / 'stripped').read_bytes()
+            found = [text.decode() for text in unwanted if text in content]
+            self.assertEqual(found, [], f'in {path.relative_to(prefix)}')
 
     def test_pkg_config_knows_the_version_and_what_it_needs(self):
-        self.assertEqual(pkg_config('--modversion', NAME), [VERSION])
-        self.assertEqual(pkg_config('--print-requires', NAME),
-                         [f'Qt{QT}Widgets', '>=', TESTED.qt_minimum])
+        requirements = {NAME: [f'Qt{QT}Widgets', '>=', TESTED.qt_minimum],
+                        KIT: [NAME, '>=', VERSION]}
+        for name, requirement in requirements.items():
+            self.assertEqual(pkg_config('--modversion', name), [VERSION])
+            self.assertEqual(pkg_config('--print-requires', name), requirement)
 
 
 class Library(unittest.TestCase):
 
-    def setUp(self):
-        self.library = prefix / LIBDIR / f'lib{NAME}.so'
-
     def test_needs_qt_and_the_standard_runtime_only(self):
         allowed = {f'libQt{QT}{module}.so.{QT}' for module in ('Core', 'Gui', 'Widgets')}
         allowed |= {'libstdc++.so.6', 'libm.so.6', 'libgcc_s.so.1', 'libc.so.6'}
-        self.assertEqual(sorted(set(self.dynamic('NEEDED')) - allowed), [])
+        self.assertEqual(sorted(set(self.dynamic('NEEDED', NAME)) - allowed), [])
+        own = f'lib{NAME}.so.{MAJOR}'
+        self.assertEqual(sorted(set(self.dynamic('NEEDED', KIT)) - allowed), [own])
 
     def test_starts_no_timer_or_thread_and_reads_no_file_or_setting(self):
         # C functions stand alone, and what belongs to a class has its name in front.
@@ -197,22 +211,28 @@ class Library(unittest.TestCase):
             r'QTemporary\w+|QThread|QThreadPool|QWaitCondition)::|'
             r'\bQObject::(startTimer|moveToThread)\b|\b(qgetenv|qEnvironmentVariable\w*)\b|'
             r'^(f?open(64)?|creat|(secure_)?getenv|pthread_\w+|socket|syscall|std::.*f?stream.*)\b')
-        lines = run('nm', '-DC', '--undefined-only', '--format=posix', self.library).splitlines()
+        library = prefix / LIBDIR / f'lib{NAME}.so'
+        lines = run('nm', '-DC', '--undefined-only', '--format=posix', library).splitlines()
         self.assertGreater(len(lines), 0)
         self.assertEqual([line for line in lines if unwanted.search(line)], [])
 
     def test_soname_holds_the_major_version(self):
-        self.assertEqual(self.dynamic('SONAME'), [f'lib{NAME}.so.{MAJOR}'])
+        for name in (NAME, KIT):
+            self.assertEqual(self.dynamic('SONAME', name), [f'lib{name}.so.{MAJOR}'])
 
-    def test_searches_no_folder_of_its_own(self):
-        self.assertEqual(self.dynamic('RPATH') + self.dynamic('RUNPATH'), [])
+    def test_only_the_kit_searches_a_folder_which_is_its_own(self):
+        for name, folders in {NAME: [], KIT: ['$ORIGIN']}.items():
+            self.assertEqual(self.dynamic('RPATH', name) + self.dynamic('RUNPATH', name), folders)
 
-    def dynamic(self, tag):
-        return re.findall(rf'\({tag}\).*\[(.*)\]', run('readelf', '-dW', self.library))
+    def dynamic(self, tag, name):
+        library = prefix / LIBDIR / f'lib{name}.so'
+        return re.findall(rf'\({tag}\).*\[(.*)\]', run('readelf', '-dW', library))
 
 
 class Hosts(unittest.TestCase):
 
+    # The hosts by the library that they use.
+    HOSTS = {NAME: 'main.cpp', KIT: 'kithost.cpp'}
     SOURCES = ('-DUSES=sources', f'-DQT={QT}')
 
     def package(self, prefix):
@@ -231,13 +251,51 @@ class Hosts(unittest.TestCase):
         run(CMAKE, '--build', work / name, '--target', target)
 
     def build_and_run(self, name, *options):
-        self.build(HOST_DIR, name, *options, target='host')
-        run(work / name / 'host', *TRANSLATED)
+        self.build(HOST_DIR, name, *options, target='all')
+        for host in ('host', 'kithost'):
+            run(work / name / host, *TRANSLATED)
 
     def test_cmake_package_works_wherever_it_lies(self):
         self.build_and_run('package', *self.package(prefix))
-        used = run('ldd', work / 'package' / 'host')
-        self.assertIn(str(prefix / LIBDIR / f'lib{NAME}.so.'), used)
+        for host, library in {'host': NAME, 'kithost': KIT}.items():
+            used = run('ldd', work / 'package' / host)
+            self.assertIn(str(prefix / LIBDIR / f'lib{library}.so.'), used)
+
+    def test_kit_brings_the_library_where_linkers_leave_out_what_a_program_does_not_use(self):
+        folder = work / 'unused'
+        folder.mkdir()
+        (folder / 'main.cpp').write_text(
+            '#include <RyToolBarKit>\nint main() { return RyToolBarKit::tr("").size(); }\n')
+        (folder / 'CMakeLists.txt').write_text(
+            'cmake_minimum_required(VERSION 3.16)\nproject(Unused CXX)\n'
+            f'find_package({NAME} CONFIG REQUIRED COMPONENTS Kit)\nadd_executable(unused main.cpp)\n'
+            'target_link_options(unused PRIVATE -Wl,--as-needed)\n'
+            'target_link_libraries(unused PRIVATE RyCustomizedDialog::Kit)\n')
+        self.build(folder, 'unused-build', f'-DCMAKE_PREFIX_PATH={prefix}', target='all')
+        needed = run('readelf', '-dW', work / 'unused-build' / 'unused')
+        self.assertIn(f'lib{KIT}.so', needed)
+        self.assertNotIn(f'lib{NAME}.so', needed)
+        run(work / 'unused-build' / 'unused')
+
+    def test_library_is_found_without_the_kit(self):
+        without = work / 'without-kit'
+        shutil.copytree(prefix, without, symlinks=True)
+        shutil.rmtree(without / TESTED.include / 'RyToolBarKit')
+        for path in without.rglob('*[Kk]it*'):
+            path.unlink()
+        self.build(HOST_DIR, 'without-kit-build', *self.package(without), target='all')
+        run(work / 'without-kit-build' / 'host', *TRANSLATED)
+        self.assertFalse((work / 'without-kit-build' / 'kithost').exists())
+        code, output = self.configure(HOST_DIR, 'with-kit-build', *self.package(without),
+                                      '-DWANTED_COMPONENTS=Kit')
+        self.assertNotEqual(code, 0)
+        self.assertRegex(output, rf'The kit is not installed\.\s+On Debian, it is in lib{KIT.lower()}-dev\.')
+
+    def test_unknown_component_is_not_found(self):
+        code, output = self.configure(HOST_DIR, 'unknown', *self.package(prefix),
+                                      '-DWANTED_COMPONENTS=Kit;Unknown')
+        self.assertNotEqual(code, 0)
+        self.assertNotIn('The kit is not installed', output)
 
     def test_cmake_package_answers_requests_for_versions(self):
         answers = {
@@ -257,12 +315,13 @@ class Hosts(unittest.TestCase):
                 if not answer:
                     self.assertIn(f'version: {VERSION}', output)
 
-    def test_pkg_config_file_works_wherever_it_lies(self):
-        flags = pkg_config('--cflags', '--libs', NAME)
+    def test_pkg_config_files_work_wherever_they_lie(self):
         folder = ''.join(pkg_config('--variable=translationsdir', NAME))
-        run(CXX, *CXXFLAGS, TESTED.standard, '-fPIC', f'-DTRANSLATIONS_DIR="{folder}"',
-            HOST_DIR / 'main.cpp', '-o', work / 'pc-host', *flags)
-        run(work / 'pc-host', *TRANSLATED, LD_LIBRARY_PATH=str(prefix / LIBDIR))
+        for name, source in self.HOSTS.items():
+            host = work / f'pc-{name}'
+            run(CXX, *CXXFLAGS, TESTED.standard, '-fPIC', f'-DTRANSLATIONS_DIR="{folder}"',
+                HOST_DIR / source, '-o', host, *pkg_config('--cflags', '--libs', name))
+            run(host, *TRANSLATED, LD_LIBRARY_PATH=str(prefix / LIBDIR))
 
     def test_subdirectory_gives_the_same_target_without_tests_and_examples(self):
         self.build_and_run('sources', *self.SOURCES,
@@ -280,8 +339,9 @@ class Hosts(unittest.TestCase):
     def test_package_without_translations_names_no_folder(self):
         # In the folder of the other test, so that the library is compiled once.
         self.build(HOST_DIR, 'sources', *self.SOURCES,
-                   '-DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=OFF', target='host')
+                   '-DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=OFF', target='all')
         run(work / 'sources' / 'host')
+        run(work / 'sources' / 'kithost')
         run(CMAKE, '--install', work / 'sources', '--prefix', work / 'without')
         self.assertEqual(list((work / 'without').rglob('*translations*')), [])
         self.build(HOST_DIR, 'untranslated', *self.package(work / 'without'), target='host')
@@ -319,11 +379,17 @@ class Hosts(unittest.TestCase):
                 self.build(folder, name, f'-DCMAKE_PREFIX_PATH={prefix}', target='all')
                 self.assertTrue(os.access(work / name / name, os.X_OK))
 
-    def test_qmake_feature_works_wherever_it_lies(self):
-        folder = work / 'qmake'
+    def test_qmake_features_work_wherever_they_lie(self):
+        both = 'rycustomizeddialog rytoolbarkit'
+        for feature, source in {'rycustomizeddialog': 'main.cpp', 'rytoolbarkit': 'kithost.cpp',
+                                both: 'kithost.cpp'}.items():
+            with self.subTest(feature):
+                self.build_with_qmake(work / f'qmake {feature}'.replace(' ', '-'), feature, source)
+
+    def build_with_qmake(self, folder, feature, source):
         folder.mkdir()
         (folder / 'host.pro').write_text(
-            f'CONFIG += rycustomizeddialog\nSOURCES = {HOST_DIR}/main.cpp\n'
+            f'CONFIG += {feature}\nSOURCES = {HOST_DIR}/{source}\n'
             r'DEFINES += TRANSLATIONS_DIR=\\\"\\\"')
         # Debian's qmake would mix these with the flags of its own compiler.
         run('env', '-u', 'CXX', '-u', 'CXXFLAGS', QMAKE, '-o', folder / 'Makefile',
@@ -342,13 +408,13 @@ class Headers(unittest.TestCase):
         self.compile_each()
 
     def compile_each(self, *defines):
-        include = [flag for flag in pkg_config('--cflags', NAME)
+        include = [flag for flag in pkg_config('--cflags', KIT)
                    if str(prefix.parent) in flag]
         common = (*PEDANTIC, *defines, *include, *qt_flags(), '-fsyntax-only')
         commands = {}
-        for header in HEADERS:
+        for folder, header in HEADERS_IN_FOLDERS:
             source = work / f'{header}.cpp'
-            source.write_text(f'#include <{header}>\n#include <RyCustomizedDialog/{header}>\n')
+            source.write_text(f'#include <{header}>\n#include <{folder}/{header}>\n')
             for compiler in COMPILERS:
                 commands[f'<{header}> with {compiler}'] = (compiler, *common, source)
         self.assertEqual(failures_of(commands), '')

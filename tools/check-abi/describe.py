@@ -1,13 +1,15 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Prints one part of the binary contract as text, for tools/check-abi.sh.
+"""Prints one part of the binary contract of a library as text, for tools/check-abi.sh.
 
-usage: describe.py QT symbols LIBRARY    the exported symbols
-       describe.py QT metaobjects        the signals and slots of each exported class, in their order
-       describe.py QT layouts FLAGS...   the bases and fields of each exported class and where they
-                                         lie, by Clang with these compiler flags
+usage: describe.py QT symbols LIBRARY           the exported symbols
+       describe.py QT metaobjects FOLDER        the signals and slots of each exported class, in their
+                                                order
+       describe.py QT layouts FOLDER FLAGS...   the bases and fields of each exported class and where
+                                                they lie, by Clang with these compiler flags
 
-QT is 5 or 6.
+QT is 5 or 6. The folder has the public headers of the library, and a forwarding header for each
+exported class.
 """
 
 import json
@@ -16,8 +18,6 @@ import subprocess
 import sys
 import tempfile
 from pathlib import Path
-
-SOURCE_DIR = Path(__file__).resolve().parents[2]
 
 # The constructor for whole objects of an abstract class: nobody can call it, and only GCC emits it.
 NOT_IN_EVERY_BUILD = {'_ZN14RyCusInterfaceC1Ev'}
@@ -36,12 +36,10 @@ def demangled(names):
     return output_of('c++filt', text='\n'.join(names)).splitlines()
 
 
-def exported_classes():
+def exported_classes(folder):
     """The header of each class, by name."""
-    listed = (SOURCE_DIR / 'cmake' / 'RyHeaders.cmake').read_text()
-    found = re.findall(r'^    (\w+)/(Ry\w+)', listed, re.MULTILINE)
-    return {name: SOURCE_DIR / folder / f'{name.lower()}.h'
-            for folder, name in sorted(found, key=lambda entry: entry[1])}
+    return {path.name: path.with_name(f'{path.name.lower()}.h')
+            for path in sorted(Path(folder).glob('Ry*'))}
 
 
 def symbols(library):
@@ -52,9 +50,9 @@ def symbols(library):
         print(name, meaning)
 
 
-def metaobjects():
+def metaobjects(folder):
     """Compiled hosts know signals and slots by their places in these lists."""
-    for header in exported_classes().values():
+    for header in exported_classes(folder).values():
         for meta in described_by_moc(header):
             print(meta['className'], 'after', meta['superClasses'][0]['name'])
             for kind in ('constructors', 'signals', 'slots', 'methods'):
@@ -81,13 +79,13 @@ def signature(method):
     return f'{method["access"]} {method["returnType"]} {method["name"]}({arguments})'
 
 
-def layouts(*flags):
-    classes = exported_classes()
+def layouts(folder, *flags):
+    classes = exported_classes(folder)
     # A record is laid out once it is needed.
     source = ''.join(f'#include <{name.lower()}.h>\n' for name in classes)
     source += ''.join(f'static_assert(sizeof({name}) > 0, "");\n' for name in classes)
     dumped = output_of('clang++', '-x', 'c++', '-fsyntax-only', '-Xclang', '-fdump-record-layouts',
-                       *flags, '-', text=source)
+                       f'-I{folder}', *flags, '-', text=source)
     found = {}
     for record in dumped.split('*** Dumping AST Record Layout')[1:]:
         lines = [line for line in record.splitlines() if '|' in line]

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+
+#include "kitmodel.h"
+
+namespace {
+
+const QString Separator = "|";
+
+// The place for a name of the model among the entries.
+int placeOf(const QString &name, const QStringList &entries, const QStringList &model)
+{
+    const int index = model.indexOf(name);
+    int separators = 0;
+    int place = 0;
+    int before = index - 1;
+    for (; before >= 0; --before) {
+        if (model.at(before) == Separator)
+            ++separators;
+        else if (entries.contains(model.at(before)))
+            break;
+    }
+    if (before >= 0)
+        place = entries.indexOf(model.at(before)) + 1;
+    for (; separators > 0 && place < entries.size() && entries.at(place) == Separator; --separators)
+        ++place;
+    if (place > 0)
+        return place;
+    for (int after = index + 1; after < model.size(); ++after) {
+        if (model.at(after) == Separator && entries.value(0) == Separator)
+            return 0;
+        if (model.at(after) != Separator && entries.contains(model.at(after)))
+            return entries.indexOf(model.at(after));
+    }
+    return 0;
+}
+
+QStringList merged(QStringList entries, const QStringList &model, const QSet<QString> &missing)
+{
+    for (const QString &name : model) {
+        if (missing.contains(name) && !entries.contains(name))
+            entries.insert(placeOf(name, entries, model), name);
+    }
+    return entries;
+}
+
+// What a program can put on its toolbars.
+QMap<QString, QStringList> defaultsOf(const KitModel::Release &release)
+{
+    QMap<QString, QStringList> defaults;
+    for (auto it = release.toolBars.cbegin(); it != release.toolBars.cend(); ++it) {
+        defaults[it.key()];
+        for (const QString &name : it.value()) {
+            if (name == Separator || release.actions.contains(name))
+                defaults[it.key()] << name;
+        }
+    }
+    return defaults;
+}
+
+} // namespace
+
+bool KitModel::ToolBar::operator==(const ToolBar &other) const
+{
+    return title == other.title && custom == other.custom && customized == other.customized
+        && entries == other.entries && known == other.known && hidden == other.hidden;
+}
+
+void KitModel::start(const Release &release)
+{
+    m_release = release;
+    m_layout = m_stored;
+    m_defaults = defaultsOf(release);
+    takeNewDefaults();
+}
+
+void KitModel::change(const Release &release)
+{
+    m_release = release;
+    const auto defaults = defaultsOf(release);
+    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
+        if (!m_defaults.contains(it.key()))
+            m_defaults.insert(it.key(), it.value());
+    }
+    const QStringList names = m_defaults.keys();
+    for (const QString &name : names) {
+        if (!release.toolBars.contains(name))
+            m_defaults.remove(name);
+    }
+    takeNewDefaults();
+}
+
+void KitModel::takeNewDefaults()
+{
+    for (auto it = m_layout.begin(); it != m_layout.end(); ++it) {
+        const QStringList defaults = m_defaults.value(it.key());
+        if (it->custom || !it->customized || !m_defaults.contains(it.key()))
+            continue;
+        QSet<QString> missing;
+        for (const QString &name : defaults) {
+            if (name != Separator && !it->known.contains(name))
+                missing.insert(name);
+        }
+        set(it.key(), merged(it->entries, defaults, missing));
+    }
+}
+
+void KitModel::wasStored()
+{
+    m_stored = m_layout;
+}
+
+void KitModel::loseStored()
+{
+    m_stored.clear();
+}
+
+QStringList KitModel::entries(const QString &toolBar) const
+{
+    const ToolBar record = m_layout.value(toolBar);
+    return record.custom || record.customized ? record.entries : m_defaults.value(toolBar);
+}
+
+void KitModel::set(const QString &toolBar, const QStringList &entries)
+{
+    ToolBar &record = m_layout[toolBar];
+    const QStringList defaults = m_defaults.value(toolBar);
+    record.customized = record.custom || entries != defaults;
+    record.entries = record.customized ? entries : QStringList();
+    if (!record.customized)
+        record.known.clear();
+    for (const QString &name : defaults) {
+        if (record.customized && name != Separator && !record.known.contains(name))
+            record.known << name;
+    }
+}
+
+void KitModel::edit(const QString &toolBar, const QStringList &content)
+{
+    const QStringList before = entries(toolBar);
+    QSet<QString> absent;
+    for (const QString &name : before) {
+        if (name != Separator && !m_release.actions.contains(name))
+            absent.insert(name);
+    }
+    set(toolBar, merged(content, before, absent));
+}
+
+void KitModel::create(const QString &toolBar, const QString &title, const QStringList &content)
+{
+    ToolBar &record = m_layout[toolBar];
+    record.custom = true;
+    record.title = title;
+    set(toolBar, content);
+}
+
+void KitModel::remove(const QString &toolBar)
+{
+    m_layout.remove(toolBar);
+}
+
+void KitModel::restoreDefaults()
+{
+    const QStringList names = toolBars();
+    for (const QString &name : names) {
+        if (isCustom(name))
+            remove(name);
+        else
+            set(name, m_defaults.value(name));
+    }
+}
+
+void KitModel::hide(const QString &toolBar, bool hidden)
+{
+    m_layout[toolBar].hidden = hidden;
+}
+
+QStringList KitModel::content(const QString &toolBar) const
+{
+    QStringList content;
+    const QStringList all = entries(toolBar);
+    for (const QString &name : all) {
+        if (name == Separator || m_release.actions.contains(name))
+            content << name;
+    }
+    return content;
+}
+
+QStringList KitModel::toolBars() const
+{
+    QStringList names = m_defaults.keys();
+    for (auto it = m_layout.cbegin(); it != m_layout.cend(); ++it) {
+        if (it->custom)
+            names << it.key();
+    }
+    return names;
+}
+
+bool KitModel::isDefault() const
+{
+    for (const ToolBar &toolBar : m_layout) {
+        if (toolBar.custom || toolBar.customized || toolBar.hidden)
+            return false;
+    }
+    return true;
+}

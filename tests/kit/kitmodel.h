@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef KITMODEL_H
+#define KITMODEL_H
+
+#include <QMap>
+#include <QSet>
+#include <QStringList>
+
+/*
+ * What a program and its user may expect of the kit, as simple as possible: lists of names,
+ * searched from the front. A separator is "|".
+ */
+class KitModel
+{
+public:
+    struct ToolBar
+    {
+        bool operator==(const ToolBar &other) const;
+
+        QString title; // of custom ones only
+        bool custom = false;
+        bool customized = false;
+        QStringList entries;
+        QStringList known;
+        bool hidden = false; // by the user
+    };
+    using Layout = QMap<QString, ToolBar>;
+
+    // What a release or a set of plugins has.
+    struct Release
+    {
+        QSet<QString> actions;
+        QMap<QString, QStringList> toolBars;
+    };
+
+    // The program starts with what is stored.
+    void start(const Release &release);
+    // The program has other actions or toolbars from now on.
+    void change(const Release &release);
+    // The value in the settings is that of now.
+    void wasStored();
+    void loseStored();
+
+    void edit(const QString &toolBar, const QStringList &content);
+    void create(const QString &toolBar, const QString &title, const QStringList &content);
+    void remove(const QString &toolBar);
+    void restoreDefaults();
+    void hide(const QString &toolBar, bool hidden);
+
+    // What is on the toolbar now.
+    QStringList content(const QString &toolBar) const;
+    // Those that are in the window now.
+    QStringList toolBars() const;
+    bool isCustom(const QString &toolBar) const { return m_layout.value(toolBar).custom; }
+    bool isHidden(const QString &toolBar) const { return m_layout.value(toolBar).hidden; }
+    QString title(const QString &toolBar) const { return m_layout.value(toolBar).title; }
+    bool isDefault() const;
+    const Release &release() const { return m_release; }
+
+private:
+    QStringList entries(const QString &toolBar) const;
+    void set(const QString &toolBar, const QStringList &entries);
+    void takeNewDefaults();
+
+    Release m_release;
+    // The default contents of this run, with the names of what has gone since.
+    QMap<QString, QStringList> m_defaults;
+    Layout m_layout;
+    Layout m_stored;
+};
+
+#endif // KITMODEL_H
