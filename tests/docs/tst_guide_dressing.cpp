@@ -6,11 +6,9 @@
 #include "testcase.h"
 #include "texts.h"
 
-//! [includes]
 #include <RyCRibbonWidget>
 #include <RyCToolBarWidget>
 #include <RyCustomizedDialog>
-//! [includes]
 #include <RyToolBarKit>
 
 #include <QDialogButtonBox>
@@ -78,13 +76,11 @@ void hideMnemonics(RyCustomizedDialog *dialog)
 void customizeDressed(RyToolBarManager *manager, QMainWindow *window,
                       const std::function<void()> &showHelp)
 {
-    //! [all]
     RyCustomizedDialog dialog({manager, nullptr}, window);
     hideRibbonTab(&dialog);
     useOwnHelp(&dialog, showHelp);
     hideMnemonics(&dialog);
     dialog.exec();
-    //! [all]
 }
 
 void dressKit(RyToolBarKit *kit, const std::function<void()> &showHelp)

@@ -5,10 +5,8 @@
 #include "testcase.h"
 #include "texts.h"
 
-//! [includes]
 #include <RyCustomizedDialog>
 #include <RyToolBarManager>
-//! [includes]
 
 #include <QDialogButtonBox>
 #include <QMainWindow>
@@ -74,7 +72,6 @@ private:
 };
 //! [window]
 
-//! [widget]
 class ZoomAction : public QWidgetAction
 {
 public:
@@ -88,7 +85,6 @@ protected:
         return slider;
     }
 };
-//! [widget]
 
 QToolBar *toolBarTitled(const QMainWindow &window, const QString &title)
 {

@@ -12,7 +12,6 @@
 
 namespace {
 
-//! [members]
 class Window : public QMainWindow
 {
 public:
@@ -39,7 +38,6 @@ private:
     // Destroyed before the toolbars and actions, which are children of the QMainWindow.
     RyToolBarManager m_manager;
 };
-//! [members]
 
 //! [remove-action]
 void deleteCommand(RyToolBarManager *manager, QAction *action)
@@ -49,14 +47,12 @@ void deleteCommand(RyToolBarManager *manager, QAction *action)
 }
 //! [remove-action]
 
-//! [remove-toolbar]
 void deleteUsersToolBars(RyToolBarManager *manager)
 {
     const auto toolBars = manager->toolBars();
     for (QToolBar *toolBar : toolBars)
         manager->deleteToolBar(toolBar); // leaves default toolbars alone
 }
-//! [remove-toolbar]
 
 } // namespace
 

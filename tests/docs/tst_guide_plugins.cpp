@@ -8,93 +8,33 @@
 
 namespace {
 
-//! [layout]
-// The user's layout, with the actions of all plugins.
-class Layout
+//! [plugins]
+// The state is what the manager has restored or saved last.
+void addPlugin(RyToolBarManager *manager, const QList<QAction *> &actions, const QString &category,
+               const QByteArray &state)
 {
-public:
-    explicit Layout(RyToolBarManager *manager)
-        : m_manager(manager)
-    {
-    }
-
-    // At start, with the bytes from the settings.
-    void restore(const QByteArray &state)
-    {
-        m_state = state;
-        m_manager->restoreState(m_state, 1);
-    }
-
-    // After each exec(); the result goes to the settings.
-    QByteArray save()
-    {
-        m_state = m_manager->saveState(1);
-        return m_state;
-    }
-
-    void addPlugin(const QList<QAction *> &actions, const QString &category)
-    {
-        for (QAction *action : actions)
-            m_manager->addAction(action, category);
-        m_manager->restoreState(m_state, 1); // now the names of its actions are known
-    }
-
-    // Call this before the plugin deletes its actions.
-    void removePlugin(const QList<QAction *> &actions)
-    {
-        for (QAction *action : actions)
-            m_manager->removeAction(action);
-    }
-
-private:
-    RyToolBarManager *m_manager;
-    QByteArray m_state;
-};
-//! [layout]
-
-//! [placeholder]
-// Replaces a command of a plugin that is not loaded. Users can place it, but it is invisible.
-QAction *createPlaceholder(const QString &objectName, const QString &text, QObject *parent)
-{
-    QAction *const action = new QAction(text, parent);
-    action->setObjectName(objectName);
-    action->setVisible(false);
-    return action;
+    for (QAction *action : actions)
+        manager->addAction(action, category);
+    manager->restoreState(state, 1); // now the names of the actions are known
 }
 
-void connectPlugin(QAction *placeholder, QAction *command)
+// Call this before the plugin deletes its actions.
+void removePlugin(RyToolBarManager *manager, const QList<QAction *> &actions)
 {
-    placeholder->setIcon(command->icon());
-    QObject::connect(placeholder, &QAction::triggered, command, &QAction::trigger);
-    QObject::connect(command, &QObject::destroyed, placeholder,
-                     [placeholder] { placeholder->setVisible(false); });
-    placeholder->setVisible(true);
+    for (QAction *action : actions)
+        manager->removeAction(action);
 }
-//! [placeholder]
+//! [plugins]
 
-//! [toolbar]
-QToolBar *toolBarOfPlugin(RyToolBarManager *manager, const QString &objectName,
-                          const QString &title, const QList<QAction *> &actions)
-{
-    QToolBar *toolBar = manager->toolBarByName(objectName); // the user's layout may have it already
-    if (!toolBar) {
-        toolBar = manager->createToolBar(title);
-        toolBar->setObjectName(objectName);
-        manager->setToolBar(toolBar, actions);
-    }
-    return toolBar;
-}
-//! [toolbar]
+const QString category = QStringLiteral("Spelling");
 
 struct PluginHost : Host
 {
     PluginHost()
-        : layout(&manager)
-        , edit(defaultToolBar(QStringLiteral("edit"), words("cut copy"), QStringLiteral("Edit")))
+        : edit(defaultToolBar(QStringLiteral("edit"), words("cut copy"), QStringLiteral("Edit")))
     {
     }
 
-    Layout layout;
     QToolBar *const edit;
 };
 
@@ -109,15 +49,15 @@ struct Plugin
     QAction spell;
 };
 
-QByteArray layoutWithPlugin()
+QByteArray stateWithPlugin()
 {
     PluginHost host;
     Plugin plugin;
-    host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
+    host.manager.addAction(&plugin.spell, category);
     host.manager.setToolBar(host.edit,
                             {&plugin.spell, nullptr, host.action(QStringLiteral("copy"))});
-    const QByteArray state = host.layout.save();
-    host.layout.removePlugin({&plugin.spell});
+    const QByteArray state = host.manager.saveState(1);
+    removePlugin(&host.manager, {&plugin.spell});
     return state;
 }
 
@@ -129,132 +69,76 @@ class tst_guide_plugins : public TestCase
 
 private Q_SLOTS:
     void anActionThatComesLateFindsItsPlace();
-    void anActionThatGoesAndComesFindsItsPlace();
     void aRemovedActionIsOnNoToolBarAndInNoCategory();
-    void withoutSavingAnewTheEditsWouldBeUndone();
-    void aPlaceholderKeepsItsPlaceWhileThePluginIsAway();
-    void aPlaceholderFollowsItsCommand();
-    void aToolBarOfAPluginIsCreatedOnce();
-    void aToolBarOfAPluginGoesWithIt();
+    void theLastStateKeepsWhatTheUserEdits();
+    void aSaveWithoutThePluginForgetsItsPlaces();
+    void aPlaceholderKeepsThem();
 };
 
 void tst_guide_plugins::anActionThatComesLateFindsItsPlace()
 {
+    const QByteArray state = stateWithPlugin();
     PluginHost host;
-    host.layout.restore(layoutWithPlugin());
+    QVERIFY(host.manager.restoreState(state, 1));
     QCOMPARE(standingOn(host.edit), words("| copy"));
     QCOMPARE(takeWarnings().size(), 2);
-    Plugin plugin;
-    host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
-    QCOMPARE(standingOn(host.edit), words("spell.check | copy"));
-    host.layout.removePlugin({&plugin.spell});
-}
-
-void tst_guide_plugins::anActionThatGoesAndComesFindsItsPlace()
-{
-    PluginHost host;
-    {
+    for (int time = 0; time < 2; ++time) {
         Plugin plugin;
-        host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
-        host.layout.restore(layoutWithPlugin());
-        host.layout.removePlugin({&plugin.spell});
+        addPlugin(&host.manager, {&plugin.spell}, category, state);
+        QCOMPARE(standingOn(host.edit), words("spell.check | copy"));
+        removePlugin(&host.manager, {&plugin.spell});
+        QCOMPARE(standingOn(host.edit), words("| copy"));
     }
-    QCOMPARE(standingOn(host.edit), words("| copy"));
-    Plugin again;
-    host.layout.addPlugin({&again.spell}, QStringLiteral("Spelling"));
-    QCOMPARE(standingOn(host.edit), words("spell.check | copy"));
-    host.layout.removePlugin({&again.spell});
 }
 
 void tst_guide_plugins::aRemovedActionIsOnNoToolBarAndInNoCategory()
 {
     PluginHost host;
     Plugin plugin;
-    host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
+    host.manager.addAction(&plugin.spell, category);
     host.manager.setToolBar(host.edit, {&plugin.spell});
-    host.layout.removePlugin({&plugin.spell});
+    removePlugin(&host.manager, {&plugin.spell});
     QCOMPARE(standingOn(host.edit), QStringList());
-    QVERIFY(!host.manager.hasCategory(QStringLiteral("Spelling")));
+    QVERIFY(!host.manager.hasCategory(category));
 }
 
-void tst_guide_plugins::withoutSavingAnewTheEditsWouldBeUndone()
+void tst_guide_plugins::theLastStateKeepsWhatTheUserEdits()
 {
     PluginHost host;
-    host.layout.restore(layoutWithPlugin());
+    QVERIFY(host.manager.restoreState(stateWithPlugin(), 1));
     QCOMPARE(takeWarnings().size(), 2);
     host.manager.setToolBar(host.edit, host.list(words("cut"))); // the user edits
-    host.layout.save();
     Plugin plugin;
-    host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
+    addPlugin(&host.manager, {&plugin.spell}, category, host.manager.saveState(1));
     QCOMPARE(standingOn(host.edit), words("cut"));
-    host.layout.removePlugin({&plugin.spell});
+    removePlugin(&host.manager, {&plugin.spell});
 }
 
-void tst_guide_plugins::aPlaceholderKeepsItsPlaceWhileThePluginIsAway()
+void tst_guide_plugins::aSaveWithoutThePluginForgetsItsPlaces()
 {
     PluginHost host;
-    QAction *const placeholder = createPlaceholder(QStringLiteral("spell.check"),
-                                                   QStringLiteral("Check Spelling"), &host.window);
-    host.manager.addAction(placeholder, QStringLiteral("Spelling"));
-    host.layout.restore(layoutWithPlugin());
-    host.layout.save();
-    QCOMPARE(standingOn(host.edit), words("spell.check | copy"));
-    host.window.show();
-    QVERIFY(!host.edit->widgetForAction(placeholder)->isVisible());
-    Plugin plugin;
-    connectPlugin(placeholder, &plugin.spell);
-    QTRY_VERIFY(host.edit->widgetForAction(placeholder)->isVisible());
-}
-
-void tst_guide_plugins::aPlaceholderFollowsItsCommand()
-{
-    QAction *const placeholder =
-        createPlaceholder(QStringLiteral("spell.check"), QStringLiteral("Check Spelling"), this);
-    {
-        Plugin plugin;
-        QSignalSpy triggered(&plugin.spell, &QAction::triggered);
-        connectPlugin(placeholder, &plugin.spell);
-        QVERIFY(placeholder->isVisible());
-        placeholder->trigger();
-        QCOMPARE(triggered.count(), 1);
-    }
-    QVERIFY(!placeholder->isVisible());
-    delete placeholder;
-}
-
-void tst_guide_plugins::aToolBarOfAPluginIsCreatedOnce()
-{
-    const QString name = QStringLiteral("spell.toolbar");
-    Plugin plugin;
-    QByteArray state;
-    {
-        PluginHost host;
-        host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
-        QToolBar *const toolBar =
-            toolBarOfPlugin(&host.manager, name, QStringLiteral("Spelling"), {&plugin.spell});
-        QCOMPARE(standingOn(toolBar), words("spell.check"));
-        host.manager.setToolBar(toolBar, {&plugin.spell, host.action(QStringLiteral("copy"))});
-        state = host.layout.save();
-    }
-    PluginHost host;
-    host.layout.restore(state);
+    QVERIFY(host.manager.restoreState(stateWithPlugin(), 1));
     QCOMPARE(takeWarnings().size(), 2);
-    host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
-    QToolBar *const toolBar =
-        toolBarOfPlugin(&host.manager, name, QStringLiteral("Spelling"), {&plugin.spell});
-    QCOMPARE(standingOn(toolBar), words("spell.check copy"));
-    QCOMPARE(host.manager.toolBars().size(), 2);
+    const QByteArray without = host.manager.saveState(1);
+    Plugin plugin;
+    addPlugin(&host.manager, {&plugin.spell}, category, without);
+    QCOMPARE(standingOn(host.edit), words("| copy"));
+    removePlugin(&host.manager, {&plugin.spell});
 }
 
-void tst_guide_plugins::aToolBarOfAPluginGoesWithIt()
+void tst_guide_plugins::aPlaceholderKeepsThem()
 {
     PluginHost host;
+    Plugin placeholder;
+    placeholder.spell.setVisible(false);
+    host.manager.addAction(&placeholder.spell, category);
+    QVERIFY(host.manager.restoreState(stateWithPlugin(), 1));
+    const QByteArray state = host.manager.saveState(1);
+    removePlugin(&host.manager, {&placeholder.spell});
     Plugin plugin;
-    host.layout.addPlugin({&plugin.spell}, QStringLiteral("Spelling"));
-    host.manager.deleteToolBar(toolBarOfPlugin(&host.manager, QStringLiteral("spell.toolbar"),
-                                               QStringLiteral("Spelling"), {&plugin.spell}));
-    QCOMPARE(host.manager.toolBars(), QList<QToolBar *>{host.edit});
-    host.layout.removePlugin({&plugin.spell});
+    addPlugin(&host.manager, {&plugin.spell}, category, state);
+    QCOMPARE(standingOn(host.edit), words("spell.check | copy"));
+    removePlugin(&host.manager, {&plugin.spell});
 }
 
 QTEST_MAIN(tst_guide_plugins)

@@ -133,6 +133,20 @@ void keepElsewhere(RyToolBarKit *kit, const QByteArray kept, QByteArray *keeper)
     //! [storage]
 }
 
+//! [move]
+// For users of the releases without a kit. Call it when the window has its menus and toolbars.
+void takeOver(RyToolBarKit *kit, QSettings *settings)
+{
+    // The bytes of the manager are below this key, where the kit will keep its layout.
+    kit->setSettings(settings, QStringLiteral("layout/toolBars"));
+    kit->restoreNow();
+    const QString oldKey = QStringLiteral("layout/window"); // the bytes of the window
+    const QByteArray places = settings->value(oldKey).toByteArray();
+    if (!places.isEmpty() && kit->restoreLayout(places))
+        settings->remove(oldKey);
+}
+//! [move]
+
 // What a user does: removes the first entry of the toolbar "Edit".
 void removeFirst(Window *window)
 {
@@ -162,6 +176,7 @@ private Q_SLOTS:
     void theDialogCanBeChanged();
     void filesAreExportedAndImported();
     void aLayoutCanBeKeptElsewhere();
+    void oldBytesAreTakenOver();
 
 protected:
     void prepare() override;
@@ -298,6 +313,41 @@ void tst_guide_three_lines::aLayoutCanBeKeptElsewhere()
     keepElsewhere(window.attached, kept, &kept);
     window.show();
     QCOMPARE(standingOn(window.bar), words("copy paste"));
+}
+
+void tst_guide_three_lines::oldBytesAreTakenOver()
+{
+    QSettings settings;
+    {
+        Window old; // as it was without a kit
+        delete old.attached;
+        RyToolBarManager manager;
+        manager.setMainWindow(&old);
+        for (QAction *action : old.bar->actions())
+            manager.addAction(action, QStringLiteral("Edit"));
+        manager.addDefaultToolBar(old.bar, QStringLiteral("Edit"));
+        manager.setToolBar(old.bar, {old.action("paste")});
+        QToolBar *const mine = manager.createToolBar(QStringLiteral("Mine"));
+        manager.setToolBar(mine, {old.action("copy")});
+        old.show();
+        old.addToolBar(Qt::LeftToolBarArea, mine);
+        QCoreApplication::processEvents();
+        settings.setValue(QStringLiteral("layout/toolBars"), manager.saveState(3));
+        settings.setValue(QStringLiteral("layout/window"), old.saveState(3));
+    }
+    for (int start = 1; start <= 2; ++start) {
+        Window window;
+        takeOver(window.attached, &settings);
+        window.show();
+        QCOMPARE(standingOn(window.bar), words("paste"));
+        QToolBar *const mine = window.findChild<QToolBar *>(QStringLiteral("_Custom_Toolbar_1"));
+        QVERIFY(mine);
+        QCOMPARE(mine->windowTitle(), QStringLiteral("Mine"));
+        QCOMPARE(standingOn(mine), words("copy"));
+        QCOMPARE(window.toolBarArea(mine), Qt::LeftToolBarArea);
+        QVERIFY(mine->isVisible());
+        QVERIFY(!settings.contains(QStringLiteral("layout/window")));
+    }
 }
 
 QTEST_MAIN(tst_guide_three_lines)
