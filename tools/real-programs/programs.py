@@ -1,0 +1,104 @@
+# SPDX-License-Identifier: MIT
+"""The programs, and what a user has to know of each."""
+
+import os
+from dataclasses import dataclass, field
+from typing import Callable, Optional
+
+
+def nothing(*_):
+    """For a program that needs no such step."""
+
+
+def from_menu(*path):
+    return lambda run: run.choose(*path)
+
+
+def by_key(key):
+    return lambda run: run.press(key)
+
+
+def from_context_menu(title):
+    """Shows or hides a toolbar with the context menu that every main window has."""
+    def toggle(run):
+        run.right_click_menu_bar()
+        run.choose_from_popup(title)
+    return toggle
+
+
+def by_button(text):
+    return lambda run: run.click_button(text)
+
+
+@dataclass
+class What:
+    """One program. Texts are those that the user sees, without marks of keys."""
+
+    name: str
+    qt: int
+    command: list
+    window: str  # its class
+    tool_bar: str  # the object name, or the class if it has none
+    tool_bar_title: str
+    action: tuple  # its category and text, not on that toolbar, and harmless when it is triggered
+    other_action: tuple
+    toggle_tool_bar: Callable
+    full_screen: Optional[tuple] = None  # how to enter and to leave it
+    environment: dict = field(default_factory=dict)
+    fill_home: Callable = nothing
+    after_start: Callable = nothing
+    close: Callable = by_key("alt+F4")
+
+
+def write(*path):
+    """Writes a file into the home folder: the parts of its path, then its text."""
+    def fill(home):
+        *parts, text = path
+        file = os.path.join(home, *parts)
+        os.makedirs(os.path.dirname(file), exist_ok=True)
+        with open(file, "w", encoding="utf-8") as output:
+            output.write(text)
+    return fill
+
+
+BY_F11 = (by_key("F11"),) * 2
+
+PROGRAMS = [
+    What("texworks", 5, ["texworks"], "TeXDocumentWindow", "toolBar_edit", "Edit Toolbar",
+         ("Format", "Wrap Lines"), ("Search", "Find Again"),
+         from_menu("Window", "Show", "Edit Toolbar")),
+    What("featherpad", 5, ["featherpad", "--standalone"], "FeatherPad::FPwin", "mainToolBar", "",
+         ("Options", "Line Numbers"), ("Options", "Wrap Lines"), nothing, BY_F11),
+    What("juffed", 5, ["juffed"], "JuffMW", "mainToolBar", "Main toolbar",
+         ("View", "Wrap words"), ("Search", "Find next"),
+         from_context_menu("Main toolbar"), BY_F11),
+    What("sqlitebrowser", 5, ["sqlitebrowser"], "MainWindow", "toolbarDB", "DB Toolbar",
+         ("View", "Plot"), ("View", "Remote"), from_menu("View", "DB Toolbar")),
+    What("qgit", 5, ["qgit"], "MainImpl", "toolBar", "Toolbar",
+         ("Edit", "Find next"), ("Help", "About QGit"), from_context_menu("Toolbar")),
+    What("djview4", 5, ["djview4"], "QDjView", "toolbar", "",
+         ("Settings", "Show Statusbar"), ("Settings", "Preferences"), by_key("F10"),
+         (by_key("F11"), by_key("Escape"))),
+    What("photoflare", 5, ["photoflare"], "MainWindow", "toolBar", "Extra ToolBar",
+         ("View", "Show Grid"), ("View", "Zoom In"), from_menu("View", "Filterbar"), (by_key("ctrl+f"),) * 2),
+    What("qpdfview", 5, ["qpdfview"], "qpdfview::MainWindow", "viewToolBar", "View",
+         ("View / Docks", "Outline"), ("File", "Open"), from_menu("View", "Toolbars", "View"),
+         BY_F11),
+    What("qcomicbook", 5, ["qcomicbook"], "QComicBook::ComicMainWindow", "toolBar", "Toolbar",
+         ("Navigation", "Go to page"), ("File", "Info"), from_menu("Settings", "Toolbar"),
+         BY_F11),
+    What("glogg", 5, ["glogg"], "MainWindow", "QToolBar", "Toolbar",
+         ("View", "Follow File"), ("View", "Matches overview"), from_context_menu("Toolbar")),
+    What("qpwgraph", 6, ["qpwgraph"], "qpwgraph_form", "graphToolbar", "",
+         ("Edit", "Select All"), ("Edit", "Select Invert"), from_menu("View", "Toolbar", "Graph"),
+         close=from_menu("Graph", "Quit")),
+    What("retext", 6, ["retext"], "ReTextWindow", "QToolBar", "File toolbar",
+         ("Edit", "Move line up"), ("Edit", "Find text"), from_context_menu("File toolbar"),
+         (by_button("Fullscreen mode"),) * 2),
+    What("qxgedit", 6, ["qxgedit"], "qxgeditMainForm", "ToolBar", "",
+         ("View", "Statusbar"), ("View", "Options"), from_menu("View", "Toolbar")),
+    What("packagesearch", 6, ["packagesearch"], "PackageSearchImpl", "QToolBar", "Main Toolbar",
+         ("Help", "About"), ("Packagesearch", "Preferences"), from_menu("View", "Main Toolbar")),
+    What("qsampler", 6, ["qsampler"], "QSampler::MainForm", "editToolbar", "",
+         ("View", "Statusbar"), ("View", "Messages"), from_menu("View", "Toolbar")),
+]

@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# run.sh LIBRARY OUTPUT_DIR QT PROGRAM...
+#
+# Checks the programs of that Qt, or only those named, with the library that attaches a kit, on an X
+# server, with a window manager and a message bus of their own. Writes screenshots and the output of
+# the programs to OUTPUT_DIR.
+set -euo pipefail
+
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+tour=$here/../../examples/texteditor/tour
+. "$tour/session.sh"
+RY_LIBRARY=$(realpath "$1")
+mkdir -p "$2/log"
+output=$(realpath "$2")
+need Xvfb openbox xdotool xprop import
+begin_session
+
+start xserver.log Xvfb -displayfd 3 -screen 0 1600x1200x24 -dpi 96 -nolisten tcp
+DISPLAY=:$(answer "the X server")
+export DISPLAY
+start_bus
+start windowmanager.log openbox --sm-disable
+export RY_LIBRARY PYTHONPATH=$tour
+take_tour "$here/checkprograms.py" "$scratch" "$output" "${@:3}"
