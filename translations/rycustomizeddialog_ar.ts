@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>إذا أزلته فسيعود عند بدء التشغيل التالي.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>مسافة</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>شريط أدوات %1</translation>
+    </message>
 </context>
 </TS>

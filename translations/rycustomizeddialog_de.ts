@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>Wenn Sie sie entfernen, ist sie beim nächsten Start wieder da.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>Werkzeugleiste %1</translation>
+    </message>
 </context>
 </TS>

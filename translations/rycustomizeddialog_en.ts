@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>Si la quita, volverá a aparecer en el próximo inicio.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>Barra de herramientas %1</translation>
+    </message>
 </context>
 </TS>

@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>Si vous la retirez, elle reviendra au prochain démarrage.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>Barre d&apos;outils %1</translation>
+    </message>
 </context>
 </TS>

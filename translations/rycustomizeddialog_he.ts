@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>אם תסיר אותה, היא תחזור בהפעלה הבאה.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>רווח</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>סרגל כלים %1</translation>
+    </message>
 </context>
 </TS>

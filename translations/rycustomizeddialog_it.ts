@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>Se la rimuovi, tornerà al prossimo avvio.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>Spazio</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>Barra degli strumenti %1</translation>
+    </message>
 </context>
 </TS>

@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>削除しても、次回の起動時に元に戻ります。</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>スペース</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>ツールバー %1</translation>
+    </message>
 </context>
 </TS>

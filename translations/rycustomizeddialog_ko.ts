@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>제거해도 다음에 시작할 때 다시 나타납니다.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>공백</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>도구 모음 %1</translation>
+    </message>
 </context>
 </TS>

@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>Jeśli je usuniesz, wróci przy następnym uruchomieniu.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>Odstęp</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>Pasek narzędzi %1</translation>
+    </message>
 </context>
 </TS>

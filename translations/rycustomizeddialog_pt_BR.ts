@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>Se você a remover, ela voltará na próxima inicialização.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>Espaço</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>Barra de ferramentas %1</translation>
+    </message>
 </context>
 </TS>

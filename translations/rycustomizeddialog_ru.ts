@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>Если его убрать, оно вернётся при следующем запуске.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>Промежуток</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>Панель инструментов %1</translation>
+    </message>
 </context>
 </TS>

@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>Kaldırırsanız bir sonraki açılışta geri gelir.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>Boşluk</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>Araç Çubuğu %1</translation>
+    </message>
 </context>
 </TS>

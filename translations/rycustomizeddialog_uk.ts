@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>Якщо її прибрати, вона повернеться під час наступного запуску.</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>Проміжок</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>Панель інструментів %1</translation>
+    </message>
 </context>
 </TS>

@@ -216,5 +216,13 @@
         <source>If you remove it, it returns at the next start.</source>
         <translation>如果将其移除，下次启动时会恢复。</translation>
     </message>
+    <message>
+        <source>Space</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>Toolbar %1</source>
+        <translation>工具栏 %1</translation>
+    </message>
 </context>
 </TS>
