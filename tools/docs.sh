@@ -19,8 +19,10 @@ help_file=$build/docs/RyCustomizedDialog.qch
 # Each class, and each function that a class declares for its hosts.
 read_help() {
     local names flags
-    mapfile -t names < <(sed -n 's|^    [a-z]*/\(Ry[A-Za-z]*\).*|\1|p' cmake/RyHeaders.cmake)
-    names+=(RyToolBarManager::restoreState RyCustomizedDialog::okButton RyTreeWidget::performDrag)
+    # A class of a library has a header of its name.
+    mapfile -t names < <(find "$build/include" -type f -name 'Ry*' -printf '%f\n')
+    names+=(RyToolBarManager::restoreState RyCustomizedDialog::okButton RyTreeWidget::performDrag
+        RyToolBarKit::restoreLayout)
     read -ra flags < <(pkg-config --cflags --libs Qt5Help)
     g++ -std=c++17 -fPIC -Wall -Werror tools/docs/readhelp.cpp -o "$build/readhelp" \
         "${flags[@]}" &&
