@@ -19,8 +19,8 @@ help_file=$build/docs/RyCustomizedDialog.qch
 # Each class, and each function that a class declares for its hosts.
 read_help() {
     local names flags
-    # Each class has a forwarding header.
-    mapfile -t names < <(basename -a "$build"/include/*/Ry*)
+    # A class of a library has a header of its name.
+    mapfile -t names < <(find "$build/include" -type f -name 'Ry*' -printf '%f\n')
     names+=(RyToolBarManager::restoreState RyCustomizedDialog::okButton RyTreeWidget::performDrag
         RyToolBarKit::restoreLayout)
     read -ra flags < <(pkg-config --cflags --libs Qt5Help)
