@@ -69,6 +69,7 @@ void customizeWithKit()
 {
     QMainWindow window;
     QToolBar *const withoutTitle = window.addToolBar(QString());
+    withoutTitle->addWidget(new QWidget);
     RyToolBarKit kit(&window, false);
     kit.setSettings(nullptr, QString());
     kit.setRequired(withoutTitle->addAction("?1"));
