@@ -282,6 +282,9 @@ void tst_guide_saving::whatCannotBeReadStaysUntilTheUserChangesSomething()
     QCOMPARE(stored(), unreadable);
     host.removeCut();
     QVERIFY(stored() != unreadable);
+    store(unreadable);
+    host.layout.saveAtEnd();
+    QVERIFY(stored() != unreadable);
     host.manager.resetAllToolBars();
     host.layout.restore();
     QCOMPARE(standingOn(host.edit), words("edit_copy"));
