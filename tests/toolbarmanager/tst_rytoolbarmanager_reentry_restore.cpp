@@ -55,6 +55,7 @@ private Q_SLOTS:
     void aDefaultToolBarRegisteredWhileRestoringIsFound();
     void aDefaultToolBarRegisteredOnAWarningIsFound();
     void aToolBarDeletedWhileAnotherIsRestoredIsCreatedAgain();
+    void aToolBarForgottenWhileAnotherIsRestoredIsNotTouched();
     void aToolBarDeletedByItsNewTitleIsNotTouched();
     void aToolBarDeletedByItsNewNameIsNotTouched();
     void anActionDeletedWhileRestoringIsNotTouched();
@@ -153,6 +154,27 @@ void tst_RyToolBarManager_reentry_restore::aToolBarDeletedWhileAnotherIsRestored
     QCOMPARE(contentOf(host.manager.actions(host.manager.toolBarByName("new"))), words("paste"));
     QCOMPARE(contentOf(host.manager.actions(host.manager.toolBarByName(yours))), words("cut"));
     QCOMPARE(inconsistencyOf(host.manager), QString());
+}
+
+void tst_RyToolBarManager_reentry_restore::aToolBarForgottenWhileAnotherIsRestoredIsNotTouched()
+{
+    BusyHost host;
+    const QString mine = host.mine->objectName();
+    const QString yours = host.yours->objectName();
+    HostCalls calls({QEvent::ActionAdded}, HostCalls::Once,
+                    [&] { host.manager.removeDefaultToolBar(host.yours); });
+    host.mine->installEventFilter(&calls);
+    const QByteArray state = StateWriter::ofVersion(1)
+                                 .defaults(0)
+                                 .customs(2)
+                                 .customToolBar(mine, "Mine", words("paste"))
+                                 .customToolBar(yours, "Again", words("cut"))
+                                 .bytes();
+    QVERIFY(host.manager.restoreState(state, 1));
+    QCOMPARE(host.yours->windowTitle(), QString("Yours"));
+    QToolBar *const again = host.manager.toolBarByName(yours);
+    QVERIFY(again && again != host.yours);
+    QCOMPARE(contentOf(host.manager.actions(again)), words("cut"));
 }
 
 void tst_RyToolBarManager_reentry_restore::aToolBarDeletedByItsNewTitleIsNotTouched()
