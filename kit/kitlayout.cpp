@@ -34,7 +34,8 @@ QStringList namesIn(const QJsonValue &value, bool separators)
     QStringList names;
     QSet<QString> found;
     const QJsonArray array = value.toArray();
-    for (const QJsonValue item : array) {
+    for (int i = 0; i < array.size(); ++i) {
+        const QJsonValue item = array.at(i);
         const QString name = item.toString();
         if (separators && item.isNull()) {
             names.append(QString());
@@ -122,9 +123,9 @@ KitPlaces placesOf(const QJsonObject &object)
     const QStringList areas = areaNames();
     for (const QString &area : areas) {
         const QJsonArray lines = object.value(area).toArray();
-        for (const QJsonValue line : lines) {
+        for (int i = 0; i < lines.size(); ++i) {
             QStringList names;
-            const QStringList all = namesIn(line, false);
+            const QStringList all = namesIn(lines.at(i), false);
             for (const QString &name : all) {
                 if (!found.contains(name))
                     names.append(name);

@@ -108,11 +108,10 @@ public:
     Q_DECLARE_FLAGS(Features, Feature)
 
     /*!
-     * \brief Attaches a kit to \a window, which owns it.
+     * \brief Attaches a kit to a window.
      *
-     * Null is an error: it is printed, and the kit does nothing. So is a window that has a kit
-     * already.
-     *
+     * \param window the window, which owns the kit. Null is an error: it is printed, and the kit
+     *        does nothing. So is a window that has a kit already.
      * \param printProblems whether problems() is printed once, when everything is found. By default
      *        that is so in debug builds of the host.
      */

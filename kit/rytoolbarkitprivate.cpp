@@ -378,43 +378,28 @@ bool RyToolBarKitPrivate::eventFilter(QObject *watched, QEvent *event)
 
 void RyToolBarKitPrivate::windowEvent(QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::Polish:
-    case QEvent::Show:
-        if (!m_isRestored)
-            restoreNow();
-        break;
-    case QEvent::Close:
+    const QEvent::Type type = event->type();
+    if (type == QEvent::Polish || type == QEvent::Show)
+        restoreNow();
+    else if (type == QEvent::Close)
         storeNow();
-        break;
-    case QEvent::ChildAdded:
-    case QEvent::ChildPolished:
-        if (manager)
-            m_updateTimer.start();
-        break;
-    default:
-        break;
-    }
+    else if (manager && (type == QEvent::ChildAdded || type == QEvent::ChildPolished))
+        m_updateTimer.start();
 }
 
 void RyToolBarKitPrivate::toolBarEvent(QToolBar *toolBar, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::Move:
+    const QEvent::Type type = event->type();
+    if (type == QEvent::Move)
         m_storeTimer.start();
-        break;
-    case QEvent::ActionRemoved:
-        if (features & RyToolBarKit::KeepButtons)
-            m_buttons.read(toolBar, static_cast<QActionEvent *>(event)->action());
-        followLater(toolBar);
-        break;
-    case QEvent::ActionAdded:
-        m_newButtons[toolBar].insert(static_cast<QActionEvent *>(event)->action());
-        followLater(toolBar);
-        break;
-    default:
-        break;
-    }
+    if (type != QEvent::ActionAdded && type != QEvent::ActionRemoved)
+        return;
+    QAction *const action = static_cast<QActionEvent *>(event)->action();
+    if (type == QEvent::ActionAdded)
+        m_newButtons[toolBar].insert(action);
+    else if (features & RyToolBarKit::KeepButtons)
+        m_buttons.read(toolBar, action);
+    followLater(toolBar);
 }
 
 void RyToolBarKitPrivate::followLater(const QToolBar *toolBar)

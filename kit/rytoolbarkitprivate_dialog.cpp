@@ -71,19 +71,21 @@ void RyToolBarKitPrivate::giveTitles()
 
 void RyToolBarKitPrivate::takeTitlesBack()
 {
-    for (const auto &item : m_untitled) {
+    const auto untitled = m_untitled;
+    m_untitled.clear();
+    for (const auto &item : untitled) {
         if (!item.first)
             continue;
         item.first->setWindowTitle(QString());
         item.first->toggleViewAction()->setText(item.second);
     }
-    m_untitled.clear();
 }
 
 void RyToolBarKitPrivate::markRequired(const QModelIndex &, int first, int last)
 {
+    const auto required = m_required;
     for (int row = first; row <= last; ++row) {
-        for (const QPointer<QAction> &action : m_required) {
+        for (const QPointer<QAction> &action : required) {
             if (action && m_rowsInDialog->item(row)->text() == action->text())
                 m_rowsInDialog->item(row)->setToolTip(
                     RyToolBarKit::tr("If you remove it, it returns at the next start."));

@@ -367,7 +367,8 @@ void RyToolBarKitPrivate::bringBackRequired()
     const auto toolBars = manager->toolBars();
     for (QToolBar *toolBar : toolBars)
         placed += namesIn(namesOf(manager->actions(toolBar)));
-    for (const QPointer<QAction> &action : m_required) {
+    const auto required = m_required;
+    for (const QPointer<QAction> &action : required) {
         const QString name = m_actionNames.nameOf(action);
         if (name.isEmpty() || placed.contains(name))
             continue;

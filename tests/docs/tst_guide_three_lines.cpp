@@ -123,7 +123,7 @@ bool importLayout(RyToolBarKit *kit, const QString &fileName)
 }
 //! [files]
 
-void keepElsewhere(RyToolBarKit *kit, const QByteArray kept, QByteArray *keeper)
+void keepElsewhere(RyToolBarKit *kit, const QByteArray &kept, QByteArray *keeper)
 {
     //! [storage]
     kit->setSettings(nullptr, QString()); // an empty key: the kit stores nothing
