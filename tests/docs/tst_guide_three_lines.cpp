@@ -83,6 +83,7 @@ void addReset(RyToolBarKit *kit, QMenu *settingsMenu)
 {
     //! [reset]
     QAction *const reset = settingsMenu->addAction(QObject::tr("Reset Toolbars"));
+    reset->setObjectName(QStringLiteral("resetToolBars"));
     QObject::connect(reset, &QAction::triggered, kit, [kit] { kit->restoreLayout(QByteArray()); });
     //! [reset]
 }
