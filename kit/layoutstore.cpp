@@ -38,13 +38,17 @@ QByteArray LayoutStore::copy() const
     return read(copyKey());
 }
 
-// A layout is stored as text, but a program may have stored bytes before.
+// A layout is stored as text, but a program may have stored bytes before. Anything else is refused
+// like other text that is no layout.
 QByteArray LayoutStore::read(const QString &key) const
 {
     if (!isSet())
         return QByteArray();
     const QVariant value = m_settings->value(key);
-    return value.userType() == QMetaType::QString ? value.toString().toUtf8() : value.toByteArray();
+    if (value.userType() == QMetaType::QString)
+        return value.toString().toUtf8();
+    return value.isValid() && !value.canConvert<QByteArray>() ? QByteArray(value.typeName())
+                                                              : value.toByteArray();
 }
 
 void LayoutStore::write(const QByteArray &value)

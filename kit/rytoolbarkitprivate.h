@@ -113,6 +113,7 @@ private:
     void putBackButtons(QToolBar *toolBar);
     void applyPlaces();
     void applyVisibility(QToolBar *toolBar);
+    void undoVisibility(QToolBar *toolBar, const KitToolBar &before);
     void bringBackRequired();
     bool storeIfChanged();
     QStringList entriesOf(QToolBar *toolBar) const;

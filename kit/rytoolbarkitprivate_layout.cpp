@@ -89,9 +89,9 @@ bool RyToolBarKitPrivate::restoreLayout(const QByteArray &value)
         Q_EMIT m_kit->layoutRefused(reason);
         return false;
     }
-    const QByteArray before = m_value;
+    const QByteArray before = store.isSet() ? store.value() : m_value;
     restore(layout);
-    m_value = before;
+    m_value = before.isEmpty() ? KitLayout().toJson() : before;
     storeIfChanged();
     return true;
 }
@@ -175,6 +175,7 @@ KitLayout RyToolBarKitPrivate::converted(const FormerLayout &former) const
 
 void RyToolBarKitPrivate::restore(const KitLayout &layout)
 {
+    const KitLayout before = m_layout;
     m_layout = layout;
     followFormerNames();
     createCustomToolBars();
@@ -182,8 +183,10 @@ void RyToolBarKitPrivate::restore(const KitLayout &layout)
     placeAll();
     applyPlaces();
     const auto toolBars = manager->toolBars();
-    for (QToolBar *toolBar : toolBars)
+    for (QToolBar *toolBar : toolBars) {
+        undoVisibility(toolBar, before.toolBars.value(m_toolBarNames.nameOf(toolBar)));
         applyVisibility(toolBar);
+    }
     bringBackRequired();
     collect();
     m_value = m_layout.toJson();
@@ -344,6 +347,14 @@ void RyToolBarKitPrivate::applyVisibility(QToolBar *toolBar)
         toolBar->setVisible(record->visibility == KitToolBar::Shown);
     else
         record->visibility = KitToolBar::AsProgrammed;
+}
+
+void RyToolBarKitPrivate::undoVisibility(QToolBar *toolBar, const KitToolBar &before)
+{
+    const bool shown = m_shownByProgram.value(toolBar, true);
+    if ((features & RyToolBarKit::KeepVisibility) && before.visibility != KitToolBar::AsProgrammed
+        && toolBar->isHidden() == shown)
+        toolBar->setVisible(shown);
 }
 
 void RyToolBarKitPrivate::visibilityChosen(bool shown)

@@ -31,10 +31,13 @@ private Q_SLOTS:
     void toolBarsOfAnotherReleaseKeepTheirLayout();
     void aRequiredActionReturnsAtTheNextStart();
     void damagedValuesLeaveTheSecondCopy();
+    void valuesOfOtherTypesAreRefused();
     void refusedValuesAreKeptUntilTheUserChangesSomething();
     void bytesOfAManagerAreTakenOver();
     void bytesOfAWindowAreTakenOver();
     void restoreLayoutReplacesEverything();
+    void restoreLayoutBringsVisibilityBack();
+    void restoreLayoutBeforeTheWindowIsShownIsStored();
     void restoreLayoutRefusesOtherBytes();
     void restoreNowRestoresInTheConstructor();
     void anEmptyKeyStoresNothing();
@@ -370,6 +373,14 @@ void tst_RyToolBarKit_layout::damagedValuesLeaveTheSecondCopy()
     QCOMPARE(program.stored(), damaged);
 }
 
+void tst_RyToolBarKit_layout::valuesOfOtherTypesAreRefused()
+{
+    KitProgram program;
+    program.settings->setValue("toolBars", QStringList({"a", "b"}));
+    program.start();
+    QCOMPARE(program.refusals, QStringList("the value is not a layout of toolbars"));
+}
+
 void tst_RyToolBarKit_layout::refusedValuesAreKeptUntilTheUserChangesSomething()
 {
     KitProgram program;
@@ -452,6 +463,41 @@ void tst_RyToolBarKit_layout::restoreLayoutReplacesEverything()
     QCOMPARE(program.toolBar("_Custom_Toolbar_1")->windowTitle(), QString("Mine"));
     QCOMPARE(program.kit()->saveLayout(), layout);
     QCOMPARE(program.stored(), QString(layout));
+}
+
+void tst_RyToolBarKit_layout::restoreLayoutBringsVisibilityBack()
+{
+    KitProgram program;
+    program.start();
+    program.create("Mine", "open");
+    const QByteArray shown = program.kit()->saveLayout();
+    program.toolBar("edit")->toggleViewAction()->trigger();
+    program.toolBar("_Custom_Toolbar_1")->toggleViewAction()->trigger();
+    const QByteArray hidden = program.kit()->saveLayout();
+    QVERIFY(program.kit()->restoreLayout(shown));
+    QVERIFY(program.toolBar("edit")->isVisible());
+    QVERIFY(program.toolBar("_Custom_Toolbar_1")->isVisible());
+    QCOMPARE(program.kit()->saveLayout(), shown);
+    QVERIFY(program.kit()->restoreLayout(hidden));
+    QVERIFY(!program.toolBar("edit")->isVisible());
+    QVERIFY(!program.toolBar("_Custom_Toolbar_1")->isVisible());
+    QVERIFY(program.kit()->restoreLayout(QByteArray()));
+    QVERIFY(program.toolBar("edit")->isVisible());
+}
+
+void tst_RyToolBarKit_layout::restoreLayoutBeforeTheWindowIsShownIsStored()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QVERIFY(program.kit()->restoreLayout(QByteArray()));
+    });
+    QCOMPARE(program.content("edit"), QString("cut | copy"));
+    program.start();
+    QCOMPARE(program.content("edit"), QString("cut | copy"));
+    QVERIFY(program.kit()->isDefault());
 }
 
 void tst_RyToolBarKit_layout::restoreLayoutRefusesOtherBytes()
