@@ -34,8 +34,7 @@ QStringList namesIn(const QJsonValue &value, bool separators)
     QStringList names;
     QSet<QString> found;
     const QJsonArray array = value.toArray();
-    for (int i = 0; i < array.size(); ++i) {
-        const QJsonValue item = array.at(i);
+    for (const auto &item : array) {
         const QString name = item.toString();
         if (separators && item.isNull()) {
             names.append(QString());
@@ -123,9 +122,9 @@ KitPlaces placesOf(const QJsonObject &object)
     const QStringList areas = areaNames();
     for (const QString &area : areas) {
         const QJsonArray lines = object.value(area).toArray();
-        for (int i = 0; i < lines.size(); ++i) {
+        for (const auto &line : lines) {
             QStringList names;
-            const QStringList all = namesIn(lines.at(i), false);
+            const QStringList all = namesIn(line, false);
             for (const QString &name : all) {
                 if (!found.contains(name))
                     names.append(name);

@@ -17,6 +17,8 @@
 #include <QUrl>
 #include <QWidgetAction>
 
+#include <algorithm>
+
 namespace {
 
 const int StoreDelay = 500; // milliseconds without another move of a toolbar
@@ -41,7 +43,7 @@ QString textOfWidget(const QWidget *widget)
     const char *const names[] = {"windowTitle", "accessibleName", "placeholderText",
                                  "toolTip",     "statusTip",      "text"};
     for (const char *name : names) {
-        const QString text = StableNames::plainText(widget->property(name).toString());
+        QString text = StableNames::plainText(widget->property(name).toString());
         if (!text.isEmpty())
             return text;
     }
@@ -436,11 +438,8 @@ void RyToolBarKitPrivate::toolBarDestroyed(QObject *object)
 bool RyToolBarKitPrivate::isManaged(const QObject *object) const
 {
     const auto toolBars = manager ? manager->toolBars() : QList<QToolBar *>();
-    for (const QToolBar *toolBar : toolBars) {
-        if (toolBar == object)
-            return true;
-    }
-    return false;
+    return std::any_of(toolBars.cbegin(), toolBars.cend(),
+                       [object](const QToolBar *toolBar) { return toolBar == object; });
 }
 
 void RyToolBarKitPrivate::addActions(const QList<QAction *> &actions, const QString &category)

@@ -67,8 +67,8 @@ private Q_SLOTS:
     void resetClicked();
     void dialogFinished(int result);
     void markRequired(const QModelIndex &parent, int first, int last);
-    void actionDestroyed(QObject *action);
-    void toolBarDestroyed(QObject *toolBar);
+    void actionDestroyed(QObject *object);
+    void toolBarDestroyed(QObject *object);
     void excludedDestroyed(QObject *object);
     void visibilityChosen(bool shown);
 

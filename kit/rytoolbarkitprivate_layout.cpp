@@ -120,7 +120,7 @@ KitLayout RyToolBarKitPrivate::readStored(bool *found)
         *found = true;
         if (former.read(value))
             return converted(former);
-        const KitLayout layout = KitLayout::fromJson(value, &reason);
+        KitLayout layout = KitLayout::fromJson(value, &reason);
         if (reason.isEmpty())
             return layout;
         *found = false;
@@ -306,7 +306,7 @@ void RyToolBarKitPrivate::putBackButtons(QToolBar *toolBar)
 QStringList RyToolBarKitPrivate::entriesOf(QToolBar *toolBar) const
 {
     const KitToolBar record = m_layout.toolBars.value(m_toolBarNames.nameOf(toolBar));
-    const QStringList defaults = m_defaults.value(toolBar);
+    QStringList defaults = m_defaults.value(toolBar);
     if (record.custom)
         return record.entries;
     if (!record.customized)
