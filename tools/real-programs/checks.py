@@ -6,7 +6,7 @@ import shutil
 
 from compare import (PLACES, ROOM, USE, contents, custom_tool_bars, differences, of_program,
                      texts, tool_bar, without_given_texts)
-from program import DIALOG, Program
+from program import Program
 from waiting import NotSo, wait_for
 
 CUSTOM = "Of my own"
@@ -36,8 +36,8 @@ class Checks:
             self._stop()
             return
         for check in (self.default_layout, self.dialog, self.restart, self.use, self.hidden,
-                      self.shown_again, self.full_screen, self.damaged, self.repaired, self.without_kit,
-                      self.moved):
+                      self.shown_again, self.full_screen, self.damaged, self.repaired,
+                      self.without_kit, self.moved):
             self._check(check)
 
     # --- The checks, in their order ---
@@ -109,6 +109,8 @@ class Checks:
         """full screen and back is as without the kit"""
         if not self._what.full_screen:
             return
+        if not self._run:
+            self._start()
         before = self._run.report()
         full, back = self._through_full_screen()
         name = self._what.tool_bar
@@ -272,7 +274,7 @@ class Checks:
     @staticmethod
     def _expect(wanted, found, what=""):
         if wanted != found:
-            lines = found if isinstance(found, list) and not wanted else [f"{wanted!r}, not {found!r}"]
+            lines = found if found and not wanted else [f"{wanted!r}, not {found!r}"]
             raise NotSo("; ".join([what] * bool(what) + [str(line) for line in lines]))
 
 
