@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 #
 # Tries the kit in programs of others: puts a library into each that attaches a kit to its main
-# window, and customizes its toolbars as a user does. Nothing of the program's own may change. Writes
-# pictures to build/real-programs.
+# window, and customizes its toolbars as a user does. Nothing of the program's own may change.
+# Writes pictures to build/real-programs.
 #
 # usage: real-programs.sh [--qt 5|6] [PROGRAM...]
 
@@ -19,8 +19,9 @@ build_library() {
     local flags
     read -ra flags <<<"$(qt_flags)"
     mkdir -p "$output"
-    g++ -shared -O1 -Wall -Wextra "${flags[@]}" -std=c++17 -Ikit -Itoolbarmanager -I"$build/include/RyToolBarKit" \
-        -I"$build/include/RyCustomizedDialog" tools/real-programs/*.cpp -o "$library" \
+    g++ -shared -O1 -Wall -Wextra "${flags[@]}" -std=c++17 -Ikit -Itoolbarmanager \
+        -I"$build/include/RyToolBarKit" -I"$build/include/RyCustomizedDialog" \
+        tools/real-programs/*.cpp -o "$library" \
         -L"$build/kit" -L"$build" "-lRyToolBarKit$suffix" "-lRyCustomizedDialog$suffix" \
         -Wl,-rpath,"$PWD/$build/kit:$PWD/$build" "-lQt${qt}Widgets" "-lQt${qt}Gui" "-lQt${qt}Core"
 }

@@ -72,6 +72,12 @@ def contents(bar):
     return [entry["name"] for entry in bar["entries"]]
 
 
+def texts(bar):
+    """What the dialog shows of the buttons."""
+    return [entry["properties"]["text"] for entry in bar["entries"]
+            if entry["name"] != "|" and "text" in entry["properties"]]
+
+
 def of_program(report, *without):
     """The report without the kit's toolbars and without the content of those in without."""
     bars = []

@@ -83,19 +83,15 @@ class Program:
         left, top, width, height = bar["rect"]
         self._desktop.click(Point(left + width - 8, top + height // 2), Desktop.RIGHT)
 
+    def drag_tool_bar_down(self, key, value):
+        """Drags a toolbar by its handle to the bottom of the window."""
+        left, top, _, height = self._tool_bar(key, value)["rect"]
+        x, y, _, room = self.report()["geometry"]
+        self._desktop.drag(Point(left + 4, top + height // 2), Point(x + 100, y + room - 30))
+
     def click_on_tool_bar(self, title, index):
         """Clicks on a button of the toolbar with this title."""
-        bar = next(widget for widget in self.widgets()
-                   if "QToolBar" in widget["kinds"] and widget["title"] == title)
-        self.click(bar["parts"][index])
-
-    def drag_tool_bar_down(self, title):
-        """Drags a toolbar by its handle to the bottom of the window."""
-        bar = next(widget for widget in self.widgets()
-                   if "QToolBar" in widget["kinds"] and widget["title"] == title)
-        left, top, _, height = bar["rect"]
-        x, y, _, room = self.report()["geometry"]
-        self._desktop.drag(Point(left + 4, top + height // 2), Point(x + 40, y + room - 30))
+        self.click(self._tool_bar("title", title)["parts"][index])
 
     def click_button(self, text):
         button = self.widget(**{"class": "QToolButton", "text": text})
@@ -130,7 +126,7 @@ class Program:
         except subprocess.TimeoutExpired:
             self.stop()
             raise NotSo("the program does not end") from None
-        if status != 0:
+        if status != self._what.status:
             raise NotSo(f"the program ended with status {status}")
 
     def stop(self):
@@ -170,6 +166,13 @@ class Program:
         self._desktop.point_at(corner)
         self._desktop.point_at(there)
 
+    def _tool_bar(self, key, value):
+        found = [widget for widget in self.widgets()
+                 if "QToolBar" in widget["kinds"] and widget[key] == value]
+        if not found:
+            raise NotSo(f"there is no toolbar {value}")
+        return found[0]
+
     def _part(self, kind, text):
         """The entry of a menu or menu bar, once it is in its place."""
         def places():
@@ -199,8 +202,19 @@ class ToolBarDialog:
     def content(self):
         return [row["path"][0] for row in self._view("currentToolBarList")["rows"]]
 
-    def select_tool_bar(self, title):
-        self._select("toolBarList", [title])
+    def select_tool_bar(self, texts):
+        """Selects the toolbar whose content fits these texts best; its title may be empty."""
+        rows = self._view("toolBarList")["rows"]
+        fitting = []
+        for index in [*range(len(rows)), None]:
+            if index is None:
+                index = max(fitting)[1]
+            row = settled("the row", lambda: self._view("toolBarList")["rows"][index])
+            self._program.click(row)
+            wait_for("the toolbar is not selected",
+                     lambda: self._view("toolBarList")["rows"][index]["current"])
+            content = [plain(text) for text in self.content()]
+            fitting.append((len(set(texts) & set(content)), index))
 
     def select_action(self, path):
         category = self._row("actionTree", path[:1])

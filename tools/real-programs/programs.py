@@ -39,7 +39,6 @@ class What:
     command: list
     window: str  # its class
     tool_bar: str  # the object name, or the class if it has none
-    tool_bar_title: str
     action: tuple  # its category and text, not on that toolbar, and harmless when it is triggered
     other_action: tuple
     toggle_tool_bar: Callable
@@ -47,7 +46,13 @@ class What:
     environment: dict = field(default_factory=dict)
     fill_home: Callable = nothing
     after_start: Callable = nothing
+    place_of_tool_bar: Optional[tuple] = None  # if the name does not do
+    keeps_hidden: bool = True  # no, if it hides toolbars itself and forgets it
+    status: int = 0  # with which it always ends
     close: Callable = by_key("alt+F4")
+
+    def __post_init__(self):
+        self.place_of_tool_bar = self.place_of_tool_bar or ("name", self.tool_bar)
 
 
 def write(*path):
@@ -64,41 +69,38 @@ def write(*path):
 BY_F11 = (by_key("F11"),) * 2
 
 PROGRAMS = [
-    What("texworks", 5, ["texworks"], "TeXDocumentWindow", "toolBar_edit", "Edit Toolbar",
+    What("texworks", 5, ["texworks"], "TeXDocumentWindow", "toolBar_edit",
          ("Format", "Wrap Lines"), ("Search", "Find Again"),
          from_menu("Window", "Show", "Edit Toolbar")),
-    What("featherpad", 5, ["featherpad", "--standalone"], "FeatherPad::FPwin", "mainToolBar", "",
+    What("featherpad", 5, ["featherpad", "--standalone"], "FeatherPad::FPwin", "mainToolBar",
          ("Options", "Line Numbers"), ("Options", "Wrap Lines"), nothing, BY_F11),
-    What("juffed", 5, ["juffed"], "JuffMW", "mainToolBar", "Main toolbar",
+    What("juffed", 5, ["juffed"], "JuffMW", "mainToolBar",
          ("View", "Wrap words"), ("Search", "Find next"),
          from_context_menu("Main toolbar"), BY_F11),
-    What("sqlitebrowser", 5, ["sqlitebrowser"], "MainWindow", "toolbarDB", "DB Toolbar",
+    What("sqlitebrowser", 5, ["sqlitebrowser"], "MainWindow", "toolbarDB",
          ("View", "Plot"), ("View", "Remote"), from_menu("View", "DB Toolbar")),
-    What("qgit", 5, ["qgit"], "MainImpl", "toolBar", "Toolbar",
+    What("qgit", 5, ["qgit"], "MainImpl", "toolBar",
          ("Edit", "Find next"), ("Help", "About QGit"), from_context_menu("Toolbar")),
-    What("djview4", 5, ["djview4"], "QDjView", "toolbar", "",
-         ("Settings", "Show Statusbar"), ("Settings", "Preferences"), by_key("F10"),
-         (by_key("F11"), by_key("Escape"))),
-    What("photoflare", 5, ["photoflare"], "MainWindow", "toolBar", "Extra ToolBar",
-         ("View", "Show Grid"), ("View", "Zoom In"), from_menu("View", "Filterbar"), (by_key("ctrl+f"),) * 2),
-    What("qpdfview", 5, ["qpdfview"], "qpdfview::MainWindow", "viewToolBar", "View",
-         ("View / Docks", "Outline"), ("File", "Open"), from_menu("View", "Toolbars", "View"),
+    What("djview4", 5, ["djview4"], "QDjView", "toolbar",
+         ("Settings", "Show Statusbar"), ("Settings", "Preferences"), by_key("F10")),
+    What("photoflare", 5, ["photoflare"], "MainWindow", "toolBar",
+         ("View", "Zoom In"), ("View", "Zoom Out"), from_menu("View", "Filterbar"),
+         keeps_hidden=False),
+    What("qpdfview", 5, ["qpdfview"], "qpdfview::MainWindow", "viewToolBar",
+         ("View / Docks", "Outline"), ("File", "Open"), from_menu("View", "Tool bars", "View"),
          BY_F11),
-    What("qcomicbook", 5, ["qcomicbook"], "QComicBook::ComicMainWindow", "toolBar", "Toolbar",
-         ("Navigation", "Go to page"), ("File", "Info"), from_menu("Settings", "Toolbar"),
-         BY_F11),
-    What("glogg", 5, ["glogg"], "MainWindow", "QToolBar", "Toolbar",
+    What("glogg", 5, ["glogg"], "MainWindow", "QToolBar",
          ("View", "Follow File"), ("View", "Matches overview"), from_context_menu("Toolbar")),
-    What("qpwgraph", 6, ["qpwgraph"], "qpwgraph_form", "graphToolbar", "",
+    What("qpwgraph", 6, ["qpwgraph"], "qpwgraph_form", "graphToolbar",
          ("Edit", "Select All"), ("Edit", "Select Invert"), from_menu("View", "Toolbar", "Graph"),
          close=from_menu("Graph", "Quit")),
-    What("retext", 6, ["retext"], "ReTextWindow", "QToolBar", "File toolbar",
+    What("retext", 6, ["retext"], "ReTextWindow", "QToolBar",
          ("Edit", "Move line up"), ("Edit", "Find text"), from_context_menu("File toolbar"),
-         (by_button("Fullscreen mode"),) * 2),
-    What("qxgedit", 6, ["qxgedit"], "qxgeditMainForm", "ToolBar", "",
+         (by_button("Fullscreen mode"),) * 2,
+         place_of_tool_bar=("title", "File toolbar")),
+    What("qxgedit", 6, ["qxgedit"], "qxgeditMainForm", "ToolBar",
          ("View", "Statusbar"), ("View", "Options"), from_menu("View", "Toolbar")),
-    What("packagesearch", 6, ["packagesearch"], "PackageSearchImpl", "QToolBar", "Main Toolbar",
-         ("Help", "About"), ("Packagesearch", "Preferences"), from_menu("View", "Main Toolbar")),
-    What("qsampler", 6, ["qsampler"], "QSampler::MainForm", "editToolbar", "",
-         ("View", "Statusbar"), ("View", "Messages"), from_menu("View", "Toolbar")),
+    What("packagesearch", 6, ["packagesearch"], "PackageSearchImpl", "QToolBar",
+         ("Help", "About"), ("Packagesearch", "Preferences"), from_menu("View", "Main Toolbar"),
+         status=2),
 ]

@@ -239,6 +239,7 @@ QJsonArray WindowReport::toolBars() const
             {"inWindow", isInWindow},
             {"area", isInWindow ? m_window->toolBarArea(toolBar) : 0},
             {"break", isInWindow && m_window->toolBarBreak(toolBar)},
+            {"floating", toolBar->isFloating()},
             {"hidden", toolBar->isHidden()},
             {"rect", toolBar->isVisible() ? ::json(toolBar->geometry()) : QJsonArray()},
             {"properties", propertiesOf(toolBar)},
