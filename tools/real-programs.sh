@@ -7,6 +7,8 @@
 #
 # usage: real-programs.sh [--qt 5|6] [PROGRAM...]
 
+# shellcheck disable=SC2317 # step calls the functions
+
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
 choose_qt "$@"

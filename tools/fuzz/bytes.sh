@@ -1,10 +1,11 @@
 # SPDX-License-Identifier: MIT
+# shellcheck shell=bash
 #
 # For the scripts that pass random bytes to a fuzzer: fuzz_bytes NAME SOURCES ARGUMENT..., where the fuzzer
 # is called fuzz-NAME and its seeds, findings and dictionary are in the folder SOURCES. To be sourced by bash
 # after steps.sh.
 #
-# shellcheck disable=SC2317 # step calls the functions
+# shellcheck disable=SC2154,SC2317 # choose_qt sets variables, and step calls the functions
 
 replay() {
     mkdir -p "$corpus" "$found"
