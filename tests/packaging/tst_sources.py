@@ -56,6 +56,11 @@ class Files(unittest.TestCase):
                               stderr=subprocess.STDOUT, universal_newlines=True)
         self.assertEqual(done.returncode, 0, done.stdout)
 
+    def test_none_has_marks_of_a_merge(self):
+        marked = [in_repository(path) for path in tracked()
+                  if re.search(rb'^(<{7}|>{7}) ', path.read_bytes(), re.MULTILINE)]
+        self.assertEqual(marked, [])
+
     def test_each_names_its_licence(self):
         code = [path for path in tracked() if is_code(path)]
         self.assertGreater(len(code), 0)
