@@ -12,6 +12,7 @@ const quint8 DefaultToolBars = 0xfe;
 const quint8 CustomToolBars = 0xfd;
 const char WindowToolBars = '\xfc'; // in the bytes of a window
 const qint32 MostItems = 1000;
+const int LargestWindowState = 100000; // bytes
 
 bool readSection(QDataStream &stream, bool custom, QList<FormerLayout::ToolBar> *toolBars)
 {
@@ -66,9 +67,12 @@ bool FormerLayout::readManagerState(QDataStream &stream)
 // may begin the last part is tried.
 bool FormerLayout::readWindowState(const QByteArray &bytes)
 {
-    for (int i = bytes.indexOf(WindowToolBars, HeaderSize); i >= 0;
+    if (bytes.size() > LargestWindowState)
+        return false;
+    for (auto i = bytes.indexOf(WindowToolBars, HeaderSize); i >= 0;
          i = bytes.indexOf(WindowToolBars, i + 1)) {
-        QDataStream stream(bytes.mid(i + 1));
+        QDataStream stream(
+            QByteArray::fromRawData(bytes.constData() + i + 1, int(bytes.size() - i - 1)));
         if (readPlaces(stream) && stream.atEnd())
             return true;
         places = KitPlaces();

@@ -54,6 +54,19 @@ void buildWithout(QMainWindow *window, const QString &name)
     delete window->findChild<QAction *>(name);
 }
 
+// As QMainWindow::saveState() would write it with 1,000 toolbars of long names.
+QByteArray largeStateOfAWindow()
+{
+    const qint32 topArea = 2;
+    QByteArray state;
+    QDataStream stream(&state, QIODevice::WriteOnly);
+    stream << qint32(255) << qint32(1) << quint8(0xfc) << qint32(1) << topArea << qint32(1000);
+    for (int i = 0; i < 1000; ++i)
+        stream << QString::number(i).rightJustified(60, 'x') << quint8(1) << quint64(0)
+               << quint64(0);
+    return state;
+}
+
 } // namespace
 
 void tst_RyToolBarKit_layout::nothingIsStoredWithoutAChange()
@@ -508,7 +521,8 @@ void tst_RyToolBarKit_layout::restoreLayoutRefusesOtherBytes()
     const QByteArray layout = program.kit()->saveLayout();
     QByteArray state = program.kit()->manager()->saveState(1);
     state.chop(1);
-    const QList<QByteArray> values = {"x", "{}", QByteArray(4, '\0'), state, layout.left(50)};
+    const QList<QByteArray> values = {
+        "x", "{}", QByteArray(4, '\0'), state, layout.left(50), largeStateOfAWindow()};
     for (const QByteArray &value : values) {
         QVERIFY(!program.kit()->restoreLayout(value));
         QCOMPARE(program.kit()->saveLayout(), layout);
