@@ -153,7 +153,7 @@ void RyToolBarKitPrivate::startAgain()
         customize();
 }
 
-// What stands on a toolbar when it is registered becomes its default content.
+// What is on a toolbar when it is registered becomes its default content.
 void RyToolBarKitPrivate::setToDefaults()
 {
     RyToolBarManager once;
@@ -198,7 +198,7 @@ void RyToolBarKitPrivate::findToolBars()
 {
     if (!(features & RyToolBarKit::FindToolBars))
         return;
-    const auto managed = manager->toolBars();
+    const auto managed = manager->toolBarsActions();
     const auto toolBars = ToolBarPlaces::toolBarsIn(m_window);
     QList<QToolBar *> added;
     for (QToolBar *toolBar : toolBars) {
@@ -354,7 +354,7 @@ void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
     if (before == now)
         return;
     for (QAction *action : inManager) {
-        if (action && !onWidget.contains(action))
+        if (action && !now.contains(m_actionNames.nameOf(action)))
             m_buttons.forget(action);
     }
     m_takenOff[toolBar] -= now;
@@ -362,9 +362,9 @@ void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
     if (m_defaults.contains(toolBar))
         m_defaults[toolBar] = mergedEntries(m_defaults.value(toolBar), names, now - before);
     place(toolBar);
-    const QList<QAction *> placed = manager->actions(toolBar);
+    const QSet<QString> placed = namesIn(namesOf(manager->actions(toolBar)));
     for (QAction *action : onWidget) {
-        if (!placed.contains(action))
+        if (!placed.contains(m_actionNames.nameOf(action)))
             toolBar->removeAction(action);
     }
 }

@@ -54,33 +54,16 @@ StableNames::StableNames(const QMainWindow *window)
 {
 }
 
-QString StableNames::add(const QAction *action)
+void StableNames::add(const QAction *action)
 {
-    const QString text = plainText(action->text());
-    const QString name = nameFor(action);
-    if (!name.isEmpty())
-        return addUnique(action, name, text);
-    m_problems.insert(action,
-                      sentence(action, text,
-                               QStringLiteral("has no name that is the same in every language: "
-                                              "give it an objectName")));
-    return addUnique(action, QLatin1String("text:") + text, text);
+    addUnique(action, nameFor(action), plainText(action->text()));
 }
 
-QString StableNames::add(const QToolBar *toolBar)
+void StableNames::add(const QToolBar *toolBar)
 {
-    const QString title = plainText(toolBar->windowTitle());
-    QString name = toolBar->objectName();
-    if (name.isEmpty())
-        name = memberOf(toolBar);
-    if (name.isEmpty()) {
-        m_problems.insert(toolBar,
-                          sentence(toolBar, title,
-                                   QStringLiteral("has no name that is the same in every language: "
-                                                  "give it an objectName")));
-        name = QLatin1String("text:") + title;
-    }
-    return addUnique(toolBar, name, title);
+    const QString name = toolBar->objectName();
+    addUnique(toolBar, name.isEmpty() ? memberOf(toolBar) : name,
+              plainText(toolBar->windowTitle()));
 }
 
 void StableNames::add(const QObject *object, const QString &name)
@@ -89,19 +72,25 @@ void StableNames::add(const QObject *object, const QString &name)
     m_objects.insert(name, const_cast<QObject *>(object));
 }
 
-QString StableNames::addUnique(const QObject *object, const QString &name, const QString &text)
+// Without a name, it gets one that is made of its text.
+void StableNames::addUnique(const QObject *object, const QString &name, const QString &text)
 {
     QString unique = name;
-    while (m_objects.contains(unique)) {
-        unique += QLatin1String("/text:") + text;
-        m_problems.insert(object,
-                          sentence(object, text,
-                                   QStringLiteral("has the name \"%1\", but something else has it "
-                                                  "too: give each an objectName of its own")
-                                       .arg(name)));
+    QString problem;
+    if (name.isEmpty()) {
+        unique = QLatin1String("text:") + text;
+        problem = QStringLiteral("has no name that is the same in every language: give it an "
+                                 "objectName");
+    } else if (m_objects.contains(name)) {
+        problem = QStringLiteral("has the name \"%1\", but something else has it too: give each an "
+                                 "objectName of its own")
+                      .arg(name);
     }
+    if (!problem.isEmpty())
+        m_problems.insert(object, sentence(object, text, problem));
+    while (m_objects.contains(unique))
+        unique += QLatin1String("/text:") + text;
     add(object, unique);
-    return unique;
 }
 
 void StableNames::remove(const QObject *object)

@@ -25,8 +25,8 @@ public:
     /*!
      * \brief Finds a name for an object that has none yet.
      */
-    QString add(const QAction *action);
-    QString add(const QToolBar *toolBar);
+    void add(const QAction *action);
+    void add(const QToolBar *toolBar);
     /*!
      * \brief Gives a custom toolbar the name \a name.
      */
@@ -70,7 +70,7 @@ public:
 private:
     QString nameFor(const QAction *action) const;
     QString memberOf(const QObject *object) const;
-    QString addUnique(const QObject *object, const QString &name, const QString &text);
+    void addUnique(const QObject *object, const QString &name, const QString &text);
 
     const QMainWindow *m_window;
     QHash<const QObject *, QString> m_names;

@@ -14,7 +14,7 @@ class tst_KitLayout : public TestCase
 
 private Q_SLOTS:
     void aLayoutIsReadAsItWasWritten();
-    void aLayoutIsReadAsTheFirstVersionWroteIt();
+    void aLayoutIsWrittenAsByTheFirstVersion();
     void anEmptyLayoutIsTheDefault();
     void eachPartMakesItDifferentFromTheDefault_data();
     void eachPartMakesItDifferentFromTheDefault();
@@ -97,7 +97,7 @@ void tst_KitLayout::aLayoutIsReadAsItWasWritten()
     QCOMPARE(layout.toJson(), sample().toJson());
 }
 
-void tst_KitLayout::aLayoutIsReadAsTheFirstVersionWroteIt()
+void tst_KitLayout::aLayoutIsWrittenAsByTheFirstVersion()
 {
     const QByteArray value =
         R"({"checksum":"CHECKSUM","format":1,"layout":{"places":{"floating":{"view":[-3,40]},)"
