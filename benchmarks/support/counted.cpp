@@ -4,6 +4,8 @@
 
 #include "family.h"
 
+#include <QCoreApplication>
+
 extern "C" {
 
 __attribute__((noinline)) void ry_counted_operation(Side *side)
@@ -17,6 +19,8 @@ bool countOnce(const QString &id)
     const Family *const family = familyOf(id);
     if (!family)
         return false;
+    // Each installed plugin for images looks at each image, so the counts would depend on them.
+    QCoreApplication::setLibraryPaths({});
     const auto side = family->ours(family->small);
     // The first round does what is done only once, such as looking up symbols and fonts.
     side->prepare();
