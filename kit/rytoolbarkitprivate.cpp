@@ -335,7 +335,6 @@ void RyToolBarKitPrivate::update()
 // Whatever the manager has not put on a toolbar, the program has.
 void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
 {
-    const QList<QAction *> inManager = manager->actions(toolBar);
     QList<QAction *> onWidget; // without separators, which the manager may delete
     QStringList names;
     const auto all = toolBar->actions();
@@ -349,14 +348,10 @@ void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
         onWidget.append(action);
         names.append(m_actionNames.nameOf(action));
     }
-    const QSet<QString> before = namesIn(namesOf(inManager));
+    const QSet<QString> before = namesIn(namesOf(manager->actions(toolBar)));
     const QSet<QString> now = namesIn(names);
     if (before == now)
         return;
-    for (QAction *action : inManager) {
-        if (action && !now.contains(m_actionNames.nameOf(action)))
-            m_buttons.forget(action);
-    }
     m_takenOff[toolBar] -= now;
     m_takenOff[toolBar] += before - now;
     if (m_defaults.contains(toolBar))
