@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 
+#include "check.h"
+
 // A host of the kit, and a user who customizes a toolbar of it.
 #include <RyCustomizedDialog>
 #include <RyToolBarKit>
@@ -17,21 +19,7 @@
 #include <QToolBar>
 #include <QTranslator>
 
-#include <cstdio>
-
 namespace {
-
-int failures = 0;
-
-void check(bool holds, const char *what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "kithost: not true: %s\n", what);
-        ++failures;
-    }
-}
-
-#define CHECK(condition) check((condition), #condition)
 
 class Window : public QMainWindow
 {

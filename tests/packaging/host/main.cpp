@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 
+#include "check.h"
+
 // Each class is included under a name of another kind, and all of them have to fit together.
 #include <RyAbstatcManager>
 #include <RyCustomizedDialog>
@@ -17,21 +19,7 @@
 #include <QToolBar>
 #include <QTranslator>
 
-#include <cstdio>
-
 namespace {
-
-int failures = 0;
-
-void check(bool holds, const char *what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "host: not true: %s\n", what);
-        ++failures;
-    }
-}
-
-#define CHECK(condition) check((condition), #condition)
 
 // A library that was built without translations names no folder.
 void checkTranslations(bool expected)
