@@ -17,10 +17,6 @@ output=$(realpath "$2")
 need Xvfb openbox xdotool xprop import
 begin_session
 
-start xserver.log Xvfb -displayfd 3 -screen 0 1600x1200x24 -dpi 96 -nolisten tcp
-DISPLAY=:$(answer "the X server")
-export DISPLAY
-start_bus
-start windowmanager.log openbox --sm-disable
+start_desktop 1600x1200
 export RY_LIBRARY PYTHONPATH=$tour
 take_tour "$here/checkprograms.py" "$scratch" "$output" "${@:3}"

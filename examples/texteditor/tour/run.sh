@@ -16,10 +16,6 @@ read_arguments "$@"
 need Xvfb openbox xdotool xprop import
 begin_session
 
-start xserver.log Xvfb -displayfd 3 -screen 0 1280x860x24 -dpi 96 -nolisten tcp
-DISPLAY=:$(answer "the X server")
-export DISPLAY
-start_bus
-start windowmanager.log openbox
+start_desktop 1280x860
 take_tour "$here/tour.py" "$editor" "$output"
 "$here/animate.sh" "$output"

@@ -95,6 +95,15 @@ start_bus() {
     exec 3>&-
 }
 
+# start_desktop SIZE: an X server with a screen of that size, a message bus and a window manager.
+start_desktop() {
+    start xserver.log Xvfb -displayfd 3 -screen 0 "$1x24" -dpi 96 -nolisten tcp
+    DISPLAY=:$(answer "the X server")
+    export DISPLAY
+    start_bus
+    start windowmanager.log openbox --sm-disable
+}
+
 # take_tour PROGRAM ARGUMENT...: runs the tour in Python, in the background, so that an interrupt is
 # taken at once.
 take_tour() {
