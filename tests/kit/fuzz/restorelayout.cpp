@@ -1,21 +1,14 @@
 // SPDX-License-Identifier: MIT
 
+#include "fuzzapplication.h"
 #include "layoutcheck.h"
-
-#include <QApplication>
 
 #include <cstdio>
 #include <cstdlib>
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    setenv("LC_ALL", "C.UTF-8", 1);
-    static int count = 1;
-    static char name[] = "fuzz-restorelayout";
-    static char *arguments[] = {name, nullptr};
-    // Lives until the process ends, as the fuzzer leaves by exit().
-    new QApplication(count, arguments);
+    startFuzzApplication();
     return 0;
 }
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 
+#include "fuzzapplication.h"
 #include "restorecheck.h"
-
-#include <QApplication>
 
 #include <sanitizer/allocator_interface.h>
 
@@ -46,13 +45,7 @@ void onFree(const volatile void *memory)
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    setenv("LC_ALL", "C.UTF-8", 1);
-    static int count = 1;
-    static char name[] = "fuzz-restorestate";
-    static char *arguments[] = {name, nullptr};
-    // Lives until the process ends, as the fuzzer leaves by exit().
-    new QApplication(count, arguments);
+    startFuzzApplication();
     // Before the application's own ends.
     std::atexit(forgetHosts);
     return __sanitizer_install_malloc_and_free_hooks(onAllocation, onFree) ? 0 : 1;
