@@ -34,7 +34,7 @@ class RyToolBarManager;
  * settingsMenu->addAction(kit->customizeAction());
  * \endcode
  *
- * When the window is polished for the first time, the kit finds the actions of its menus and its
+ * When the window is shown for the first time, the kit finds the actions of its menus and its
  * toolbars, and restores the layout of the last run. From then on it follows what the program and
  * the user change, and stores the layout. Programs that restore windows in their constructor call
  * restoreNow() there.
@@ -123,7 +123,7 @@ public:
     ~RyToolBarKit() override;
 
     /*!
-     * \brief Sets what the kit does by itself. Call it before the window is polished; later it has
+     * \brief Sets what the kit does by itself. Call it before the window is shown; later it has
      *        no effect on what has happened already.
      */
     void setFeatures(Features features);
@@ -142,13 +142,13 @@ public:
     /*!
      * \brief Returns the manager, for everything that the kit does not do.
      *
-     * The kit owns it. It is null before the window is polished or restoreNow() is called, and
+     * The kit owns it. It is null before the window is shown or restoreNow() is called, and
      * another one after a toolbar that the program had made was deleted. So do not keep it.
      */
     RyToolBarManager *manager();
 
     /*!
-     * \brief Sets where the layout is kept. Call it before the window is polished.
+     * \brief Sets where the layout is kept. Call it before the window is shown.
      *
      * Without this call it is the program's QSettings and the key "toolBars/" with the objectName
      * of the window, or with its class name if it has none.
@@ -160,7 +160,7 @@ public:
     void setSettings(QSettings *settings, const QString &key);
 
     /*!
-     * \brief Finds everything and restores the stored layout now, not when the window is polished.
+     * \brief Finds everything and restores the stored layout now, not when the window is shown.
      *
      * \return true if a layout was restored; false if there is none, if it was refused, or if this
      *         was done before.
@@ -207,7 +207,7 @@ public:
     void setFormerNames(QObject *object, const QStringList &names);
 
     /*!
-     * \brief Keeps \a object out of the dialog. Call it before the window is polished.
+     * \brief Keeps \a object out of the dialog. Call it before the window is shown.
      *
      * \param object an action; a menu, with all that is in it; or a toolbar, which stays as the
      *        program made it. Not owned; null and others are ignored. An action on a toolbar stays
@@ -227,7 +227,7 @@ public:
 
     /*!
      * \brief Returns what keeps a layout from being stable, a sentence each with its remedy, in
-     *        English for developers; an empty list before the window is polished.
+     *        English for developers; an empty list before the window is shown.
      */
     QStringList problems();
 

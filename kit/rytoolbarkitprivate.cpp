@@ -90,7 +90,7 @@ RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window,
     connect(m_menus, SIGNAL(changed()), &m_updateTimer, SLOT(start()));
     connect(qApp, SIGNAL(aboutToQuit()), this, SLOT(storeNow()));
     window->installEventFilter(this);
-    if (window->testAttribute(Qt::WA_WState_Polished))
+    if (window->isVisible())
         m_updateTimer.start();
 }
 
@@ -376,7 +376,11 @@ bool RyToolBarKitPrivate::eventFilter(QObject *watched, QEvent *event)
 void RyToolBarKitPrivate::windowEvent(QEvent *event)
 {
     const QEvent::Type type = event->type();
-    if (type == QEvent::Polish || type == QEvent::Show)
+    // A window may also be polished while the program still builds it, even in the middle of
+    // QMainWindow::restoreState().
+    const bool isShown = type == QEvent::Show
+        || (type == QEvent::Polish && m_window->testAttribute(Qt::WA_WState_ExplicitShowHide));
+    if (isShown)
         restoreNow();
     else if (type == QEvent::Close)
         storeNow();

@@ -19,7 +19,8 @@ private Q_SLOTS:
     void aKitWithoutAWindowPrintsAnErrorAndDoesNothing();
     void theSecondKitOfAWindowPrintsAnError();
     void theCustomizeActionIsThereFromTheBeginning();
-    void nothingIsFoundBeforeTheWindowIsPolished();
+    void nothingIsFoundBeforeTheWindowIsShown();
+    void aKitMayBeAttachedToAWindowThatIsShown();
     void actionsAreInTheCategoriesOfTheirMenus();
     void toolBarsAreDefaultToolBarsWithTheirContent();
     void anActionInTwoMenusIsInTheFirstCategory();
@@ -96,7 +97,7 @@ void tst_RyToolBarKit_find::theCustomizeActionIsThereFromTheBeginning()
     QCOMPARE(kit.customizeAction()->objectName(), QString("customizeToolBars"));
 }
 
-void tst_RyToolBarKit_find::nothingIsFoundBeforeTheWindowIsPolished()
+void tst_RyToolBarKit_find::nothingIsFoundBeforeTheWindowIsShown()
 {
     QMainWindow window;
     RyToolBarKit kit(&window, false);
@@ -104,10 +105,24 @@ void tst_RyToolBarKit_find::nothingIsFoundBeforeTheWindowIsPolished()
     addAction(window.menuBar()->addMenu("File"), "open");
     QVERIFY(!kit.manager());
     QCOMPARE(kit.problems(), QStringList());
-    window.ensurePolished();
+    window.ensurePolished(); // as in the middle of QMainWindow::restoreState()
+    QVERIFY(!kit.manager());
+    window.show();
     QVERIFY(kit.manager());
     QCOMPARE(kit.manager()->categories(), QStringList("File"));
     QVERIFY(!kit.restoreNow());
+}
+
+void tst_RyToolBarKit_find::aKitMayBeAttachedToAWindowThatIsShown()
+{
+    QMainWindow window;
+    addAction(window.menuBar()->addMenu("File"), "open");
+    window.show();
+    RyToolBarKit kit(&window, false);
+    kit.setSettings(nullptr, QString());
+    letTheKitFollow();
+    QVERIFY(kit.manager());
+    QCOMPARE(kit.manager()->categories(), QStringList("File"));
 }
 
 void tst_RyToolBarKit_find::actionsAreInTheCategoriesOfTheirMenus()

@@ -3,6 +3,7 @@
 #include "kitwindow.h"
 #include "testcase.h"
 
+#include <QDockWidget>
 #include <QMenuBar>
 #include <QtTest>
 
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void placesReturnAtTheNextStart();
     void floatingToolBarsReturnAtTheNextStart();
     void aLayoutOfTheProgramIsNotOurs();
+    void aProgramMayRestoreTabifiedDocksBeforeItIsShown();
     void whatTheUserHidesStaysHidden();
     void whatTheProgramHidesIsNotKept();
     void theProgramWinsIfItStartsDifferently();
@@ -183,6 +185,39 @@ void tst_RyToolBarKit_layout::aLayoutOfTheProgramIsNotOurs()
     });
     QCOMPARE(program.places(), QStringList({"left: file", "top: edit, _Custom_Toolbar_1"}));
     QVERIFY(program.toolBar("_Custom_Toolbar_1")->isVisible());
+}
+
+// With them, QMainWindow::restoreState() polishes the window.
+void tst_RyToolBarKit_layout::aProgramMayRestoreTabifiedDocksBeforeItIsShown()
+{
+    QByteArray state;
+    const auto build = [&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QDockWidget *last = nullptr;
+        for (const char *name : {"first", "second"}) {
+            QDockWidget *const dock = new QDockWidget(name, window);
+            dock->setObjectName(name);
+            dock->setWidget(new QWidget);
+            window->addDockWidget(Qt::RightDockWidgetArea, dock);
+            if (last)
+                window->tabifyDockWidget(last, dock);
+            last = dock;
+        }
+        window->restoreState(state);
+    };
+    KitProgram program;
+    program.start(build);
+    program.create("Mine", "open");
+    const QByteArray layout = program.kit()->saveLayout();
+    const QStringList places = program.places();
+    QCOMPARE(places, QStringList("top: file, edit, _Custom_Toolbar_1"));
+    for (int i = 0; i < 3; ++i) {
+        state = program.window()->saveState();
+        program.start(build);
+        letTheKitFollow();
+        QCOMPARE(program.places(), places);
+        QCOMPARE(QString(program.kit()->saveLayout()), QString(layout));
+    }
 }
 
 void tst_RyToolBarKit_layout::whatTheUserHidesStaysHidden()
