@@ -2,6 +2,8 @@
 
 #include "rytoolbarkitprivate.h"
 
+#include "toolbarplaces.h"
+
 #include <RyCToolBarWidget>
 #include <RyCustomizedDialog>
 #include <QAction>
@@ -57,10 +59,9 @@ void RyToolBarKitPrivate::dialogFinished(int result)
 void RyToolBarKitPrivate::giveTitles()
 {
     int number = 0;
-    const auto defaults = manager->defaultToolBars();
-    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
-        QToolBar *const toolBar = it.key();
-        if (!toolBar->windowTitle().isEmpty())
+    const auto toolBars = ToolBarPlaces::toolBarsIn(m_window);
+    for (QToolBar *toolBar : toolBars) {
+        if (!manager->isDefaultToolBar(toolBar) || !toolBar->windowTitle().isEmpty())
             continue;
         const QString name = StableNames::inWords(toolBar->objectName());
         m_untitled.append({toolBar, toolBar->toggleViewAction()->text()});

@@ -50,6 +50,7 @@ private Q_SLOTS:
 namespace {
 
 QToolButton *button(const KitProgram &program, const QString &toolBar, const QString &action)
+    void toolBarsWithoutATitleAreNumberedAsInTheWindow();
 {
     return qobject_cast<QToolButton *>(
         program.toolBar(toolBar)->widgetForAction(program.action(action)));
@@ -517,3 +518,20 @@ void tst_RyToolBarKit_changes::toolBarsOfTheUserCanBeMovedLikeThoseOfTheProgram(
 
 QTEST_MAIN(tst_RyToolBarKit_changes)
 #include "tst_rytoolbarkit_changes.moc"
+void tst_RyToolBarKit_changes::toolBarsWithoutATitleAreNumberedAsInTheWindow()
+{
+    // In an order that is not that of the addresses.
+    QList<QToolBar *> toolBars;
+    for (int i = 0; i < 5; ++i)
+        toolBars << new QToolBar;
+    std::sort(toolBars.begin(), toolBars.end(), std::greater<QToolBar *>());
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        for (QToolBar *toolBar : toolBars)
+            window->addToolBar(toolBar);
+    });
+    program.openDialog();
+    for (int i = 0; i < toolBars.size(); ++i)
+        QCOMPARE(toolBars.at(i)->windowTitle(), QString("Toolbar %1").arg(i + 1));
+}
+
