@@ -19,6 +19,7 @@ MenuActions::MenuActions(QMainWindow *window, QObject *parent)
 QList<MenuActions::Found> MenuActions::find(const QSet<const QObject *> &excluded)
 {
     m_excluded = excluded;
+    m_inMenus.clear();
     m_found.clear();
     m_visited.clear();
     QList<Found> found;
@@ -46,6 +47,7 @@ void MenuActions::findIn(const QList<QAction *> &actions, const QString &categor
         QMenu *const menu = action->menu();
         if (m_excluded.contains(action) || (menu && m_excluded.contains(menu)))
             continue;
+        m_inMenus.insert(action);
         if (!action->isVisible() || action->isSeparator())
             continue;
         if (!m_found.contains(action))
@@ -69,7 +71,9 @@ bool MenuActions::eventFilter(QObject *watched, QEvent *event)
             Q_EMIT changed();
     } else if (event->type() == QEvent::ActionRemoved) {
         // Another action may get its address.
-        m_found.remove(static_cast<QActionEvent *>(event)->action());
+        const QAction *const action = static_cast<QActionEvent *>(event)->action();
+        m_inMenus.remove(action);
+        m_found.remove(action);
     }
     return QObject::eventFilter(watched, event);
 }

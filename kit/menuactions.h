@@ -36,6 +36,11 @@ public:
      */
     QList<Found> find(const QSet<const QObject *> &excluded);
 
+    /*!
+     * \brief Returns true if \a action is in a menu, visible or not.
+     */
+    bool contains(const QAction *action) const { return m_inMenus.contains(action); }
+
 Q_SIGNALS:
     /*!
      * \brief Emitted when find() may find something else. Many changes may each emit it.
@@ -49,7 +54,8 @@ private:
     void findIn(const QList<QAction *> &actions, const QString &category, QList<Found> *found);
 
     QMainWindow *m_window;
-    // Compared only: those of the last find() that still are in a menu.
+    // Compared only: what the last find() has seen and still is in a menu, and the visible of them.
+    QSet<const QAction *> m_inMenus;
     QSet<const QAction *> m_found;
     QSet<const QObject *> m_excluded;
     QSet<const QMenu *> m_visited;

@@ -54,7 +54,8 @@ class RyToolBarManager;
  *
  * Menus, actions and toolbars that come later are found when the event loop runs again, and put
  * where the layout has them. Those that are deleted are forgotten, and keep their place in the
- * layout.
+ * layout. An action that the program only takes out of its menus and toolbars is still offered,
+ * until another action with the same name comes and takes its place.
  *
  * \par Names
  * Layouts refer to actions and toolbars by objectName(). Without one, the kit uses the name of the

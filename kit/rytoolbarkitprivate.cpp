@@ -237,6 +237,7 @@ void RyToolBarKitPrivate::offer(QAction *action, const QString &category)
 {
     if (!action || action->isSeparator() || isOffered(action))
         return;
+    withdrawFormer(action);
     m_actionNames.add(action);
     m_offered.insert(action, action);
     connect(action, SIGNAL(destroyed(QObject *)), this, SLOT(actionDestroyed(QObject *)),
@@ -245,6 +246,34 @@ void RyToolBarKitPrivate::offer(QAction *action, const QString &category)
         keepOutOfDialog(action);
     else
         manager->addAction(action, category);
+}
+
+// Programs exchange actions, such as those of another document, and keep the former ones.
+void RyToolBarKitPrivate::withdrawFormer(const QAction *action)
+{
+    const QString name = m_actionNames.wantedName(action);
+    QAction *const former = m_offered.value(m_actionNames.object(name));
+    if (!former || isInUse(former))
+        return;
+    manager->removeAction(former);
+    m_actionNames.remove(former);
+}
+
+// Whether the program still has an action in a menu or on a toolbar, or has handed it over.
+bool RyToolBarKitPrivate::isInUse(QAction *action) const
+{
+    const QString name = m_actionNames.nameOf(action);
+    const auto isAction = [action](const QPair<QPointer<QAction>, QString> &item) {
+        return item.first == action;
+    };
+    if (m_menus->contains(action)
+        || std::any_of(m_handedOver.cbegin(), m_handedOver.cend(), isAction))
+        return true;
+    for (auto it = m_defaults.cbegin(); it != m_defaults.cend(); ++it) {
+        if (it->contains(name) && !m_takenOff.value(it.key()).contains(name))
+            return true;
+    }
+    return false;
 }
 
 // Adding a category that exists makes it list nothing, and it goes with its last action.
@@ -338,6 +367,7 @@ void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
     QList<QAction *> onWidget; // without separators, which the manager may delete
     QStringList names;
     const auto all = toolBar->actions();
+    m_takenOff[toolBar] += namesIn(namesOf(manager->actions(toolBar))) - namesIn(namesOf(all));
     for (QAction *action : all) {
         if (action->isSeparator()) {
             names.append(QString());
@@ -353,7 +383,6 @@ void RyToolBarKitPrivate::followProgram(QToolBar *toolBar)
     if (before == now)
         return;
     m_takenOff[toolBar] -= now;
-    m_takenOff[toolBar] += before - now;
     if (m_defaults.contains(toolBar))
         m_defaults[toolBar] = mergedEntries(m_defaults.value(toolBar), names, now - before);
     place(toolBar);

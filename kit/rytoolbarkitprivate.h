@@ -82,6 +82,8 @@ private:
     void findToolBars();
     void offer(QAction *action, const QString &category);
     void offerHandedOver();
+    void withdrawFormer(const QAction *action);
+    bool isInUse(QAction *action) const;
     void keepOutOfDialog(QAction *action);
     void addToolBar(QToolBar *toolBar);
     void prepareAction(QToolBar *toolBar, QAction *action);

@@ -41,6 +41,11 @@ QString nameOfOwner(const QAction *action)
     return QString();
 }
 
+QString textName(const QString &text)
+{
+    return QLatin1String("text:") + text;
+}
+
 QString sentence(const QObject *object, const QString &text, const QString &what)
 {
     return QStringLiteral("%1 \"%2\" %3")
@@ -78,7 +83,7 @@ void StableNames::addUnique(const QObject *object, const QString &name, const QS
     QString unique = name;
     QString problem;
     if (name.isEmpty()) {
-        unique = QLatin1String("text:") + text;
+        unique = textName(text);
         problem = QStringLiteral("has no name that is the same in every language: give it an "
                                  "objectName");
     } else if (m_objects.contains(name)) {
@@ -91,6 +96,12 @@ void StableNames::addUnique(const QObject *object, const QString &name, const QS
     while (m_objects.contains(unique))
         unique += QLatin1String("/text:") + text;
     add(object, unique);
+}
+
+QString StableNames::wantedName(const QAction *action) const
+{
+    const QString name = nameFor(action);
+    return name.isEmpty() ? textName(plainText(action->text())) : name;
 }
 
 void StableNames::remove(const QObject *object)

@@ -33,6 +33,11 @@ public:
     void add(const QObject *object, const QString &name);
 
     /*!
+     * \brief Returns the name that add() gives \a action if nothing else has it.
+     */
+    QString wantedName(const QAction *action) const;
+
+    /*!
      * \brief Frees the name of an object.
      */
     void remove(const QObject *object);

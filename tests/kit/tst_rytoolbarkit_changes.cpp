@@ -29,6 +29,12 @@ private Q_SLOTS:
     void anActionThatTheProgramAddsToAToolBarStays();
     void anActionThatTheUserRemovedDoesNotComeBack();
     void anActionThatTheProgramTakesOffMayComeBack();
+    void anActionThatTakesThePlaceOfAnotherHasItsName();
+    void anActionThatTakesThePlaceOfAnotherOnAToolBarHasItsName();
+    void anActionOfADeletedMenuGivesItsNameAway();
+    void aHandedOverActionTakesTheNameOfOneThatIsOutOfItsMenu();
+    void anActionThatIsStillUsedKeepsItsName_data();
+    void anActionThatIsStillUsedKeepsItsName();
     void restoreDefaultsKnowsWhatTheProgramAdded();
     void theWindowMayBeDeletedAtAnyTime_data();
     void theWindowMayBeDeletedAtAnyTime();
@@ -44,13 +50,13 @@ private Q_SLOTS:
     void aboutToCustomizeComesBeforeTheDialogIsShown();
     void requiredRowsSayWhatHappens();
     void toolBarsWithoutATitleHaveOneInTheDialog();
+    void toolBarsWithoutATitleAreNumberedAsInTheWindow();
     void toolBarsOfTheUserCanBeMovedLikeThoseOfTheProgram();
 };
 
 namespace {
 
 QToolButton *button(const KitProgram &program, const QString &toolBar, const QString &action)
-    void toolBarsWithoutATitleAreNumberedAsInTheWindow();
 {
     return qobject_cast<QToolButton *>(
         program.toolBar(toolBar)->widgetForAction(program.action(action)));
@@ -270,6 +276,118 @@ void tst_RyToolBarKit_changes::anActionThatTheProgramTakesOffMayComeBack()
     program.toolBar("file")->addAction(open);
     letTheKitFollow();
     QCOMPARE(program.content("file"), QString("save open | cut new"));
+}
+
+// Each document of a program may have its own actions, which the window's menus show by turns.
+void tst_RyToolBarKit_changes::anActionThatTakesThePlaceOfAnotherHasItsName()
+{
+    KitProgram program;
+    QAction first("Next", nullptr);
+    QAction second("Next", nullptr);
+    program.start();
+    menu(program, "&File")->addAction(&first);
+    letTheKitFollow();
+    RyToolBarManager *const manager = program.kit()->manager();
+    const QString mine = program.create("Mine", "open");
+    manager->setToolBar(program.toolBar(mine), {&first, program.action("open")});
+    const QByteArray layout = program.kit()->saveLayout();
+
+    QAction *before = &first;
+    QAction *now = &second;
+    for (int i = 0; i < 4; ++i) {
+        menu(program, "&File")->removeAction(before);
+        menu(program, "&File")->addAction(now);
+        letTheKitFollow();
+        QCOMPARE(program.toolBar(mine)->actions(), QList<QAction *>({now, program.action("open")}));
+        QVERIFY(manager->actions().contains(now));
+        QVERIFY(!manager->actions().contains(before));
+        QCOMPARE(QString(program.kit()->saveLayout()), QString(layout));
+        std::swap(before, now);
+    }
+}
+
+void tst_RyToolBarKit_changes::anActionThatTakesThePlaceOfAnotherOnAToolBarHasItsName()
+{
+    KitProgram program;
+    QAction first("Next", nullptr);
+    QAction second("Next", nullptr);
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QToolBar *const bar = window->addToolBar("Document");
+        bar->setObjectName("document");
+        bar->addAction(&first);
+    });
+    program.edit("edit", "cut copy");
+    const QByteArray layout = program.kit()->saveLayout();
+    program.toolBar("document")->removeAction(&first);
+    program.toolBar("document")->addAction(&second);
+    letTheKitFollow();
+    QCOMPARE(program.toolBar("document")->actions(), QList<QAction *>({&second}));
+    QVERIFY(!program.kit()->manager()->actions().contains(&first));
+    QCOMPARE(QString(program.kit()->saveLayout()), QString(layout));
+}
+
+void tst_RyToolBarKit_changes::anActionOfADeletedMenuGivesItsNameAway()
+{
+    KitProgram program;
+    QAction first("Next", nullptr);
+    QAction second("Next", nullptr);
+    program.start();
+    QMenu *const document = menu(program, "&File")->addMenu("Document");
+    document->addAction(&first);
+    letTheKitFollow();
+    QVERIFY(program.kit()->manager()->actions().contains(&first));
+    delete document;
+    menu(program, "&File")->addAction(&second);
+    letTheKitFollow();
+    QVERIFY(!program.kit()->manager()->actions().contains(&first));
+    QVERIFY(program.kit()->manager()->actions().contains(&second));
+}
+
+void tst_RyToolBarKit_changes::aHandedOverActionTakesTheNameOfOneThatIsOutOfItsMenu()
+{
+    KitProgram program;
+    QAction first("Next", nullptr);
+    QAction second("Next", nullptr);
+    program.start();
+    menu(program, "&File")->addAction(&first);
+    letTheKitFollow();
+    menu(program, "&File")->removeAction(&first);
+    program.kit()->addActions({&second}, "Document");
+    QVERIFY(!program.kit()->manager()->actions().contains(&first));
+    QVERIFY(program.kit()->manager()->actions().contains(&second));
+}
+
+void tst_RyToolBarKit_changes::anActionThatIsStillUsedKeepsItsName_data()
+{
+    QTest::addColumn<QString>("where");
+    for (const char *where : {"menu", "invisible", "handed over", "toolbar", "removed by the user"})
+        QTest::newRow(where) << where;
+}
+
+void tst_RyToolBarKit_changes::anActionThatIsStillUsedKeepsItsName()
+{
+    QFETCH(QString, where);
+    KitProgram program;
+    QAction first("Next", nullptr);
+    QAction second("Next", nullptr);
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        if (where == "menu" || where == "invisible")
+            window->menuBar()->actions().constFirst()->menu()->addAction(&first);
+        else if (where == "handed over")
+            program.kit()->addActions({&first}, "Handed over");
+        else
+            window->findChild<QToolBar *>("edit")->addAction(&first);
+    });
+    if (where == "invisible")
+        first.setVisible(false);
+    if (where == "removed by the user")
+        program.edit("edit", "cut");
+    menu(program, "&Edit")->addAction(&second);
+    letTheKitFollow();
+    QVERIFY(program.kit()->manager()->actions().contains(&first));
+    QVERIFY(program.kit()->manager()->actions().contains(&second));
 }
 
 void tst_RyToolBarKit_changes::restoreDefaultsKnowsWhatTheProgramAdded()
@@ -501,23 +619,6 @@ void tst_RyToolBarKit_changes::toolBarsWithoutATitleHaveOneInTheDialog()
     QVERIFY(program.kit()->isDefault());
 }
 
-void tst_RyToolBarKit_changes::toolBarsOfTheUserCanBeMovedLikeThoseOfTheProgram()
-{
-    for (const bool isMovable : {true, false}) {
-        KitProgram program;
-        program.start([&](QMainWindow *window) {
-            KitProgram::buildDefault(window);
-            program.toolBar("file")->setMovable(isMovable);
-            program.toolBar("edit")->setMovable(isMovable);
-        });
-        program.create("Mine", "open");
-        QCOMPARE(program.toolBar("_Custom_Toolbar_1")->isMovable(), isMovable);
-        QCOMPARE(program.toolBar("file")->isMovable(), isMovable);
-    }
-}
-
-QTEST_MAIN(tst_RyToolBarKit_changes)
-#include "tst_rytoolbarkit_changes.moc"
 void tst_RyToolBarKit_changes::toolBarsWithoutATitleAreNumberedAsInTheWindow()
 {
     // In an order that is not that of the addresses.
@@ -535,3 +636,20 @@ void tst_RyToolBarKit_changes::toolBarsWithoutATitleAreNumberedAsInTheWindow()
         QCOMPARE(toolBars.at(i)->windowTitle(), QString("Toolbar %1").arg(i + 1));
 }
 
+void tst_RyToolBarKit_changes::toolBarsOfTheUserCanBeMovedLikeThoseOfTheProgram()
+{
+    for (const bool isMovable : {true, false}) {
+        KitProgram program;
+        program.start([&](QMainWindow *window) {
+            KitProgram::buildDefault(window);
+            program.toolBar("file")->setMovable(isMovable);
+            program.toolBar("edit")->setMovable(isMovable);
+        });
+        program.create("Mine", "open");
+        QCOMPARE(program.toolBar("_Custom_Toolbar_1")->isMovable(), isMovable);
+        QCOMPARE(program.toolBar("file")->isMovable(), isMovable);
+    }
+}
+
+QTEST_MAIN(tst_RyToolBarKit_changes)
+#include "tst_rytoolbarkit_changes.moc"
