@@ -31,8 +31,10 @@ QAction *addAction(QWidget *widget, const QString &name)
 
 void letTheKitFollow()
 {
-    QCoreApplication::sendPostedEvents();
-    QTest::qWait(1);
+    for (int i = 0; i < 2; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 KitProgram::KitProgram()
