@@ -144,7 +144,6 @@ KitPlaces ToolBarPlaces::merged(const KitPlaces &places, const KitPlaces &model)
     KitPlaces result = places;
     const QSet<QString> found = toolBarsOf(places);
     for (auto it = model.lines.cbegin(); it != model.lines.cend(); ++it) {
-        QList<QStringList> &lines = result.lines[it.key()];
         for (int i = 0; i < it.value().size(); ++i) {
             const QStringList &modelLine = it.value().at(i);
             QSet<QString> missing;
@@ -154,6 +153,7 @@ KitPlaces ToolBarPlaces::merged(const KitPlaces &places, const KitPlaces &model)
             }
             if (missing.isEmpty())
                 continue;
+            QList<QStringList> &lines = result.lines[it.key()];
             int index = lineWithAnyOf(lines, modelLine);
             if (index < 0) {
                 index = qMin(i, int(lines.size()));

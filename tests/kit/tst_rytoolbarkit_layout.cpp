@@ -18,6 +18,7 @@ private Q_SLOTS:
     void removedToolBarsStayAway();
     void restoreDefaultsIsStoredToo();
     void placesReturnAtTheNextStart();
+    void anAreaThatIsEmptyAgainLeavesNoTrace();
     void floatingToolBarsReturnAtTheNextStart();
     void aLayoutOfTheProgramIsNotOurs();
     void aProgramMayRestoreTabifiedDocksBeforeItIsShown();
@@ -155,6 +156,18 @@ void tst_RyToolBarKit_layout::placesReturnAtTheNextStart()
     program.start();
     QCOMPARE(program.places(), places);
     QCOMPARE(program.layoutChanges, 2);
+}
+
+void tst_RyToolBarKit_layout::anAreaThatIsEmptyAgainLeavesNoTrace()
+{
+    KitProgram program;
+    program.start();
+    program.window()->addToolBar(Qt::LeftToolBarArea, program.toolBar("file"));
+    program.kit()->saveLayout();
+    program.window()->addToolBar(Qt::TopToolBarArea, program.toolBar("file"));
+    const QString layout = program.kit()->saveLayout();
+    QVERIFY(!layout.contains("left"));
+    QCOMPARE(QString(program.kit()->saveLayout()), layout);
 }
 
 void tst_RyToolBarKit_layout::floatingToolBarsReturnAtTheNextStart()
