@@ -4,13 +4,14 @@
 #define BUTTONPROPERTIES_H
 
 #include <QHash>
+#include <QMenu>
 #include <QPair>
 #include <QPointer>
+#include <QToolButton>
 #include <QVariant>
 #include <QVector>
 
 class QAction;
-class QMenu;
 class QToolBar;
 
 /*!
@@ -38,12 +39,33 @@ public:
     void forget(const QObject *action) { m_ofAction.remove(action); }
 
 private:
+    // All that a program may set for a button, without what the action sets.
     struct Button
     {
-        QVector<QPair<QByteArray, QVariant>> properties;
+        QString objectName;
+        QString accessibleName;
+        QString accessibleDescription;
+        QString styleSheet;
+        QSize minimumSize;
+        QSize maximumSize;
+        QSizePolicy sizePolicy;
+        Qt::FocusPolicy focusPolicy;
+        Qt::ContextMenuPolicy contextMenuPolicy;
+        Qt::ArrowType arrowType;
+        QToolButton::ToolButtonPopupMode popupMode;
+        bool autoRaise;
+        Qt::ToolButtonStyle toolButtonStyle;
+        bool hasOwnStyle; // not that of the toolbar
+        QSize iconSize;
+        bool hasOwnIconSize;
+        QVector<QPair<QByteArray, QVariant>> dynamicProperties;
         // Set for the button and not for its action; null if none is.
         QPointer<QMenu> menu;
     };
+
+    static Button read(const QToolButton *widget, const QToolBar *toolBar, const QAction *action);
+    static bool isSame(const Button &a, const Button &b);
+    static void set(QToolButton *widget, const Button &button);
 
     QHash<const QObject *, Button> m_ofAction;
 };

@@ -14,10 +14,10 @@ const int LargestValue = 1000000;
 const int MostToolBars = 1000;
 const int MostEntries = 1000;
 
-QByteArray checksum(const QJsonObject &layout)
+// Of a layout as compact JSON.
+QByteArray checksum(const QByteArray &layout)
 {
-    const QByteArray compact = QJsonDocument(layout).toJson(QJsonDocument::Compact);
-    return QCryptographicHash::hash(compact, QCryptographicHash::Sha1).toHex();
+    return QCryptographicHash::hash(layout, QCryptographicHash::Sha1).toHex();
 }
 
 QJsonArray arrayOf(const QStringList &names)
@@ -162,7 +162,9 @@ QString refusal(const QJsonObject &value)
         return QStringLiteral("the value is not a layout of toolbars");
     if (format.toDouble() > Format)
         return QStringLiteral("the layout is from a newer version");
-    if (value.value(QStringLiteral("checksum")).toString() != QString::fromLatin1(checksum(layout)))
+    const QByteArray compact = QJsonDocument(layout).toJson(QJsonDocument::Compact);
+    if (value.value(QStringLiteral("checksum")).toString()
+        != QString::fromLatin1(checksum(compact)))
         return QStringLiteral("the layout is damaged: its checksum is wrong");
     if (isTooLarge(layout))
         return QStringLiteral("the layout has too many toolbars or entries");
@@ -174,6 +176,13 @@ QString refusal(const QJsonObject &value)
 bool operator==(const KitPlaces &a, const KitPlaces &b)
 {
     return a.lines == b.lines && a.floating == b.floating;
+}
+
+bool operator==(const KitToolBar &a, const KitToolBar &b)
+{
+    return a.title == b.title && a.custom == b.custom && a.customized == b.customized
+        && a.entries == b.entries && a.known == b.known && a.visibility == b.visibility
+        && a.shownByProgram == b.shownByProgram && a.others == b.others;
 }
 
 bool KitLayout::isDefault() const
@@ -189,9 +198,11 @@ QJsonObject KitLayout::toObject() const
 {
     QJsonObject toolBarObjects;
     for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it) {
-        const QJsonObject object = objectOf(it.value());
-        if (!object.isEmpty())
-            toolBarObjects.insert(it.key(), object);
+        Written &written = m_written[it.key()];
+        if (!(written.toolBar == it.value()))
+            written = {it.value(), objectOf(it.value())};
+        if (!written.object.isEmpty())
+            toolBarObjects.insert(it.key(), written.object);
     }
     QJsonObject layout = m_layoutOthers;
     layout.insert(QStringLiteral("toolBars"), toolBarObjects);
@@ -202,15 +213,13 @@ QJsonObject KitLayout::toObject() const
 
 QByteArray KitLayout::toJson() const
 {
-    // Text that is not valid Unicode changes when it is written, so the checksum is that of what
-    // is read again.
-    const QByteArray written = QJsonDocument(toObject()).toJson(QJsonDocument::Compact);
-    const QJsonObject layout = QJsonDocument::fromJson(written).object();
+    const QByteArray layout = QJsonDocument(toObject()).toJson(QJsonDocument::Compact);
     QJsonObject value = m_others;
     value.insert(QStringLiteral("checksum"), QString::fromLatin1(checksum(layout)));
     value.insert(QStringLiteral("format"), Format);
-    value.insert(QStringLiteral("layout"), layout);
-    return QJsonDocument(value).toJson(QJsonDocument::Compact);
+    QByteArray json = QJsonDocument(value).toJson(QJsonDocument::Compact);
+    json.chop(1);
+    return json + ",\"layout\":" + layout + '}';
 }
 
 KitLayout KitLayout::fromJson(const QByteArray &json, QString *reason)

@@ -3,6 +3,7 @@
 #ifndef KITLAYOUT_H
 #define KITLAYOUT_H
 
+#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QMap>
@@ -49,6 +50,8 @@ struct KitToolBar
     QJsonObject others;
 };
 
+bool operator==(const KitToolBar &a, const KitToolBar &b);
+
 /*!
  * \brief A layout as data. kit/README.md describes the value that it is stored as.
  */
@@ -82,6 +85,13 @@ private:
     QJsonObject toObject() const;
     void read(const QJsonObject &object);
 
+    struct Written
+    {
+        KitToolBar toolBar;
+        QJsonObject object;
+    };
+    // What toObject() has made of the toolbars, of which few change in between.
+    mutable QHash<QString, Written> m_written;
     // Keys of a later version, in the value and in its layout.
     QJsonObject m_others;
     QJsonObject m_layoutOthers;

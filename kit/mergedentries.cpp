@@ -8,6 +8,8 @@
 QStringList mergedEntries(const QStringList &entries, const QStringList &model,
                           const QSet<QString> &missing)
 {
+    if (missing.isEmpty())
+        return entries;
     QHash<QString, int> indexOf;
     for (int i = 0; i < entries.size(); ++i) {
         if (!entries.at(i).isNull())

@@ -240,7 +240,8 @@ void RyToolBarKitPrivate::offer(QAction *action, const QString &category)
     withdrawFormer(action);
     m_actionNames.add(action);
     m_offered.insert(action, action);
-    connect(action, SIGNAL(destroyed(QObject *)), this, SLOT(actionDestroyed(QObject *)),
+    // A window may have thousands, and strings would be parsed for each.
+    connect(action, &QObject::destroyed, this, &RyToolBarKitPrivate::actionDestroyed,
             Qt::UniqueConnection);
     if (m_excluded.contains(action))
         keepOutOfDialog(action);

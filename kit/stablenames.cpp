@@ -129,6 +129,8 @@ QStringList StableNames::problems() const
 
 QString StableNames::plainText(const QString &text)
 {
+    if (!text.contains(QLatin1Char('&')))
+        return text.trimmed();
     QString plain;
     for (int i = 0; i < text.size(); ++i) {
         // In some languages a mnemonic follows the text, as in "Text (&T)".

@@ -39,7 +39,10 @@ private Q_SLOTS:
     void theWindowMayBeDeletedAtAnyTime_data();
     void theWindowMayBeDeletedAtAnyTime();
     void theKitMayBeDeleted();
+    void propertiesOfButtonsArePutBack_data();
     void propertiesOfButtonsArePutBack();
+    void buttonsThatTheProgramLeavesAloneFollowTheToolBar();
+    void aButtonOfTheProgramIsLeftAlone();
     void menusOfButtonsArePutBack();
     void widgetsStayOnTheirToolBar();
     void movesAreStoredTogether();
@@ -449,30 +452,77 @@ void tst_RyToolBarKit_changes::theKitMayBeDeleted()
     letTheKitFollow();
 }
 
+void tst_RyToolBarKit_changes::propertiesOfButtonsArePutBack_data()
+{
+    QTest::addColumn<QVariant>("value");
+    const auto add = [](const char *property, const QVariant &value) {
+        QTest::newRow(property) << value;
+    };
+    add("accessibleDescription", "Opens a file");
+    add("accessibleName", "Opener");
+    add("arrowType", Qt::DownArrow);
+    add("autoRaise", false);
+    add("contextMenuPolicy", Qt::PreventContextMenu);
+    add("focusPolicy", Qt::TabFocus);
+    add("iconSize", QSize(7, 7));
+    add("maximumSize", QSize(90, 90));
+    add("minimumSize", QSize(60, 10));
+    add("mine", 7);
+    add("objectName", "openButton");
+    add("popupMode", QToolButton::InstantPopup);
+    add("sizePolicy", QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed));
+    add("styleSheet", "color: red");
+    add("toolButtonStyle", Qt::ToolButtonTextBesideIcon);
+}
+
 void tst_RyToolBarKit_changes::propertiesOfButtonsArePutBack()
+{
+    QFETCH(QVariant, value);
+    const char *const property = QTest::currentDataTag();
+    KitProgram program;
+    program.start();
+    QVERIFY(button(program, "file", "open")->property(property) != value);
+    button(program, "file", "open")->setProperty(property, value);
+    value = button(program, "file", "open")->property(property);
+    const QVariant usual = button(program, "file", "save")->property(property);
+    for (const char *content : {"save open", "open | save", "save", "save open"}) {
+        program.edit("file", content);
+        if (!program.content("file").contains("open"))
+            continue;
+        QCOMPARE(button(program, "file", "open")->property(property), value);
+        QCOMPARE(button(program, "file", "save")->property(property), usual);
+    }
+}
+
+void tst_RyToolBarKit_changes::buttonsThatTheProgramLeavesAloneFollowTheToolBar()
 {
     KitProgram program;
     program.start();
-    QToolButton *const before = button(program, "file", "open");
-    before->setPopupMode(QToolButton::InstantPopup);
-    before->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    before->setObjectName("openButton");
-    before->setProperty("mine", 7);
-    before->setStyleSheet("color: red");
+    button(program, "file", "open")->setPopupMode(QToolButton::InstantPopup);
+    program.edit("file", "new");
+    program.toolBar("file")->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    program.toolBar("file")->setIconSize(QSize(11, 11));
     program.edit("file", "save open");
-    const QToolButton *const after = button(program, "file", "open");
-    QVERIFY(after);
-    QCOMPARE(after->popupMode(), QToolButton::InstantPopup);
-    QCOMPARE(after->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
-    QCOMPARE(after->objectName(), QString("openButton"));
-    QCOMPARE(after->property("mine").toInt(), 7);
-    QCOMPARE(after->styleSheet(), QString("color: red"));
-    QCOMPARE(button(program, "file", "save")->toolButtonStyle(),
-             program.toolBar("file")->toolButtonStyle());
-    program.toolBar("file")->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    program.edit("file", "open save");
-    QCOMPARE(button(program, "file", "save")->toolButtonStyle(), Qt::ToolButtonTextOnly);
-    QCOMPARE(button(program, "file", "open")->popupMode(), QToolButton::InstantPopup);
+    for (const char *action : {"save", "open"}) {
+        QCOMPARE(button(program, "file", action)->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+        QCOMPARE(button(program, "file", action)->iconSize(), QSize(11, 11));
+    }
+}
+
+void tst_RyToolBarKit_changes::aButtonOfTheProgramIsLeftAlone()
+{
+    KitProgram program;
+    QToolButton *own = nullptr;
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        own = new QToolButton;
+        window->findChild<QToolBar *>("edit")->addWidget(own)->setObjectName("own");
+    });
+    program.edit("edit", "cut");
+    own->setPopupMode(QToolButton::InstantPopup);
+    program.edit("edit", "cut own");
+    QCOMPARE(button(program, "edit", "own"), own);
+    QCOMPARE(own->popupMode(), QToolButton::InstantPopup);
 }
 
 void tst_RyToolBarKit_changes::menusOfButtonsArePutBack()
