@@ -3,8 +3,10 @@
 #include "family.h"
 
 #include "apply.h"
+#include "attach.h"
 #include "createtoolbar.h"
 #include "entry.h"
+#include "layout.h"
 #include "opendialog.h"
 #include "removeaction.h"
 #include "settoolbar.h"
@@ -95,6 +97,9 @@ const QList<Family> &families()
         family<ApplyOtherOurs, ApplyOtherBare>("apply-changed", toolBarsOfFifty(4)),
         family<UntilPainted<ApplyOtherOurs>, UntilPainted<ApplyOtherBare>>("apply-changed-painted",
                                                                            toolBarsOfFifty(4)),
+        family<AttachKit, RegisterByHand>("kit-attach", {200, 4, 20, 0}),
+        family<StoreMove, StoreMoveByHand>("kit-store", toolBarsOfFifty(4)),
+        family<RestoreLayout, RestoreByHand>("kit-restore", toolBarsOfFifty(4)),
     };
     return all;
 }
@@ -209,6 +214,26 @@ QList<Row> rows()
          text("Apply, changes 100 toolbars of 50 entries, shown, until painted"),
          Row::Ratio,
          1.10,
+         {toolBarsOfFifty(100)}},
+        {"kit-attach",
+         text("Kit: attach to a window with 1,000 actions"),
+         Row::Beyond,
+         3.0,
+         {{1000, 10, 20, 0}}},
+        {"kit-store",
+         text("Kit: store after a toolbar move, 100 toolbars of 10 entries"),
+         Row::Milliseconds,
+         1.0,
+         {{2000, 100, 10, 0}}},
+        {"kit-store",
+         text("Kit: store after a toolbar move, 100 toolbars of 50 entries"),
+         Row::Figure,
+         0,
+         {toolBarsOfFifty(100)}},
+        {"kit-restore",
+         text("Kit: restore, every toolbar changes, 100 toolbars of 50 entries"),
+         Row::Ratio,
+         1.50,
          {toolBarsOfFifty(100)}},
         {"openDialog", text("10,000 actions: open the dialog"), Row::Figure, 0, {dialogOf(10000)}},
         {"saveState",

@@ -36,6 +36,8 @@ struct Row
         GrowthByBare,
         // Our time in milliseconds.
         Milliseconds,
+        // Our time beyond that of bare Qt, in milliseconds.
+        Beyond,
         // Both times are reported, but there is no target.
         Figure
     };

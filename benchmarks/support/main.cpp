@@ -45,6 +45,8 @@ const char *nameOf(Row::Kind kind)
         return "growth by bare";
     case Row::Milliseconds:
         return "milliseconds";
+    case Row::Beyond:
+        return "beyond";
     case Row::Figure:
         break;
     }
@@ -62,6 +64,8 @@ double valueOf(const Row &row, const Comparison &comparison)
     case Row::GrowthByBare:
         return comparison.ratio(Comparison::Ours, 1, Comparison::Ours, 0)
             / comparison.ratio(Comparison::Bare, 1, Comparison::Bare, 0);
+    case Row::Beyond:
+        return (comparison.time(Comparison::Ours, 0) - comparison.time(Comparison::Bare, 0)) * 1000;
     case Row::Milliseconds:
         break;
     }

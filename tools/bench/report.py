@@ -82,13 +82,14 @@ def verdict(title, met, reasons):
 def time_cells(row):
     """What we need, what bare Qt needs, and the ratio."""
     ours, bare = (' → '.join(map(milliseconds, row[side])) for side in ('ours', 'bare'))
-    return [ours, bare, '' if row['kind'] == 'milliseconds' else f'{row["value"]:.2f}']
+    ratio = {'milliseconds': '', 'beyond': f'+{milliseconds(row["value"])}'}
+    return [ours, bare, ratio.get(row['kind'], f'{row["value"]:.2f}')]
 
 
 def time_line(rows, names, reasons):
     first = rows[0]
-    is_time = first['kind'] == 'milliseconds'
-    target = f'{first["target"]:g} ms' if is_time else f'{first["target"]:.2f}'
+    targets = {'milliseconds': f'{first["target"]:g} ms', 'beyond': f'+{first["target"]:g} ms'}
+    target = targets.get(first['kind'], f'{first["target"]:.2f}')
     met = {name: round(row['value'], 2) <= row['target'] for name, row in zip(names, rows)}
     cells = [cell for row in rows for cell in time_cells(row)]
     return [first['title'], *cells, target, verdict(first['title'], met, reasons)]
