@@ -24,6 +24,9 @@ private Q_SLOTS:
     void toolBarsThatComeLateGetTheirLayout();
     void toolBarsMayBeDeleted();
     void toolBarsMayBeDeletedWithTheDialogOpen();
+    void toolBarsMayBeDeletedJustBeforeOk();
+    void toolBarsWithoutATitleMayBeDeletedWithTheDialogOpen();
+    void excludedToolBarsStayWhenAnotherIsDeleted();
     void actionsThatComeWithTheDialogOpenAreNotLost();
     void actionsMayBeDeletedWithTheDialogOpen();
     void anActionThatTheProgramAddsToAToolBarStays();
@@ -202,6 +205,49 @@ void tst_RyToolBarKit_changes::toolBarsMayBeDeletedWithTheDialogOpen()
     QCOMPARE(EditorViews(again).toolBarList->count(), 1);
     QTest::mouseClick(again->okButton(), Qt::LeftButton);
     QCOMPARE(program.contents(), QStringList("file: new open save"));
+}
+
+void tst_RyToolBarKit_changes::toolBarsMayBeDeletedJustBeforeOk()
+{
+    KitProgram program;
+    program.start();
+    program.edit("file", "save");
+    RyCustomizedDialog *const dialog = program.openDialog();
+    delete program.toolBar("edit");
+    QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
+    letTheKitFollow();
+    QCOMPARE(program.contents(), QStringList("file: save"));
+}
+
+void tst_RyToolBarKit_changes::toolBarsWithoutATitleMayBeDeletedWithTheDialogOpen()
+{
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        for (const char *name : {"first", "second"})
+            window->addToolBar("")->setObjectName(name);
+    });
+    RyCustomizedDialog *const dialog = program.openDialog();
+    delete program.toolBar("first");
+    dialog->reject();
+    QCOMPARE(program.toolBar("second")->windowTitle(), QString());
+}
+
+void tst_RyToolBarKit_changes::excludedToolBarsStayWhenAnotherIsDeleted()
+{
+    KitProgram program;
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        program.kit()->setExcluded(program.toolBar("edit"));
+        addAction(window->addToolBar("Other"), "other");
+    });
+    program.window()->addToolBar(Qt::LeftToolBarArea, program.toolBar("edit"));
+    delete program.toolBar("file");
+    letTheKitFollow();
+    QCOMPARE(program.content("edit"), QString("cut | copy"));
+    QVERIFY(!program.kit()->manager()->toolBars().contains(program.toolBar("edit")));
+    program.start();
+    QCOMPARE(program.places(), QStringList("top: file, edit"));
 }
 
 void tst_RyToolBarKit_changes::actionsThatComeWithTheDialogOpenAreNotLost()

@@ -11,6 +11,26 @@
 #include <QWidgetAction>
 #include <QtTest>
 
+// A window as programs have it that export members to scripts.
+class WindowWithProperties : public QMainWindow
+{
+    Q_OBJECT
+    Q_PROPERTY(QAction *openAction MEMBER openAction)
+    Q_PROPERTY(QToolBar *mainBar MEMBER mainBar)
+    Q_PROPERTY(int count READ count)
+
+public:
+    int count()
+    {
+        ++reads;
+        return 0;
+    }
+
+    QAction *openAction = nullptr;
+    QToolBar *mainBar = nullptr;
+    int reads = 0;
+};
+
 class tst_RyToolBarKit_find : public TestCase
 {
     Q_OBJECT
@@ -30,11 +50,17 @@ private Q_SLOTS:
     void handedOverActionsAreInTheirCategory();
     void excludedObjectsAreNotOffered();
     void excludedActionsStayOnTheirToolBar();
-    void featuresThatAreOffFindNothing();
+    void anActionAtTheAddressOfAnExcludedOneIsOffered();
+    void mnemonicsAreInNoCategory_data();
+    void mnemonicsAreInNoCategory();
     void namesAreFoundWithoutAnObjectName_data();
     void namesAreFoundWithoutAnObjectName();
+    void propertiesOfTheWindowGiveNames();
+    void iconsOfTheThemeGiveNames();
     void objectsOfTheProgramKeepTheirNames();
     void whatHasNoStableNameIsAProblem();
+    void problemsArePrintedOnce();
+    void actionsWithoutAnyTextStayAsTheyAre();
     void widgetsWithoutTextGetOne();
     void disabledWidgetsStayDisabled();
 };
@@ -269,21 +295,50 @@ void tst_RyToolBarKit_find::excludedActionsStayOnTheirToolBar()
     QCOMPARE(program.content("file"), QString("save open"));
 }
 
-void tst_RyToolBarKit_find::featuresThatAreOffFindNothing()
+void tst_RyToolBarKit_find::anActionAtTheAddressOfAnExcludedOneIsOffered()
 {
     KitProgram program;
-    program.start([&](QMainWindow *window) {
-        KitProgram::buildDefault(window);
-        program.kit()->setFeatures(program.kit()->features() & ~RyToolBarKit::FindActions);
+    std::aligned_storage<sizeof(QAction), alignof(QAction)>::type memory;
+    program.start();
+    const auto create = [&] {
+        QAction *const action = new (&memory) QAction("Text", nullptr);
+        program.window()->menuBar()->actions().constFirst()->menu()->addAction(action);
+        return action;
+    };
+    QAction *action = create();
+    program.kit()->setExcluded(action);
+    letTheKitFollow();
+    QVERIFY(!program.kit()->manager()->actions().contains(action));
+    action->~QAction();
+    action = create();
+    letTheKitFollow();
+    QVERIFY(program.kit()->manager()->actions().contains(action));
+    action->~QAction();
+}
+
+void tst_RyToolBarKit_find::mnemonicsAreInNoCategory_data()
+{
+    QTest::addColumn<QString>("category");
+    QTest::newRow("&File") << "File";
+    QTest::newRow("Fi&le") << "File";
+    QTest::newRow("File (&F)") << "File";
+    QTest::newRow("File(&F)...") << "File...";
+    QTest::newRow("File(&F)") << "File";
+    QTest::newRow("File (F)") << "File (F)";
+    QTest::newRow("File (&Fi)") << "File (Fi)";
+    QTest::newRow("Cut && Paste") << "Cut & Paste";
+    QTest::newRow("File&") << "File";
+    QTest::newRow(" File ") << "File";
+}
+
+void tst_RyToolBarKit_find::mnemonicsAreInNoCategory()
+{
+    QFETCH(QString, category);
+    KitProgram program;
+    program.start([](QMainWindow *window) {
+        addAction(window->menuBar()->addMenu(QTest::currentDataTag()), "open");
     });
-    QCOMPARE(program.kit()->manager()->categories(), QStringList({"Edit", "File"}));
-    QCOMPARE(offered(program, "Edit"), QStringList({"Cut", "Copy"}));
-    program.start([&](QMainWindow *window) {
-        KitProgram::buildDefault(window);
-        program.kit()->setFeatures(program.kit()->features() & ~RyToolBarKit::FindToolBars);
-    });
-    QCOMPARE(program.kit()->manager()->toolBars().size(), 0);
-    QCOMPARE(offered(program, "Edit").size(), 4);
+    QCOMPARE(program.kit()->manager()->categories(), QStringList(category));
 }
 
 void tst_RyToolBarKit_find::namesAreFoundWithoutAnObjectName_data()
@@ -344,6 +399,53 @@ void tst_RyToolBarKit_find::namesAreFoundWithoutAnObjectName()
     QCOMPARE(program.kit()->problems().size(), kind == "text" ? 1 : 0);
 }
 
+void tst_RyToolBarKit_find::propertiesOfTheWindowGiveNames()
+{
+    WindowWithProperties window;
+    window.setObjectName("main");
+    window.mainBar = window.addToolBar("Bar");
+    window.openAction = window.mainBar->addAction("Open");
+    QAction *const other = window.mainBar->addAction("Other");
+    RyToolBarKit kit(&window, false);
+    kit.setSettings(nullptr, QString());
+    kit.restoreNow();
+    kit.manager()->setToolBar(window.mainBar, {other, window.openAction});
+    const QString layout = kit.saveLayout();
+    QVERIFY2(layout.contains(R"("mainBar":{"entries":["text:Other","openAction"])"),
+             qPrintable(layout));
+    QCOMPARE(window.reads, 0);
+}
+
+void tst_RyToolBarKit_find::iconsOfTheThemeGiveNames()
+{
+    QTemporaryDir theme;
+    QVERIFY(QDir(theme.path()).mkpath("test/16x16"));
+    QFile index(theme.filePath("test/index.theme"));
+    QVERIFY(index.open(QIODevice::WriteOnly));
+    index.write("[Icon Theme]\nName=test\nDirectories=16x16\n[16x16]\nSize=16\n");
+    index.close();
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    QVERIFY(pixmap.save(theme.filePath("test/16x16/document-open.png")));
+    const QStringList paths = QIcon::themeSearchPaths();
+    const QString name = QIcon::themeName();
+    QIcon::setThemeSearchPaths({theme.path()});
+    QIcon::setThemeName("test");
+
+    KitProgram program;
+    program.start([](QMainWindow *window) {
+        QToolBar *const bar = window->addToolBar("Bar");
+        bar->setObjectName("bar");
+        bar->addAction(QIcon::fromTheme("document-open"), "Open");
+        addAction(bar, "other");
+    });
+    QToolBar *const bar = program.toolBar("bar");
+    program.kit()->manager()->setToolBar(bar, {bar->actions().constFirst()});
+    QCOMPARE(storedEntries(&program), QString("[\"icon:document-open\"]"));
+    QIcon::setThemeSearchPaths(paths);
+    QIcon::setThemeName(name);
+}
+
 void tst_RyToolBarKit_find::objectsOfTheProgramKeepTheirNames()
 {
     KitProgram program;
@@ -374,6 +476,42 @@ void tst_RyToolBarKit_find::whatHasNoStableNameIsAProblem()
         QStringList({"QToolBar \"Bar\" " + noName, "QAction \"Nameless\" " + noName,
                      "QAction \"Twice\" has the name \"twice\", but something else has it too: "
                      "give each an objectName of its own"}));
+}
+
+void tst_RyToolBarKit_find::problemsArePrintedOnce()
+{
+    QMainWindow window;
+    window.menuBar()->addMenu("File")->addAction("Nameless");
+    RyToolBarKit kit(&window, true);
+    window.show();
+    const QStringList problems = kit.problems();
+    QCOMPARE(problems.size(), 2); // the window has no name either
+    QCOMPARE(takeWarnings(),
+             QStringList({"RyToolBarKit: " + problems.at(0), "RyToolBarKit: " + problems.at(1)}));
+    QToolBar *const bar = window.addToolBar("Bar");
+    bar->setObjectName("bar");
+    letTheKitFollow();
+    delete bar;
+    letTheKitFollow();
+    QVERIFY(kit.manager());
+    QCOMPARE(takeWarnings(), QStringList());
+}
+
+void tst_RyToolBarKit_find::actionsWithoutAnyTextStayAsTheyAre()
+{
+    KitProgram program;
+    QAction *action = nullptr;
+    QAction *described = nullptr;
+    program.start([&](QMainWindow *window) {
+        QToolBar *const bar = window->addToolBar("Bar");
+        action = bar->addAction(QString());
+        action->setObjectName("silent");
+        described = bar->addAction(QString());
+        described->setToolTip("Described");
+    });
+    QCOMPARE(action->text(), QString());
+    QCOMPARE(described->text(), QString("Described"));
+    QVERIFY(program.kit()->manager()->actions().contains(action));
 }
 
 void tst_RyToolBarKit_find::widgetsWithoutTextGetOne()

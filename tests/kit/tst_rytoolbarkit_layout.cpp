@@ -30,6 +30,9 @@ private Q_SLOTS:
     void aToolBarAsShippedFollowsTheProgram();
     void formerNamesAreFollowed();
     void formerNamesOfToolBarsAreFollowed();
+    void formerNamesOfFloatingToolBarsAreFollowed();
+    void formerNamesMayComeLate();
+    void formerNamesReplaceThoseOfAnEarlierCall();
     void namesOfAnotherReleaseKeepTheirPlace();
     void toolBarsOfAnotherReleaseKeepTheirLayout();
     void aRequiredActionReturnsAtTheNextStart();
@@ -40,6 +43,7 @@ private Q_SLOTS:
     void bytesOfAWindowAreTakenOver();
     void restoreLayoutReplacesEverything();
     void restoreLayoutBringsVisibilityBack();
+    void restoreLayoutWorksAfterAToolBarWasDeleted();
     void restoreLayoutBeforeTheWindowIsShownIsStored();
     void restoreLayoutRefusesOtherBytes();
     void restoreNowRestoresInTheConstructor();
@@ -353,6 +357,50 @@ void tst_RyToolBarKit_layout::formerNamesOfToolBarsAreFollowed()
     QCOMPARE(program.places(), QStringList({"bottom: fileBar", "top: edit"}));
 }
 
+void tst_RyToolBarKit_layout::formerNamesOfFloatingToolBarsAreFollowed()
+{
+    KitProgram program;
+    program.start();
+    program.toolBar("file")->setWindowFlags(Qt::Tool);
+    program.toolBar("file")->move(120, 80);
+    program.toolBar("file")->show();
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        program.toolBar("file")->setObjectName("fileBar");
+        program.kit()->setFormerNames(program.toolBar("fileBar"), {"file"});
+    });
+    QVERIFY(program.toolBar("fileBar")->isFloating());
+    QCOMPARE(program.toolBar("fileBar")->pos(), QPoint(120, 80));
+}
+
+void tst_RyToolBarKit_layout::formerNamesMayComeLate()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "open cut");
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        program.action("open")->setObjectName("openFile");
+    });
+    QCOMPARE(program.content("edit"), QString("cut"));
+    program.kit()->setFormerNames(program.action("openFile"), {"open"});
+    QCOMPARE(program.content("edit"), QString("openFile cut"));
+}
+
+void tst_RyToolBarKit_layout::formerNamesReplaceThoseOfAnEarlierCall()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "open cut");
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        program.action("open")->setObjectName("openFile");
+        program.kit()->setFormerNames(program.action("openFile"), {"open", "load"});
+        program.kit()->setFormerNames(program.action("openFile"), {"load"});
+    });
+    QCOMPARE(program.content("edit"), QString("cut"));
+}
+
 void tst_RyToolBarKit_layout::namesOfAnotherReleaseKeepTheirPlace()
 {
     const auto build = [](QMainWindow *window) {
@@ -544,6 +592,18 @@ void tst_RyToolBarKit_layout::restoreLayoutBringsVisibilityBack()
     QVERIFY(!program.toolBar("_Custom_Toolbar_1")->isVisible());
     QVERIFY(program.kit()->restoreLayout(QByteArray()));
     QVERIFY(program.toolBar("edit")->isVisible());
+}
+
+void tst_RyToolBarKit_layout::restoreLayoutWorksAfterAToolBarWasDeleted()
+{
+    KitProgram program;
+    program.start();
+    program.edit("file", "save");
+    const QByteArray layout = program.kit()->saveLayout();
+    program.edit("file", "open");
+    delete program.toolBar("edit");
+    QVERIFY(program.kit()->restoreLayout(layout));
+    QCOMPARE(program.contents(), QStringList("file: save"));
 }
 
 void tst_RyToolBarKit_layout::restoreLayoutBeforeTheWindowIsShownIsStored()
