@@ -115,8 +115,10 @@ void RyToolBarKitPrivate::adoptCreatedToolBars()
 {
     const auto toolBars = manager->toolBars();
     for (QToolBar *toolBar : toolBars) {
-        if (m_toolBarNames.nameOf(toolBar).isEmpty())
-            nameCustomToolBar(toolBar, toolBar->objectName());
+        if (!m_toolBarNames.nameOf(toolBar).isEmpty())
+            continue;
+        m_layout.toolBars.remove(toolBar->objectName()); // of one that was deleted just now
+        nameCustomToolBar(toolBar, toolBar->objectName());
     }
 }
 

@@ -10,8 +10,6 @@
 
 namespace {
 
-const QString Key = "toolBars";
-
 QString shown(const QAction *action)
 {
     if (action->isSeparator())
@@ -74,7 +72,7 @@ void KitProgram::start(const Build &build)
     m_window.reset(new QMainWindow);
     m_window->setObjectName("main");
     m_kit = new RyToolBarKit(m_window.get(), false);
-    m_kit->setSettings(settings.get(), Key);
+    m_kit->setSettings(settings.get(), key);
     QObject::connect(m_kit, &RyToolBarKit::layoutRefused,
                      [this](const QString &reason) { refusals << reason; });
     QObject::connect(m_kit, &RyToolBarKit::layoutChanged, [this] { ++layoutChanges; });
@@ -208,10 +206,10 @@ void KitProgram::restoreDefaults()
 
 QString KitProgram::stored() const
 {
-    return settings->value(Key).toString();
+    return settings->value(key).toString();
 }
 
 void KitProgram::store(const QString &value)
 {
-    settings->setValue(Key, value);
+    settings->setValue(key, value);
 }

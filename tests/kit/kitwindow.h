@@ -53,10 +53,15 @@ public:
     void remove(const QString &toolBar);
     void restoreDefaults();
     RyCustomizedDialog *openDialog();
+    // Opens the dialog, makes a change that is the page's last word, and presses OK.
+    void apply(const std::function<void(RyToolBarManager *)> &change);
+    // The actions of a text like that of content().
+    QList<QAction *> actionsOf(const QString &content) const;
 
     QString stored() const;
     void store(const QString &value);
 
+    QString key = "toolBars";
     QTemporaryDir folder;
     std::unique_ptr<QSettings> settings;
     QStringList refusals;
@@ -64,9 +69,6 @@ public:
     int customizations = 0;
 
 private:
-    QList<QAction *> actionsOf(const QString &content) const;
-    void apply(const std::function<void(RyToolBarManager *)> &change);
-
     std::unique_ptr<QMainWindow> m_window;
     RyToolBarKit *m_kit = nullptr;
 };

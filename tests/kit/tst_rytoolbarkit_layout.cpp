@@ -16,6 +16,7 @@ private Q_SLOTS:
     void theContentReturnsAtTheNextStart();
     void customToolBarsReturnAtTheNextStart();
     void removedToolBarsStayAway();
+    void aNewToolBarHasNothingOfARemovedOne();
     void restoreDefaultsIsStoredToo();
     void placesReturnAtTheNextStart();
     void anAreaThatIsEmptyAgainLeavesNoTrace();
@@ -130,6 +131,22 @@ void tst_RyToolBarKit_layout::removedToolBarsStayAway()
              QStringList({"_Custom_Toolbar_2: copy", "edit: cut | copy", "file: new open save"}));
     program.remove("_Custom_Toolbar_2");
     QVERIFY(program.kit()->isDefault());
+}
+
+// The manager gives the name of the removed one again.
+void tst_RyToolBarKit_layout::aNewToolBarHasNothingOfARemovedOne()
+{
+    KitProgram program;
+    program.start();
+    const QString mine = program.create("Mine", "open");
+    program.toolBar(mine)->toggleViewAction()->trigger();
+    program.apply([&](RyToolBarManager *manager) {
+        manager->deleteToolBar(program.toolBar(mine));
+        QCOMPARE(manager->createToolBar("Other")->objectName(), mine);
+    });
+    QVERIFY(!program.toolBar(mine)->isHidden());
+    program.start();
+    QVERIFY(!program.toolBar(mine)->isHidden());
 }
 
 void tst_RyToolBarKit_layout::restoreDefaultsIsStoredToo()
