@@ -260,6 +260,11 @@ void RyToolBarKitPrivate::renameInLayout(const QString &before, const QString &n
     }
     if (m_layout.toolBars.contains(before))
         m_layout.toolBars.insert(now, m_layout.toolBars.take(before));
+    // The later place is that of the former name, as the program had that when it last ran.
+    const KitPlaces places = m_layout.places;
+    if (without(places, [&](const QString &name) { return name == before; }) == places)
+        return;
+    m_layout.places = without(places, [&](const QString &name) { return name == now; });
     for (QList<QStringList> &lines : m_layout.places.lines) {
         for (QStringList &line : lines)
             line = replaced(line, before, now);

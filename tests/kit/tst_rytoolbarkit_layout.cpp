@@ -34,6 +34,7 @@ private Q_SLOTS:
     void formerNamesOfFloatingToolBarsAreFollowed();
     void formerNamesMayComeLate();
     void formerNamesReplaceThoseOfAnEarlierCall();
+    void theLaterPlaceOfARenamedToolBarHolds();
     void namesOfAnotherReleaseKeepTheirPlace();
     void toolBarsOfAnotherReleaseKeepTheirLayout();
     void aRequiredActionReturnsAtTheNextStart();
@@ -416,6 +417,24 @@ void tst_RyToolBarKit_layout::formerNamesReplaceThoseOfAnEarlierCall()
         program.kit()->setFormerNames(program.action("openFile"), {"load"});
     });
     QCOMPARE(program.content("edit"), QString("cut"));
+}
+
+// When a user goes back to an earlier release, the layout has both names.
+void tst_RyToolBarKit_layout::theLaterPlaceOfARenamedToolBarHolds()
+{
+    KitProgram program;
+    const auto buildRenamed = [&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QToolBar *const toolBar = program.toolBar("file");
+        toolBar->setObjectName("fileBar");
+        program.kit()->setFormerNames(toolBar, {"file"});
+    };
+    program.start(buildRenamed);
+    program.window()->addToolBar(Qt::LeftToolBarArea, program.toolBar("fileBar"));
+    program.start();
+    program.window()->addToolBar(Qt::BottomToolBarArea, program.toolBar("file"));
+    program.start(buildRenamed);
+    QCOMPARE(program.places(), QStringList({"bottom: fileBar", "top: edit"}));
 }
 
 void tst_RyToolBarKit_layout::namesOfAnotherReleaseKeepTheirPlace()
