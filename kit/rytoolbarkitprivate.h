@@ -124,6 +124,7 @@ private:
     QHash<const QToolBar *, QString> toolBarNames() const;
 
     // The dialog
+    void replaceStored();
     void giveTitles();
     void takeTitlesBack();
     void adoptCreatedToolBars();

@@ -106,9 +106,24 @@ void RyToolBarKitPrivate::applied()
     collect();
     placeAll();
     storeNow();
+    replaceStored();
     Q_EMIT m_kit->customized();
     if (features & RyToolBarKit::FollowOthers)
         tellOthers();
+}
+
+// Another window may have stored its own layout since. A refused value stays.
+void RyToolBarKitPrivate::replaceStored()
+{
+    const QByteArray stored = store.value();
+    if (!(features & RyToolBarKit::StoreChanges) || stored.isEmpty() || stored == m_value)
+        return;
+    QString reason;
+    KitLayout::fromJson(stored, &reason);
+    if (!reason.isEmpty())
+        return;
+    store.write(m_value);
+    store.sync();
 }
 
 void RyToolBarKitPrivate::adoptCreatedToolBars()
@@ -168,7 +183,7 @@ void RyToolBarKitPrivate::tellOthers()
 
 void RyToolBarKitPrivate::takeOver(const QByteArray &value)
 {
-    if (!manager || !m_isRestored || value == m_value)
+    if (!manager || !m_isRestored || value == saveLayout())
         return;
     QString reason;
     restore(KitLayout::fromJson(value, &reason));

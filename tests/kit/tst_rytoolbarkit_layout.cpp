@@ -52,6 +52,7 @@ private Q_SLOTS:
     void anEmptyKeyStoresNothing();
     void theKeyHasTheNameOfTheWindow();
     void windowsWithTheSameKeyFollow();
+    void windowsThatDifferFollowToo();
     void windowsWithOtherKeysDoNot();
 };
 
@@ -750,6 +751,26 @@ void tst_RyToolBarKit_layout::windowsWithTheSameKeyFollow()
     other.kit()->setFeatures(other.kit()->features() & ~RyToolBarKit::FollowOthers);
     program.edit("edit", "copy");
     QCOMPARE(other.content("edit"), QString("paste"));
+}
+
+// OK without a change makes the other windows, and what is stored, the same again.
+void tst_RyToolBarKit_layout::windowsThatDifferFollowToo()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    KitProgram other;
+    other.settings.reset(
+        new QSettings(program.folder.filePath("settings.ini"), QSettings::IniFormat));
+    other.start();
+    other.toolBar("file")->toggleViewAction()->trigger();
+    program.edit("edit", "paste");
+    QVERIFY(!other.toolBar("file")->isHidden());
+    other.toolBar("file")->toggleViewAction()->trigger();
+    other.end();
+    QVERIFY(program.stored().contains("shown"));
+    program.edit("edit", "paste");
+    QCOMPARE(program.stored(), QString(program.kit()->saveLayout()));
 }
 
 void tst_RyToolBarKit_layout::windowsWithOtherKeysDoNot()
