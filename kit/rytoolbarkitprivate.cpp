@@ -250,28 +250,38 @@ void RyToolBarKitPrivate::offer(QAction *action, const QString &category)
 }
 
 // Programs exchange actions, such as those of another document, and keep the former ones.
-void RyToolBarKitPrivate::withdrawFormer(const QAction *action)
+void RyToolBarKitPrivate::withdrawFormer(QAction *action)
 {
     const QString name = m_actionNames.wantedName(action);
     QAction *const former = m_offered.value(m_actionNames.object(name));
-    if (!former || isInUse(former))
+    if (!former || isInUse(former) || isOnToolBar(former, action))
         return;
     manager->removeAction(former);
     m_actionNames.remove(former);
 }
 
-// Whether the program still has an action in a menu or on a toolbar, or has handed it over.
-bool RyToolBarKitPrivate::isInUse(QAction *action) const
+// Whether the program still has an action in a menu, or has handed it over.
+bool RyToolBarKitPrivate::isInUse(const QAction *action) const
 {
-    const QString name = m_actionNames.nameOf(action);
     const auto isAction = [action](const QPair<QPointer<QAction>, QString> &item) {
         return item.first == action;
     };
-    if (m_menus->contains(action)
-        || std::any_of(m_handedOver.cbegin(), m_handedOver.cend(), isAction))
-        return true;
-    for (auto it = m_defaults.cbegin(); it != m_defaults.cend(); ++it) {
-        if (it->contains(name) && !m_takenOff.value(it.key()).contains(name))
+    return m_menus->contains(action)
+        || std::any_of(m_handedOver.cbegin(), m_handedOver.cend(), isAction);
+}
+
+// Whether the program still has an action on a toolbar, where the user may have removed it.
+bool RyToolBarKitPrivate::isOnToolBar(QAction *action, QAction *successor) const
+{
+    const QString name = m_actionNames.nameOf(action);
+    const auto contents = manager->toolBarsActions();
+    for (auto it = contents.cbegin(); it != contents.cend(); ++it) {
+        QToolBar *const toolBar = it.key();
+        if (!m_defaults.value(toolBar).contains(name) || m_takenOff.value(toolBar).contains(name))
+            continue;
+        const auto onWidget = toolBar->actions();
+        const bool isRemovedByUser = !it->contains(action) && !onWidget.contains(successor);
+        if (onWidget.contains(action) || isRemovedByUser)
             return true;
     }
     return false;

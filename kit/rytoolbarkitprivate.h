@@ -82,8 +82,9 @@ private:
     void findToolBars();
     void offer(QAction *action, const QString &category);
     void offerHandedOver();
-    void withdrawFormer(const QAction *action);
-    bool isInUse(QAction *action) const;
+    void withdrawFormer(QAction *action);
+    bool isInUse(const QAction *action) const;
+    bool isOnToolBar(QAction *action, QAction *successor) const;
     void keepOutOfDialog(QAction *action);
     void addToolBar(QToolBar *toolBar);
     void prepareAction(QToolBar *toolBar, QAction *action);

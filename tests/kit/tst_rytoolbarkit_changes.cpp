@@ -34,6 +34,8 @@ private Q_SLOTS:
     void anActionThatTheProgramTakesOffMayComeBack();
     void anActionThatTakesThePlaceOfAnotherHasItsName();
     void anActionThatTakesThePlaceOfAnotherOnAToolBarHasItsName();
+    void anActionThatTakesThePlaceOfAnotherEverywhereHasItsName_data();
+    void anActionThatTakesThePlaceOfAnotherEverywhereHasItsName();
     void anActionOfADeletedMenuGivesItsNameAway();
     void aHandedOverActionTakesTheNameOfOneThatIsOutOfItsMenu();
     void anActionThatIsStillUsedKeepsItsName_data();
@@ -372,6 +374,48 @@ void tst_RyToolBarKit_changes::anActionThatTakesThePlaceOfAnotherOnAToolBarHasIt
     program.toolBar("document")->addAction(&second);
     letTheKitFollow();
     QCOMPARE(program.toolBar("document")->actions(), QList<QAction *>({&second}));
+    QVERIFY(!program.kit()->manager()->actions().contains(&first));
+    QCOMPARE(QString(program.kit()->saveLayout()), QString(layout));
+}
+
+void tst_RyToolBarKit_changes::anActionThatTakesThePlaceOfAnotherEverywhereHasItsName_data()
+{
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("as shipped") << ""
+                                << "cut | copy Next";
+    QTest::newRow("customized") << "Next cut"
+                                << "Next cut";
+    QTest::newRow("removed by the user") << "paste cut"
+                                         << "paste cut";
+}
+
+void tst_RyToolBarKit_changes::anActionThatTakesThePlaceOfAnotherEverywhereHasItsName()
+{
+    QFETCH(QString, content);
+    QFETCH(QString, expected);
+    KitProgram program;
+    QAction first("Next", nullptr);
+    QAction second("Next", nullptr);
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        window->menuBar()->actions().constFirst()->menu()->addAction(&first);
+        window->findChild<QToolBar *>("edit")->addAction(&first);
+    });
+    if (!content.isEmpty()) {
+        QList<QAction *> actions = program.actionsOf(content);
+        std::replace(actions.begin(), actions.end(), static_cast<QAction *>(nullptr), &first);
+        program.apply([&](RyToolBarManager *manager) {
+            manager->setToolBar(program.toolBar("edit"), actions);
+        });
+    }
+    const QByteArray layout = program.kit()->saveLayout();
+    for (QWidget *widget : QList<QWidget *>({menu(program, "&File"), program.toolBar("edit")})) {
+        widget->removeAction(&first);
+        widget->addAction(&second);
+    }
+    letTheKitFollow();
+    QCOMPARE(program.content("edit"), expected);
     QVERIFY(!program.kit()->manager()->actions().contains(&first));
     QCOMPARE(QString(program.kit()->saveLayout()), QString(layout));
 }
