@@ -59,17 +59,17 @@ QMap<QString, QStringList> defaultsOf(const KitModel::Release &release)
 
 } // namespace
 
-bool KitModel::ToolBar::operator==(const ToolBar &other) const
-{
-    return title == other.title && custom == other.custom && customized == other.customized
-        && entries == other.entries && known == other.known && hidden == other.hidden;
-}
-
-void KitModel::start(const Release &release)
+void KitModel::start(const Release &release, const Layout &stored)
 {
     m_release = release;
-    m_layout = m_stored;
     m_defaults = defaultsOf(release);
+    takeOver(stored);
+}
+
+void KitModel::takeOver(const Layout &layout)
+{
+    m_layout = layout;
+    followFormerNames();
     takeNewDefaults();
 }
 
@@ -104,14 +104,35 @@ void KitModel::takeNewDefaults()
     }
 }
 
-void KitModel::wasStored()
+void KitModel::followFormerNames()
 {
-    m_stored = m_layout;
+    const auto formerNames = m_release.formerNames;
+    for (auto it = formerNames.cbegin(); it != formerNames.cend(); ++it) {
+        if (m_release.toolBars.contains(it.key()))
+            renameToolBar(it.value(), it.key());
+        else if (m_release.actions.contains(it.key()))
+            renameAction(it.value(), it.key());
+    }
 }
 
-void KitModel::loseStored()
+void KitModel::renameToolBar(const QString &before, const QString &now)
 {
-    m_stored.clear();
+    const ToolBar record = m_layout.take(before);
+    if (!record.isDefault())
+        m_layout[now] = record;
+}
+
+// It keeps the place that it has by its present name.
+void KitModel::renameAction(const QString &before, const QString &now)
+{
+    for (ToolBar &toolBar : m_layout) {
+        for (QStringList *names : {&toolBar.entries, &toolBar.known}) {
+            if (names->contains(now))
+                names->removeAll(before);
+            else if (names->contains(before))
+                names->replace(names->indexOf(before), now);
+        }
+    }
 }
 
 QStringList KitModel::entries(const QString &toolBar) const
@@ -198,7 +219,7 @@ QStringList KitModel::toolBars() const
 bool KitModel::isDefault() const
 {
     for (const ToolBar &toolBar : m_layout) {
-        if (toolBar.custom || toolBar.customized || toolBar.hidden)
+        if (!toolBar.isDefault())
             return false;
     }
     return true;

@@ -16,7 +16,7 @@ class KitModel
 public:
     struct ToolBar
     {
-        bool operator==(const ToolBar &other) const;
+        bool isDefault() const { return !custom && !customized && !hidden; }
 
         QString title; // of custom ones only
         bool custom = false;
@@ -32,15 +32,16 @@ public:
     {
         QSet<QString> actions;
         QMap<QString, QStringList> toolBars;
+        // The former name of each action and toolbar that had another one.
+        QMap<QString, QString> formerNames;
     };
 
     // The program starts with what is stored.
-    void start(const Release &release);
+    void start(const Release &release, const Layout &stored);
     // The program has other actions or toolbars from now on.
     void change(const Release &release);
-    // The value in the settings is that of now.
-    void wasStored();
-    void loseStored();
+    // Another window has a layout that this one follows.
+    void takeOver(const Layout &layout);
 
     void edit(const QString &toolBar, const QStringList &content);
     void create(const QString &toolBar, const QString &title, const QStringList &content);
@@ -54,20 +55,27 @@ public:
     QStringList toolBars() const;
     bool isCustom(const QString &toolBar) const { return m_layout.value(toolBar).custom; }
     bool isHidden(const QString &toolBar) const { return m_layout.value(toolBar).hidden; }
+    bool isDefaultOn(const QString &toolBar, const QString &action) const
+    {
+        return m_defaults.value(toolBar).contains(action);
+    }
     QString title(const QString &toolBar) const { return m_layout.value(toolBar).title; }
     bool isDefault() const;
     const Release &release() const { return m_release; }
+    const Layout &layout() const { return m_layout; }
 
 private:
     QStringList entries(const QString &toolBar) const;
     void set(const QString &toolBar, const QStringList &entries);
+    void followFormerNames();
+    void renameToolBar(const QString &before, const QString &now);
+    void renameAction(const QString &before, const QString &now);
     void takeNewDefaults();
 
     Release m_release;
     // The default contents of this run, with the names of what has gone since.
     QMap<QString, QStringList> m_defaults;
     Layout m_layout;
-    Layout m_stored;
 };
 
 #endif // KITMODEL_H
