@@ -74,6 +74,8 @@ bool MenuActions::eventFilter(QObject *watched, QEvent *event)
         const QAction *const action = static_cast<QActionEvent *>(event)->action();
         m_inMenus.remove(action);
         m_found.remove(action);
+        // It may be that of a menu that is deleted, whose actions are removed without an event.
+        Q_EMIT changed();
     }
     return QObject::eventFilter(watched, event);
 }

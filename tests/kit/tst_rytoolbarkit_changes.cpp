@@ -21,6 +21,7 @@ private Q_SLOTS:
     void handedOverActionsGoWhereTheLayoutHasThem();
     void deletedActionsKeepTheirPlace();
     void deletedMenusAreForgotten();
+    void anActionMayHaveTheAddressOfOneOfADeletedMenu();
     void toolBarsThatComeLateGetTheirLayout();
     void toolBarsMayBeDeleted();
     void toolBarsMayBeDeletedWithTheDialogOpen();
@@ -155,6 +156,26 @@ void tst_RyToolBarKit_changes::deletedMenusAreForgotten()
     letTheKitFollow();
     QCOMPARE(program.content("_Custom_Toolbar_1"), QString("open"));
     QVERIFY(!program.kit()->manager()->hasCategory("Tools"));
+}
+
+void tst_RyToolBarKit_changes::anActionMayHaveTheAddressOfOneOfADeletedMenu()
+{
+    alignas(QAction) char storage[sizeof(QAction)];
+    KitProgram program;
+    program.start();
+    QAction *const action = new (storage) QAction("Tool", nullptr);
+    QMenu *const tools = program.window()->menuBar()->addMenu("Tools");
+    tools->addAction(action);
+    letTheKitFollow();
+    QVERIFY(program.kit()->manager()->actions().contains(action));
+    delete tools;
+    letTheKitFollow();
+    action->~QAction();
+    QAction *const other = new (storage) QAction("Other", nullptr);
+    menu(program, "&File")->addAction(other);
+    letTheKitFollow();
+    QVERIFY(program.kit()->manager()->actions().contains(other));
+    other->~QAction();
 }
 
 void tst_RyToolBarKit_changes::toolBarsThatComeLateGetTheirLayout()
