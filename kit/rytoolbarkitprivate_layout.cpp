@@ -65,6 +65,7 @@ bool RyToolBarKitPrivate::restoreNow()
         return false;
     bool found = false;
     restore(readStored(&found));
+    bringBackRequired();
     return found;
 }
 
@@ -91,6 +92,7 @@ bool RyToolBarKitPrivate::restoreLayout(const QByteArray &value)
     }
     const QByteArray before = store.isSet() ? store.value() : m_value;
     restore(layout);
+    bringBackRequired();
     m_value = before.isEmpty() ? KitLayout().toJson() : before;
     storeIfChanged();
     return true;
@@ -187,7 +189,6 @@ void RyToolBarKitPrivate::restore(const KitLayout &layout)
         undoVisibility(toolBar, before.toolBars.value(m_toolBarNames.nameOf(toolBar)));
         applyVisibility(toolBar);
     }
-    bringBackRequired();
     collect();
     m_value = m_layout.toJson();
 }
@@ -379,10 +380,17 @@ void RyToolBarKitPrivate::visibilityChosen(bool shown)
 
 void RyToolBarKitPrivate::bringBackRequired()
 {
+    if (m_required.isEmpty())
+        return;
     QSet<QString> placed;
-    const auto toolBars = manager->toolBars();
-    for (QToolBar *toolBar : toolBars)
+    // So that it is the same toolbar at each start.
+    QMap<QString, QToolBar *> byName;
+    const auto all = manager->toolBars();
+    for (QToolBar *toolBar : all) {
         placed += namesIn(namesOf(manager->actions(toolBar)));
+        byName.insert(m_toolBarNames.nameOf(toolBar), toolBar);
+    }
+    const auto toolBars = byName;
     const auto required = m_required;
     for (const QPointer<QAction> &action : required) {
         const QString name = m_actionNames.nameOf(action);
@@ -397,6 +405,8 @@ void RyToolBarKitPrivate::bringBackRequired()
             break;
         }
     }
+    collect();
+    m_value = m_layout.toJson();
 }
 
 // Brings the layout up to date with what the user has done.

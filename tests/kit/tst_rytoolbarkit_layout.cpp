@@ -38,6 +38,7 @@ private Q_SLOTS:
     void namesOfAnotherReleaseKeepTheirPlace();
     void toolBarsOfAnotherReleaseKeepTheirLayout();
     void aRequiredActionReturnsAtTheNextStart();
+    void aRequiredActionReturnsToTheFirstByName();
     void damagedValuesLeaveTheSecondCopy();
     void valuesOfOtherTypesAreRefused();
     void refusedValuesAreKeptUntilTheUserChangesSomething();
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void theKeyHasTheNameOfTheWindow();
     void windowsWithTheSameKeyFollow();
     void windowsThatDifferFollowToo();
+    void aRequiredActionDoesNotReturnInAnotherWindow();
     void windowsWithOtherKeysDoNot();
 };
 
@@ -502,6 +504,29 @@ void tst_RyToolBarKit_layout::aRequiredActionReturnsAtTheNextStart()
     QCOMPARE(program.content("file"), QString("new save"));
 }
 
+void tst_RyToolBarKit_layout::aRequiredActionReturnsToTheFirstByName()
+{
+    const QStringList names = {"4", "2", "7", "1", "6", "3", "5", "0", "8"};
+    KitProgram program;
+    const auto build = [&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        delete program.toolBar("file");
+        for (const QString &name : names) {
+            QToolBar *const toolBar = window->addToolBar(name);
+            toolBar->setObjectName(name);
+            toolBar->addAction(program.action("open"));
+        }
+        program.kit()->setRequired(program.action("open"));
+    };
+    program.start(build);
+    program.apply([&](RyToolBarManager *manager) {
+        for (const QString &name : names)
+            manager->setToolBar(program.toolBar(name), {});
+    });
+    program.start(build);
+    QCOMPARE(program.contents().filter("open"), QStringList("0: open"));
+}
+
 void tst_RyToolBarKit_layout::damagedValuesLeaveTheSecondCopy()
 {
     KitProgram program;
@@ -771,6 +796,21 @@ void tst_RyToolBarKit_layout::windowsThatDifferFollowToo()
     QVERIFY(program.stored().contains("shown"));
     program.edit("edit", "paste");
     QCOMPARE(program.stored(), QString(program.kit()->saveLayout()));
+}
+
+void tst_RyToolBarKit_layout::aRequiredActionDoesNotReturnInAnotherWindow()
+{
+    KitProgram program;
+    program.start();
+    KitProgram other;
+    other.settings.reset(
+        new QSettings(program.folder.filePath("settings.ini"), QSettings::IniFormat));
+    other.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        other.kit()->setRequired(other.action("open"));
+    });
+    program.edit("file", "new save");
+    QCOMPARE(other.content("file"), QString("new save"));
 }
 
 void tst_RyToolBarKit_layout::windowsWithOtherKeysDoNot()
