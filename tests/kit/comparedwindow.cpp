@@ -66,6 +66,7 @@ void ComparedWindow::build(QMainWindow *window)
     const QStringList toolBars = m_release.toolBars.keys();
     for (const QString &name : toolBars)
         addToolBar(window, name);
+    program.kit()->setRequired(window->findChild<QAction *>(m_release.required));
 }
 
 void ComparedWindow::addMenu(QMainWindow *window)

@@ -64,6 +64,7 @@ void KitModel::start(const Release &release, const Layout &stored)
     m_release = release;
     m_defaults = defaultsOf(release);
     takeOver(stored);
+    bringBackRequired();
 }
 
 void KitModel::takeOver(const Layout &layout)
@@ -132,6 +133,24 @@ void KitModel::renameAction(const QString &before, const QString &now)
             else if (names->contains(before))
                 names->replace(names->indexOf(before), now);
         }
+    }
+}
+
+// To the first toolbar that has it by default, if it is on none.
+void KitModel::bringBackRequired()
+{
+    const QString name = m_release.required;
+    const QStringList names = toolBars();
+    for (const QString &toolBar : names) {
+        if (content(toolBar).contains(name))
+            return;
+    }
+    for (const QString &toolBar : names) {
+        const QStringList defaults = m_defaults.value(toolBar);
+        if (!defaults.contains(name))
+            continue;
+        set(toolBar, merged(m_layout.value(toolBar).entries, defaults, {name}));
+        return;
     }
 }
 

@@ -32,6 +32,8 @@ public:
     {
         QSet<QString> actions;
         QMap<QString, QStringList> toolBars;
+        // The action that returns at the next start.
+        QString required;
         // The former name of each action and toolbar that had another one.
         QMap<QString, QString> formerNames;
     };
@@ -71,6 +73,7 @@ private:
     void renameToolBar(const QString &before, const QString &now);
     void renameAction(const QString &before, const QString &now);
     void takeNewDefaults();
+    void bringBackRequired();
 
     Release m_release;
     // The default contents of this run, with the names of what has gone since.

@@ -90,6 +90,7 @@ KitModel::Release KitSequence::randomRelease()
         if (m_random.bounded(4) != 0)
             release.toolBars.insert(name, randomContent(names));
     }
+    release.required = pick(names);
     return release;
 }
 
@@ -296,6 +297,8 @@ void KitSequence::rename()
         release.toolBars.insert(now, release.toolBars.take(before));
     if (release.actions.remove(before))
         release.actions.insert(now);
+    if (release.required == before)
+        release.required = now;
     for (QStringList &content : release.toolBars)
         content.replaceInStrings(QRegularExpression('^' + before + '$'), now);
     QStringList places = m_places;
