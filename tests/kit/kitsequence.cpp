@@ -36,8 +36,6 @@ bool KitSequence::run(int steps)
     // One that is here twice is done twice as often.
     static const QList<Step> all = {&KitSequence::customize,
                                     &KitSequence::customize,
-                                    &KitSequence::customize,
-                                    &KitSequence::restoreDefaults,
                                     &KitSequence::hideOrShow,
                                     &KitSequence::hideOrShow,
                                     &KitSequence::move,
@@ -176,7 +174,10 @@ void KitSequence::keepTrackOfStored()
 
 void KitSequence::customize()
 {
-    m_window->program.apply([this](RyToolBarManager *manager) { customizeMore(manager); });
+    if (m_random.bounded(6) == 0)
+        restoreDefaults();
+    else
+        m_window->program.apply([this](RyToolBarManager *manager) { customizeMore(manager); });
     applied();
 }
 
@@ -184,7 +185,7 @@ void KitSequence::customize()
 void KitSequence::customizeMore(RyToolBarManager *manager)
 {
     QStringList toolBars = m_window->model.toolBars();
-    for (int i = m_random.bounded(5); i > 0; --i) {
+    for (int i = m_random.bounded(7); i > 0; --i) {
         const QStringList content = randomContent(actions());
         const QString toolBar = pick(toolBars);
         if (m_random.bounded(5) == 0) {
@@ -207,7 +208,6 @@ void KitSequence::restoreDefaults()
     m_log << "restore defaults";
     m_window->program.restoreDefaults();
     m_window->model.restoreDefaults();
-    applied();
 }
 
 // The other windows with the same key follow.
