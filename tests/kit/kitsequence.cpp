@@ -306,7 +306,7 @@ void KitSequence::rename()
     end();
     begin(release);
     // Otherwise what the user made of it then may count again.
-    if (!m_namesSince.contains(now))
+    if (!m_namesSince.contains(now) && now.endsWith("2"))
         comparePlaces(places);
     m_namesSince.insert(now);
 }
