@@ -34,11 +34,13 @@ QList<QStringList> presentLines(const QList<QStringList> &lines, const QSet<QStr
     return result;
 }
 
-void setFloating(QToolBar *toolBar, const QPoint &position)
+// Qt hides a widget whose window flags change.
+void setFloating(QToolBar *toolBar, bool floating, const QPoint &position)
 {
     const bool hidden = toolBar->isHidden();
-    toolBar->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
-    toolBar->move(position);
+    toolBar->setWindowFlags((floating ? Qt::Tool : Qt::Widget) | Qt::FramelessWindowHint);
+    if (floating)
+        toolBar->move(position);
     toolBar->setVisible(!hidden);
 }
 
@@ -132,10 +134,11 @@ void ToolBarPlaces::apply(QMainWindow *window, const QHash<const QToolBar *, QSt
                 window->addToolBar(area, toolBarOf.value(name));
         }
     }
-    for (auto it = places.floating.cbegin(); it != places.floating.cend(); ++it) {
-        QToolBar *const toolBar = toolBarOf.value(it.key());
-        if (toolBar && toolBar->isFloatable())
-            setFloating(toolBar, it.value());
+    for (auto it = toolBarOf.cbegin(); it != toolBarOf.cend(); ++it) {
+        QToolBar *const toolBar = it.value();
+        const bool floating = toolBar->isFloatable() && places.floating.contains(it.key());
+        if (floating || toolBar->isFloating())
+            setFloating(toolBar, floating, places.floating.value(it.key()));
     }
 }
 

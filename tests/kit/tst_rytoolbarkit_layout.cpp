@@ -21,6 +21,7 @@ private Q_SLOTS:
     void placesReturnAtTheNextStart();
     void anAreaThatIsEmptyAgainLeavesNoTrace();
     void floatingToolBarsReturnAtTheNextStart();
+    void floatingToolBarsReturnToTheirLine();
     void aLayoutOfTheProgramIsNotOurs();
     void aProgramMayRestoreTabifiedDocksBeforeItIsShown();
     void whatTheUserHidesStaysHidden();
@@ -207,6 +208,23 @@ void tst_RyToolBarKit_layout::floatingToolBarsReturnAtTheNextStart()
     QCOMPARE(program.toolBar("edit")->pos(), QPoint(120, 80));
     QVERIFY(program.toolBar("edit")->isVisible());
     QVERIFY(!program.toolBar("file")->isFloating());
+}
+
+void tst_RyToolBarKit_layout::floatingToolBarsReturnToTheirLine()
+{
+    KitProgram program;
+    program.start();
+    program.toolBar("file")->setWindowFlags(Qt::Tool);
+    program.toolBar("file")->show();
+    program.toolBar("edit")->setWindowFlags(Qt::Tool);
+    QVERIFY(!program.kit()->isDefault());
+    QVERIFY(program.kit()->restoreLayout(QByteArray()));
+    QVERIFY(program.kit()->isDefault());
+    QVERIFY(!program.toolBar("file")->isFloating());
+    QVERIFY(program.toolBar("file")->isVisible());
+    QVERIFY(!program.toolBar("edit")->isFloating());
+    QVERIFY(!program.toolBar("edit")->isVisible());
+    QCOMPARE(program.places(), QStringList("top: file, edit"));
 }
 
 void tst_RyToolBarKit_layout::aLayoutOfTheProgramIsNotOurs()
