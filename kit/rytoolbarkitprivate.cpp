@@ -284,6 +284,12 @@ bool RyToolBarKitPrivate::isOnToolBar(QAction *action, QAction *successor) const
         if (onWidget.contains(action) || isRemovedByUser)
             return true;
     }
+    // What is not yet known of a toolbar is on its widget only.
+    const auto toolBars = ToolBarPlaces::toolBarsIn(m_window);
+    for (QToolBar *toolBar : toolBars) {
+        if (toolBar->actions().contains(action) && !manager->actions(toolBar).contains(action))
+            return true;
+    }
     return false;
 }
 

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void aHandedOverActionTakesTheNameOfOneThatIsOutOfItsMenu();
     void anActionThatIsStillUsedKeepsItsName_data();
     void anActionThatIsStillUsedKeepsItsName();
+    void widgetsWithTheSameNameAreAllKept_data();
+    void widgetsWithTheSameNameAreAllKept();
     void restoreDefaultsKnowsWhatTheProgramAdded();
     void theWindowMayBeDeletedAtAnyTime_data();
     void theWindowMayBeDeletedAtAnyTime();
@@ -502,6 +504,36 @@ void tst_RyToolBarKit_changes::anActionThatIsStillUsedKeepsItsName()
     letTheKitFollow();
     QVERIFY(program.kit()->manager()->actions().contains(&first));
     QVERIFY(program.kit()->manager()->actions().contains(&second));
+}
+
+void tst_RyToolBarKit_changes::widgetsWithTheSameNameAreAllKept_data()
+{
+    QTest::addColumn<bool>("late");
+    QTest::newRow("from the beginning") << false;
+    QTest::newRow("late") << true;
+}
+
+void tst_RyToolBarKit_changes::widgetsWithTheSameNameAreAllKept()
+{
+    QFETCH(bool, late);
+    KitProgram program;
+    const auto addLines = [](QMainWindow *window) {
+        QToolBar *const toolBar = window->findChild<QToolBar *>("edit");
+        toolBar->addWidget(new QLineEdit);
+        toolBar->addWidget(new QLineEdit);
+    };
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        if (!late)
+            addLines(window);
+    });
+    program.window()->resize(1000, 500);
+    if (late)
+        addLines(program.window());
+    letTheKitFollow();
+    QCOMPARE(program.content("edit"), QString("cut | copy QLineEdit QLineEdit"));
+    for (QLineEdit *line : program.toolBar("edit")->findChildren<QLineEdit *>())
+        QTRY_VERIFY(line->isVisible());
 }
 
 void tst_RyToolBarKit_changes::restoreDefaultsKnowsWhatTheProgramAdded()
