@@ -37,7 +37,9 @@ QList<QStringList> presentLines(const QList<QStringList> &lines, const QSet<QStr
 // Qt hides a widget whose window flags change.
 void setFloating(QToolBar *toolBar, bool floating, const QPoint &position)
 {
-    const bool hidden = toolBar->isHidden();
+    // Hidden is also one that Qt has not shown yet.
+    const bool hidden =
+        toolBar->isHidden() && toolBar->testAttribute(Qt::WA_WState_ExplicitShowHide);
     toolBar->setWindowFlags((floating ? Qt::Tool : Qt::Widget) | Qt::FramelessWindowHint);
     if (floating)
         toolBar->move(position);

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void restoreDefaultsIsStoredToo();
     void placesReturnAtTheNextStart();
     void anAreaThatIsEmptyAgainLeavesNoTrace();
+    void floatingToolBarsReturnAtTheNextStart_data();
     void floatingToolBarsReturnAtTheNextStart();
     void floatingToolBarsReturnToTheirLine();
     void aLayoutOfTheProgramIsNotOurs();
@@ -196,17 +197,36 @@ void tst_RyToolBarKit_layout::anAreaThatIsEmptyAgainLeavesNoTrace()
     QCOMPARE(QString(program.kit()->saveLayout()), layout);
 }
 
+void tst_RyToolBarKit_layout::floatingToolBarsReturnAtTheNextStart_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("polished");
+    QTest::newRow("of the program") << "edit" << false;
+    QTest::newRow("of the user") << "_Custom_Toolbar_1" << false;
+    QTest::newRow("of the program, polished early") << "edit" << true;
+    QTest::newRow("of the user, polished early") << "_Custom_Toolbar_1" << true;
+}
+
 void tst_RyToolBarKit_layout::floatingToolBarsReturnAtTheNextStart()
 {
+    QFETCH(QString, name);
+    QFETCH(bool, polished);
     KitProgram program;
-    program.start();
-    program.toolBar("edit")->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
-    program.toolBar("edit")->move(120, 80);
-    program.toolBar("edit")->show();
-    program.start();
-    QVERIFY(program.toolBar("edit")->isFloating());
-    QCOMPARE(program.toolBar("edit")->pos(), QPoint(120, 80));
-    QVERIFY(program.toolBar("edit")->isVisible());
+    const auto build = [polished](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        if (polished)
+            window->ensurePolished();
+    };
+    program.start(build);
+    program.create("Mine", "open");
+    QToolBar *const toolBar = program.toolBar(name);
+    toolBar->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    toolBar->move(120, 80);
+    toolBar->show();
+    program.start(build);
+    QVERIFY(program.toolBar(name)->isFloating());
+    QCOMPARE(program.toolBar(name)->pos(), QPoint(120, 80));
+    QVERIFY(program.toolBar(name)->isVisible());
     QVERIFY(!program.toolBar("file")->isFloating());
 }
 
@@ -217,6 +237,7 @@ void tst_RyToolBarKit_layout::floatingToolBarsReturnToTheirLine()
     program.toolBar("file")->setWindowFlags(Qt::Tool);
     program.toolBar("file")->show();
     program.toolBar("edit")->setWindowFlags(Qt::Tool);
+    program.toolBar("edit")->hide();
     QVERIFY(!program.kit()->isDefault());
     QVERIFY(program.kit()->restoreLayout(QByteArray()));
     QVERIFY(program.kit()->isDefault());
