@@ -187,8 +187,10 @@ void tst_KitLayout::otherValuesAreRefused_data()
     QTest::newRow("damaged") << damaged << "the layout is damaged: its checksum is wrong";
     QTest::newRow("many toolbars") << sealed(many) << tooMany;
     QTest::newRow("many entries") << sealed(wide) << tooMany;
-    QTest::newRow("large") << sealed("{}") + QByteArray(1000000, ' ')
+    const int space = 1000000 - sealed("{}").size();
+    QTest::newRow("large") << sealed("{}") + QByteArray(space + 1, ' ')
                            << "the value is larger than 1 MB";
+    QTest::newRow("as large as allowed") << sealed("{}") + QByteArray(space, ' ') << QString();
 }
 
 void tst_KitLayout::otherValuesAreRefused()
@@ -224,7 +226,7 @@ void tst_KitLayout::everyChangedByteIsRefusedOrChangesNothing()
 void tst_KitLayout::strangeLayoutsAreReadAsFarAsTheyMakeSense()
 {
     const QByteArray layout =
-        R"({"toolBars":{"a":{"entries":["x","x","",3,null],"known":[null,"y","y"]},"b":7},)"
+        R"({"toolBars":{"a":{"entries":["x","x","",3,null],"known":[null,"y","y"]},"b":7,"c":{"shown":false}},)"
         R"("places":{"top":[["a","a"],["a"],[]],"left":5,"floating":{"a":"here"}}})";
     QString reason;
     const KitLayout read = KitLayout::fromJson(sealed(layout), &reason);
@@ -232,6 +234,8 @@ void tst_KitLayout::strangeLayoutsAreReadAsFarAsTheyMakeSense()
     QCOMPARE(read.toolBars.value("a").entries, QStringList({"x", QString()}));
     QCOMPARE(read.toolBars.value("a").known, QStringList({"y"}));
     QVERIFY(read.toolBars.value("b").isDefault());
+    QCOMPARE(read.toolBars.value("c").visibility, KitToolBar::Hidden);
+    QVERIFY(read.toolBars.value("c").shownByProgram);
     QCOMPARE(read.places.lines.keys(), QStringList({"top"}));
     QCOMPARE(read.places.lines.value("top"), QList<QStringList>({{"a"}}));
     QCOMPARE(read.places.floating.value("a", QPoint(1, 1)), QPoint(0, 0));
