@@ -21,6 +21,11 @@ def differences(before, after, ignored=frozenset(), path=""):
     return [] if before == after else [f"{path}: {_short(before)} became {_short(after)}"]
 
 
+def changed(lines):
+    """What these differences are of."""
+    return {line.partition(": ")[0] for line in lines}
+
+
 def _of_lists(before, after, ignored, path):
     names = [_names(before), _names(after)]
     if len(before) != len(after) or names[0] != names[1]:
@@ -72,10 +77,10 @@ def contents(bar):
     return [entry["name"] for entry in bar["entries"]]
 
 
-def texts(bar):
-    """What the dialog shows of the buttons."""
-    return [entry["properties"]["text"] for entry in bar["entries"]
-            if entry["name"] != "|" and "text" in entry["properties"]]
+def texts(report, bar):
+    """The texts of the actions on a toolbar."""
+    all_texts = {action["name"]: action["text"] for action in report["actions"]}
+    return [all_texts[name] for name in contents(bar) if name in all_texts]
 
 
 def of_program(report, *without):
@@ -88,6 +93,11 @@ def of_program(report, *without):
     names = [bar["name"] for bar in bars]
     order = [name for name in report["order"] if name in names]
     return {**report, "toolBars": bars, "order": order}
+
+
+def without_position(report):
+    """The report without the place of the window, which a window manager may have chosen."""
+    return {**report, "geometry": report["geometry"][2:]}
 
 
 def without_given_texts(before, after):

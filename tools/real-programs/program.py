@@ -7,9 +7,11 @@ import socket
 import subprocess
 
 from desktop import Desktop, Point, Rect
+from programs import BOTTOM, FLOATING, LEFT
 from waiting import PATIENCE, NotSo, settled, wait_for
 
 DIALOG = "RyCustomizedDialog"
+MINIMIZED = 1
 
 
 class Program:
@@ -83,11 +85,15 @@ class Program:
         left, top, width, height = bar["rect"]
         self._desktop.click(Point(left + width - 8, top + height // 2), Desktop.RIGHT)
 
-    def drag_tool_bar_down(self, key, value):
-        """Drags a toolbar by its handle to the bottom of the window."""
+    def drag_tool_bar(self, key, value, place):
+        """Drags a toolbar by its handle to a side of the window, or to its middle."""
+        x, y, width, height = self.report()["geometry"]
+        bottom = min([y + height] + [widget["rect"][1] for widget in self.widgets()
+                                     if "QStatusBar" in widget["kinds"]])
+        targets = {FLOATING: Point(x + width // 2, y + height // 2),
+                   LEFT: Point(x + 10, y + height // 2), BOTTOM: Point(x + 100, bottom - 20)}
         left, top, _, height = self._tool_bar(key, value)["rect"]
-        x, y, _, room = self.report()["geometry"]
-        self._desktop.drag(Point(left + 4, top + height // 2), Point(x + 100, y + room - 30))
+        self._desktop.drag(Point(left + 4, top + height // 2), targets[place])
 
     def click_on_tool_bar(self, title, index):
         """Clicks on a button of the toolbar with this title."""
@@ -111,6 +117,11 @@ class Program:
                  lambda: any(widget["windowClass"] == window and widget["active"]
                              for widget in self.widgets()))
 
+    def click_on_title(self):
+        """Makes the main window the active one, rather than a floating toolbar."""
+        x, y, width, _ = self.report()["geometry"]
+        self._desktop.click(Point(x + width // 2, y - 8))
+
     def picture(self, path):
         self._desktop.picture(path)
 
@@ -118,13 +129,28 @@ class Program:
         self._desktop.point_at(Rect(*view["rect"]).center)
         self._desktop.turn_wheel(Desktop.WHEEL_DOWN if down else Desktop.WHEEL_UP)
 
+    def close_message(self, window):
+        self.activate(window)
+        self.press("Escape")
+        wait_for(f"{window} does not close", lambda: not any(
+            widget["class"] == window for widget in self.widgets()))
+
+    def minimize(self):
+        """Makes the window an icon and brings it back."""
+        self.activate(self._what.window)
+        window = self._desktop.active_window()
+        self._desktop.minimize(window)
+        wait_for("the window is no icon", lambda: self.report()["state"] & MINIMIZED)
+        self._desktop.activate(window)
+        wait_for("the window is still an icon", lambda: not self.report()["state"] & MINIMIZED)
+
     def close(self):
         """Closes the window as a user does, and waits for the end of the program."""
+        self.click_on_title()
         self._what.close(self)
         try:
             status = self._process.wait(PATIENCE)
         except subprocess.TimeoutExpired:
-            self.stop()
             raise NotSo("the program does not end") from None
         if status != self._what.status:
             raise NotSo(f"the program ended with status {status}")
@@ -168,7 +194,7 @@ class Program:
 
     def _tool_bar(self, key, value):
         found = [widget for widget in self.widgets()
-                 if "QToolBar" in widget["kinds"] and widget[key] == value]
+                 if "QToolBar" in widget["kinds"] and plain(widget[key]) == value]
         if not found:
             raise NotSo(f"there is no toolbar {value}")
         return found[0]
@@ -213,8 +239,8 @@ class ToolBarDialog:
             self._program.click(row)
             wait_for("the toolbar is not selected",
                      lambda: self._view("toolBarList")["rows"][index]["current"])
-            content = [plain(text) for text in self.content()]
-            fitting.append((len(set(texts) & set(content)), index))
+            content = {plain(text) for text in self.content()}
+            fitting.append((len({plain(text) for text in texts} & content), index))
 
     def select_action(self, path):
         category = self._row("actionTree", path[:1])

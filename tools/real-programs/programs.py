@@ -5,6 +5,7 @@ import os
 from dataclasses import dataclass, field
 from typing import Callable, Optional
 
+FLOATING, LEFT, BOTTOM = 0, 1, 8  # where toolbars can be dragged to
 
 def nothing(*_):
     """For a program that needs no such step."""
@@ -30,6 +31,11 @@ def by_button(text):
     return lambda run: run.click_button(text)
 
 
+def closes(window):
+    """Closes a message that comes after each start."""
+    return lambda run: run.close_message(window)
+
+
 @dataclass
 class What:
     """One program. Texts are those that the user sees, without marks of keys."""
@@ -41,13 +47,14 @@ class What:
     tool_bar: str  # the object name, or the class if it has none
     action: tuple  # its category and text, not on that toolbar, and harmless when it is triggered
     other_action: tuple
-    toggle_tool_bar: Callable
+    toggle_tool_bar: Optional[Callable]  # none if only the program's settings can hide it
     full_screen: Optional[tuple] = None  # how to enter and to leave it
     environment: dict = field(default_factory=dict)
     fill_home: Callable = nothing
     after_start: Callable = nothing
     place_of_tool_bar: Optional[tuple] = None  # if the name does not do
     keeps_hidden: bool = True  # no, if it hides toolbars itself and forgets it
+    drag_to: Optional[int] = LEFT  # None if the program has locked its toolbars
     status: int = 0  # with which it always ends
     close: Callable = by_key("alt+F4")
 
@@ -73,7 +80,7 @@ PROGRAMS = [
          ("Format", "Wrap Lines"), ("Search", "Find Again"),
          from_menu("Window", "Show", "Edit Toolbar")),
     What("featherpad", 5, ["featherpad", "--standalone"], "FeatherPad::FPwin", "mainToolBar",
-         ("Options", "Line Numbers"), ("Options", "Wrap Lines"), nothing, BY_F11),
+         ("Options", "Line Numbers"), ("Options", "Wrap Lines"), None, BY_F11, drag_to=None),
     What("juffed", 5, ["juffed"], "JuffMW", "mainToolBar",
          ("View", "Wrap words"), ("Search", "Find next"),
          from_context_menu("Main toolbar"), BY_F11),
@@ -82,7 +89,8 @@ PROGRAMS = [
     What("qgit", 5, ["qgit"], "MainImpl", "toolBar",
          ("Edit", "Find next"), ("Help", "About QGit"), from_context_menu("Toolbar")),
     What("djview4", 5, ["djview4"], "QDjView", "toolbar",
-         ("Settings", "Show Statusbar"), ("Settings", "Preferences"), by_key("F10")),
+         ("Settings", "Show Statusbar"), ("Settings", "Preferences"), by_key("F10"),
+         drag_to=BOTTOM),
     What("photoflare", 5, ["photoflare"], "MainWindow", "toolBar",
          ("View", "Zoom In"), ("View", "Zoom Out"), from_menu("View", "Filterbar"),
          keeps_hidden=False),
@@ -90,17 +98,22 @@ PROGRAMS = [
          ("View / Docks", "Outline"), ("File", "Open"), from_menu("View", "Tool bars", "View"),
          BY_F11),
     What("glogg", 5, ["glogg"], "MainWindow", "QToolBar",
-         ("View", "Follow File"), ("View", "Matches overview"), from_context_menu("Toolbar")),
+         ("View", "Follow File"), ("View", "Matches overview"), from_context_menu("Toolbar"),
+         drag_to=None),
     What("qpwgraph", 6, ["qpwgraph"], "qpwgraph_form", "graphToolbar",
          ("Edit", "Select All"), ("Edit", "Select Invert"), from_menu("View", "Toolbar", "Graph"),
-         close=from_menu("Graph", "Quit")),
+         # On the left, its buttons lose their texts, but only until the next start.
+         drag_to=BOTTOM, close=from_menu("Graph", "Quit")),
     What("retext", 6, ["retext"], "ReTextWindow", "QToolBar",
          ("Edit", "Move line up"), ("Edit", "Find text"), from_context_menu("File toolbar"),
          (by_button("Fullscreen mode"),) * 2,
          place_of_tool_bar=("title", "File toolbar")),
     What("qxgedit", 6, ["qxgedit"], "qxgeditMainForm", "ToolBar",
-         ("View", "Statusbar"), ("View", "Options"), from_menu("View", "Toolbar")),
-    What("packagesearch", 6, ["packagesearch"], "PackageSearchImpl", "QToolBar",
-         ("Help", "About"), ("Packagesearch", "Preferences"), from_menu("View", "Main Toolbar"),
-         status=2),
+         ("View", "Statusbar"), ("View", "Options"), from_menu("View", "Toolbar"),
+         # Its window has no room for another line of toolbars.
+         drag_to=FLOATING),
+    # Nothing plays here, but it works: at each start it says that it has found no server.
+    What("qsampler", 6, ["qsampler"], "QSampler::MainForm", "editToolbar",
+         ("View", "Statusbar"), ("View", "Options"), from_menu("View", "Toolbar"),
+         after_start=closes("QMessageBox")),
 ]

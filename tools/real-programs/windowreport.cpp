@@ -165,6 +165,14 @@ void collect(const QList<QAction *> &actions, QList<QAction *> *all)
     }
 }
 
+// Qt makes these for buttons that do not fit on their toolbar.
+bool isOfExtension(const QObject *object)
+{
+    while (object && !object->inherits("QToolBarExtension"))
+        object = object->parent();
+    return object;
+}
+
 } // namespace
 
 WindowReport::WindowReport(const QMainWindow *window)
@@ -213,7 +221,7 @@ QList<QAction *> WindowReport::actions() const
         collect(bar->actions(), &all);
     QList<QAction *> result;
     for (QAction *action : all) {
-        if (!action->isSeparator() && !isOfKit(action))
+        if (!action->isSeparator() && !isOfKit(action) && !isOfExtension(action))
             result.append(action);
     }
     const auto rank = [](const QAction *action) {

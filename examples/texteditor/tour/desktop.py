@@ -134,9 +134,19 @@ class XDesktop(Desktop):
 
     def frame_around(self):
         """The widths of the active window's frame: left, right, top, bottom."""
-        window = self._xdotool("getactivewindow").strip()
-        extents = self._xprop("-id", window, "_NET_FRAME_EXTENTS").partition("=")[2].split(",")
+        extents = self._xprop("-id", self.active_window(), "_NET_FRAME_EXTENTS").partition("=")[2].split(",")
         return [int(extent) for extent in extents]
+
+    # --- Windows ---
+
+    def active_window(self):
+        return self._xdotool("getactivewindow").strip()
+
+    def minimize(self, window):
+        self._xdotool("windowminimize", window)
+
+    def activate(self, window):
+        self._xdotool("windowactivate", window)
 
     # --- X ---
 
