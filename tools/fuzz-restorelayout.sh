@@ -13,4 +13,8 @@
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
 . tools/fuzz/bytes.sh
+# Qt 5 leaks the first value of a JSON key that is there twice. tools/sanitize.sh replays the kept inputs and
+# reports leaks.
+# shellcheck disable=SC2034 # used by fuzz_bytes
+leaks=0
 fuzz_bytes restorelayout tests/kit/fuzz "$@"

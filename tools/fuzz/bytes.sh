@@ -2,8 +2,8 @@
 # shellcheck shell=bash
 #
 # For the scripts that pass random bytes to a fuzzer: fuzz_bytes NAME SOURCES ARGUMENT..., where the fuzzer
-# is called fuzz-NAME and its seeds, findings and dictionary are in the folder SOURCES. To be sourced by bash
-# after steps.sh.
+# is called fuzz-NAME and its seeds, findings and dictionary are in the folder SOURCES. With leaks=0, leaks are
+# not reported. To be sourced by bash after steps.sh.
 #
 # shellcheck disable=SC2154,SC2317 # choose_qt sets variables, and step calls the functions
 
@@ -58,7 +58,7 @@ fuzz_bytes() {
     corpus=build/$preset/corpus-$name
     found=build/$preset/found-$name
 
-    export ASAN_OPTIONS=quarantine_size_mb=32:abort_on_error=1
+    export ASAN_OPTIONS=quarantine_size_mb=32:abort_on_error=1:detect_leaks=${leaks-1}
     export UBSAN_OPTIONS=print_stacktrace=1
     export LSAN_OPTIONS=suppressions=$PWD/tests/support/qt-leaks.supp:print_suppressions=0
 
