@@ -87,6 +87,7 @@ void KitModel::change(const Release &release)
         if (!release.toolBars.contains(name))
             m_defaults.remove(name);
     }
+    followFormerNames();
     takeNewDefaults();
 }
 
