@@ -213,6 +213,9 @@ void tst_RyToolBarKit_changes::toolBarsMayBeDeleted()
     QVERIFY(program.kit()->manager());
     QCOMPARE(program.contents(), QStringList({"_Custom_Toolbar_1: open copy", "file: save"}));
     QCOMPARE(program.kit()->manager()->toolBars().size(), 2);
+    const auto defaults = program.kit()->manager()->defaultToolBars();
+    QCOMPARE(defaults.value(program.toolBar("file")),
+             QList<QAction *>({program.action("open"), program.action("save")}));
     program.restoreDefaults();
     QCOMPARE(program.contents(), QStringList("file: open save"));
 }

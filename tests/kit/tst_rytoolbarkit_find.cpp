@@ -4,6 +4,7 @@
 #include "testcase.h"
 
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPointer>
 #include <QSpinBox>
@@ -61,6 +62,7 @@ private Q_SLOTS:
     void whatHasNoStableNameIsAProblem();
     void problemsArePrintedOnce();
     void actionsWithoutAnyTextStayAsTheyAre();
+    void widgetsWithoutTextGetOne_data();
     void widgetsWithoutTextGetOne();
     void disabledWidgetsStayDisabled();
 };
@@ -211,6 +213,10 @@ void tst_RyToolBarKit_find::entriesOfListsAreNotOffered_data()
                                         << "" << false;
     QTest::newRow("digit as mnemonic") << "&1 notes.txt" << none << ""
                                        << "" << false;
+    QTest::newRow("only a digit") << "&1" << none << ""
+                                  << "" << false;
+    QTest::newRow("digit that is no mnemonic") << "&Mode 1" << none << ""
+                                               << "" << true;
     QTest::newRow("no text") << "" << none << ""
                              << "" << false;
     QTest::newRow("with a name") << "/home/notes.txt" << none << ""
@@ -514,31 +520,41 @@ void tst_RyToolBarKit_find::actionsWithoutAnyTextStayAsTheyAre()
     QVERIFY(program.kit()->manager()->actions().contains(action));
 }
 
+void tst_RyToolBarKit_find::widgetsWithoutTextGetOne_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("windowTitle") << "Size";
+    QTest::newRow("accessibleName") << "Size";
+    QTest::newRow("placeholderText") << "Size";
+    QTest::newRow("toolTip") << "Size";
+    QTest::newRow("statusTip") << "Size";
+    QTest::newRow("text") << "Size";
+    QTest::newRow("objectName") << "Font Size Box2";
+    QTest::newRow("nothing") << "QLineEdit";
+}
+
 void tst_RyToolBarKit_find::widgetsWithoutTextGetOne()
 {
-    KitProgram program;
-    QAction *spin = nullptr;
-    QAction *titled = nullptr;
+    QFETCH(QString, text);
+    const QByteArray property = QTest::currentDataTag();
+    QAction *action = nullptr;
     QAction *own = nullptr;
-    QAction *named = nullptr;
     QAction *space = nullptr;
+    KitProgram program;
     program.start([&](QMainWindow *window) {
         QToolBar *const bar = window->addToolBar("Bar");
-        spin = bar->addWidget(new QSpinBox);
-        QSpinBox *const box = new QSpinBox;
-        box->setToolTip("Size");
-        titled = bar->addWidget(box);
-        own = bar->addWidget(new QSpinBox);
+        QWidget *const widget = new QLineEdit;
+        if (property == "objectName")
+            widget->setObjectName("fontSize_box2");
+        else
+            widget->setProperty(property, text);
+        action = bar->addWidget(widget);
+        own = bar->addWidget(new QLineEdit);
         own->setText("Own");
-        QSpinBox *const namedBox = new QSpinBox;
-        namedBox->setObjectName("fontSize_box2");
-        named = bar->addWidget(namedBox);
         space = bar->addWidget(new QWidget);
     });
-    QCOMPARE(spin->text(), QString("QSpinBox"));
-    QCOMPARE(titled->text(), QString("Size"));
+    QCOMPARE(action->text(), text);
     QCOMPARE(own->text(), QString("Own"));
-    QCOMPARE(named->text(), QString("Font Size Box2"));
     QCOMPARE(space->text(), QString("Space"));
 }
 
