@@ -155,8 +155,7 @@ def code_mutants(path, lines):
 
 
 def header_mutants(path, lines):
-    """Changes of a visible order in the header of a class: of slots, signals, virtual functions and,
-    in exported classes, fields."""
+    """Changes of a visible order in a public header: of slots, signals, virtual functions and fields."""
     section = ""
     for number, (line, following) in enumerate(zip(lines, lines[1:])):
         if re.match(r"\w+( \w+)?:$|Q_\w+:$", line):
@@ -165,7 +164,7 @@ def header_mutants(path, lines):
         pair = (line, following)
         if all(re.fullmatch(r"    [^/*].*;", l) for l in pair) and (
                 listed or all("virtual" in l or "override" in l for l in pair)
-                or (is_public_header(path) and all(re.search(r"m_\w+;", l) for l in pair))):
+                or all(re.search(r"m_\w+;", l) for l in pair)):
             yield Mutant(path, number + 1, "order", f"{line}\n{following}", f"{following}\n{line}")
 
 
@@ -181,7 +180,7 @@ def mutants_of(path):
         return form_mutants(path, lines)
     if path.suffix == ".cpp" or path.name in CODE_IN_HEADERS:
         return code_mutants(path, lines)
-    return header_mutants(path, lines)
+    return header_mutants(path, lines) if is_public_header(path) else []
 
 
 def tracked(*folders):
