@@ -56,6 +56,7 @@ private Q_SLOTS:
     void movesAreStoredTogether();
     void aMoveIsStoredWhenTheWindowCloses();
     void theDialogIsOpenedOnce();
+    void theDialogIsOpenedAgainAsSoonAsItIsClosed();
     void applyStoresAndKeepsTheDialogOpen();
     void cancelChangesNothing();
     void aboutToCustomizeComesBeforeTheDialogIsShown();
@@ -734,6 +735,14 @@ void tst_RyToolBarKit_changes::theDialogIsOpenedOnce()
     QVERIFY(dialog);
     QCOMPARE(program.openDialog(), dialog);
     QCOMPARE(program.window()->findChildren<RyCustomizedDialog *>().size(), 1);
+}
+
+void tst_RyToolBarKit_changes::theDialogIsOpenedAgainAsSoonAsItIsClosed()
+{
+    KitProgram program;
+    program.start();
+    QTest::mouseClick(program.openDialog()->okButton(), Qt::LeftButton);
+    QVERIFY(program.openDialog());
 }
 
 void tst_RyToolBarKit_changes::applyStoresAndKeepsTheDialogOpen()

@@ -213,6 +213,8 @@ void tst_RyToolBarKit_find::entriesOfListsAreNotOffered_data()
                                         << "" << false;
     QTest::newRow("digit as mnemonic") << "&1 notes.txt" << none << ""
                                        << "" << false;
+    QTest::newRow("ends with &") << "Notes&" << none << ""
+                                 << "" << true;
     QTest::newRow("only a digit") << "&1" << none << ""
                                   << "" << false;
     QTest::newRow("digit that is no mnemonic") << "&Mode 1" << none << ""

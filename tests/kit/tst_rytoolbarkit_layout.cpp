@@ -46,6 +46,8 @@ private Q_SLOTS:
     void refusedValuesAreKeptUntilTheUserChangesSomething();
     void bytesOfAManagerAreTakenOver();
     void bytesOfAWindowAreTakenOver();
+    void bytesOfAnUnchangedWindowAreTheDefault();
+    void bytesOfAWindowLeaveTheContents();
     void restoreLayoutReplacesEverything();
     void restoreLayoutBringsVisibilityBack();
     void restoreLayoutWorksAfterAToolBarWasDeleted();
@@ -335,8 +337,10 @@ void tst_RyToolBarKit_layout::theProgramWinsIfItStartsDifferently()
     program.toolBar("edit")->toggleViewAction()->trigger();
     program.start(buildHidden);
     QVERIFY(program.toolBar("edit")->isVisible());
+    QVERIFY(!program.kit()->isDefault());
     program.start();
     QVERIFY(program.toolBar("edit")->isVisible());
+    QVERIFY(program.kit()->isDefault());
     program.start(buildHidden);
     QVERIFY(program.toolBar("edit")->isVisible());
     program.toolBar("edit")->toggleViewAction()->trigger();
@@ -351,9 +355,12 @@ void tst_RyToolBarKit_layout::aNewDefaultActionAppearsBesideItsNeighbour()
     KitProgram program;
     program.start([](QMainWindow *window) { buildWithout(window, "open"); });
     program.edit("file", "cut | new copy save");
+    const QString stored = program.stored();
     program.start();
     QCOMPARE(program.content("file"), QString("cut | new open copy save"));
-    QCOMPARE(program.layoutChanges, 1);
+    program.end();
+    QCOMPARE(program.stored(), stored);
+    program.start();
     program.edit("file", "cut | new copy save");
     program.start();
     QCOMPARE(program.content("file"), QString("cut | new copy save"));
@@ -535,8 +542,12 @@ void tst_RyToolBarKit_layout::aRequiredActionReturnsAtTheNextStart()
     program.start(buildRequired);
     program.edit("file", "new save");
     QCOMPARE(program.content("file"), QString("new save"));
+    const QString stored = program.stored();
     program.start(buildRequired);
     QCOMPARE(program.content("file"), QString("new open save"));
+    program.end();
+    QCOMPARE(program.stored(), stored);
+    program.start(buildRequired);
     program.edit("file", "new save");
     program.edit("edit", "open");
     program.start(buildRequired);
@@ -653,6 +664,24 @@ void tst_RyToolBarKit_layout::bytesOfAWindowAreTakenOver()
     for (int size = 0; size < bytes.size(); ++size)
         QVERIFY2(size == 0 || !later.kit()->restoreLayout(bytes.left(size)),
                  QByteArray::number(size).constData());
+}
+
+void tst_RyToolBarKit_layout::bytesOfAnUnchangedWindowAreTheDefault()
+{
+    KitProgram program;
+    program.start();
+    QVERIFY(program.kit()->restoreLayout(program.window()->saveState()));
+    QVERIFY(program.kit()->isDefault());
+}
+
+void tst_RyToolBarKit_layout::bytesOfAWindowLeaveTheContents()
+{
+    KitProgram program;
+    program.start();
+    const QByteArray bytes = program.window()->saveState();
+    program.kit()->manager()->setToolBar(program.toolBar("file"), {program.action("save")});
+    QVERIFY(program.kit()->restoreLayout(bytes));
+    QCOMPARE(program.content("file"), QString("save"));
 }
 
 void tst_RyToolBarKit_layout::restoreLayoutReplacesEverything()
