@@ -271,26 +271,24 @@ bool RyToolBarKitPrivate::isInUse(const QAction *action) const
 }
 
 // Whether the program still has an action on a toolbar, where the user may have removed it.
-bool RyToolBarKitPrivate::isOnToolBar(QAction *action, QAction *successor) const
+bool RyToolBarKitPrivate::isOnToolBar(QAction *former, QAction *successor) const
 {
-    const QString name = m_actionNames.nameOf(action);
+    const QString name = m_actionNames.nameOf(former);
     const auto contents = manager->toolBarsActions();
     for (auto it = contents.cbegin(); it != contents.cend(); ++it) {
         QToolBar *const toolBar = it.key();
         if (!m_defaults.value(toolBar).contains(name) || m_takenOff.value(toolBar).contains(name))
             continue;
         const auto onWidget = toolBar->actions();
-        const bool isRemovedByUser = !it->contains(action) && !onWidget.contains(successor);
-        if (onWidget.contains(action) || isRemovedByUser)
+        const bool isRemovedByUser = !it->contains(former) && !onWidget.contains(successor);
+        if (onWidget.contains(former) || isRemovedByUser)
             return true;
     }
     // What is not yet known of a toolbar is on its widget only.
     const auto toolBars = ToolBarPlaces::toolBarsIn(m_window);
-    for (QToolBar *toolBar : toolBars) {
-        if (toolBar->actions().contains(action) && !manager->actions(toolBar).contains(action))
-            return true;
-    }
-    return false;
+    return std::any_of(toolBars.cbegin(), toolBars.cend(), [this, former](QToolBar *toolBar) {
+        return toolBar->actions().contains(former) && !manager->actions(toolBar).contains(former);
+    });
 }
 
 // Adding a category that exists makes it list nothing, and it goes with its last action.

@@ -84,7 +84,7 @@ private:
     void offerHandedOver();
     void withdrawFormer(QAction *action);
     bool isInUse(const QAction *action) const;
-    bool isOnToolBar(QAction *action, QAction *successor) const;
+    bool isOnToolBar(QAction *former, QAction *successor) const;
     void keepOutOfDialog(QAction *action);
     void addToolBar(QToolBar *toolBar);
     void prepareAction(QToolBar *toolBar, QAction *action);
