@@ -63,7 +63,7 @@ layouts() {
 abi_description() {
     local headers=$build-headers
     rm -rf "$headers" && mkdir -p "$headers" && cp -L "$1"/*.h "$headers" || return
-    abidw --suppressions "$contract/qt-types.abignore" --headers-dir "$headers" \
+    abidw --suppressions "$contract/not-ours.abignore" --headers-dir "$headers" \
         --drop-private-types --drop-undefined-syms --no-corpus-path --no-comp-dir-path \
         --no-show-locs --no-elf-needed --no-parameter-names --no-architecture --type-id-style hash \
         "$2"
