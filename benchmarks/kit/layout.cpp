@@ -7,40 +7,7 @@ namespace {
 const int Version = 1;
 const char *const Key = "toolBars";
 
-QString settingsIn(const QTemporaryDir &folder)
-{
-    return folder.filePath(QStringLiteral("settings.ini"));
-}
-
-// Moves the first toolbar to another area, or back.
-void move(Scene *scene, bool isMoved)
-{
-    scene->window()->addToolBar(isMoved ? Qt::LeftToolBarArea : Qt::TopToolBarArea,
-                                scene->toolBars().first());
-}
-
-void setContents(Scene *scene, RyToolBarManager *manager, int variant)
-{
-    for (int i = 0; i < scene->toolBars().size(); ++i)
-        manager->setToolBar(scene->toolBars().at(i), scene->content(i, variant));
-}
-
 } // namespace
-
-StoreMove::StoreMove(const Size &size)
-    : SceneSide(size)
-    , m_settings(settingsIn(m_folder), QSettings::IniFormat)
-{
-    setContents(&m_scene, m_scene.kit()->manager(), 1);
-    settle();
-}
-
-void StoreMove::prepare()
-{
-    m_isMoved = !m_isMoved;
-    move(&m_scene, m_isMoved);
-    settle();
-}
 
 void StoreMove::run()
 {
@@ -54,21 +21,6 @@ QStringList StoreMove::result()
     const QString stored = m_settings.value(QLatin1String(Key)).toString();
     return SceneSide::result() << QString::number(
                stored == QString::fromUtf8(m_scene.kit()->saveLayout()));
-}
-
-StoreMoveByHand::StoreMoveByHand(const Size &size)
-    : SceneSide(size)
-    , m_settings(settingsIn(m_folder), QSettings::IniFormat)
-{
-    setContents(&m_scene, m_scene.manager(), 1);
-    settle();
-}
-
-void StoreMoveByHand::prepare()
-{
-    m_isMoved = !m_isMoved;
-    move(&m_scene, m_isMoved);
-    settle();
 }
 
 void StoreMoveByHand::run()
@@ -87,7 +39,7 @@ RestoreLayout::RestoreLayout(const Size &size)
     : SceneSide(size)
 {
     for (const int variant : {1, 0}) {
-        setContents(&m_scene, m_scene.kit()->manager(), variant);
+        setContents(m_scene, *m_scene.manager(), variant);
         m_layouts[variant] = m_scene.kit()->saveLayout();
         settle();
     }
@@ -107,7 +59,7 @@ RestoreByHand::RestoreByHand(const Size &size)
     : SceneSide(size)
 {
     for (const int variant : {1, 0}) {
-        setContents(&m_scene, m_scene.manager(), variant);
+        setContents(m_scene, *m_scene.manager(), variant);
         m_states[variant] = m_scene.manager()->saveState(Version);
         m_windowStates[variant] = m_scene.window()->saveState(Version);
         settle();

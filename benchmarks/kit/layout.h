@@ -10,40 +10,58 @@
 #include <QTemporaryDir>
 
 /*
- * Stores the layout after a toolbar was moved: what the kit does when no toolbar has moved for a
- * while. Qt writes the file later. All toolbars are customized.
+ * A host whose toolbars are all customized, and whose first toolbar moves before each round.
  */
-class StoreMove : public SceneSide<KitScene>
+template <typename SceneType> class MovedToolBar : public SceneSide<SceneType>
 {
 public:
-    explicit StoreMove(const Size &size);
+    explicit MovedToolBar(const Size &size)
+        : SceneSide<SceneType>(size)
+        , m_settings(m_folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat)
+    {
+        setContents(this->m_scene, *this->m_scene.manager(), 1);
+        settle();
+    }
 
-    void prepare() override;
-    void run() override;
-    QStringList result() override;
+    void prepare() override
+    {
+        m_isMoved = !m_isMoved;
+        this->m_scene.window()->addToolBar(m_isMoved ? Qt::LeftToolBarArea : Qt::TopToolBarArea,
+                                           this->m_scene.toolBars().first());
+        settle();
+    }
 
 private:
     QTemporaryDir m_folder;
-    QSettings m_settings;
     bool m_isMoved = false;
+
+protected:
+    QSettings m_settings;
+};
+
+/*
+ * Stores the layout: what the kit does when no toolbar has moved for a while. Qt writes the file
+ * later.
+ */
+class StoreMove : public MovedToolBar<KitScene>
+{
+public:
+    using MovedToolBar::MovedToolBar;
+
+    void run() override;
+    QStringList result() override;
 };
 
 /*
  * The two calls of a program without the kit.
  */
-class StoreMoveByHand : public SceneSide<ManagedScene>
+class StoreMoveByHand : public MovedToolBar<ManagedScene>
 {
 public:
-    explicit StoreMoveByHand(const Size &size);
+    using MovedToolBar::MovedToolBar;
 
-    void prepare() override;
     void run() override;
     QStringList result() override;
-
-private:
-    QTemporaryDir m_folder;
-    QSettings m_settings;
-    bool m_isMoved = false;
 };
 
 /*

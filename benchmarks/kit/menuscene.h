@@ -25,6 +25,7 @@ public:
     explicit KitScene(const Size &size);
 
     RyToolBarKit *kit() { return m_kit; }
+    RyToolBarManager *manager() { return m_kit->manager(); }
 
 private:
     // Owned by the window.

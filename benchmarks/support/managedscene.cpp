@@ -20,3 +20,9 @@ void registerAll(Scene &scene, RyToolBarManager &manager)
     for (QToolBar *toolBar : scene.toolBars())
         manager.addDefaultToolBar(toolBar, QStringLiteral("Toolbars"));
 }
+
+void setContents(Scene &scene, RyToolBarManager &manager, int variant)
+{
+    for (int i = 0; i < scene.toolBars().size(); ++i)
+        manager.setToolBar(scene.toolBars().at(i), scene.content(i, variant));
+}

@@ -27,4 +27,9 @@ private:
  */
 void registerAll(Scene &scene, RyToolBarManager &manager);
 
+/*
+ * Puts the contents of a variant on all toolbars.
+ */
+void setContents(Scene &scene, RyToolBarManager &manager, int variant);
+
 #endif // MANAGEDSCENE_H

@@ -158,8 +158,7 @@ RestoreOtherOurs::RestoreOtherOurs(const Size &size)
     : SceneSide(size)
 {
     for (const int variant : {1, 0}) {
-        for (int i = 0; i < m_scene.toolBars().size(); ++i)
-            m_scene.manager()->setToolBar(m_scene.toolBars().at(i), m_scene.content(i, variant));
+        setContents(m_scene, *m_scene.manager(), variant);
         m_states[variant] = m_scene.manager()->saveState(Version);
         settle();
     }
