@@ -40,6 +40,11 @@ KitProgram::KitProgram()
 {
 }
 
+KitProgram::KitProgram(const KitProgram &first)
+    : settings(new QSettings(first.settings->fileName(), QSettings::IniFormat))
+{
+}
+
 KitProgram::~KitProgram()
 {
     end();

@@ -27,6 +27,8 @@ public:
     using Build = std::function<void(QMainWindow *)>;
 
     KitProgram();
+    // Another window of the same program.
+    explicit KitProgram(const KitProgram &first);
     ~KitProgram();
 
     static void buildDefault(QMainWindow *window);

@@ -135,9 +135,7 @@ void tst_RyToolBarKit_features::withoutFollowOthersWindowsStayAsTheyAre()
     QFETCH(bool, editedHasNot);
     KitProgram program;
     program.start();
-    KitProgram other;
-    other.settings.reset(
-        new QSettings(program.folder.filePath("settings.ini"), QSettings::IniFormat));
+    KitProgram other(program);
     other.start();
     RyToolBarKit *const kit = (editedHasNot ? program : other).kit();
     kit->setFeatures(kit->features() & ~RyToolBarKit::FollowOthers);
