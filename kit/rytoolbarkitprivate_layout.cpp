@@ -299,8 +299,6 @@ void RyToolBarKitPrivate::place(QToolBar *toolBar)
 void RyToolBarKitPrivate::putBackButtons(QToolBar *toolBar)
 {
     const QSet<const QAction *> made = m_newButtons.take(toolBar);
-    if (!(features & RyToolBarKit::KeepButtons))
-        return;
     const auto actions = manager->actions(toolBar);
     for (QAction *action : actions) {
         if (made.contains(action))
@@ -506,6 +504,6 @@ void RyToolBarKitPrivate::storeChanges()
 
 void RyToolBarKitPrivate::storeNow()
 {
-    if (storeIfChanged() && (features & RyToolBarKit::StoreChanges))
+    if (storeIfChanged())
         store.sync();
 }
