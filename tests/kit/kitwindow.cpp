@@ -40,9 +40,9 @@ KitProgram::KitProgram()
 {
 }
 
-KitProgram::KitProgram(const KitProgram &first)
-    : settings(new QSettings(first.settings->fileName(), QSettings::IniFormat))
+void KitProgram::shareSettings(const KitProgram &first)
 {
+    settings.reset(new QSettings(first.settings->fileName(), QSettings::IniFormat));
 }
 
 KitProgram::~KitProgram()

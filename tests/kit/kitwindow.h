@@ -27,11 +27,12 @@ public:
     using Build = std::function<void(QMainWindow *)>;
 
     KitProgram();
-    // Another window of the same program.
-    explicit KitProgram(const KitProgram &first);
     ~KitProgram();
 
     static void buildDefault(QMainWindow *window);
+
+    // Makes this another window of the same program.
+    void shareSettings(const KitProgram &first);
 
     // Starts the program, or ends the running one first.
     void start(const Build &build = buildDefault);

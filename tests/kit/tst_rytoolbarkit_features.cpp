@@ -136,7 +136,8 @@ void tst_RyToolBarKit_features::withoutFollowOthersWindowsStayAsTheyAre()
     QFETCH(bool, editedHasNot);
     KitProgram program;
     program.start();
-    KitProgram other(program);
+    KitProgram other;
+    other.shareSettings(program);
     other.start();
     RyToolBarKit *const kit = (editedHasNot ? program : other).kit();
     kit->setFeatures(kit->features() & ~RyToolBarKit::FollowOthers);

@@ -832,7 +832,8 @@ void tst_RyToolBarKit_layout::windowsWithTheSameKeyFollow()
 {
     KitProgram program;
     program.start();
-    KitProgram other(program);
+    KitProgram other;
+    other.shareSettings(program);
     other.start();
     program.edit("edit", "paste");
     program.create("Mine", "open");
@@ -847,7 +848,8 @@ void tst_RyToolBarKit_layout::windowsThatDifferFollowToo()
     KitProgram program;
     program.start();
     program.edit("edit", "paste");
-    KitProgram other(program);
+    KitProgram other;
+    other.shareSettings(program);
     other.start();
     other.toolBar("file")->toggleViewAction()->trigger();
     program.edit("edit", "paste");
@@ -863,7 +865,8 @@ void tst_RyToolBarKit_layout::aRequiredActionDoesNotReturnInAnotherWindow()
 {
     KitProgram program;
     program.start();
-    KitProgram other(program);
+    KitProgram other;
+    other.shareSettings(program);
     other.start([&](QMainWindow *window) {
         KitProgram::buildDefault(window);
         other.kit()->setRequired(other.action("open"));
