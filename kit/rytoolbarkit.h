@@ -104,7 +104,16 @@ public:
         KeepButtons = 0x10, //!< Puts back what the program has set for buttons.
         AddNewDefaults = 0x20, //!< Adds the default actions of a new release to a stored layout.
         FollowOthers = 0x40, //!< Takes over what is applied in another window.
-        StoreChanges = 0x80 //!< Writes to the settings. Otherwise the value is only read.
+        StoreChanges = 0x80, //!< Writes to the settings. Otherwise the value is only read.
+        SearchActions = 0x100, //!< Adds a line to the dialog that finds actions.
+        DragActions = 0x200, //!< Lets the user drag actions, entries and toolbars in the dialog.
+        ReadableLists = 0x400, //!< Shows texts in the dialog as menus do, and explains rows.
+        ProtectEdits = 0x800, //!< Asks before edits in the dialog are lost, and finishes names.
+        KeepSteps = 0x1000, //!< Keeps the last layouts for undoAction() and redoAction().
+        ToolBarMenus = 0x2000, //!< Gives toolbars a context menu.
+        DialogKeys = 0x4000, //!< Adds keys to the dialog, and names for screen readers.
+        UserGuide = 0x8000, //!< Opens the user guide as the dialog's help.
+        AllFeatures = 0xffff //!< Everything above.
     };
     Q_DECLARE_FLAGS(Features, Feature)
 

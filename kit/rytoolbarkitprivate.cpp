@@ -62,10 +62,7 @@ bool isShownByProgram(const QToolBar *toolBar)
 } // namespace
 
 RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window, bool printProblems)
-    : features(RyToolBarKit::FindActions | RyToolBarKit::FindToolBars | RyToolBarKit::KeepPlaces
-               | RyToolBarKit::KeepVisibility | RyToolBarKit::KeepButtons
-               | RyToolBarKit::AddNewDefaults | RyToolBarKit::FollowOthers
-               | RyToolBarKit::StoreChanges)
+    : features(RyToolBarKit::AllFeatures)
     , customizeAction(new QAction(RyToolBarKit::tr("Customize Toolbars…"), kit))
     , m_kit(kit)
     , m_window(window)

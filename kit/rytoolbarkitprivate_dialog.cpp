@@ -2,6 +2,7 @@
 
 #include "rytoolbarkitprivate.h"
 
+#include "dialogdressing.h"
 #include "toolbarplaces.h"
 
 #include <RyCToolBarWidget>
@@ -43,6 +44,7 @@ void RyToolBarKitPrivate::customize()
     m_rowsInDialog = page->findChild<QListWidget *>(QStringLiteral("currentToolBarList"));
     connect(m_rowsInDialog->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), this,
             SLOT(markRequired(QModelIndex, int, int)));
+    new DialogDressing(dialog, features);
     Q_EMIT m_kit->aboutToCustomize(dialog);
     dialog->show();
 }

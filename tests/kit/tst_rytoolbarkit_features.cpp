@@ -50,7 +50,7 @@ void tst_RyToolBarKit_features::everythingIsOnByDefault()
 {
     KitProgram program;
     program.start();
-    QCOMPARE(int(program.kit()->features()), 0xff);
+    QCOMPARE(int(program.kit()->features()), 0xffff);
 }
 
 void tst_RyToolBarKit_features::withoutFindActionsOnlyThoseOfToolBarsAreOffered()
