@@ -14,12 +14,17 @@ const char WindowToolBars = '\xfc'; // in the bytes of a window
 const qint32 MostItems = 1000;
 const int LargestWindowState = 100000; // bytes
 
+bool isCount(qint32 number)
+{
+    return number >= 0 && number <= MostItems;
+}
+
 bool readSection(QDataStream &stream, bool custom, QList<FormerLayout::ToolBar> *toolBars)
 {
     quint8 marker = 0;
     qint32 count = 0;
     stream >> marker >> count;
-    if (marker != (custom ? CustomToolBars : DefaultToolBars) || count < 0 || count > MostItems)
+    if (marker != (custom ? CustomToolBars : DefaultToolBars) || !isCount(count))
         return false;
     for (qint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
         FormerLayout::ToolBar toolBar;
@@ -29,7 +34,7 @@ bool readSection(QDataStream &stream, bool custom, QList<FormerLayout::ToolBar> 
             stream >> toolBar.title;
         qint32 entryCount = 0;
         stream >> entryCount;
-        if (entryCount > MostItems)
+        if (!isCount(entryCount))
             return false;
         for (qint32 j = 0; j < entryCount && stream.status() == QDataStream::Ok; ++j) {
             QString entry;
@@ -85,7 +90,7 @@ bool FormerLayout::readPlaces(QDataStream &stream)
 {
     qint32 lineCount = 0;
     stream >> lineCount;
-    if (lineCount < 0 || lineCount > MostItems)
+    if (!isCount(lineCount))
         return false;
     for (qint32 i = 0; i < lineCount; ++i) {
         if (!readLine(stream))
@@ -100,7 +105,7 @@ bool FormerLayout::readLine(QDataStream &stream)
     qint32 area = 0;
     qint32 count = 0;
     stream >> area >> count;
-    if (area < 0 || area > 3 || count < 0 || count > MostItems)
+    if (area < 0 || area > 3 || !isCount(count))
         return false;
     QStringList line;
     for (qint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {

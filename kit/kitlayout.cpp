@@ -92,6 +92,31 @@ KitToolBar toolBarOf(const QJsonObject &object)
     return toolBar;
 }
 
+// The members of a JSON object as text, by their keys in UTF-8. Qt sorts the keys of an object that
+// it has read like this, but those of one that was built by UTF-16.
+using Members = QMap<QByteArray, QByteArray>;
+
+QByteArray memberOf(const QString &key, const QJsonValue &value)
+{
+    const QByteArray built =
+        QJsonDocument(QJsonObject{{key, value}}).toJson(QJsonDocument::Compact);
+    const QByteArray read = QJsonDocument::fromJson(built).toJson(QJsonDocument::Compact);
+    return read.mid(1, read.size() - 2);
+}
+
+Members membersOf(const QJsonObject &object)
+{
+    Members members;
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it)
+        members.insert(it.key().toUtf8(), memberOf(it.key(), it.value()));
+    return members;
+}
+
+QByteArray joined(const Members &members)
+{
+    return '{' + QList<QByteArray>(members.values()).join(',') + '}';
+}
+
 QStringList areaNames()
 {
     return {QStringLiteral("bottom"), QStringLiteral("left"), QStringLiteral("right"),
@@ -194,32 +219,32 @@ bool KitLayout::isDefault() const
     return places.isEmpty();
 }
 
-QJsonObject KitLayout::toObject() const
+QByteArray KitLayout::layoutJson() const
 {
-    QJsonObject toolBarObjects;
+    Members members;
     for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it) {
         Written &written = m_written[it.key()];
         if (!(written.toolBar == it.value()))
-            written = {it.value(), objectOf(it.value())};
-        if (!written.object.isEmpty())
-            toolBarObjects.insert(it.key(), written.object);
+            written = {it.value(), memberOf(it.key(), objectOf(it.value()))};
+        if (!it->isDefault() || !it->others.isEmpty())
+            members.insert(it.key().toUtf8(), written.member);
     }
-    QJsonObject layout = m_layoutOthers;
-    layout.insert(QStringLiteral("toolBars"), toolBarObjects);
+    Members all = membersOf(m_layoutOthers);
+    all.insert("toolBars", "\"toolBars\":" + joined(members));
     if (!places.isEmpty())
-        layout.insert(QStringLiteral("places"), objectOf(places));
-    return layout;
+        all.insert("places", memberOf(QStringLiteral("places"), objectOf(places)));
+    return joined(all);
 }
 
 QByteArray KitLayout::toJson() const
 {
-    const QByteArray layout = QJsonDocument(toObject()).toJson(QJsonDocument::Compact);
-    QJsonObject value = m_others;
-    value.insert(QStringLiteral("checksum"), QString::fromLatin1(checksum(layout)));
-    value.insert(QStringLiteral("format"), Format);
-    QByteArray json = QJsonDocument(value).toJson(QJsonDocument::Compact);
-    json.chop(1);
-    return json + ",\"layout\":" + layout + '}';
+    const QByteArray layout = layoutJson();
+    QJsonObject others = m_others;
+    others.insert(QStringLiteral("checksum"), QString::fromLatin1(checksum(layout)));
+    others.insert(QStringLiteral("format"), Format);
+    Members all = membersOf(others);
+    all.insert("layout", "\"layout\":" + layout);
+    return joined(all);
 }
 
 KitLayout KitLayout::fromJson(const QByteArray &json, QString *reason)

@@ -82,15 +82,15 @@ public:
     KitPlaces places;
 
 private:
-    QJsonObject toObject() const;
+    QByteArray layoutJson() const;
     void read(const QJsonObject &object);
 
     struct Written
     {
         KitToolBar toolBar;
-        QJsonObject object;
+        QByteArray member;
     };
-    // What toObject() has made of the toolbars, of which few change in between.
+    // What layoutJson() has made of the toolbars, of which few change in between.
     mutable QHash<QString, Written> m_written;
     // Keys of a later version, in the value and in its layout.
     QJsonObject m_others;
