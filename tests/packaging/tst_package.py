@@ -47,7 +47,7 @@ OTHER = FLAVOURS['6' if QT == '5' else '5']
 NAME = TESTED.name
 KIT = TESTED.kit
 HOST_DIR = SOURCE_DIR / 'tests' / 'packaging' / 'host'
-EXAMPLES = ('dressed', 'minimal', 'plugins', 'texteditor', 'tree')
+EXAMPLES = ('minimal', 'plugins', 'texteditor', 'tree')
 
 CLASSES = (
     'RyAbstatcManager',
