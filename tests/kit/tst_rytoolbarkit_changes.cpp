@@ -44,6 +44,7 @@ private Q_SLOTS:
     void widgetsWithTheSameNameAreAllKept_data();
     void widgetsWithTheSameNameAreAllKept();
     void restoreDefaultsKnowsWhatTheProgramAdded();
+    void restoreDefaultsThatWasCancelledIsForgotten();
     void theWindowMayBeDeletedAtAnyTime_data();
     void theWindowMayBeDeletedAtAnyTime();
     void theKitMayBeDeleted();
@@ -551,6 +552,20 @@ void tst_RyToolBarKit_changes::restoreDefaultsKnowsWhatTheProgramAdded()
     QCOMPARE(program.content("file"), QString("new open save extra"));
     QVERIFY(program.kit()->isDefault());
     program.edit("file", "new open save"); // what the manager takes for the default
+    QCOMPARE(program.content("file"), QString("new open save"));
+}
+
+void tst_RyToolBarKit_changes::restoreDefaultsThatWasCancelledIsForgotten()
+{
+    KitProgram program;
+    program.start();
+    program.toolBar("file")->addAction(addAction(program.window(), "extra"));
+    letTheKitFollow();
+    program.edit("file", "new open save");
+    RyCustomizedDialog *const dialog = program.openDialog();
+    QTest::mouseClick(dialog->RestoreDefaultButton(), Qt::LeftButton);
+    dialog->reject();
+    QTest::mouseClick(program.openDialog()->okButton(), Qt::LeftButton);
     QCOMPARE(program.content("file"), QString("new open save"));
 }
 
