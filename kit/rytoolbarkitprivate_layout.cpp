@@ -4,6 +4,7 @@
 
 #include "formerlayout.h"
 #include "mergedentries.h"
+#include "toolbarlooks.h"
 #include "toolbarplaces.h"
 
 #include <QAction>
@@ -227,7 +228,7 @@ void RyToolBarKitPrivate::nameCustomToolBar(QToolBar *toolBar, const QString &na
     m_customToolBars.append(toolBar);
     toolBar->setMovable(isAnyMovable());
     watchToolBar(toolBar);
-    applyLock();
+    m_looks->setLocked(toolBar, m_layout.locked && (features & RyToolBarKit::ToolBarMenus));
 }
 
 void RyToolBarKitPrivate::followFormerNames()

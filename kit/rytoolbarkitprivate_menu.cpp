@@ -55,10 +55,9 @@ bool RyToolBarKitPrivate::isAnyMovable() const
 
 void RyToolBarKitPrivate::setLocked(bool locked)
 {
-    if (!manager)
-        return;
     m_layout.locked = locked;
-    applyLock();
+    if (manager)
+        applyLock();
     m_storeTimer.start();
 }
 
