@@ -13,6 +13,8 @@ const int Format = 1;
 const int LargestValue = 1000000;
 const int MostToolBars = 1000;
 const int MostEntries = 1000;
+const int SmallestIcon = 8;
+const int LargestIcon = 128;
 
 // Of a layout as compact JSON.
 QByteArray checksum(const QByteArray &layout)
@@ -55,8 +57,46 @@ QJsonObject without(QJsonObject object, const QStringList &keys)
 
 QStringList toolBarKeys()
 {
-    return {QStringLiteral("entries"), QStringLiteral("known"), QStringLiteral("shown"),
-            QStringLiteral("shownByProgram"), QStringLiteral("title")};
+    return {QStringLiteral("entries"),
+            QStringLiteral("iconSize"),
+            QStringLiteral("iconSizeByProgram"),
+            QStringLiteral("known"),
+            QStringLiteral("shown"),
+            QStringLiteral("shownByProgram"),
+            QStringLiteral("textPosition"),
+            QStringLiteral("textPositionByProgram"),
+            QStringLiteral("title")};
+}
+
+void write(const KitLook &look, QJsonObject *object)
+{
+    if (look.iconSize != 0) {
+        object->insert(QStringLiteral("iconSize"), look.iconSize);
+        object->insert(QStringLiteral("iconSizeByProgram"), look.iconSizeByProgram);
+    }
+    if (!look.textPosition.isEmpty()) {
+        object->insert(QStringLiteral("textPosition"), look.textPosition);
+        object->insert(QStringLiteral("textPositionByProgram"), look.textPositionByProgram);
+    }
+}
+
+KitLook lookOf(const QJsonObject &object)
+{
+    const QStringList positions = {QStringLiteral("icons"), QStringLiteral("text"),
+                                   QStringLiteral("beside"), QStringLiteral("under")};
+    KitLook look;
+    const int iconSize = object.value(QStringLiteral("iconSize")).toInt();
+    if (iconSize >= SmallestIcon && iconSize <= LargestIcon) {
+        look.iconSize = iconSize;
+        look.iconSizeByProgram = object.value(QStringLiteral("iconSizeByProgram")).toInt();
+    }
+    const QString position = object.value(QStringLiteral("textPosition")).toString();
+    if (positions.contains(position)) {
+        look.textPosition = position;
+        look.textPositionByProgram =
+            object.value(QStringLiteral("textPositionByProgram")).toString(positions.first());
+    }
+    return look;
 }
 
 QJsonObject objectOf(const KitToolBar &toolBar)
@@ -72,6 +112,7 @@ QJsonObject objectOf(const KitToolBar &toolBar)
         object.insert(QStringLiteral("shown"), toolBar.visibility == KitToolBar::Shown);
         object.insert(QStringLiteral("shownByProgram"), toolBar.shownByProgram);
     }
+    write(toolBar.look, &object);
     return object;
 }
 
@@ -88,6 +129,7 @@ KitToolBar toolBarOf(const QJsonObject &object)
             object.value(QStringLiteral("shown")).toBool() ? KitToolBar::Shown : KitToolBar::Hidden;
     }
     toolBar.shownByProgram = object.value(QStringLiteral("shownByProgram")).toBool(true);
+    toolBar.look = lookOf(object);
     toolBar.others = without(object, toolBarKeys());
     return toolBar;
 }
@@ -203,11 +245,17 @@ bool operator==(const KitPlaces &a, const KitPlaces &b)
     return a.lines == b.lines && a.floating == b.floating;
 }
 
+bool operator==(const KitLook &a, const KitLook &b)
+{
+    return a.iconSize == b.iconSize && a.iconSizeByProgram == b.iconSizeByProgram
+        && a.textPosition == b.textPosition && a.textPositionByProgram == b.textPositionByProgram;
+}
+
 bool operator==(const KitToolBar &a, const KitToolBar &b)
 {
     return a.title == b.title && a.custom == b.custom && a.customized == b.customized
         && a.entries == b.entries && a.known == b.known && a.visibility == b.visibility
-        && a.shownByProgram == b.shownByProgram && a.others == b.others;
+        && a.shownByProgram == b.shownByProgram && a.look == b.look && a.others == b.others;
 }
 
 bool KitLayout::isDefault() const
@@ -216,7 +264,7 @@ bool KitLayout::isDefault() const
         if (!toolBar.isDefault())
             return false;
     }
-    return places.isEmpty();
+    return places.isEmpty() && !locked;
 }
 
 QByteArray KitLayout::layoutJson() const
@@ -233,6 +281,8 @@ QByteArray KitLayout::layoutJson() const
     all.insert("toolBars", "\"toolBars\":" + joined(members));
     if (!places.isEmpty())
         all.insert("places", memberOf(QStringLiteral("places"), objectOf(places)));
+    if (locked)
+        all.insert("locked", memberOf(QStringLiteral("locked"), true));
     return joined(all);
 }
 
@@ -266,9 +316,11 @@ void KitLayout::read(const QJsonObject &object)
     m_others = without(
         object, {QStringLiteral("checksum"), QStringLiteral("format"), QStringLiteral("layout")});
     const QJsonObject layout = object.value(QStringLiteral("layout")).toObject();
-    m_layoutOthers = without(layout, {QStringLiteral("toolBars"), QStringLiteral("places")});
+    m_layoutOthers = without(
+        layout, {QStringLiteral("toolBars"), QStringLiteral("places"), QStringLiteral("locked")});
     const QJsonObject toolBarObjects = layout.value(QStringLiteral("toolBars")).toObject();
     for (auto it = toolBarObjects.constBegin(); it != toolBarObjects.constEnd(); ++it)
         toolBars.insert(it.key(), toolBarOf(it.value().toObject()));
     places = placesOf(layout.value(QStringLiteral("places")).toObject());
+    locked = layout.value(QStringLiteral("locked")).toBool();
 }

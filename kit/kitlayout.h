@@ -26,13 +26,35 @@ struct KitPlaces
 bool operator==(const KitPlaces &a, const KitPlaces &b);
 
 /*!
+ * \brief How the user wants the buttons of a toolbar to look, and what the program had then.
+ */
+struct KitLook
+{
+    bool isDefault() const { return iconSize == 0 && textPosition.isEmpty(); }
+
+    // In pixels; 0 if it is as the program has it.
+    int iconSize = 0;
+    // 0 if it was that of the style.
+    int iconSizeByProgram = 0;
+    // "icons", "text", "beside" or "under"; empty if it is as the program has it.
+    QString textPosition;
+    // One of those, or "style".
+    QString textPositionByProgram;
+};
+
+bool operator==(const KitLook &a, const KitLook &b);
+
+/*!
  * \brief What the user has made of one toolbar.
  */
 struct KitToolBar
 {
     enum Visibility { AsProgrammed, Shown, Hidden };
 
-    bool isDefault() const { return !custom && !customized && visibility == AsProgrammed; }
+    bool isDefault() const
+    {
+        return !custom && !customized && visibility == AsProgrammed && look.isDefault();
+    }
 
     // The title of a custom toolbar.
     QString title;
@@ -46,6 +68,7 @@ struct KitToolBar
     Visibility visibility = AsProgrammed;
     // What the program had chosen when the user chose the visibility.
     bool shownByProgram = true;
+    KitLook look;
     // Keys of a later version.
     QJsonObject others;
 };
@@ -80,6 +103,8 @@ public:
     QMap<QString, KitToolBar> toolBars;
     // Empty if the toolbars are where the program has them.
     KitPlaces places;
+    // Whether the user has made all toolbars immovable.
+    bool locked = false;
 
 private:
     QByteArray layoutJson() const;

@@ -66,10 +66,26 @@ class RyToolBarManager;
  * - A toolbar that the program shows or hides itself: only a choice that the user makes with
  *   QToolBar::toggleViewAction() is kept, and only as long as the program starts with the same
  *   visibility as then.
- * - The geometry of the window, dock widgets, context menus, and whether toolbars can be moved.
+ * - The geometry of the window, and dock widgets.
  * - Properties that the program has set for a toolbar's buttons, such as the popup mode: they are
  *   put back after the content of the toolbar has changed.
  * - QMainWindow::saveState() and restoreState() of the program.
+ *
+ * \par The menu of the toolbars
+ * A right click on a toolbar, or the Menu key on one of its buttons, shows the menu of
+ * QMainWindow::createPopupMenu(), and below it what the user can do with the toolbar: choose an
+ * icon size and a text position, lock the toolbars, remove the button, reset the toolbar, and open
+ * the dialog. A floating toolbar has it too. The program comes first:
+ * - If it takes the event, or the toolbar or the window has another contextMenuPolicy() than
+ *   Qt::DefaultContextMenu, the kit adds nothing.
+ * - If it reimplements createPopupMenu() and the menu differs from that of QMainWindow, everything
+ *   is in a submenu "Toolbars". So it is in any other menu for the event that has the attribute
+ *   Qt::WA_DeleteOnClose. If createPopupMenu() makes no menu or an empty one, there is none.
+ * - A toolbar follows QMainWindow::setIconSize() and setToolButtonStyle() until the user chooses
+ *   something else. What the program sets for a toolbar later wins, and a choice holds only as long
+ *   as the program starts with what it had then.
+ * - The lock makes all toolbars immovable, without those that setExcluded() names. There is none if
+ *   the program has made all of them immovable, and it ends when the program makes one movable.
  *
  * \par Storage
  * The layout is one value of QSettings: a text in JSON with a checksum. It is written when the user
@@ -110,7 +126,7 @@ public:
         ReadableLists = 0x400, //!< Shows texts in the dialog as menus do, and explains rows.
         ProtectEdits = 0x800, //!< Asks before edits in the dialog are lost, and finishes names.
         KeepSteps = 0x1000, //!< Keeps the last layouts for undoAction() and redoAction().
-        ToolBarMenus = 0x2000, //!< Gives toolbars a context menu.
+        ToolBarMenus = 0x2000, //!< Adds what users can do with a toolbar to its context menu.
         DialogKeys = 0x4000, //!< Adds keys to the dialog, and names for screen readers.
         UserGuide = 0x8000, //!< Opens the user guide as the dialog's help.
         AllFeatures = 0xffff //!< Everything above.

@@ -4,6 +4,8 @@
 
 #include "menuactions.h"
 #include "mergedentries.h"
+#include "toolbarlooks.h"
+#include "toolbarmenu.h"
 #include "toolbarplaces.h"
 
 #include <QAction>
@@ -68,6 +70,8 @@ RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window,
     , m_window(window)
     , m_printProblems(printProblems)
     , m_menus(nullptr)
+    , m_looks(nullptr)
+    , m_toolBarMenu(nullptr)
     , m_actionNames(window)
     , m_toolBarNames(window)
     , m_isRestored(false)
@@ -85,6 +89,9 @@ RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window,
         return;
     m_menus = new MenuActions(window, this);
     connect(m_menus, SIGNAL(changed()), &m_updateTimer, SLOT(start()));
+    m_looks = new ToolBarLooks(window, this);
+    connect(m_looks, SIGNAL(unlockedByProgram()), this, SLOT(unlock()));
+    m_toolBarMenu = new ToolBarMenu(window, this);
     connect(qApp, SIGNAL(aboutToQuit()), this, SLOT(storeNow()));
     window->installEventFilter(this);
     if (window->isVisible())
@@ -213,6 +220,9 @@ void RyToolBarKitPrivate::findToolBars()
         for (QToolBar *toolBar : toolBars)
             applyVisibility(toolBar);
         applyPlaces();
+        for (QToolBar *toolBar : added)
+            applyLook(toolBar);
+        applyLock();
     }
 }
 
@@ -339,6 +349,8 @@ void RyToolBarKitPrivate::prepareAction(QToolBar *toolBar, QAction *action)
 
 void RyToolBarKitPrivate::watchToolBar(QToolBar *toolBar)
 {
+    m_looks->add(toolBar);
+    m_toolBarMenu->watch(toolBar);
     toolBar->installEventFilter(this);
     connect(toolBar, SIGNAL(destroyed(QObject *)), this, SLOT(toolBarDestroyed(QObject *)),
             Qt::UniqueConnection);
@@ -466,6 +478,7 @@ void RyToolBarKitPrivate::toolBarDestroyed(QObject *object)
     m_defaults.remove(object);
     m_takenOff.remove(object);
     m_shownByProgram.remove(object);
+    m_looks->forget(object);
     m_changedToolBars.remove(object);
     m_newButtons.remove(object);
     if (!isManaged(object))

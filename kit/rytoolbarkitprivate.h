@@ -22,6 +22,8 @@ class QAction;
 class QListWidget;
 class QModelIndex;
 class QToolBar;
+class ToolBarLooks;
+class ToolBarMenu;
 
 /*!
  * \brief What the kit knows of one window, and the order in which everything happens.
@@ -48,6 +50,21 @@ public:
     QStringList problems() const;
     void takeOver(const QByteArray &value);
 
+    // For the menu of the toolbars
+    bool hasMenu(const QToolBar *toolBar) const;
+    void followNow();
+    void giveTitles();
+    KitToolBar recordOf(QToolBar *toolBar);
+    void setLook(QToolBar *toolBar, const KitLook &look);
+    bool isLocked() const { return m_layout.locked; }
+    bool isAnyMovable() const;
+    void setLocked(bool locked);
+    bool canRemove(QToolBar *toolBar, int index) const;
+    void removeEntry(QToolBar *toolBar, int index);
+    bool isRequired(const QAction *action) const;
+    bool canReset(QToolBar *toolBar);
+    void resetToolBar(QToolBar *toolBar);
+
     RyToolBarKit::Features features;
     LayoutStore store;
     // Null before everything is found, and after a toolbar of the program was deleted until the
@@ -71,6 +88,8 @@ private Q_SLOTS:
     void toolBarDestroyed(QObject *object);
     void excludedDestroyed(QObject *object);
     void visibilityChosen(bool shown);
+    void unlock();
+    void takeTitlesBack();
 
 private:
     // Finding
@@ -108,7 +127,6 @@ private:
     KitLayout converted(const FormerLayout &former) const;
     void createCustomToolBars();
     void nameCustomToolBar(QToolBar *toolBar, const QString &name);
-    bool isAnyMovable() const;
     void followFormerNames();
     void renameInLayout(const QString &before, const QString &now, bool isToolBar);
     void placeAll();
@@ -117,6 +135,9 @@ private:
     void applyPlaces();
     void applyVisibility(QToolBar *toolBar);
     void undoVisibility(QToolBar *toolBar, const KitToolBar &before);
+    void applyLook(QToolBar *toolBar);
+    void applyLock();
+    void takeLooksBack();
     void bringBackRequired();
     bool storeIfChanged();
     QStringList entriesOf(QToolBar *toolBar) const;
@@ -126,8 +147,6 @@ private:
 
     // The dialog
     void replaceStored();
-    void giveTitles();
-    void takeTitlesBack();
     void adoptCreatedToolBars();
     void takeOffStrangeWidgets();
     void completeReset();
@@ -137,7 +156,10 @@ private:
     // Null if the host passed none. It owns the kit.
     QMainWindow *m_window;
     bool m_printProblems;
+    // These are null without a window.
     MenuActions *m_menus;
+    ToolBarLooks *m_looks;
+    ToolBarMenu *m_toolBarMenu;
     StableNames m_actionNames;
     StableNames m_toolBarNames;
 
@@ -177,8 +199,8 @@ private:
     QListWidget *m_rowsInDialog;
     // Whether Restore Defaults was pressed since the dialog was opened or changes were applied.
     bool m_isReset;
-    // The toolbars without a title that have one while the dialog is open, and the texts of the
-    // actions that show them.
+    // The toolbars without a title that have one while the dialog or a menu is open, and the texts
+    // of the actions that show them.
     QList<QPair<QPointer<QToolBar>, QString>> m_untitled;
     // The names of the actions that the open dialog had when it was opened.
     QSet<QString> m_namesInDialog;

@@ -57,7 +57,7 @@ void RyToolBarKitPrivate::dialogFinished(int result)
     takeTitlesBack();
 }
 
-// The dialog shows toolbars by their titles.
+// The dialog and menus show toolbars by their titles.
 void RyToolBarKitPrivate::giveTitles()
 {
     int number = 0;
@@ -74,6 +74,8 @@ void RyToolBarKitPrivate::giveTitles()
 
 void RyToolBarKitPrivate::takeTitlesBack()
 {
+    if (m_dialog)
+        return;
     const auto untitled = m_untitled;
     m_untitled.clear();
     for (const auto &item : untitled) {
@@ -168,6 +170,7 @@ void RyToolBarKitPrivate::completeReset()
         m_layout.toolBars[m_toolBarNames.nameOf(it.key())].customized = false;
         place(it.key());
     }
+    takeLooksBack();
 }
 
 void RyToolBarKitPrivate::tellOthers()

@@ -4,6 +4,7 @@
 
 #include "formerlayout.h"
 #include "mergedentries.h"
+#include "toolbarlooks.h"
 #include "toolbarplaces.h"
 
 #include <QAction>
@@ -188,7 +189,9 @@ void RyToolBarKitPrivate::restore(const KitLayout &layout)
     for (QToolBar *toolBar : toolBars) {
         undoVisibility(toolBar, before.toolBars.value(m_toolBarNames.nameOf(toolBar)));
         applyVisibility(toolBar);
+        applyLook(toolBar);
     }
+    applyLock();
     collect();
     m_value = m_layout.toJson();
 }
@@ -225,17 +228,7 @@ void RyToolBarKitPrivate::nameCustomToolBar(QToolBar *toolBar, const QString &na
     m_customToolBars.append(toolBar);
     toolBar->setMovable(isAnyMovable());
     watchToolBar(toolBar);
-}
-
-// A program that locks its toolbars locks all of them.
-bool RyToolBarKitPrivate::isAnyMovable() const
-{
-    const auto defaults = manager->defaultToolBars();
-    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
-        if (it.key()->isMovable())
-            return true;
-    }
-    return defaults.isEmpty();
+    m_looks->setLocked(toolBar, m_layout.locked && (features & RyToolBarKit::ToolBarMenus));
 }
 
 void RyToolBarKitPrivate::followFormerNames()

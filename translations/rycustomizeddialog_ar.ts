@@ -225,4 +225,67 @@
         <translation>شريط أدوات %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>أشرطة الأدوات</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>حجم الأيقونات</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>موضع النص</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>أقفل أشرطة الأدوات</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>أعد ضبط شريط الأدوات هذا</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>كما يحدّده البرنامج</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>صغير (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>متوسط (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>كبير (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>كبير جدًا (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>أيقونات فقط</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>نص فقط</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>النص بجانب الأيقونات</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>النص تحت الأيقونات</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>أزل من شريط الأدوات</translation>
+    </message>
+</context>
 </TS>

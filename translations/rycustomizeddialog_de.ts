@@ -225,4 +225,67 @@
         <translation>Werkzeugleiste %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>Werkzeugleisten</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Symbolgröße</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>Textposition</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>Werkzeugleisten sperren</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>Diese Werkzeugleiste zurücksetzen</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>Wie vom Programm vorgegeben</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>Klein (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>Mittel (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>Groß (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>Sehr groß (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>Nur Symbole</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Nur Text</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>Text neben Symbolen</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>Text unter Symbolen</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>Aus der Werkzeugleiste entfernen</translation>
+    </message>
+</context>
 </TS>

@@ -225,4 +225,67 @@
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

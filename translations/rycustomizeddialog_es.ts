@@ -225,4 +225,67 @@
         <translation>Barra de herramientas %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barras de herramientas</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Tamaño de los iconos</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>Posición del texto</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>Bloquear las barras de herramientas</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>Restablecer esta barra de herramientas</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>Como lo tiene el programa</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>Pequeños (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>Medianos (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>Grandes (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>Muy grandes (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>Solo iconos</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Solo texto</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>Texto junto a los iconos</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>Texto debajo de los iconos</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>Quitar de la barra de herramientas</translation>
+    </message>
+</context>
 </TS>

@@ -225,4 +225,67 @@
         <translation>Barre d&apos;outils %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barres d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Taille des icônes</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>Position du texte</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>Verrouiller les barres d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>Réinitialiser cette barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>Selon le programme</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>Petite (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>Moyenne (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>Grande (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>Très grande (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>Icônes seules</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Texte seul</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>Texte à côté des icônes</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>Texte sous les icônes</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>Retirer de la barre d&apos;outils</translation>
+    </message>
+</context>
 </TS>

@@ -225,4 +225,67 @@
         <translation>סרגל כלים %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>סרגלי כלים</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>גודל הסמלים</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>מיקום הטקסט</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>נעל את סרגלי הכלים</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>אפס את סרגל הכלים הזה</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>כפי שנקבע בתוכנה</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>קטן (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>בינוני (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>גדול (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>גדול מאוד (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>סמלים בלבד</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>טקסט בלבד</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>טקסט לצד הסמלים</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>טקסט מתחת לסמלים</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>הסר מסרגל הכלים</translation>
+    </message>
+</context>
 </TS>

@@ -225,4 +225,67 @@
         <translation>Barra degli strumenti %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barre degli strumenti</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Dimensione delle icone</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>Posizione del testo</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>Blocca le barre degli strumenti</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>Ripristina questa barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>Come previsto dal programma</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>Piccole (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>Medie (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>Grandi (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>Molto grandi (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>Solo icone</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Solo testo</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>Testo accanto alle icone</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>Testo sotto le icone</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>Rimuovi dalla barra degli strumenti</translation>
+    </message>
+</context>
 </TS>

@@ -225,4 +225,67 @@
         <translation>ツールバー %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>ツールバー</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>アイコンのサイズ</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>テキストの位置</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>ツールバーを固定</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>このツールバーをリセット</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>プログラムの設定どおり</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>小 (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>中 (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>大 (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>特大 (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>アイコンのみ</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>テキストのみ</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>アイコンの横にテキスト</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>アイコンの下にテキスト</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>ツールバーから削除</translation>
+    </message>
+</context>
 </TS>

@@ -225,4 +225,67 @@
         <translation>도구 모음 %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>도구 모음</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>아이콘 크기</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>텍스트 위치</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>도구 모음 잠그기</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>이 도구 모음 초기화</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>프로그램 설정대로</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>작게 (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>보통 (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>크게 (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>아주 크게 (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>아이콘만</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>텍스트만</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>아이콘 옆에 텍스트</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>아이콘 아래에 텍스트</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>도구 모음에서 제거</translation>
+    </message>
+</context>
 </TS>

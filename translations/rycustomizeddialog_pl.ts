@@ -225,4 +225,67 @@
         <translation>Pasek narzędzi %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>Paski narzędzi</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Rozmiar ikon</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>Położenie tekstu</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>Zablokuj paski narzędzi</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>Przywróć pierwotny stan tego paska narzędzi</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>Zgodnie z programem</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>Małe (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>Średnie (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>Duże (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>Bardzo duże (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>Tylko ikony</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Tylko tekst</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>Tekst obok ikon</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>Tekst pod ikonami</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>Usuń z paska narzędzi</translation>
+    </message>
+</context>
 </TS>

@@ -225,4 +225,67 @@
         <translation>Barra de ferramentas %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>Barras de ferramentas</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Tamanho dos ícones</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>Posição do texto</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>Bloquear as barras de ferramentas</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>Redefinir esta barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>Conforme o programa</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>Pequeno (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>Médio (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>Grande (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>Muito grande (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>Somente ícones</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Somente texto</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>Texto ao lado dos ícones</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>Texto abaixo dos ícones</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>Remover da barra de ferramentas</translation>
+    </message>
+</context>
 </TS>

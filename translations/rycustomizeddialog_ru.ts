@@ -225,4 +225,67 @@
         <translation>Панель инструментов %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>Панели инструментов</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Размер значков</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>Положение текста</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>Закрепить панели инструментов</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>Сбросить эту панель инструментов</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>Как задано программой</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>Маленькие (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>Средние (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>Большие (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>Очень большие (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>Только значки</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Только текст</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>Текст рядом со значками</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>Текст под значками</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>Убрать с панели инструментов</translation>
+    </message>
+</context>
 </TS>

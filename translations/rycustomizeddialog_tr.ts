@@ -225,4 +225,67 @@
         <translation>Araç Çubuğu %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>Araç Çubukları</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Simge boyutu</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>Metin konumu</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>Araç çubuklarını kilitle</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>Bu araç çubuğunu sıfırla</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>Programın belirlediği gibi</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>Küçük (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>Orta (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>Büyük (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>Çok büyük (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>Yalnızca simgeler</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Yalnızca metin</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>Metin simgelerin yanında</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>Metin simgelerin altında</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>Araç çubuğundan kaldır</translation>
+    </message>
+</context>
 </TS>

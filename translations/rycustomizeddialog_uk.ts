@@ -225,4 +225,67 @@
         <translation>Панель інструментів %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>Панелі інструментів</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Розмір значків</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>Розташування тексту</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>Закріпити панелі інструментів</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>Скинути цю панель інструментів</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>Як задано програмою</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>Малі (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>Середні (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>Великі (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>Дуже великі (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>Лише значки</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Лише текст</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>Текст поруч зі значками</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>Текст під значками</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>Прибрати з панелі інструментів</translation>
+    </message>
+</context>
 </TS>

@@ -225,4 +225,67 @@
         <translation>工具栏 %1</translation>
     </message>
 </context>
+<context>
+    <name>ToolBarMenu</name>
+    <message>
+        <source>Toolbars</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>图标大小</translation>
+    </message>
+    <message>
+        <source>Text position</source>
+        <translation>文字位置</translation>
+    </message>
+    <message>
+        <source>Lock toolbars</source>
+        <translation>锁定工具栏</translation>
+    </message>
+    <message>
+        <source>Reset this toolbar</source>
+        <translation>重置此工具栏</translation>
+    </message>
+    <message>
+        <source>As the program has it</source>
+        <translation>由程序决定</translation>
+    </message>
+    <message>
+        <source>Small (%1)</source>
+        <translation>小 (%1)</translation>
+    </message>
+    <message>
+        <source>Medium (%1)</source>
+        <translation>中 (%1)</translation>
+    </message>
+    <message>
+        <source>Large (%1)</source>
+        <translation>大 (%1)</translation>
+    </message>
+    <message>
+        <source>Very large (%1)</source>
+        <translation>特大 (%1)</translation>
+    </message>
+    <message>
+        <source>Icons only</source>
+        <translation>仅图标</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>仅文字</translation>
+    </message>
+    <message>
+        <source>Text beside icons</source>
+        <translation>文字在图标旁</translation>
+    </message>
+    <message>
+        <source>Text under icons</source>
+        <translation>文字在图标下方</translation>
+    </message>
+    <message>
+        <source>Remove from toolbar</source>
+        <translation>从工具栏移除</translation>
+    </message>
+</context>
 </TS>

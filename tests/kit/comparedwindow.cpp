@@ -2,8 +2,11 @@
 
 #include "comparedwindow.h"
 
+#include "openedmenu.h"
+
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QLayout>
 #include <QMenuBar>
 
 namespace {
@@ -26,6 +29,20 @@ void replace(QWidget *widget, QAction *former, QAction *now)
 {
     widget->insertAction(former, now); // at the end if the user has removed it
     widget->removeAction(former);
+}
+
+// What the menus of toolbars call the sizes and positions.
+const QMap<int, QString> Sizes = {{16, "Small (16)"}, {22, "Medium (22)"}, {48, "Very large (48)"}};
+const QMap<QString, QString> Positions = {
+    {"icons", "Icons only"}, {"text", "Text only"}, {"under", "Text under icons"}};
+const QMap<Qt::ToolButtonStyle, QString> Styles = {{Qt::ToolButtonIconOnly, "icons"},
+                                                   {Qt::ToolButtonTextOnly, "text"},
+                                                   {Qt::ToolButtonTextUnderIcon, "under"}};
+
+QString described(int size, const QString &position)
+{
+    return (size == 0 ? QString() : QString(" (%1)").arg(size))
+        + (position.isEmpty() ? QString() : " (" + position + ')');
 }
 
 } // namespace
@@ -56,6 +73,8 @@ void ComparedWindow::end()
 void ComparedWindow::build(QMainWindow *window)
 {
     showNowhere(window);
+    window->resize(1200, 900);
+    window->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     QObject::connect(program.kit(), &RyToolBarKit::aboutToCustomize, showNowhere);
     window->menuBar()->addMenu("Menu")->setObjectName("menu");
     if (m_release.actions.contains(MenuActions.first()))
@@ -188,6 +207,53 @@ void ComparedWindow::hideOrShow(const QString &toolBar)
     model.hide(toolBar, !model.isHidden(toolBar));
 }
 
+// Nothing is chosen where the user cannot click.
+bool ComparedWindow::chooseInMenuOf(const QString &name, QAction *entry, const QString &text)
+{
+    program.window()->layout()->activate();
+    QToolBar *const toolBar = program.toolBar(name);
+    const QWidget *const widget = entry ? toolBar->widgetForAction(entry) : toolBar;
+    const QPoint center = widget->mapTo(program.window(), widget->rect().center());
+    const QWidget *const there = program.window()->childAt(center);
+    if (!widget->isVisible() || (there != toolBar && !toolBar->isAncestorOf(there)))
+        return false;
+    chooseInMenu(toolBar, entry, text);
+    return true;
+}
+
+void ComparedWindow::chooseIconSize(const QString &toolBar, int size)
+{
+    if (chooseInMenuOf(toolBar, nullptr, Sizes.value(size)))
+        model.chooseIconSize(toolBar, size);
+}
+
+void ComparedWindow::chooseTextPosition(const QString &toolBar, const QString &position)
+{
+    if (chooseInMenuOf(toolBar, nullptr, Positions.value(position)))
+        model.chooseTextPosition(toolBar, position);
+}
+
+void ComparedWindow::lockOrUnlock(const QString &toolBar)
+{
+    if (chooseInMenuOf(toolBar, nullptr, "Lock toolbars"))
+        model.lock(!model.isLocked());
+}
+
+void ComparedWindow::removeEntry(const QString &toolBar, int index)
+{
+    QStringList content = model.content(toolBar);
+    content.removeAt(index);
+    if (chooseInMenuOf(toolBar, program.toolBar(toolBar)->actions().at(index),
+                       "Remove from toolbar"))
+        model.edit(toolBar, content);
+}
+
+void ComparedWindow::reset(const QString &toolBar)
+{
+    if (!model.isCustom(toolBar) && chooseInMenuOf(toolBar, nullptr, "Reset this toolbar"))
+        model.reset(toolBar);
+}
+
 QString ComparedWindow::difference()
 {
     const int count = program.window()->findChildren<QToolBar *>().size();
@@ -195,6 +261,11 @@ QString ComparedWindow::difference()
         return "expected " + text() + "\n  but    " + programText();
     if (hasFormerActions())
         return "a toolbar has a former action";
+    const auto toolBars = program.window()->findChildren<QToolBar *>();
+    for (const QToolBar *toolBar : toolBars) {
+        if (toolBar->isMovable() == model.isLocked())
+            return "the lock of " + toolBar->objectName() + " is wrong";
+    }
     if (program.kit()->isDefault() && !model.isDefault())
         return "it is not the default";
     saved = program.kit()->saveLayout();
@@ -207,8 +278,8 @@ QString ComparedWindow::text() const
     QStringList lines;
     const QStringList toolBars = model.toolBars();
     for (const QString &name : toolBars) {
-        lines << name + (model.isHidden(name) ? " (hidden): " : ": ")
-                + model.content(name).join(" ");
+        lines << name + described(model.iconSize(name), model.textPosition(name))
+                + (model.isHidden(name) ? " (hidden): " : ": ") + model.content(name).join(" ");
     }
     return lines.join("; ");
 }
@@ -219,12 +290,21 @@ QString ComparedWindow::programText() const
     const QStringList toolBars = model.toolBars();
     for (const QString &name : toolBars) {
         const QToolBar *const toolBar = program.toolBar(name);
-        lines << name
+        lines << name + (toolBar ? lookOf(toolBar) : QString())
                 + (!toolBar                  ? " is missing"
                        : toolBar->isHidden() ? " (hidden): " + program.content(name)
                                              : ": " + program.content(name));
     }
     return lines.join("; ");
+}
+
+QString ComparedWindow::lookOf(const QToolBar *toolBar) const
+{
+    const QMainWindow *const window = program.window();
+    const int size = toolBar->iconSize().width();
+    const Qt::ToolButtonStyle style = toolBar->toolButtonStyle();
+    return described(size == window->iconSize().width() ? 0 : size,
+                     style == window->toolButtonStyle() ? QString() : Styles.value(style));
 }
 
 bool ComparedWindow::hasFormerActions() const

@@ -34,6 +34,12 @@ public:
     QString create(RyToolBarManager *manager, const QString &title, const QStringList &content);
     void remove(RyToolBarManager *manager, const QString &toolBar);
     void hideOrShow(const QString &toolBar);
+    // In the menu of a toolbar
+    void chooseIconSize(const QString &toolBar, int size);
+    void chooseTextPosition(const QString &toolBar, const QString &position);
+    void lockOrUnlock(const QString &toolBar);
+    void removeEntry(const QString &toolBar, int index);
+    void reset(const QString &toolBar);
 
     // How the window differs from the model, or an empty text.
     QString difference();
@@ -56,6 +62,8 @@ private:
     void addToolBar(QMainWindow *window, const QString &name);
     void setFormerName(const QString &name, QObject *object);
     QString programText() const;
+    bool chooseInMenuOf(const QString &toolBar, QAction *entry, const QString &text);
+    QString lookOf(const QToolBar *toolBar) const;
     bool hasFormerActions() const;
 
     KitModel::Release m_release;

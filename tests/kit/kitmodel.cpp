@@ -206,13 +206,36 @@ void KitModel::restoreDefaults()
         if (isCustom(name))
             remove(name);
         else
-            set(name, m_defaults.value(name));
+            reset(name);
     }
+    m_layout.locked = false;
+}
+
+void KitModel::reset(const QString &toolBar)
+{
+    set(toolBar, m_defaults.value(toolBar));
+    m_layout[toolBar].iconSize = 0;
+    m_layout[toolBar].textPosition.clear();
 }
 
 void KitModel::hide(const QString &toolBar, bool hidden)
 {
     m_layout[toolBar].hidden = hidden;
+}
+
+void KitModel::chooseIconSize(const QString &toolBar, int size)
+{
+    m_layout[toolBar].iconSize = size;
+}
+
+void KitModel::chooseTextPosition(const QString &toolBar, const QString &position)
+{
+    m_layout[toolBar].textPosition = position;
+}
+
+void KitModel::lock(bool locked)
+{
+    m_layout.locked = locked;
 }
 
 QStringList KitModel::content(const QString &toolBar) const
@@ -242,5 +265,5 @@ bool KitModel::isDefault() const
         if (!toolBar.isDefault())
             return false;
     }
-    return true;
+    return !m_layout.locked;
 }

@@ -16,7 +16,10 @@ class KitModel
 public:
     struct ToolBar
     {
-        bool isDefault() const { return !custom && !customized && !hidden; }
+        bool isDefault() const
+        {
+            return !custom && !customized && !hidden && iconSize == 0 && textPosition.isEmpty();
+        }
 
         QString title; // of custom ones only
         bool custom = false;
@@ -24,8 +27,13 @@ public:
         QStringList entries;
         QStringList known;
         bool hidden = false; // by the user
+        int iconSize = 0; // chosen by the user
+        QString textPosition;
     };
-    using Layout = QMap<QString, ToolBar>;
+    struct Layout : QMap<QString, ToolBar>
+    {
+        bool locked = false;
+    };
 
     // What a release or a set of plugins has.
     struct Release
@@ -50,6 +58,10 @@ public:
     void remove(const QString &toolBar);
     void restoreDefaults();
     void hide(const QString &toolBar, bool hidden);
+    void chooseIconSize(const QString &toolBar, int size);
+    void chooseTextPosition(const QString &toolBar, const QString &position);
+    void lock(bool locked);
+    void reset(const QString &toolBar);
 
     // What is on the toolbar now.
     QStringList content(const QString &toolBar) const;
@@ -57,6 +69,12 @@ public:
     QStringList toolBars() const;
     bool isCustom(const QString &toolBar) const { return m_layout.value(toolBar).custom; }
     bool isHidden(const QString &toolBar) const { return m_layout.value(toolBar).hidden; }
+    bool isLocked() const { return m_layout.locked; }
+    int iconSize(const QString &toolBar) const { return m_layout.value(toolBar).iconSize; }
+    QString textPosition(const QString &toolBar) const
+    {
+        return m_layout.value(toolBar).textPosition;
+    }
     bool isDefaultOn(const QString &toolBar, const QString &action) const
     {
         return m_defaults.value(toolBar).contains(action);

@@ -40,6 +40,9 @@ bool KitSequence::run(int steps)
                                     &KitSequence::hideOrShow,
                                     &KitSequence::move,
                                     &KitSequence::move,
+                                    &KitSequence::useMenu,
+                                    &KitSequence::useMenu,
+                                    &KitSequence::useMenu,
                                     &KitSequence::hideForAWhile,
                                     &KitSequence::restart,
                                     &KitSequence::startOtherRelease,
@@ -255,6 +258,29 @@ void KitSequence::move()
     if (m_random.bounded(2) == 0)
         m_window->program.window()->addToolBarBreak(area);
     m_window->program.window()->addToolBar(area, m_window->program.toolBar(toolBar));
+}
+
+// The other windows do not follow.
+void KitSequence::useMenu()
+{
+    const QString toolBar = pick(m_window->model.toolBars());
+    const int size = m_window->model.content(toolBar).size();
+    const int choice = m_random.bounded(5);
+    const int index = m_random.bounded(qMax(1, size));
+    if (toolBar.isEmpty() || (choice == 3 && size == 0))
+        return;
+    m_log << QString("use the menu of %1: %2, %3").arg(toolBar).arg(choice).arg(index);
+    if (choice == 0)
+        m_window->chooseIconSize(toolBar, QList<int>({16, 22, 48}).at(index % 3));
+    else if (choice == 1)
+        m_window->chooseTextPosition(toolBar,
+                                     QStringList({"icons", "text", "under"}).at(index % 3));
+    else if (choice == 2)
+        m_window->lockOrUnlock(toolBar);
+    else if (choice == 3)
+        m_window->removeEntry(toolBar, index);
+    else
+        m_window->reset(toolBar);
 }
 
 // Toolbars are in the same places again, and a start without any change changes nothing.

@@ -29,6 +29,7 @@ private:
     void restoreDefaults();
     void hideOrShow();
     void move();
+    void useMenu();
 
     // What a program does
     void hideForAWhile();

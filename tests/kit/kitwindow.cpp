@@ -74,7 +74,7 @@ void KitProgram::buildDefault(QMainWindow *window)
 void KitProgram::start(const Build &build)
 {
     end();
-    m_window.reset(new QMainWindow);
+    m_window.reset(makeWindow());
     m_window->setObjectName("main");
     m_kit = new RyToolBarKit(m_window.get(), false);
     m_kit->setSettings(settings.get(), key);

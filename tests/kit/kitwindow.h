@@ -64,6 +64,8 @@ public:
     QString stored() const;
     void store(const QString &value);
 
+    // For windows of another class.
+    std::function<QMainWindow *()> makeWindow = [] { return new QMainWindow; };
     QString key = "toolBars";
     QTemporaryDir folder;
     std::unique_ptr<QSettings> settings;

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void everyShorterValueIsRefused();
     void everyChangedByteIsRefusedOrChangesNothing();
     void strangeLayoutsAreReadAsFarAsTheyMakeSense();
+    void strangeLooksAreThoseOfTheProgram_data();
+    void strangeLooksAreThoseOfTheProgram();
 };
 
 namespace {
@@ -45,6 +47,11 @@ KitLayout sample()
     KitToolBar &view = layout.toolBars["view"];
     view.visibility = KitToolBar::Hidden;
     view.shownByProgram = true;
+    view.look.iconSize = 32;
+    view.look.iconSizeByProgram = 24;
+    view.look.textPosition = "under";
+    view.look.textPositionByProgram = "style";
+    layout.locked = true;
     layout.places.lines["top"] = {{"edit", "_Custom_Toolbar_1"}, {"view"}};
     layout.places.floating["view"] = QPoint(-3, 40);
     return layout;
@@ -94,6 +101,8 @@ void tst_KitLayout::aLayoutIsReadAsItWasWritten()
     QVERIFY(!view.customized && !view.custom);
     QCOMPARE(view.visibility, KitToolBar::Hidden);
     QVERIFY(view.shownByProgram);
+    QVERIFY(view.look == sample().toolBars.value("view").look);
+    QVERIFY(layout.locked);
     QVERIFY(layout.places == sample().places);
     QCOMPARE(layout.toJson(), sample().toJson());
 }
@@ -101,10 +110,11 @@ void tst_KitLayout::aLayoutIsReadAsItWasWritten()
 void tst_KitLayout::aLayoutIsWrittenAsByTheFirstVersion()
 {
     const QByteArray value =
-        R"({"checksum":"CHECKSUM","format":1,"layout":{"places":{"floating":{"view":[-3,40]},)"
+        R"({"checksum":"CHECKSUM","format":1,"layout":{"locked":true,"places":{"floating":{"view":[-3,40]},)"
         R"("top":[["edit","_Custom_Toolbar_1"],["view"]]},"toolBars":{"_Custom_Toolbar_1":)"
         R"({"entries":["open"],"title":"Mine – “ü”"},"edit":{"entries":["cut",null,"copy"],)"
-        R"("known":["copy","cut","paste"]},"view":{"shown":false,"shownByProgram":true}}}})";
+        R"("known":["copy","cut","paste"]},"view":{"iconSize":32,"iconSizeByProgram":24,"shown":false,)"
+        R"("shownByProgram":true,"textPosition":"under","textPositionByProgram":"style"}}}})";
     QByteArray expected = value;
     expected.replace("CHECKSUM", "");
     QByteArray actual = sample().toJson();
@@ -130,6 +140,9 @@ void tst_KitLayout::eachPartMakesItDifferentFromTheDefault_data()
     QTest::newRow("custom") << QByteArray(R"({"toolBars":{"a":{"title":""}}})");
     QTest::newRow("hidden") << QByteArray(R"({"toolBars":{"a":{"shown":false}}})");
     QTest::newRow("shown") << QByteArray(R"({"toolBars":{"a":{"shown":true}}})");
+    QTest::newRow("icon size") << QByteArray(R"({"toolBars":{"a":{"iconSize":22}}})");
+    QTest::newRow("text position") << QByteArray(R"({"toolBars":{"a":{"textPosition":"text"}}})");
+    QTest::newRow("locked") << QByteArray(R"({"locked":true})");
     QTest::newRow("lines") << QByteArray(R"({"places":{"top":[["a"]]}})");
     QTest::newRow("floating") << QByteArray(R"({"places":{"floating":{"a":[1,2]}}})");
 }
@@ -259,6 +272,42 @@ void tst_KitLayout::strangeLayoutsAreReadAsFarAsTheyMakeSense()
     QCOMPARE(read.places.lines.keys(), QStringList({"top"}));
     QCOMPARE(read.places.lines.value("top"), QList<QStringList>({{"a"}}));
     QCOMPARE(read.places.floating.value("a", QPoint(1, 1)), QPoint(0, 0));
+}
+
+void tst_KitLayout::strangeLooksAreThoseOfTheProgram_data()
+{
+    QTest::addColumn<QByteArray>("keys");
+    QTest::addColumn<QByteArray>("written");
+    const auto row = [](const char *name, const QByteArray &keys, const QByteArray &written) {
+        QTest::newRow(name) << keys << written;
+    };
+    row("no size", R"("iconSize":0)", "");
+    row("a negative size", R"("iconSize":-16)", "");
+    row("too small", R"("iconSize":7)", "");
+    row("too large", R"("iconSize":129)", "");
+    row("far too large", R"("iconSize":1e99)", "");
+    row("half a pixel", R"("iconSize":16.5)", "");
+    row("a size as text", R"("iconSize":"16")", "");
+    row("smallest", R"("iconSize":8)", R"("iconSize":8,"iconSizeByProgram":0)");
+    row("largest", R"("iconSize":128,"iconSizeByProgram":"x")",
+        R"("iconSize":128,"iconSizeByProgram":0)");
+    row("another position", R"("textPosition":"over")", "");
+    row("a position as number", R"("textPosition":1)", "");
+    row("that of the style", R"("textPosition":"style")", "");
+    row("no position of the program", R"("textPosition":"beside","textPositionByProgram":3)",
+        R"("textPosition":"beside","textPositionByProgram":"icons")");
+    row("of the program alone", R"("iconSizeByProgram":8,"textPositionByProgram":"text")", "");
+}
+
+void tst_KitLayout::strangeLooksAreThoseOfTheProgram()
+{
+    QFETCH(QByteArray, keys);
+    QFETCH(QByteArray, written);
+    const QByteArray again = rewritten(sealed(R"({"toolBars":{"a":{)" + keys + "}}}"));
+    const QByteArray expected =
+        written.isEmpty() ? R"({"toolBars":{}})" : R"({"toolBars":{"a":{)" + written + "}}}";
+    QCOMPARE(QJsonDocument::fromJson(again).object().value("layout").toObject(),
+             QJsonDocument::fromJson(expected).object());
 }
 
 QTEST_MAIN(tst_KitLayout)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "kitwindow.h"
+#include "openedmenu.h"
 #include "testcase.h"
 
 #include <QMenuBar>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void withoutFollowOthersWindowsStayAsTheyAre_data();
     void withoutFollowOthersWindowsStayAsTheyAre();
     void withoutStoreChangesTheValueIsOnlyRead();
+    void withoutToolBarMenusTheyHaveThatOfQt();
 };
 
 namespace {
@@ -157,6 +159,14 @@ void tst_RyToolBarKit_features::withoutStoreChangesTheValueIsOnlyRead()
     QCOMPARE(program.layoutChanges, 2);
     program.end();
     QCOMPARE(program.stored(), stored);
+}
+
+void tst_RyToolBarKit_features::withoutToolBarMenusTheyHaveThatOfQt()
+{
+    KitProgram program;
+    startWithout(&program, RyToolBarKit::ToolBarMenus);
+    const OpenedMenu menu(program.toolBar("file"), program.action("open"));
+    QCOMPARE(menu.texts(), QStringList({"[x] File", "[x] Edit"}));
 }
 
 QTEST_MAIN(tst_RyToolBarKit_features)

@@ -43,11 +43,11 @@ quint8 buttonNumber(Qt::MouseButton button)
 quint32 symbolOf(Qt::Key key)
 {
     static const QHash<int, quint32> symbols = {
-        {Qt::Key_Backspace, 0xff08}, {Qt::Key_Tab, 0xff09},   {Qt::Key_Return, 0xff0d},
-        {Qt::Key_Escape, 0xff1b},    {Qt::Key_Home, 0xff50},  {Qt::Key_Left, 0xff51},
-        {Qt::Key_Up, 0xff52},        {Qt::Key_Right, 0xff53}, {Qt::Key_Down, 0xff54},
-        {Qt::Key_End, 0xff57},       {Qt::Key_F2, 0xffbf},    {Qt::Key_Shift, 0xffe1},
-        {Qt::Key_Control, 0xffe3},   {Qt::Key_Delete, 0xffff}};
+        {Qt::Key_Backspace, 0xff08}, {Qt::Key_Tab, 0xff09},     {Qt::Key_Return, 0xff0d},
+        {Qt::Key_Escape, 0xff1b},    {Qt::Key_Home, 0xff50},    {Qt::Key_Left, 0xff51},
+        {Qt::Key_Up, 0xff52},        {Qt::Key_Right, 0xff53},   {Qt::Key_Down, 0xff54},
+        {Qt::Key_End, 0xff57},       {Qt::Key_Menu, 0xff67},    {Qt::Key_F2, 0xffbf},
+        {Qt::Key_Shift, 0xffe1},     {Qt::Key_Control, 0xffe3}, {Qt::Key_Delete, 0xffff}};
     // Qt and X both number the other characters of Latin 1 by their code, letters as capitals in
     // Qt.
     const int code = key >= Qt::Key_A && key <= Qt::Key_Z ? key - Qt::Key_A + 'a' : int(key);

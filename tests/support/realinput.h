@@ -31,7 +31,8 @@ public:
     void click(Qt::MouseButton button = Qt::LeftButton);
     void doubleClick(Qt::MouseButton button = Qt::LeftButton);
 
-    // Qt::Key_Control, Shift, Escape, Return, Tab, F2, the arrows and the characters of Latin 1.
+    // Qt::Key_Control, Shift, Escape, Return, Tab, Menu, F2, the arrows and the characters of
+    // Latin 1.
     void pressKey(Qt::Key key);
     void releaseKey(Qt::Key key);
     void clickKey(Qt::Key key);

@@ -7,7 +7,10 @@
 #include "translateddialog.h"
 #include "translationfile.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QDir>
+#include <QMenu>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -64,16 +67,39 @@ QString described(const TranslationFile::Message &message)
     return QString("%1: %2 = %3").arg(message.context, message.source, message.translation);
 }
 
+// Its menu makes that of its toolbars a submenu.
+class WindowWithMenu : public QMainWindow
+{
+public:
+    QMenu *createPopupMenu() override
+    {
+        QMenu *const menu = new QMenu(this);
+        menu->addAction("?2");
+        return menu;
+    }
+};
+
+void openMenu(QToolBar *toolBar)
+{
+    QWidget *const button = toolBar->widgetForAction(toolBar->actions().constLast());
+    const QPoint center = button->rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, center, button->mapToGlobal(center));
+    QCoreApplication::sendEvent(button, &event);
+    QVERIFY(QApplication::activePopupWidget());
+    QApplication::activePopupWidget()->close();
+}
+
 // A user of the kit comes to all of its texts.
 void customizeWithKit()
 {
-    QMainWindow window;
+    WindowWithMenu window;
     QToolBar *const withoutTitle = window.addToolBar(QString());
     withoutTitle->addWidget(new QWidget);
     RyToolBarKit kit(&window, false);
     kit.setSettings(nullptr, QString());
     kit.setRequired(withoutTitle->addAction("?1"));
-    kit.restoreNow();
+    window.show();
+    openMenu(withoutTitle);
     kit.customizeAction()->trigger();
     const QScopedPointer<RyCustomizedDialog> dialog(window.findChild<RyCustomizedDialog *>());
     EditorViews(dialog.data()).toolBarList->setCurrentRow(0);

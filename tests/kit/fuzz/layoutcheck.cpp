@@ -43,7 +43,8 @@ QString LayoutHost::content() const
             continue;
         stream << window.toolBarArea(toolBar) << window.toolBarBreak(toolBar)
                << toolBar->isFloating() << toolBar->testAttribute(Qt::WA_WState_ExplicitShowHide)
-               << toolBar->objectName() << toolBar->windowTitle() << ':';
+               << toolBar->iconSize().width() << ' ' << toolBar->toolButtonStyle()
+               << toolBar->isMovable() << toolBar->objectName() << toolBar->windowTitle() << ':';
         const auto actions = toolBar->actions();
         for (const QAction *action : actions)
             stream << (action->isSeparator() ? QString("|") : action->objectName()) << ' ';
