@@ -49,6 +49,12 @@ public:
     void write(const QByteArray &value);
 
     /*!
+     * \brief Returns the steps that belong to the value.
+     */
+    QByteArray steps() const;
+    void writeSteps(const QByteArray &steps);
+
+    /*!
      * \brief Has the settings write now what was stored.
      */
     void sync();
@@ -56,6 +62,7 @@ public:
 private:
     QByteArray read(const QString &key) const;
     QString copyKey() const { return m_key + QLatin1String(".format1"); }
+    QString stepsKey() const { return m_key + QLatin1String(".steps"); }
 
     QScopedPointer<QSettings> m_own;
     QPointer<QSettings> m_settings;

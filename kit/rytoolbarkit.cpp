@@ -42,6 +42,16 @@ QAction *RyToolBarKit::customizeAction()
     return d->customizeAction;
 }
 
+QAction *RyToolBarKit::undoAction()
+{
+    return d->undoAction;
+}
+
+QAction *RyToolBarKit::redoAction()
+{
+    return d->redoAction;
+}
+
 RyToolBarManager *RyToolBarKit::manager()
 {
     return d->manager;

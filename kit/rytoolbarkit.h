@@ -80,11 +80,19 @@ class RyToolBarManager;
  * the value may be bytes of RyToolBarManager::saveState() or QMainWindow::saveState() that the
  * program stored before.
  *
+ * \par Steps
+ * Each OK, Apply or restored layout, and each time that toolbars were moved, shown or hidden, is a
+ * step that the user can undo: the last twenty, also after a restart. A step has only what it has
+ * changed. What the program changes is no step, and neither is the first layout of a window. Steps
+ * are stored with ".steps" after the key when the user presses OK or Apply, undoes or redoes
+ * something, and when the window is closed or the program quits. Those that are damaged are
+ * forgotten without a signal.
+ *
  * \par Limits
  * The gap that a user leaves in front of a toolbar is not kept.
  *
- * All windows whose kits have the same settings and key get the layout of the one in which the user
- * presses OK or Apply.
+ * All windows whose kits have the same settings and key get the layout, and the steps, of the one
+ * in which the user presses OK or Apply, undoes or redoes something.
  *
  * The kit is used from the GUI thread only.
  */
@@ -150,6 +158,20 @@ public:
     QAction *customizeAction();
 
     /*!
+     * \brief Returns the action that undoes the last change of the toolbars, with the text "Undo
+     *        Toolbar Change" and the objectName "undoToolBars". The kit owns it. It is never null.
+     *
+     * It is disabled if there is nothing to undo, and always without KeepSteps. It has no shortcut.
+     */
+    QAction *undoAction();
+
+    /*!
+     * \brief Returns the action that redoes what undoAction() has undone, with the text "Redo
+     *        Toolbar Change" and the objectName "redoToolBars". Otherwise it is like that one.
+     */
+    QAction *redoAction();
+
+    /*!
      * \brief Returns the manager, for everything that the kit does not do.
      *
      * The kit owns it. It is null before the window is shown or restoreNow() is called, and
@@ -188,7 +210,8 @@ public:
      *
      * Finds everything first, like restoreNow(), but reads no settings. A layout replaces all that
      * the user has customized. The bytes of a manager change only the toolbars that they name, and
-     * those of a window only the places.
+     * those of a window only the places. It is a step that the user can undo, unless it is the
+     * first layout of the window.
      *
      * \param layout any bytes. Empty ones restore the default.
      * \return false, without any change and after layoutRefused(), if they are none of these.

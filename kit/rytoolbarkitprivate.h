@@ -5,6 +5,7 @@
 
 #include "buttonproperties.h"
 #include "kitlayout.h"
+#include "layouthistory.h"
 #include "layoutstore.h"
 #include "rytoolbarkit.h"
 #include "stablenames.h"
@@ -46,7 +47,7 @@ public:
     void setExcluded(QObject *object);
     void setRequired(QAction *action);
     QStringList problems() const;
-    void takeOver(const QByteArray &value);
+    void takeOver(const RyToolBarKitPrivate &other);
 
     RyToolBarKit::Features features;
     LayoutStore store;
@@ -54,6 +55,8 @@ public:
     // event loop runs again.
     QPointer<RyToolBarManager> manager;
     QAction *customizeAction;
+    QAction *undoAction;
+    QAction *redoAction;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -63,6 +66,8 @@ private Q_SLOTS:
     void update();
     void storeChanges();
     void storeNow();
+    void undo();
+    void redo();
     void applied();
     void resetClicked();
     void dialogFinished(int result);
@@ -79,7 +84,7 @@ private:
     void giveUpManager();
     void startAgain();
     void findMenus();
-    void findToolBars();
+    bool findToolBars();
     void offer(QAction *action, const QString &category);
     void offerHandedOver();
     void withdrawFormer(QAction *action);
@@ -124,7 +129,19 @@ private:
     QSet<QString> absentNames(QToolBar *toolBar, const QStringList &names) const;
     QHash<const QToolBar *, QString> toolBarNames() const;
 
+    // The steps
+    void readSteps();
+    void recordSteps();
+    void beginStep();
+    void changedByProgram();
+    bool writeSteps();
+    void goTo(void (LayoutHistory::*step)(KitLayout *));
+    void showSteps();
+
     // The dialog
+    void shareChange();
+    void showLayoutInDialog();
+    void rememberNamesInDialog();
     void replaceStored();
     void giveTitles();
     void takeTitlesBack();
@@ -168,6 +185,7 @@ private:
     bool m_isRestored;
     // The layout as last stored or restored.
     QByteArray m_value;
+    LayoutHistory m_history;
 
     QSet<const QObject *> m_changedToolBars;
     QTimer m_updateTimer;

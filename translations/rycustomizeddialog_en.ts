@@ -224,5 +224,13 @@
         <source>Toolbar %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>
