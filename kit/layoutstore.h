@@ -40,6 +40,12 @@ public:
      */
     bool isSameAs(const LayoutStore &other) const;
 
+    /*!
+     * \brief Returns the settings, or null if nothing is stored.
+     */
+    QSettings *settings() const { return isSet() ? m_settings.data() : nullptr; }
+    QString key() const { return m_key; }
+
     QByteArray value() const;
     QByteArray copy() const;
 

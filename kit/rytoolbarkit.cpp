@@ -77,6 +77,41 @@ bool RyToolBarKit::restoreLayout(const QByteArray &layout)
     return d->restoreLayout(layout);
 }
 
+QStringList RyToolBarKit::profiles()
+{
+    return d->profiles().names();
+}
+
+bool RyToolBarKit::saveProfile(const QString &name)
+{
+    return d->saveProfile(name);
+}
+
+bool RyToolBarKit::switchToProfile(const QString &name)
+{
+    return d->switchToProfile(name);
+}
+
+bool RyToolBarKit::removeProfile(const QString &name)
+{
+    return d->removeProfile(name);
+}
+
+bool RyToolBarKit::exportLayout(const QString &file)
+{
+    return d->exportLayout(file);
+}
+
+bool RyToolBarKit::importLayout(const QString &file)
+{
+    return d->importLayout(file);
+}
+
+QStringList RyToolBarKit::unknownNames(const QString &file)
+{
+    return d->unknownNames(file);
+}
+
 void RyToolBarKit::addActions(const QList<QAction *> &actions, const QString &category)
 {
     d->addActions(actions, category);

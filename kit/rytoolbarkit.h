@@ -219,6 +219,68 @@ public:
     bool restoreLayout(const QByteArray &layout);
 
     /*!
+     * \brief Returns the names of the layouts that the user has saved, as a user would sort them.
+     *
+     * They are stored below the key with ".profiles" appended. Unless setSettings() was called,
+     * there are none before the window is shown or restoreNow() is called. All other functions for
+     * profiles and files find everything first, like restoreNow().
+     */
+    QStringList profiles();
+
+    /*!
+     * \brief Saves the layout as a profile, or replaces the one with that name.
+     *
+     * \param name any text, also with a slash; upper and lower case differ.
+     * \return false if the name is empty, without a key, or without StoreChanges.
+     */
+    bool saveProfile(const QString &name);
+
+    /*!
+     * \brief Replaces the layout by that of a profile, in all windows with the same key.
+     *
+     * That is one step for undoAction(). An open dialog shows the new layout; its edits are lost.
+     *
+     * \return false, without any change, if there is no such profile, or after layoutRefused().
+     */
+    bool switchToProfile(const QString &name);
+
+    /*!
+     * \brief Removes a profile. The layout stays.
+     *
+     * \return false if there is no such profile, or without StoreChanges.
+     */
+    bool removeProfile(const QString &name);
+
+    /*!
+     * \brief Writes the layout to a file. The former file stays if that fails.
+     *
+     * \return false if the file cannot be written.
+     */
+    bool exportLayout(const QString &file);
+
+    /*!
+     * \brief Replaces the layout by that of a file, like switchToProfile().
+     *
+     * A file from somebody else does no harm: it is read only up to 1 MB and only if it is from
+     * exportLayout(). Files with over 100 custom toolbars, with over 5,000 entries, or with custom
+     * toolbars that RyToolBarManager has not named, are refused. Floating toolbars that are on no
+     * screen are put into the window, and titles are cut after 200 characters.
+     *
+     * \return false, without any change and after layoutRefused(), if the file is refused.
+     */
+    bool importLayout(const QString &file);
+
+    /*!
+     * \brief Returns the names in a file that no action or toolbar has now, sorted, to be shown to
+     *        the user before importLayout().
+     *
+     * They would be kept, and used when something with such a name comes.
+     *
+     * \param file anything; the list is empty if it would be refused.
+     */
+    QStringList unknownNames(const QString &file);
+
+    /*!
      * \brief Offers \a actions in \a category, and puts them where the layout has them.
      *
      * For actions that are in no menu, or in another category than their menu. Null, separators and

@@ -7,6 +7,7 @@
 #include "kitlayout.h"
 #include "layouthistory.h"
 #include "layoutstore.h"
+#include "profiles.h"
 #include "rytoolbarkit.h"
 #include "stablenames.h"
 
@@ -48,6 +49,13 @@ public:
     void setRequired(QAction *action);
     QStringList problems() const;
     void takeOver(const RyToolBarKitPrivate &other);
+    Profiles profiles() const;
+    bool saveProfile(const QString &name);
+    bool switchToProfile(const QString &name);
+    bool removeProfile(const QString &name);
+    bool exportLayout(const QString &file);
+    bool importLayout(const QString &file);
+    QStringList unknownNames(const QString &file);
 
     RyToolBarKit::Features features;
     LayoutStore store;
@@ -137,9 +145,13 @@ private:
     bool writeSteps();
     void goTo(void (LayoutHistory::*step)(KitLayout *));
     void showSteps();
+    void shareChange();
+
+    // Profiles and files
+    bool take(const KitLayout &layout, const QString &reason);
+    bool isKnown(const QString &name, const StableNames &names) const;
 
     // The dialog
-    void shareChange();
     void showLayoutInDialog();
     void rememberNamesInDialog();
     void replaceStored();

@@ -48,14 +48,17 @@ bool RyToolBarKitPrivate::writeSteps()
     return true;
 }
 
+// A program may also trigger an action that is disabled.
 void RyToolBarKitPrivate::undo()
 {
-    goTo(&LayoutHistory::undo);
+    if (m_history.canUndo())
+        goTo(&LayoutHistory::undo);
 }
 
 void RyToolBarKitPrivate::redo()
 {
-    goTo(&LayoutHistory::redo);
+    if (m_history.canRedo())
+        goTo(&LayoutHistory::redo);
 }
 
 void RyToolBarKitPrivate::goTo(void (LayoutHistory::*step)(KitLayout *))
