@@ -59,6 +59,17 @@ void LayoutStore::write(const QByteArray &value)
     m_settings->setValue(copyKey(), QString::fromUtf8(value));
 }
 
+QByteArray LayoutStore::steps() const
+{
+    return read(stepsKey());
+}
+
+void LayoutStore::writeSteps(const QByteArray &steps)
+{
+    if (isSet())
+        m_settings->setValue(stepsKey(), QString::fromUtf8(steps));
+}
+
 void LayoutStore::sync()
 {
     if (isSet())

@@ -40,6 +40,12 @@ public:
      */
     bool isSameAs(const LayoutStore &other) const;
 
+    /*!
+     * \brief Returns the settings, or null if nothing is stored.
+     */
+    QSettings *settings() const { return isSet() ? m_settings.data() : nullptr; }
+    QString key() const { return m_key; }
+
     QByteArray value() const;
     QByteArray copy() const;
 
@@ -49,6 +55,12 @@ public:
     void write(const QByteArray &value);
 
     /*!
+     * \brief Returns the steps that belong to the value.
+     */
+    QByteArray steps() const;
+    void writeSteps(const QByteArray &steps);
+
+    /*!
      * \brief Has the settings write now what was stored.
      */
     void sync();
@@ -56,6 +68,7 @@ public:
 private:
     QByteArray read(const QString &key) const;
     QString copyKey() const { return m_key + QLatin1String(".format1"); }
+    QString stepsKey() const { return m_key + QLatin1String(".steps"); }
 
     QScopedPointer<QSettings> m_own;
     QPointer<QSettings> m_settings;

@@ -42,6 +42,16 @@ QAction *RyToolBarKit::customizeAction()
     return d->customizeAction;
 }
 
+QAction *RyToolBarKit::undoAction()
+{
+    return d->undoAction;
+}
+
+QAction *RyToolBarKit::redoAction()
+{
+    return d->redoAction;
+}
+
 RyToolBarManager *RyToolBarKit::manager()
 {
     return d->manager;
@@ -65,6 +75,41 @@ QByteArray RyToolBarKit::saveLayout()
 bool RyToolBarKit::restoreLayout(const QByteArray &layout)
 {
     return d->restoreLayout(layout);
+}
+
+QStringList RyToolBarKit::profiles()
+{
+    return d->profiles().names();
+}
+
+bool RyToolBarKit::saveProfile(const QString &name)
+{
+    return d->saveProfile(name);
+}
+
+bool RyToolBarKit::switchToProfile(const QString &name)
+{
+    return d->switchToProfile(name);
+}
+
+bool RyToolBarKit::removeProfile(const QString &name)
+{
+    return d->removeProfile(name);
+}
+
+bool RyToolBarKit::exportLayout(const QString &file)
+{
+    return d->exportLayout(file);
+}
+
+bool RyToolBarKit::importLayout(const QString &file)
+{
+    return d->importLayout(file);
+}
+
+QStringList RyToolBarKit::unknownNames(const QString &file)
+{
+    return d->unknownNames(file);
 }
 
 void RyToolBarKit::addActions(const QList<QAction *> &actions, const QString &category)

@@ -96,11 +96,19 @@ class RyToolBarManager;
  * the value may be bytes of RyToolBarManager::saveState() or QMainWindow::saveState() that the
  * program stored before.
  *
+ * \par Steps
+ * Each OK, Apply or restored layout, and each time that toolbars were moved, shown or hidden, is a
+ * step that the user can undo: the last twenty, also after a restart. A step has only what it has
+ * changed. What the program changes is no step, and neither is the first layout of a window. Steps
+ * are stored with ".steps" after the key when the user presses OK or Apply, undoes or redoes
+ * something, and when the window is closed or the program quits. Those that are damaged are
+ * forgotten without a signal.
+ *
  * \par Limits
  * The gap that a user leaves in front of a toolbar is not kept.
  *
- * All windows whose kits have the same settings and key get the layout of the one in which the user
- * presses OK or Apply.
+ * All windows whose kits have the same settings and key get the layout, and the steps, of the one
+ * in which the user presses OK or Apply, undoes or redoes something.
  *
  * The kit is used from the GUI thread only.
  */
@@ -166,6 +174,20 @@ public:
     QAction *customizeAction();
 
     /*!
+     * \brief Returns the action that undoes the last change of the toolbars, with the text "Undo
+     *        Toolbar Change" and the objectName "undoToolBars". The kit owns it. It is never null.
+     *
+     * It is disabled if there is nothing to undo, and always without KeepSteps. It has no shortcut.
+     */
+    QAction *undoAction();
+
+    /*!
+     * \brief Returns the action that redoes what undoAction() has undone, with the text "Redo
+     *        Toolbar Change" and the objectName "redoToolBars". Otherwise it is like that one.
+     */
+    QAction *redoAction();
+
+    /*!
      * \brief Returns the manager, for everything that the kit does not do.
      *
      * The kit owns it. It is null before the window is shown or restoreNow() is called, and
@@ -204,12 +226,75 @@ public:
      *
      * Finds everything first, like restoreNow(), but reads no settings. A layout replaces all that
      * the user has customized. The bytes of a manager change only the toolbars that they name, and
-     * those of a window only the places.
+     * those of a window only the places. It is a step that the user can undo, unless it is the
+     * first layout of the window.
      *
      * \param layout any bytes. Empty ones restore the default.
      * \return false, without any change and after layoutRefused(), if they are none of these.
      */
     bool restoreLayout(const QByteArray &layout);
+
+    /*!
+     * \brief Returns the names of the layouts that the user has saved, as a user would sort them.
+     *
+     * They are stored below the key with ".profiles" appended. Unless setSettings() was called,
+     * there are none before the window is shown or restoreNow() is called. All other functions for
+     * profiles and files find everything first, like restoreNow().
+     */
+    QStringList profiles();
+
+    /*!
+     * \brief Saves the layout as a profile, or replaces the one with that name.
+     *
+     * \param name any text, also with a slash; upper and lower case differ.
+     * \return false if the name is empty, without a key, or without StoreChanges.
+     */
+    bool saveProfile(const QString &name);
+
+    /*!
+     * \brief Replaces the layout by that of a profile, in all windows with the same key.
+     *
+     * That is one step for undoAction(). An open dialog shows the new layout; its edits are lost.
+     *
+     * \return false, without any change, if there is no such profile, or after layoutRefused().
+     */
+    bool switchToProfile(const QString &name);
+
+    /*!
+     * \brief Removes a profile. The layout stays.
+     *
+     * \return false if there is no such profile, or without StoreChanges.
+     */
+    bool removeProfile(const QString &name);
+
+    /*!
+     * \brief Writes the layout to a file. The former file stays if that fails.
+     *
+     * \return false if the file cannot be written.
+     */
+    bool exportLayout(const QString &file);
+
+    /*!
+     * \brief Replaces the layout by that of a file, like switchToProfile().
+     *
+     * A file from somebody else does no harm: it is read only up to 1 MB and only if it is from
+     * exportLayout(). Files with over 100 custom toolbars, with over 5,000 entries, or with custom
+     * toolbars that RyToolBarManager has not named, are refused. Floating toolbars that are on no
+     * screen are put into the window, and titles are cut after 200 characters.
+     *
+     * \return false, without any change and after layoutRefused(), if the file is refused.
+     */
+    bool importLayout(const QString &file);
+
+    /*!
+     * \brief Returns the names in a file that no action or toolbar has now, sorted, to be shown to
+     *        the user before importLayout().
+     *
+     * They would be kept, and used when something with such a name comes.
+     *
+     * \param file anything; the list is empty if it would be refused.
+     */
+    QStringList unknownNames(const QString &file);
 
     /*!
      * \brief Offers \a actions in \a category, and puts them where the layout has them.

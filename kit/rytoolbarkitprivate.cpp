@@ -66,6 +66,8 @@ bool isShownByProgram(const QToolBar *toolBar)
 RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window, bool printProblems)
     : features(RyToolBarKit::AllFeatures)
     , customizeAction(new QAction(RyToolBarKit::tr("Customize Toolbars…"), kit))
+    , undoAction(new QAction(RyToolBarKit::tr("Undo Toolbar Change"), kit))
+    , redoAction(new QAction(RyToolBarKit::tr("Redo Toolbar Change"), kit))
     , m_kit(kit)
     , m_window(window)
     , m_printProblems(printProblems)
@@ -79,6 +81,11 @@ RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window,
     , m_isReset(false)
 {
     customizeAction->setObjectName(QStringLiteral("customizeToolBars"));
+    undoAction->setObjectName(QStringLiteral("undoToolBars"));
+    redoAction->setObjectName(QStringLiteral("redoToolBars"));
+    showSteps();
+    connect(undoAction, SIGNAL(triggered()), this, SLOT(undo()));
+    connect(redoAction, SIGNAL(triggered()), this, SLOT(redo()));
     connect(customizeAction, SIGNAL(triggered()), this, SLOT(customize()));
     m_updateTimer.setSingleShot(true);
     m_storeTimer.setSingleShot(true);
@@ -150,9 +157,11 @@ void RyToolBarKitPrivate::startAgain()
     m_customToolBars.clear();
     for (const QPointer<QToolBar> &toolBar : customToolBars)
         delete toolBar.data();
+    m_history.record(m_layout); // what collect() cannot do without a manager
     setToDefaults();
     createManager();
     restore(KitLayout(m_layout));
+    changedByProgram();
     if (dialogWasOpen)
         customize();
 }
@@ -198,10 +207,11 @@ void RyToolBarKitPrivate::offerHandedOver()
         offer(item.first, item.second);
 }
 
-void RyToolBarKitPrivate::findToolBars()
+// Returns whether there are others.
+bool RyToolBarKitPrivate::findToolBars()
 {
     if (!(features & RyToolBarKit::FindToolBars))
-        return;
+        return false;
     const auto managed = manager->toolBarsActions();
     const auto toolBars = ToolBarPlaces::toolBarsIn(m_window);
     QList<QToolBar *> added;
@@ -212,7 +222,7 @@ void RyToolBarKitPrivate::findToolBars()
         added.append(toolBar);
     }
     if (added.isEmpty())
-        return;
+        return false;
     m_placesByProgram =
         ToolBarPlaces::merged(m_placesByProgram, ToolBarPlaces::read(m_window, toolBarNames()));
     if (m_isRestored) {
@@ -224,6 +234,7 @@ void RyToolBarKitPrivate::findToolBars()
             applyLook(toolBar);
         applyLock();
     }
+    return true;
 }
 
 bool RyToolBarKitPrivate::isOffered(QAction *action) const
@@ -370,6 +381,8 @@ void RyToolBarKitPrivate::update()
             restoreNow();
         return;
     }
+    if (m_storeTimer.isActive())
+        recordSteps();
     const QSet<QAction *> before = manager->actions();
     findMenus();
     const QSet<const QObject *> changed = m_changedToolBars;
@@ -380,9 +393,11 @@ void RyToolBarKitPrivate::update()
         if (changed.contains(toolBar))
             followProgram(toolBar);
     }
-    if (manager->actions() != before)
+    const bool haveOthersCome = manager->actions() != before;
+    if (haveOthersCome)
         placeAll();
-    findToolBars();
+    if (findToolBars() || haveOthersCome || !changed.isEmpty())
+        changedByProgram();
 }
 
 // Whatever the manager has not put on a toolbar, the program has.
@@ -504,8 +519,10 @@ void RyToolBarKitPrivate::addActions(const QList<QAction *> &actions, const QStr
         if (manager)
             offer(action, category);
     }
-    if (m_isRestored && manager)
+    if (m_isRestored && manager) {
         placeAll();
+        changedByProgram();
+    }
 }
 
 void RyToolBarKitPrivate::setFormerNames(QObject *object, const QStringList &names)
@@ -517,8 +534,10 @@ void RyToolBarKitPrivate::setFormerNames(QObject *object, const QStringList &nam
         m_formerNames.remove(name);
     for (const QString &name : names)
         m_formerNames.insert(name, object);
-    if (m_isRestored && manager)
+    if (m_isRestored && manager) {
         placeAll();
+        changedByProgram();
+    }
 }
 
 void RyToolBarKitPrivate::setExcluded(QObject *object)

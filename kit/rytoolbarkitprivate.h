@@ -5,7 +5,9 @@
 
 #include "buttonproperties.h"
 #include "kitlayout.h"
+#include "layouthistory.h"
 #include "layoutstore.h"
+#include "profiles.h"
 #include "rytoolbarkit.h"
 #include "stablenames.h"
 
@@ -48,7 +50,14 @@ public:
     void setExcluded(QObject *object);
     void setRequired(QAction *action);
     QStringList problems() const;
-    void takeOver(const QByteArray &value);
+    void takeOver(const RyToolBarKitPrivate &other);
+    Profiles profiles() const;
+    bool saveProfile(const QString &name);
+    bool switchToProfile(const QString &name);
+    bool removeProfile(const QString &name);
+    bool exportLayout(const QString &file);
+    bool importLayout(const QString &file);
+    QStringList unknownNames(const QString &file);
 
     // For the menu of the toolbars
     bool hasMenu(const QToolBar *toolBar) const;
@@ -71,6 +80,8 @@ public:
     // event loop runs again.
     QPointer<RyToolBarManager> manager;
     QAction *customizeAction;
+    QAction *undoAction;
+    QAction *redoAction;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -80,6 +91,8 @@ private Q_SLOTS:
     void update();
     void storeChanges();
     void storeNow();
+    void undo();
+    void redo();
     void applied();
     void resetClicked();
     void dialogFinished(int result);
@@ -98,7 +111,7 @@ private:
     void giveUpManager();
     void startAgain();
     void findMenus();
-    void findToolBars();
+    bool findToolBars();
     void offer(QAction *action, const QString &category);
     void offerHandedOver();
     void withdrawFormer(QAction *action);
@@ -145,7 +158,23 @@ private:
     QSet<QString> absentNames(QToolBar *toolBar, const QStringList &names) const;
     QHash<const QToolBar *, QString> toolBarNames() const;
 
+    // The steps
+    void readSteps();
+    void recordSteps();
+    void beginStep();
+    void changedByProgram();
+    bool writeSteps();
+    void goTo(void (LayoutHistory::*step)(KitLayout *));
+    void showSteps();
+    void shareChange();
+
+    // Profiles and files
+    bool take(const KitLayout &layout, const QString &reason);
+    bool isKnown(const QString &name, const StableNames &names) const;
+
     // The dialog
+    void showLayoutInDialog();
+    void rememberNamesInDialog();
     void replaceStored();
     void adoptCreatedToolBars();
     void takeOffStrangeWidgets();
@@ -190,6 +219,7 @@ private:
     bool m_isRestored;
     // The layout as last stored or restored.
     QByteArray m_value;
+    LayoutHistory m_history;
 
     QSet<const QObject *> m_changedToolBars;
     QTimer m_updateTimer;

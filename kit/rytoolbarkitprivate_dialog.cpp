@@ -24,11 +24,7 @@ void RyToolBarKitPrivate::customize()
     }
     restoreNow();
     update(); // what the program has just added belongs in the dialog
-    m_namesInDialog.clear();
-    const auto actions = manager->actions();
-    for (const QAction *action : actions)
-        m_namesInDialog.insert(m_actionNames.nameOf(action));
-
+    rememberNamesInDialog();
     giveTitles();
     RyCustomizedDialog *const dialog = new RyCustomizedDialog({manager, nullptr}, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -47,6 +43,28 @@ void RyToolBarKitPrivate::customize()
     new DialogDressing(dialog, features);
     Q_EMIT m_kit->aboutToCustomize(dialog);
     dialog->show();
+}
+
+void RyToolBarKitPrivate::rememberNamesInDialog()
+{
+    m_namesInDialog.clear();
+    const auto actions = manager->actions();
+    for (const QAction *action : actions)
+        m_namesInDialog.insert(m_actionNames.nameOf(action));
+}
+
+// The page reads the toolbars when it is shown.
+void RyToolBarKitPrivate::showLayoutInDialog()
+{
+    QWidget *const page = m_dialog ? m_dialog->findChild<RyCToolBarWidget *>() : nullptr;
+    if (!page)
+        return;
+    rememberNamesInDialog();
+    m_isReset = false;
+    if (page->isVisible()) {
+        page->hide();
+        page->show();
+    }
 }
 
 void RyToolBarKitPrivate::dialogFinished(int result)
@@ -112,8 +130,7 @@ void RyToolBarKitPrivate::applied()
     storeNow();
     replaceStored();
     Q_EMIT m_kit->customized();
-    if (features & RyToolBarKit::FollowOthers)
-        tellOthers();
+    tellOthers();
 }
 
 // Another window may have stored its own layout since. A refused value stays.
@@ -127,6 +144,8 @@ void RyToolBarKitPrivate::replaceStored()
     if (!reason.isEmpty())
         return;
     store.write(m_value);
+    if (features & RyToolBarKit::KeepSteps)
+        store.writeSteps(m_history.toJson());
     store.sync();
 }
 
@@ -175,22 +194,31 @@ void RyToolBarKitPrivate::completeReset()
 
 void RyToolBarKitPrivate::tellOthers()
 {
+    if (!(features & RyToolBarKit::FollowOthers))
+        return;
     const auto widgets = QApplication::topLevelWidgets();
     for (const QWidget *widget : widgets) {
         const auto kits = widget->findChildren<RyToolBarKit *>();
         for (const RyToolBarKit *kit : kits) {
             if (kit != m_kit && kit->d->store.isSameAs(store)
                 && (kit->d->features & RyToolBarKit::FollowOthers))
-                kit->d->takeOver(m_value);
+                kit->d->takeOver(*this);
         }
     }
 }
 
-void RyToolBarKitPrivate::takeOver(const QByteArray &value)
+// Windows with the same layout have the same steps.
+void RyToolBarKitPrivate::takeOver(const RyToolBarKitPrivate &other)
 {
-    if (!manager || !m_isRestored || value == saveLayout())
+    if (!manager || !m_isRestored)
         return;
+    const bool isSame = other.m_value == saveLayout();
     QString reason;
-    restore(KitLayout::fromJson(value, &reason));
-    Q_EMIT m_kit->layoutChanged();
+    if (!isSame)
+        restore(KitLayout::fromJson(other.m_value, &reason));
+    if (features & other.features & RyToolBarKit::KeepSteps)
+        m_history = other.m_history;
+    beginStep();
+    if (!isSame)
+        Q_EMIT m_kit->layoutChanged();
 }

@@ -65,8 +65,10 @@ bool RyToolBarKitPrivate::restoreNow()
     if (m_isRestored || !findEverything())
         return false;
     bool found = false;
+    readSteps();
     restore(readStored(&found));
     bringBackRequired();
+    beginStep();
     return found;
 }
 
@@ -74,10 +76,15 @@ bool RyToolBarKitPrivate::restoreLayout(const QByteArray &value)
 {
     if (!m_window)
         return false;
-    if (!m_isRestored && findEverything())
+    const bool isFirst = !m_isRestored;
+    if (isFirst && findEverything())
         restore(KitLayout());
     if (!manager)
         startAgain();
+    if (isFirst)
+        beginStep();
+    else
+        recordSteps();
     KitLayout layout;
     FormerLayout former;
     QString reason;
@@ -94,7 +101,10 @@ bool RyToolBarKitPrivate::restoreLayout(const QByteArray &value)
     const QByteArray before = store.isSet() ? store.value() : m_value;
     restore(layout);
     bringBackRequired();
+    if (isFirst)
+        beginStep();
     m_value = before.isEmpty() ? KitLayout().toJson() : before;
+    showLayoutInDialog();
     storeIfChanged();
     return true;
 }
@@ -252,6 +262,7 @@ void RyToolBarKitPrivate::renameInLayout(const QString &before, const QString &n
         }
         return;
     }
+    m_history.renameToolBar(before, now);
     if (m_layout.toolBars.contains(before))
         m_layout.toolBars.insert(now, m_layout.toolBars.take(before));
     // The later place is that of the former name, as the program had that when it last ran.
@@ -480,7 +491,8 @@ bool RyToolBarKitPrivate::storeIfChanged()
     m_storeTimer.stop();
     if (!manager || !m_isRestored)
         return false;
-    const QByteArray value = saveLayout();
+    recordSteps();
+    const QByteArray value = m_layout.toJson();
     if (value == m_value)
         return false;
     m_value = value;
@@ -497,6 +509,7 @@ void RyToolBarKitPrivate::storeChanges()
 
 void RyToolBarKitPrivate::storeNow()
 {
-    if (storeIfChanged())
+    const bool isStored = storeIfChanged();
+    if (writeSteps() || isStored)
         store.sync();
 }

@@ -46,18 +46,6 @@ void setFloating(QToolBar *toolBar, bool floating, const QPoint &position)
     toolBar->setVisible(!hidden);
 }
 
-QSet<QString> toolBarsOf(const KitPlaces &places)
-{
-    QSet<QString> names;
-    for (const QList<QStringList> &lines : places.lines) {
-        for (const QStringList &line : lines) {
-            for (const QString &name : line)
-                names.insert(name);
-        }
-    }
-    return names;
-}
-
 int lineWithAnyOf(const QList<QStringList> &lines, const QStringList &names)
 {
     for (int i = 0; i < lines.size(); ++i) {
@@ -142,6 +130,18 @@ void ToolBarPlaces::apply(QMainWindow *window, const QHash<const QToolBar *, QSt
         if (floating || toolBar->isFloating())
             setFloating(toolBar, floating, places.floating.value(it.key()));
     }
+}
+
+QSet<QString> ToolBarPlaces::toolBarsOf(const KitPlaces &places)
+{
+    QSet<QString> names;
+    for (const QList<QStringList> &lines : places.lines) {
+        for (const QStringList &line : lines) {
+            for (const QString &name : line)
+                names.insert(name);
+        }
+    }
+    return names;
 }
 
 KitPlaces ToolBarPlaces::merged(const KitPlaces &places, const KitPlaces &model)

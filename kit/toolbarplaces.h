@@ -34,6 +34,11 @@ void apply(QMainWindow *window, const QHash<const QToolBar *, QString> &names,
            const KitPlaces &places);
 
 /*!
+ * \brief Returns the names of the toolbars in \a places.
+ */
+QSet<QString> toolBarsOf(const KitPlaces &places);
+
+/*!
  * \brief Returns \a places with those toolbars of \a model that it lacks, beside their neighbours
  *        in \a model.
  */

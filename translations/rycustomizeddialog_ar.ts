@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>شريط أدوات %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>تراجع عن تغيير أشرطة الأدوات</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>أعد تغيير أشرطة الأدوات</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

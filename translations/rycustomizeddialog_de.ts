@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>Werkzeugleiste %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>Änderung der Werkzeugleisten rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>Änderung der Werkzeugleisten wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

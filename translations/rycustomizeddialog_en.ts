@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

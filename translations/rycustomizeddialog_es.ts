@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>Barra de herramientas %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>Deshacer el cambio en las barras de herramientas</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>Rehacer el cambio en las barras de herramientas</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

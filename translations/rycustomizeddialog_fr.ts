@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>Barre d&apos;outils %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>Annuler la modification des barres d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>Rétablir la modification des barres d&apos;outils</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>סרגל כלים %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>בטל את השינוי בסרגלי הכלים</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>בצע שוב את השינוי בסרגלי הכלים</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

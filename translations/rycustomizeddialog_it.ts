@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>Barra degli strumenti %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>Annulla la modifica alle barre degli strumenti</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>Ripeti la modifica alle barre degli strumenti</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

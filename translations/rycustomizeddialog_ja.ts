@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>ツールバー %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>ツールバーの変更を元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>ツールバーの変更をやり直す</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>도구 모음 %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>도구 모음 변경 실행 취소</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>도구 모음 변경 다시 실행</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>Pasek narzędzi %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>Cofnij zmianę pasków narzędzi</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>Ponów zmianę pasków narzędzi</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

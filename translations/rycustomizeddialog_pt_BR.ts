@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>Barra de ferramentas %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>Desfazer a alteração nas barras de ferramentas</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>Refazer a alteração nas barras de ferramentas</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

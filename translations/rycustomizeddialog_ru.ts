@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>Панель инструментов %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>Отменить изменение панелей инструментов</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>Повторить изменение панелей инструментов</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

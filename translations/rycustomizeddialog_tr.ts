@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>Araç Çubuğu %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>Araç Çubuğu Değişikliğini Geri Al</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>Araç Çubuğu Değişikliğini Yinele</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

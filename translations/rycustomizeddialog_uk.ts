@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>Панель інструментів %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>Скасувати зміну панелей інструментів</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>Повторити зміну панелей інструментів</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

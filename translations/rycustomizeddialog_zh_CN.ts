@@ -224,6 +224,14 @@
         <source>Toolbar %1</source>
         <translation>工具栏 %1</translation>
     </message>
+    <message>
+        <source>Undo Toolbar Change</source>
+        <translation>撤销工具栏更改</translation>
+    </message>
+    <message>
+        <source>Redo Toolbar Change</source>
+        <translation>重做工具栏更改</translation>
+    </message>
 </context>
 <context>
     <name>ToolBarMenu</name>

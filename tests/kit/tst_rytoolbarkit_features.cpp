@@ -26,6 +26,7 @@ private Q_SLOTS:
     void withoutFollowOthersWindowsStayAsTheyAre();
     void withoutStoreChangesTheValueIsOnlyRead();
     void withoutToolBarMenusTheyHaveThatOfQt();
+    void withoutKeepStepsThereIsNothingToUndo();
 };
 
 namespace {
@@ -167,6 +168,31 @@ void tst_RyToolBarKit_features::withoutToolBarMenusTheyHaveThatOfQt()
     startWithout(&program, RyToolBarKit::ToolBarMenus);
     const OpenedMenu menu(program.toolBar("file"), program.action("open"));
     QCOMPARE(menu.texts(), QStringList({"[x] File", "[x] Edit"}));
+}
+
+void tst_RyToolBarKit_features::withoutKeepStepsThereIsNothingToUndo()
+{
+    KitProgram program;
+    program.start();
+    program.edit("edit", "paste");
+    KitProgram other;
+    other.shareSettings(program);
+    other.start();
+    const QStringList keys = program.settings->allKeys();
+    const QVariant steps = program.settings->value("toolBars.steps");
+    startWithout(&program, RyToolBarKit::KeepSteps);
+    QVERIFY(!program.kit()->undoAction()->isEnabled());
+    program.edit("edit", "copy");
+    QVERIFY(!program.kit()->undoAction()->isEnabled());
+    QVERIFY(other.kit()->undoAction()->isEnabled());
+    other.edit("edit", "cut");
+    QVERIFY(!program.kit()->undoAction()->isEnabled());
+    other.end();
+    program.settings->setValue("toolBars.steps", steps);
+    program.edit("edit", "paste");
+    program.end();
+    QCOMPARE(program.settings->allKeys(), keys);
+    QCOMPARE(program.settings->value("toolBars.steps"), steps);
 }
 
 QTEST_MAIN(tst_RyToolBarKit_features)

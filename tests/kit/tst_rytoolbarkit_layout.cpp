@@ -824,8 +824,9 @@ void tst_RyToolBarKit_layout::theKeyHasTheNameOfTheWindow()
     QStringList keys = QSettings().allKeys();
     keys.sort();
     QCOMPARE(keys,
-             QStringList({"toolBars/QMainWindow", "toolBars/QMainWindow.format1", "toolBars/editor",
-                          "toolBars/editor.format1"}));
+             QStringList({"toolBars/QMainWindow", "toolBars/QMainWindow.format1",
+                          "toolBars/QMainWindow.steps", "toolBars/editor",
+                          "toolBars/editor.format1", "toolBars/editor.steps"}));
 }
 
 void tst_RyToolBarKit_layout::windowsWithTheSameKeyFollow()
