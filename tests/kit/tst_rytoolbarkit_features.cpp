@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "editorviews.h"
 #include "kitwindow.h"
 #include "openedmenu.h"
 #include "testcase.h"
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void withoutStoreChangesTheValueIsOnlyRead();
     void withoutToolBarMenusTheyHaveThatOfQt();
     void withoutKeepStepsThereIsNothingToUndo();
+    void withoutDragActionsTheDialogTakesNoDrags();
 };
 
 namespace {
@@ -193,6 +195,21 @@ void tst_RyToolBarKit_features::withoutKeepStepsThereIsNothingToUndo()
     program.end();
     QCOMPARE(program.settings->allKeys(), keys);
     QCOMPARE(program.settings->value("toolBars.steps"), steps);
+}
+
+void tst_RyToolBarKit_features::withoutDragActionsTheDialogTakesNoDrags()
+{
+    KitProgram program;
+    for (const bool hasDrags : {true, false}) {
+        if (hasDrags)
+            program.start();
+        else
+            startWithout(&program, RyToolBarKit::DragActions);
+        const EditorViews editor(program.openDialog());
+        QCOMPARE(editor.currentToolBarList->viewport()->acceptDrops(), hasDrags);
+        QCOMPARE(editor.actionTree->selectionMode() == QAbstractItemView::ExtendedSelection,
+                 hasDrags);
+    }
 }
 
 QTEST_MAIN(tst_RyToolBarKit_features)
