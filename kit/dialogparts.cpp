@@ -39,3 +39,9 @@ DialogParts::DialogParts(RyCustomizedDialog *customizedDialog)
     , rightButton(part<QToolButton>(page, "rightButton"))
 {
 }
+
+// What is left of a dialog while its children are deleted is no dialog any more.
+bool DialogParts::areDeleted() const
+{
+    return !qobject_cast<QDialog *>(static_cast<QObject *>(dialog));
+}

@@ -21,6 +21,9 @@ struct DialogParts
 {
     explicit DialogParts(RyCustomizedDialog *dialog);
 
+    //! Returns true while the parts are deleted with the dialog. Models then still emit signals.
+    bool areDeleted() const;
+
     RyCustomizedDialog *dialog;
     QTabWidget *tabs;
     QWidget *page;

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>ابحث عن إجراء</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>يضيف مفتاح الإدخال الإجراء إلى شريط الأدوات</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>خيارات</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>شريط الأدوات هذا فارغ. انقر إجراءً نقرًا مزدوجًا لإضافته.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>خصّص أشرطة الأدوات</translation>
     </message>
 </context>
 <context>

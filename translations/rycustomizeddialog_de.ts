@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Aktion suchen</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Die Eingabetaste fügt die Aktion zur Werkzeugleiste hinzu</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Diese Werkzeugleiste ist leer. Doppelklicken Sie auf eine Aktion, um sie hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Werkzeugleisten anpassen</translation>
     </message>
 </context>
 <context>

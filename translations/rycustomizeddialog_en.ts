@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -163,6 +174,17 @@
     <name>CustomizedDialog</name>
     <message>
         <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Buscar una acción</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>La tecla Intro añade la acción a la barra de herramientas</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Opciones</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Esta barra de herramientas está vacía. Haga doble clic en una acción para añadirla.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizar las barras de herramientas</translation>
     </message>
 </context>
 <context>

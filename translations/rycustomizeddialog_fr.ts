@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Chercher une action</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>La touche Entrée ajoute l&apos;action à la barre d&apos;outils</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Options</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Cette barre d&apos;outils est vide. Double-cliquez sur une action pour l&apos;ajouter.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personnaliser les barres d&apos;outils</translation>
     </message>
 </context>
 <context>

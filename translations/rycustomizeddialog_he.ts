@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="he" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>חפש פעולה</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>מקש הכניסה מוסיף את הפעולה לסרגל הכלים</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>אפשרויות</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>סרגל הכלים הזה ריק. לחץ פעמיים על פעולה כדי להוסיף אותה.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>התאם אישית את סרגלי הכלים</translation>
     </message>
 </context>
 <context>

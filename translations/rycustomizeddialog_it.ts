@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Cerca un&apos;azione</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Il tasto Invio aggiunge l&apos;azione alla barra degli strumenti</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Opzioni</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Questa barra degli strumenti è vuota. Fai doppio clic su un&apos;azione per aggiungerla.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizza le barre degli strumenti</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>동작 찾기</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>엔터 키를 누르면 동작이 도구 모음에 추가됩니다</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>옵션</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>이 도구 모음은 비어 있습니다. 동작을 두 번 클릭하면 추가됩니다.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>도구 모음 사용자 정의</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Znajdź działanie</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Klawisz powrotu dodaje działanie do paska narzędzi</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Opcje</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Ten pasek narzędzi jest pusty. Kliknij działanie dwukrotnie, aby je dodać.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Dostosuj paski narzędzi</translation>
     </message>
 </context>
 <context>

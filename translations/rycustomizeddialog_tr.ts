@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Eylem bul</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Giriş tuşu eylemi araç çubuğuna ekler</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Seçenekler</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Bu araç çubuğu boş. Eklemek için bir eyleme çift tıklayın.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Araç Çubuklarını Özelleştir</translation>
     </message>
 </context>
 <context>

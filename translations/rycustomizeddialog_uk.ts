@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="uk" sourcelanguage="en">
 <context>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Знайти дію</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Клавіша введення додає дію на панель інструментів</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Параметри</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Ця панель інструментів порожня. Двічі клацніть дію, щоб додати її.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Налаштувати панелі інструментів</translation>
     </message>
 </context>
 <context>

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 
+#include "editorviews.h"
 #include "kitwindow.h"
 #include "testcase.h"
+#include "texts.h"
 
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QTabWidget>
 #include <QtTest>
 
 /*
@@ -24,6 +29,8 @@ private Q_SLOTS:
     void withoutFollowOthersWindowsStayAsTheyAre_data();
     void withoutFollowOthersWindowsStayAsTheyAre();
     void withoutStoreChangesTheValueIsOnlyRead();
+    void withoutSearchActionsThereIsNoLine();
+    void withoutReadableListsTheDialogShowsWhatTheLibraryDoes();
 };
 
 namespace {
@@ -157,6 +164,33 @@ void tst_RyToolBarKit_features::withoutStoreChangesTheValueIsOnlyRead()
     QCOMPARE(program.layoutChanges, 2);
     program.end();
     QCOMPARE(program.stored(), stored);
+}
+
+void tst_RyToolBarKit_features::withoutSearchActionsThereIsNoLine()
+{
+    KitProgram program;
+    startWithout(&program, RyToolBarKit::SearchActions);
+    QVERIFY(!program.openDialog()->findChild<QLineEdit *>("actionSearch"));
+}
+
+void tst_RyToolBarKit_features::withoutReadableListsTheDialogShowsWhatTheLibraryDoes()
+{
+    KitProgram program;
+    startWithout(&program, RyToolBarKit::ReadableLists);
+    RyCustomizedDialog *const dialog = program.openDialog();
+    const EditorViews views(dialog);
+    QCOMPARE(dialog->windowTitle(), "Options");
+    QCOMPARE(dialog->findChild<QTabWidget *>()->count(), 2);
+    QCOMPARE(itemsOf(views.actionTree).mid(1, 4),
+             QStringList({"Edit", "  &Special", "  Copy", "  Cut"}));
+    QVERIFY(!dialog->findChild<QLabel *>("emptyToolBarHint"));
+    for (const QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(views.actionTree),
+          static_cast<QAbstractItemView *>(views.toolBarList),
+          static_cast<QAbstractItemView *>(views.currentToolBarList)}) {
+        const auto *const delegate = qobject_cast<QStyledItemDelegate *>(view->itemDelegate());
+        QCOMPARE(delegate->displayText("&Open", QLocale()), "&Open");
+    }
 }
 
 QTEST_MAIN(tst_RyToolBarKit_features)
