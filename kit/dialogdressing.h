@@ -7,6 +7,12 @@
 #include "rytoolbarkit.h"
 
 #include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+class ActionSearch;
+class ReadableViews;
+class RyToolBarManager;
 
 /*!
  * \brief What the kit adds to a dialog that it opens. The dialog owns it.
@@ -16,12 +22,23 @@ class DialogDressing : public QObject
     Q_OBJECT
 
 public:
-    DialogDressing(RyCustomizedDialog *dialog, RyToolBarKit::Features features);
+    /*!
+     * \param categories those of the menus, in the order of the menus.
+     */
+    DialogDressing(RyCustomizedDialog *dialog, RyToolBarManager *manager,
+                   const QStringList &categories, RyToolBarKit::Features features);
+
+private Q_SLOTS:
+    void dressRows();
+    void forgetRows();
 
 private:
-    void showPlainTexts();
-
     const DialogParts m_parts;
+    const QPointer<RyToolBarManager> m_manager;
+    // Each is null without its feature.
+    ReadableViews *m_readableViews;
+    ActionSearch *m_actionSearch;
+    bool m_isFilled;
 };
 
 #endif // DIALOGDRESSING_H

@@ -48,3 +48,9 @@ void DialogParts::explain(QWidget *view, const QString &sentence)
     view->setToolTip(joined(view->toolTip()));
     view->setAccessibleDescription(joined(view->accessibleDescription()));
 }
+
+// What is left of a dialog while its children are deleted is no dialog any more.
+bool DialogParts::areDeleted() const
+{
+    return !qobject_cast<QDialog *>(static_cast<QObject *>(dialog));
+}

@@ -22,6 +22,8 @@ struct DialogParts
 {
     explicit DialogParts(RyCustomizedDialog *dialog);
 
+    //! Returns true while the parts are deleted with the dialog. Models then still emit signals.
+    bool areDeleted() const;
     // Adds a sentence to the tool tip of a view and to what a screen reader says of it.
     static void explain(QWidget *view, const QString &sentence);
 

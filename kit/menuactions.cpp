@@ -22,6 +22,7 @@ QList<MenuActions::Found> MenuActions::find(const QSet<const QObject *> &exclude
     m_inMenus.clear();
     m_found.clear();
     m_visited.clear();
+    m_categories.clear();
     QList<Found> found;
     QMenuBar *const menuBar = qobject_cast<QMenuBar *>(m_window->menuWidget());
     if (!menuBar)
@@ -43,6 +44,7 @@ QList<MenuActions::Found> MenuActions::find(const QSet<const QObject *> &exclude
 void MenuActions::findIn(const QList<QAction *> &actions, const QString &category,
                          QList<Found> *found)
 {
+    m_categories.append(category);
     for (QAction *action : actions) {
         QMenu *const menu = action->menu();
         if (m_excluded.contains(action) || (menu && m_excluded.contains(menu)))

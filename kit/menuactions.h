@@ -6,7 +6,7 @@
 #include <QList>
 #include <QObject>
 #include <QSet>
-#include <QString>
+#include <QStringList>
 
 class QAction;
 class QMainWindow;
@@ -37,6 +37,11 @@ public:
     QList<Found> find(const QSet<const QObject *> &excluded);
 
     /*!
+     * \brief Returns the categories of the last find(), in the order of the menus.
+     */
+    QStringList categories() const { return m_categories; }
+
+    /*!
      * \brief Returns true if \a action is in a menu, visible or not.
      */
     bool contains(const QAction *action) const { return m_inMenus.contains(action); }
@@ -54,6 +59,7 @@ private:
     void findIn(const QList<QAction *> &actions, const QString &category, QList<Found> *found);
 
     QMainWindow *m_window;
+    QStringList m_categories;
     // Compared only: what the last find() has seen and still is in a menu, and the visible of them.
     QSet<const QAction *> m_inMenus;
     QSet<const QAction *> m_found;

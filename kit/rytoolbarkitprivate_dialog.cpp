@@ -3,6 +3,7 @@
 #include "rytoolbarkitprivate.h"
 
 #include "dialogdressing.h"
+#include "menuactions.h"
 #include "toolbarplaces.h"
 
 #include <RyCToolBarWidget>
@@ -40,7 +41,7 @@ void RyToolBarKitPrivate::customize()
     m_rowsInDialog = page->findChild<QListWidget *>(QStringLiteral("currentToolBarList"));
     connect(m_rowsInDialog->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), this,
             SLOT(markRequired(QModelIndex, int, int)));
-    new DialogDressing(dialog, features);
+    new DialogDressing(dialog, manager, m_menus->categories(), features);
     Q_EMIT m_kit->aboutToCustomize(dialog);
     dialog->show();
 }

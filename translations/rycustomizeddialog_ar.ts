@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>اسحب الإجراءات لنقلها، وأيضًا إلى شريط أدوات آخر. اسحبها لتعود إلى كل الإجراءات لإزالتها.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>ابحث عن إجراء</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>يضيف مفتاح الإدخال الإجراء إلى شريط الأدوات</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>يضيف %1 الإجراءات المقصوصة.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>شريط الأدوات هذا فارغ. انقر إجراءً نقرًا مزدوجًا لإضافته.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>خصّص أشرطة الأدوات</translation>
     </message>
 </context>
 <context>

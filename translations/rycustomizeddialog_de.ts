@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Ziehen Sie Aktionen, um sie zu verschieben, auch auf eine andere Werkzeugleiste. Ziehen Sie sie zurück zu allen Aktionen, um sie zu entfernen.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Aktion suchen</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Die Eingabetaste fügt die Aktion zur Werkzeugleiste hinzu</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 fügt die ausgeschnittenen Aktionen hinzu.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Diese Werkzeugleiste ist leer. Doppelklicken Sie auf eine Aktion, um sie hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Werkzeugleisten anpassen</translation>
     </message>
 </context>
 <context>

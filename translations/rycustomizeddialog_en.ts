@@ -9,6 +9,13 @@
     </message>
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -185,6 +192,13 @@
     </message>
     <message>
         <source>%1 adds the actions that were cut.</source>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

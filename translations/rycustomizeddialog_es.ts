@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Arrastre acciones para moverlas, también a otra barra de herramientas. Arrástrelas de vuelta a todas las acciones para quitarlas.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Buscar una acción</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>La tecla Intro añade la acción a la barra de herramientas</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 añade las acciones cortadas.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Esta barra de herramientas está vacía. Haga doble clic en una acción para añadirla.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizar las barras de herramientas</translation>
     </message>
 </context>
 <context>

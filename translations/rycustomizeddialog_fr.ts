@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Faites glisser des actions pour les déplacer, y compris sur une autre barre d&apos;outils. Faites-les glisser vers toutes les actions pour les retirer.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Chercher une action</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>La touche Entrée ajoute l&apos;action à la barre d&apos;outils</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 ajoute les actions coupées.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Cette barre d&apos;outils est vide. Double-cliquez sur une action pour l&apos;ajouter.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personnaliser les barres d&apos;outils</translation>
     </message>
 </context>
 <context>

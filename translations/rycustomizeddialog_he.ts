@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>גרור פעולות כדי להזיז אותן, גם אל סרגל כלים אחר. גרור אותן בחזרה אל כל הפעולות כדי להסיר אותן.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>חפש פעולה</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>מקש הכניסה מוסיף את הפעולה לסרגל הכלים</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 מוסיף את הפעולות שנגזרו.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>סרגל הכלים הזה ריק. לחץ פעמיים על פעולה כדי להוסיף אותה.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>התאם אישית את סרגלי הכלים</translation>
     </message>
 </context>
 <context>

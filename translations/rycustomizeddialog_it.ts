@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Trascina le azioni per spostarle, anche su un&apos;altra barra degli strumenti. Trascinale di nuovo su tutte le azioni per rimuoverle.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Cerca un&apos;azione</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Il tasto Invio aggiunge l&apos;azione alla barra degli strumenti</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 aggiunge le azioni tagliate.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Questa barra degli strumenti è vuota. Fai doppio clic su un&apos;azione per aggiungerla.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizza le barre degli strumenti</translation>
     </message>
 </context>
 <context>

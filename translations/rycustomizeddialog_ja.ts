@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>アクションをドラッグすると移動でき、別のツールバーにも移動できます。すべてのアクションの一覧に戻すと削除されます。</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>アクションを検索</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>改行キーを押すとツールバーにアクションが追加されます</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 で切り取ったアクションを追加します。</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>このツールバーは空です。アクションをダブルクリックすると追加されます。</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>ツールバーをカスタマイズ</translation>
     </message>
 </context>
 <context>

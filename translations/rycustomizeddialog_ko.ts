@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>동작을 끌어서 이동하세요. 다른 도구 모음으로도 옮길 수 있습니다. 전체 동작 목록으로 다시 끌면 제거됩니다.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>동작 찾기</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>엔터 키를 누르면 동작이 도구 모음에 추가됩니다</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 키는 잘라낸 동작을 추가합니다.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>이 도구 모음은 비어 있습니다. 동작을 두 번 클릭하면 추가됩니다.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>도구 모음 사용자 정의</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Przeciągnij działania, aby je przenieść, także na inny pasek narzędzi. Przeciągnij je z powrotem do wszystkich działań, aby je usunąć.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Znajdź działanie</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Klawisz powrotu dodaje działanie do paska narzędzi</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 dodaje wycięte działania.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Ten pasek narzędzi jest pusty. Kliknij działanie dwukrotnie, aby je dodać.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Dostosuj paski narzędzi</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Перетаскивайте действия, чтобы переместить их, в том числе на другую панель инструментов. Перетащите их обратно к списку всех действий, чтобы убрать.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Найти действие</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Клавиша ввода добавляет действие на панель инструментов</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 добавляет вырезанные действия.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Эта панель инструментов пуста. Дважды щёлкните действие, чтобы добавить его.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Настроить панели инструментов</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Eylemleri taşımak için sürükleyin; başka bir araç çubuğuna da taşıyabilirsiniz. Kaldırmak için tüm eylemlere geri sürükleyin.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Eylem bul</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Giriş tuşu eylemi araç çubuğuna ekler</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 kesilen eylemleri ekler.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Bu araç çubuğu boş. Eklemek için bir eyleme çift tıklayın.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Araç Çubuklarını Özelleştir</translation>
     </message>
 </context>
 <context>

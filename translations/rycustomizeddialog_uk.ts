@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Перетягуйте дії, щоб пересунути їх, також на іншу панель інструментів. Перетягніть їх назад до списку всіх дій, щоб прибрати.</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>Знайти дію</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>Клавіша введення додає дію на панель інструментів</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 додає вирізані дії.</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Ця панель інструментів порожня. Двічі клацніть дію, щоб додати її.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Налаштувати панелі інструментів</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,14 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>拖动操作即可移动，也可以拖到另一个工具栏上。拖回所有操作的列表即可移除。</translation>
+    <name>ActionSearch</name>
+    <message>
+        <source>Find an action</source>
+        <translation>查找操作</translation>
+    </message>
+    <message>
+        <source>The Return key adds the action to the toolbar</source>
+        <translation>按回车键将操作添加到工具栏</translation>
     </message>
 </context>
 <context>
@@ -186,6 +194,14 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 添加已剪切的操作。</translation>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>此工具栏为空。双击操作即可添加。</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>自定义工具栏</translation>
     </message>
 </context>
 <context>

@@ -4,8 +4,12 @@
 #include "kitwindow.h"
 #include "openedmenu.h"
 #include "testcase.h"
+#include "texts.h"
 
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QTabWidget>
 #include <QtTest>
 
 /*
@@ -29,6 +33,8 @@ private Q_SLOTS:
     void withoutToolBarMenusTheyHaveThatOfQt();
     void withoutKeepStepsThereIsNothingToUndo();
     void withoutDragActionsTheDialogTakesNoDrags();
+    void withoutSearchActionsThereIsNoLine();
+    void withoutReadableListsTheDialogShowsWhatTheLibraryDoes();
 };
 
 namespace {
@@ -209,6 +215,33 @@ void tst_RyToolBarKit_features::withoutDragActionsTheDialogTakesNoDrags()
         QCOMPARE(editor.currentToolBarList->viewport()->acceptDrops(), hasDrags);
         QCOMPARE(editor.actionTree->selectionMode() == QAbstractItemView::ExtendedSelection,
                  hasDrags);
+    }
+}
+
+void tst_RyToolBarKit_features::withoutSearchActionsThereIsNoLine()
+{
+    KitProgram program;
+    startWithout(&program, RyToolBarKit::SearchActions);
+    QVERIFY(!program.openDialog()->findChild<QLineEdit *>("actionSearch"));
+}
+
+void tst_RyToolBarKit_features::withoutReadableListsTheDialogShowsWhatTheLibraryDoes()
+{
+    KitProgram program;
+    startWithout(&program, RyToolBarKit::ReadableLists);
+    RyCustomizedDialog *const dialog = program.openDialog();
+    const EditorViews views(dialog);
+    QCOMPARE(dialog->windowTitle(), "Options");
+    QCOMPARE(dialog->findChild<QTabWidget *>()->count(), 2);
+    QCOMPARE(itemsOf(views.actionTree).mid(1, 4),
+             QStringList({"Edit", "  &Special", "  Copy", "  Cut"}));
+    QVERIFY(!dialog->findChild<QLabel *>("emptyToolBarHint"));
+    for (const QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(views.actionTree),
+          static_cast<QAbstractItemView *>(views.toolBarList),
+          static_cast<QAbstractItemView *>(views.currentToolBarList)}) {
+        const auto *const delegate = qobject_cast<QStyledItemDelegate *>(view->itemDelegate());
+        QCOMPARE(delegate->displayText("&Open", QLocale()), "&Open");
     }
 }
 
