@@ -9,6 +9,10 @@
     </message>
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ActionSearch</name>
     <message>
         <source>Find an action</source>
@@ -192,6 +196,10 @@
     </message>
     <message>
         <source>%1 adds the actions that were cut.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>

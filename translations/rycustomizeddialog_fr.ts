@@ -10,6 +10,9 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Faites glisser des actions pour les déplacer, y compris sur une autre barre d&apos;outils. Faites-les glisser vers toutes les actions pour les retirer.</translation>
+    </message>
+</context>
+<context>
     <name>ActionSearch</name>
     <message>
         <source>Find an action</source>
@@ -194,6 +197,9 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 ajoute les actions coupées.</translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>

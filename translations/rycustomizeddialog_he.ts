@@ -10,6 +10,9 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>גרור פעולות כדי להזיז אותן, גם אל סרגל כלים אחר. גרור אותן בחזרה אל כל הפעולות כדי להסיר אותן.</translation>
+    </message>
+</context>
+<context>
     <name>ActionSearch</name>
     <message>
         <source>Find an action</source>
@@ -194,6 +197,9 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 מוסיף את הפעולות שנגזרו.</translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>

@@ -10,6 +10,9 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>동작을 끌어서 이동하세요. 다른 도구 모음으로도 옮길 수 있습니다. 전체 동작 목록으로 다시 끌면 제거됩니다.</translation>
+    </message>
+</context>
+<context>
     <name>ActionSearch</name>
     <message>
         <source>Find an action</source>
@@ -194,6 +197,9 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 키는 잘라낸 동작을 추가합니다.</translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>

@@ -10,6 +10,9 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Przeciągnij działania, aby je przenieść, także na inny pasek narzędzi. Przeciągnij je z powrotem do wszystkich działań, aby je usunąć.</translation>
+    </message>
+</context>
+<context>
     <name>ActionSearch</name>
     <message>
         <source>Find an action</source>
@@ -194,6 +197,9 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 dodaje wycięte działania.</translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>

@@ -10,6 +10,9 @@
     <message>
         <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
         <translation>Arraste ações para movê-las, também para outra barra de ferramentas. Arraste-as de volta para todas as ações para removê-las.</translation>
+    </message>
+</context>
+<context>
     <name>ActionSearch</name>
     <message>
         <source>Find an action</source>
@@ -194,6 +197,9 @@
     <message>
         <source>%1 adds the actions that were cut.</source>
         <translation>%1 adiciona as ações recortadas.</translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>
