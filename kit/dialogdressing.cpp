@@ -2,7 +2,12 @@
 
 #include "dialogdressing.h"
 
+#include "changeannouncer.h"
+#include "dialogkeys.h"
+#include "itemfocus.h"
 #include "plaintextdelegate.h"
+#include "spokennames.h"
+#include "userguide.h"
 
 #include <RyCustomizedDialog>
 
@@ -15,6 +20,15 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, RyToolBarKit::Feature
 {
     if (features & RyToolBarKit::ReadableLists)
         showPlainTexts();
+    if (features & RyToolBarKit::UserGuide)
+        new UserGuide(dialog);
+    // Last, for the letters and the order of all controls.
+    if (features & RyToolBarKit::DialogKeys) {
+        new SpokenNames(m_parts);
+        new ItemFocus(m_parts);
+        new ChangeAnnouncer(m_parts);
+        new DialogKeys(m_parts);
+    }
 }
 
 // One for each view: a delegate reports the end of an edit to all its views.

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 
-#include "kitwindow.h"
+#include "kitdialog.h"
+#include "nextmodal.h"
 #include "testcase.h"
+#include "texts.h"
 
+#include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QtTest>
 
 /*
@@ -24,6 +28,8 @@ private Q_SLOTS:
     void withoutFollowOthersWindowsStayAsTheyAre_data();
     void withoutFollowOthersWindowsStayAsTheyAre();
     void withoutStoreChangesTheValueIsOnlyRead();
+    void withoutDialogKeysTheDialogHasThoseOfThePlainOne();
+    void withoutUserGuideHelpIsThatOfThePlainDialog();
 };
 
 namespace {
@@ -157,6 +163,31 @@ void tst_RyToolBarKit_features::withoutStoreChangesTheValueIsOnlyRead()
     QCOMPARE(program.layoutChanges, 2);
     program.end();
     QCOMPARE(program.stored(), stored);
+}
+
+void tst_RyToolBarKit_features::withoutDialogKeysTheDialogHasThoseOfThePlainOne()
+{
+    KitDialog stage(RyToolBarKit::DialogKeys);
+    QCOMPARE(stage.views.upButton->toolTip(), "Move action up");
+    QCOMPARE(stage.views.page->findChild<QLabel *>("label_2")->text(), "Toolbars");
+    QCOMPARE(stage.views.actionTree->accessibleName(), QString());
+    QVERIFY(!stage.dialog->findChild<QWidget *>("changeNotification"));
+    stage.choose("Mine");
+    stage.pressKey(stage.views.currentToolBarList, Qt::Key_Delete);
+    QCOMPARE(stage.entries(), words("Cut | Copy"));
+}
+
+void tst_RyToolBarKit_features::withoutUserGuideHelpIsThatOfThePlainDialog()
+{
+    const KitDialog stage(RyToolBarKit::UserGuide);
+    QString title;
+    const NextModal box([&](QWidget *widget) {
+        title = widget->windowTitle();
+        widget->close();
+    });
+    QTest::mouseClick(stage.dialog->helpButton(), Qt::LeftButton);
+    QCOMPARE(title, "help");
+    QVERIFY(!stage.dialog->findChild<QDialog *>("userGuide"));
 }
 
 QTEST_MAIN(tst_RyToolBarKit_features)

@@ -8,6 +8,7 @@
 #include "translationfile.h"
 
 #include <QDir>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -17,7 +18,7 @@ namespace {
 const QStringList signs{"->", "1", "<-"};
 const QMap<QString, QStringList> sharedWords{
     {"fr", {"Actions", "Options"}},
-    {"pl", {"< S E P A R A T O R >"}},
+    {"pl", {"< S E P A R A T O R >", "Separator"}},
 };
 
 // Letters that a text of the language must not have: those of another alphabet look alike.
@@ -76,7 +77,17 @@ void customizeWithKit()
     kit.restoreNow();
     kit.customizeAction()->trigger();
     const QScopedPointer<RyCustomizedDialog> dialog(window.findChild<RyCustomizedDialog *>());
-    EditorViews(dialog.data()).toolBarList->setCurrentRow(0);
+    const EditorViews views(dialog.data());
+    views.toolBarList->setCurrentRow(0);
+    // What is announced.
+    for (QToolButton *button : {views.rightButton, views.upButton, views.leftButton}) {
+        QCoreApplication::processEvents();
+        button->click();
+    }
+    QCoreApplication::processEvents();
+    views.newButton->click(); // opens the line for the name
+    QCoreApplication::processEvents();
+    dialog->helpButton()->click();
 }
 
 } // namespace
