@@ -61,17 +61,11 @@ QSet<QString> mnemonicsIn(const QWidget *dialog)
     return mnemonics;
 }
 
+// Other scripts are typed with several keys for a character.
 bool isOnKeyboards(QChar letter)
 {
-    switch (letter.script()) {
-    case QChar::Script_Han:
-    case QChar::Script_Hangul:
-    case QChar::Script_Hiragana:
-    case QChar::Script_Katakana:
-        return false;
-    default:
-        return letter.isLetter();
-    }
+    return letter.toUpper() != letter.toLower() || letter.script() == QChar::Script_Arabic
+        || letter.script() == QChar::Script_Hebrew;
 }
 
 // Where no letter of a text is free, or the script has none on keyboards, one is appended, as is

@@ -251,6 +251,10 @@ void tst_DialogKeys::aCaptionWithoutAFreeLetterGetsOne_data()
                              << "操作 (&A)";
     QTest::newRow("Japanese") << "アクション"
                               << "アクション (&A)";
+    QTest::newRow("Japanese with a long vowel") << "ツールバー"
+                                                << "ツールバー (&A)";
+    QTest::newRow("Arabic") << "الإجراءات"
+                            << "&الإجراءات";
     QTest::newRow("Korean") << "작업"
                             << "작업 (&A)";
     QTest::newRow("Russian") << "Действия"
