@@ -5,7 +5,12 @@
 #include "actiondrag.h"
 #include "actionrows.h"
 #include "actionsearch.h"
+#include "changeannouncer.h"
+#include "dialogkeys.h"
+#include "itemfocus.h"
 #include "readableviews.h"
+#include "spokennames.h"
+#include "userguide.h"
 
 #include <RyCustomizedDialog>
 #include <RyToolBarManager>
@@ -28,6 +33,15 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, RyToolBarManager *man
         m_actionSearch = new ActionSearch(m_parts);
     if (features & RyToolBarKit::DragActions)
         new ActionDrag(m_parts, this);
+    if (features & RyToolBarKit::UserGuide)
+        new UserGuide(dialog);
+    // Last, for the letters and the order of all controls.
+    if (features & RyToolBarKit::DialogKeys) {
+        new SpokenNames(m_parts);
+        new ItemFocus(m_parts);
+        new ChangeAnnouncer(m_parts);
+        new DialogKeys(m_parts);
+    }
     // The last thing that the editor does when it fills its views.
     connect(m_parts.toolBarList->model(), SIGNAL(layoutChanged()), this, SLOT(dressRows()));
     connect(m_parts.actionTree->model(), SIGNAL(modelReset()), this, SLOT(forgetRows()));

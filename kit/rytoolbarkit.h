@@ -136,7 +136,7 @@ public:
         KeepSteps = 0x1000, //!< Keeps the last layouts for undoAction() and redoAction().
         ToolBarMenus = 0x2000, //!< Adds what users can do with a toolbar to its context menu.
         DialogKeys = 0x4000, //!< Adds keys to the dialog, and names for screen readers.
-        UserGuide = 0x8000, //!< Opens the user guide as the dialog's help.
+        UserGuide = 0x8000, //!< Opens a guide for users as the dialog's help.
         AllFeatures = 0xffff //!< Everything above.
     };
     Q_DECLARE_FLAGS(Features, Feature)
@@ -351,6 +351,13 @@ Q_SIGNALS:
     /*!
      * \brief Emitted before \a dialog is shown, for changes to it. The kit deletes the dialog when
      *        it is closed.
+     *
+     * Help of your own replaces the user guide, also for F1:
+     * \code
+     * disconnect(dialog->helpButton(), nullptr, dialog, nullptr);
+     * connect(dialog->helpButton(), &QPushButton::clicked, this, &Window::showHelp);
+     * \endcode
+     * A window with it must be a child of the dialog, which is modal.
      */
     void aboutToCustomize(RyCustomizedDialog *dialog);
 

@@ -4,10 +4,10 @@
 # Takes pictures of the dialog for people to look at.
 #
 # usage: pictures.sh looks|translations|guide [--qt 5|6]
-#   looks         each style, light and dark, at three scale factors and in both directions, on one
-#                 sheet for each style, in build/pictures (build/pictures-qt6 with Qt 6)
+#   looks         the dialog of the kit in each style, light and dark, at three scale factors and in
+#                 both directions, on one sheet for each style, in build/pictures (build/pictures-qt6 with Qt 6)
 #   translations  each language, with Qt's own translations: both tabs and the message box of the Help
-#                 button, in the same folder
+#                 button, and the dialog of the kit and its help, in the same folder
 #   guide         the pictures of the page for users, in docs/images
 
 # shellcheck disable=SC2317 # step calls the functions

@@ -182,6 +182,21 @@
     </message>
 </context>
 <context>
+    <name>ChangeAnnouncer</name>
+    <message>
+        <source>Removed: %1</source>
+        <translation>أُزيل: %1</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>أُضيف: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1, %2 of %3</source>
+        <translation>نُقل: %1، %2 من %3</translation>
+    </message>
+</context>
+<context>
     <name>CustomizedDialog</name>
     <message>
         <source>Options</source>
@@ -208,6 +223,18 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>خصّص أشرطة الأدوات</translation>
+    <name>DialogKeys</name>
+    <message>
+        <source>%1 adds the current action to the toolbar</source>
+        <translation>%1 يضيف الإجراء الحاليّ إلى شريط الأدوات</translation>
+    </message>
+    <message>
+        <source>%1 makes a toolbar, %2 renames it, %3 removes it</source>
+        <translation>%1 ينشئ شريط أدوات، و%2 يعيد تسميته، و%3 يزيله</translation>
+    </message>
+    <message>
+        <source>%1 and %2 move the current action, %3 removes it</source>
+        <translation>%1 و%2 ينقلان الإجراء الحاليّ، و%3 يزيله</translation>
     </message>
 </context>
 <context>
@@ -338,6 +365,29 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>أزل من شريط الأدوات</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>فاصل</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>يأتي مع البرنامج ولا يمكن إعادة تسميته ولا إزالته</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>اسم شريط الأدوات</translation>
+    </message>
+</context>
+<context>
+    <name>UserGuide</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of your language in itself. Where the user guide is translated, it is the name of its file.</extracomment>
+        <translation>العربية</translation>
     </message>
 </context>
 </TS>

@@ -182,6 +182,21 @@
     </message>
 </context>
 <context>
+    <name>ChangeAnnouncer</name>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Entfernt: %1</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Hinzugefügt: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1, %2 of %3</source>
+        <translation>Verschoben: %1, %2 von %3</translation>
+    </message>
+</context>
+<context>
     <name>CustomizedDialog</name>
     <message>
         <source>Options</source>
@@ -208,6 +223,18 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>Werkzeugleisten anpassen</translation>
+    <name>DialogKeys</name>
+    <message>
+        <source>%1 adds the current action to the toolbar</source>
+        <translation>%1 fügt die aktuelle Aktion zur Werkzeugleiste hinzu</translation>
+    </message>
+    <message>
+        <source>%1 makes a toolbar, %2 renames it, %3 removes it</source>
+        <translation>%1 erstellt eine Werkzeugleiste, %2 benennt sie um, %3 entfernt sie</translation>
+    </message>
+    <message>
+        <source>%1 and %2 move the current action, %3 removes it</source>
+        <translation>%1 und %2 verschieben die aktuelle Aktion, %3 entfernt sie</translation>
     </message>
 </context>
 <context>
@@ -338,6 +365,29 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Aus der Werkzeugleiste entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Trennlinie</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Gehört zum Programm und kann weder umbenannt noch entfernt werden</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Name der Werkzeugleiste</translation>
+    </message>
+</context>
+<context>
+    <name>UserGuide</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of your language in itself. Where the user guide is translated, it is the name of its file.</extracomment>
+        <translation>Deutsch</translation>
     </message>
 </context>
 </TS>

@@ -182,6 +182,21 @@
     </message>
 </context>
 <context>
+    <name>ChangeAnnouncer</name>
+    <message>
+        <source>Removed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moved: %1, %2 of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CustomizedDialog</name>
     <message>
         <source>Options</source>
@@ -207,6 +222,17 @@
     </message>
     <message>
         <source>Customize Toolbars</source>
+    <name>DialogKeys</name>
+    <message>
+        <source>%1 adds the current action to the toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 makes a toolbar, %2 renames it, %3 removes it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 move the current action, %3 removes it</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -337,6 +363,29 @@
     </message>
     <message>
         <source>Remove from toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UserGuide</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of your language in itself. Where the user guide is translated, it is the name of its file.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -182,6 +182,21 @@
     </message>
 </context>
 <context>
+    <name>ChangeAnnouncer</name>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Quitado: %1</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Añadido: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1, %2 of %3</source>
+        <translation>Movido: %1, %2 de %3</translation>
+    </message>
+</context>
+<context>
     <name>CustomizedDialog</name>
     <message>
         <source>Options</source>
@@ -208,6 +223,18 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>Personalizar las barras de herramientas</translation>
+    <name>DialogKeys</name>
+    <message>
+        <source>%1 adds the current action to the toolbar</source>
+        <translation>%1 añade la acción actual a la barra de herramientas</translation>
+    </message>
+    <message>
+        <source>%1 makes a toolbar, %2 renames it, %3 removes it</source>
+        <translation>%1 crea una barra de herramientas, %2 le cambia el nombre, %3 la quita</translation>
+    </message>
+    <message>
+        <source>%1 and %2 move the current action, %3 removes it</source>
+        <translation>%1 y %2 mueven la acción actual, %3 la quita</translation>
     </message>
 </context>
 <context>
@@ -338,6 +365,29 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Quitar de la barra de herramientas</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Separador</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Viene con el programa y no se puede cambiar de nombre ni quitar</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Nombre de la barra de herramientas</translation>
+    </message>
+</context>
+<context>
+    <name>UserGuide</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of your language in itself. Where the user guide is translated, it is the name of its file.</extracomment>
+        <translation>Español</translation>
     </message>
 </context>
 </TS>

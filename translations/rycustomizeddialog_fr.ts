@@ -182,6 +182,21 @@
     </message>
 </context>
 <context>
+    <name>ChangeAnnouncer</name>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Retiré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Ajouté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1, %2 of %3</source>
+        <translation>Déplacé&#xa0;: %1, %2 sur %3</translation>
+    </message>
+</context>
+<context>
     <name>CustomizedDialog</name>
     <message>
         <source>Options</source>
@@ -208,6 +223,18 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>Personnaliser les barres d&apos;outils</translation>
+    <name>DialogKeys</name>
+    <message>
+        <source>%1 adds the current action to the toolbar</source>
+        <translation>%1 ajoute l&apos;action actuelle à la barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>%1 makes a toolbar, %2 renames it, %3 removes it</source>
+        <translation>%1 crée une barre d&apos;outils, %2 la renomme, %3 la retire</translation>
+    </message>
+    <message>
+        <source>%1 and %2 move the current action, %3 removes it</source>
+        <translation>%1 et %2 déplacent l&apos;action actuelle, %3 la retire</translation>
     </message>
 </context>
 <context>
@@ -338,6 +365,29 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Retirer de la barre d&apos;outils</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Séparateur</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Fait partie du programme et ne peut être ni renommée ni retirée</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Nom de la barre d&apos;outils</translation>
+    </message>
+</context>
+<context>
+    <name>UserGuide</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of your language in itself. Where the user guide is translated, it is the name of its file.</extracomment>
+        <translation>Français</translation>
     </message>
 </context>
 </TS>

@@ -182,6 +182,21 @@
     </message>
 </context>
 <context>
+    <name>ChangeAnnouncer</name>
+    <message>
+        <source>Removed: %1</source>
+        <translation>הוסר: %1</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>נוסף: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1, %2 of %3</source>
+        <translation>הוזז: %1, %2 מתוך %3</translation>
+    </message>
+</context>
+<context>
     <name>CustomizedDialog</name>
     <message>
         <source>Options</source>
@@ -208,6 +223,18 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>התאם אישית את סרגלי הכלים</translation>
+    <name>DialogKeys</name>
+    <message>
+        <source>%1 adds the current action to the toolbar</source>
+        <translation>%1 מוסיף את הפעולה הנוכחית לסרגל הכלים</translation>
+    </message>
+    <message>
+        <source>%1 makes a toolbar, %2 renames it, %3 removes it</source>
+        <translation>%1 יוצר סרגל כלים, %2 משנה את שמו, %3 מסיר אותו</translation>
+    </message>
+    <message>
+        <source>%1 and %2 move the current action, %3 removes it</source>
+        <translation>%1 ו-%2 מזיזים את הפעולה הנוכחית, %3 מסיר אותה</translation>
     </message>
 </context>
 <context>
@@ -338,6 +365,29 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>הסר מסרגל הכלים</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>מפריד</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>מגיע עם התוכנית ואי אפשר לשנות את שמו או להסיר אותו</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>שם סרגל הכלים</translation>
+    </message>
+</context>
+<context>
+    <name>UserGuide</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of your language in itself. Where the user guide is translated, it is the name of its file.</extracomment>
+        <translation>עברית</translation>
     </message>
 </context>
 </TS>

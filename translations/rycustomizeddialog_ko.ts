@@ -182,6 +182,21 @@
     </message>
 </context>
 <context>
+    <name>ChangeAnnouncer</name>
+    <message>
+        <source>Removed: %1</source>
+        <translation>제거됨: %1</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>추가됨: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1, %2 of %3</source>
+        <translation>이동됨: %1, %3개 중 %2번째</translation>
+    </message>
+</context>
+<context>
     <name>CustomizedDialog</name>
     <message>
         <source>Options</source>
@@ -208,6 +223,18 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>도구 모음 사용자 정의</translation>
+    <name>DialogKeys</name>
+    <message>
+        <source>%1 adds the current action to the toolbar</source>
+        <translation>%1 키로 현재 동작을 도구 모음에 추가합니다</translation>
+    </message>
+    <message>
+        <source>%1 makes a toolbar, %2 renames it, %3 removes it</source>
+        <translation>%1 키로 도구 모음을 만들고, %2 키로 이름을 바꾸고, %3 키로 제거합니다</translation>
+    </message>
+    <message>
+        <source>%1 and %2 move the current action, %3 removes it</source>
+        <translation>%1 키와 %2 키로 현재 동작을 이동하고, %3 키로 제거합니다</translation>
     </message>
 </context>
 <context>
@@ -338,6 +365,29 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>도구 모음에서 제거</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>구분선</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>프로그램에 포함된 것으로 이름을 바꾸거나 제거할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>도구 모음의 이름</translation>
+    </message>
+</context>
+<context>
+    <name>UserGuide</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of your language in itself. Where the user guide is translated, it is the name of its file.</extracomment>
+        <translation>한국어</translation>
     </message>
 </context>
 </TS>

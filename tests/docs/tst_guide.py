@@ -104,6 +104,65 @@ class Snippets(unittest.TestCase):
         self.assertEqual(found, [])
 
 
+class UserGuide(unittest.TestCase):
+    """The help of the kit is made from the pages for users."""
+
+    UPDATE = SOURCE_DIR / 'tools' / 'update-user-guide.py'
+    PAGES = SOURCE_DIR / 'kit' / 'userguide'
+
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.docs = Path(scratch.name) / 'docs'
+        self.pages = Path(scratch.name) / 'pages'
+        shutil.copytree(DOCS, self.docs)
+        shutil.copytree(self.PAGES, self.pages)
+
+    def run_tool(self, *arguments):
+        """Runs the tool on the copies, with the Python that has what it needs."""
+        return subprocess.run([self.UPDATE, '--docs', self.docs, '--pages', self.pages, *arguments],
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                              universal_newlines=True)
+
+    def change(self, old, new):
+        page = self.docs / 'user-guide.md'
+        self.assertIn(old, page.read_text())
+        page.write_text(page.read_text().replace(old, new, 1))
+
+    def test_the_help_is_made_from_the_pages(self):
+        done = self.run_tool('--check')
+        self.assertEqual(done.returncode, 0, f'{done.stdout}tools/update-user-guide.py updates it')
+
+    def test_a_changed_page_is_reported_and_fixed(self):
+        self.change('Toolbars are', 'A toolbar is')
+        self.assertEqual(self.run_tool('--check').returncode, 1)
+        self.assertEqual(self.run_tool().returncode, 0)
+        self.assertIn('<p>A toolbar is', (self.pages / 'user-guide.html').read_text())
+        self.assertEqual(self.run_tool('--check').returncode, 0)
+
+    def test_a_help_without_a_page_is_reported(self):
+        (self.docs / 'user-guide.de.md').unlink()
+        done = self.run_tool('--check')
+        self.assertEqual(done.returncode, 1)
+        self.assertIn('user-guide.de.html', done.stdout)
+
+    def test_links_that_the_help_cannot_show_are_reported(self):
+        self.change('(#separators)', '(names.md)')
+        self.assertIn('names.md leads out of the page', self.run_tool('--check').stdout)
+        self.change('(names.md)', '(#separator)')
+        self.assertIn('#separator leads to no heading', self.run_tool('--check').stdout)
+
+    def test_every_page_and_picture_is_compiled_in(self):
+        listed = (self.PAGES / 'userguide.qrc').read_text()
+        pages = sorted(path.name for path in self.PAGES.glob('*.html'))
+        self.assertGreater(len(pages), 1)
+        self.assertEqual(sorted(re.findall(r'>([\w.-]+\.html)<', listed)), pages)
+        pictures = set()
+        for page in pages:
+            pictures |= set(re.findall(r'src="([^"]*)"', (self.PAGES / page).read_text()))
+        self.assertEqual(sorted(re.findall(r'alias="(images/[^"]*)"', listed)), sorted(pictures))
+
+
 class Pages(unittest.TestCase):
     """The links in all pages lead somewhere."""
 

@@ -358,7 +358,7 @@ void tst_ReadableViews::rowsAreExplained()
         action->setStatusTip(statusTip);
     });
     QTEST(toolTipOf(*opened.views, opened.item("&Open…")), "shown");
-    QCOMPARE(toolTipOf(*opened.views, opened.item("Menu")), QString());
+    QCOMPARE(toolTipOf(*opened.views, opened.item("Menu")), opened.views->actionTree->toolTip());
 }
 
 void tst_ReadableViews::actionsThatAreGoneHaveNoExplanation()
@@ -373,7 +373,7 @@ void tst_ReadableViews::actionsThatAreGoneHaveNoExplanation()
     });
     QCOMPARE(toolTipOf(*opened.views, opened.item("Gone")), "Says more");
     delete opened.program.action("gone");
-    QCOMPARE(toolTipOf(*opened.views, opened.item("Gone")), QString());
+    QCOMPARE(toolTipOf(*opened.views, opened.item("Gone")), opened.views->actionTree->toolTip());
     opened.views->actionTree->grab();
 }
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "editorviews.h"
+#include "kitdialog.h"
 #include "kitwindow.h"
+#include "nextmodal.h"
 #include "openedmenu.h"
 #include "testcase.h"
 #include "texts.h"
@@ -9,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -35,6 +38,8 @@ private Q_SLOTS:
     void withoutDragActionsTheDialogTakesNoDrags();
     void withoutSearchActionsThereIsNoLine();
     void withoutReadableListsTheDialogShowsWhatTheLibraryDoes();
+    void withoutDialogKeysTheDialogHasThoseOfThePlainOne();
+    void withoutUserGuideHelpIsThatOfThePlainDialog();
 };
 
 namespace {
@@ -243,6 +248,31 @@ void tst_RyToolBarKit_features::withoutReadableListsTheDialogShowsWhatTheLibrary
         const auto *const delegate = qobject_cast<QStyledItemDelegate *>(view->itemDelegate());
         QCOMPARE(delegate->displayText("&Open", QLocale()), "&Open");
     }
+}
+
+void tst_RyToolBarKit_features::withoutDialogKeysTheDialogHasThoseOfThePlainOne()
+{
+    KitDialog stage(RyToolBarKit::DialogKeys);
+    QCOMPARE(stage.views.upButton->toolTip(), "Move action up");
+    QCOMPARE(stage.views.page->findChild<QLabel *>("label_2")->text(), "Toolbars");
+    QCOMPARE(stage.views.actionTree->accessibleName(), QString());
+    QVERIFY(!stage.dialog->findChild<QWidget *>("changeNotification"));
+    stage.choose("Mine");
+    stage.pressKey(stage.views.currentToolBarList, Qt::Key_Delete);
+    QCOMPARE(stage.entries(), words("Cut | Copy"));
+}
+
+void tst_RyToolBarKit_features::withoutUserGuideHelpIsThatOfThePlainDialog()
+{
+    const KitDialog stage(RyToolBarKit::UserGuide);
+    QString title;
+    const NextModal box([&](QWidget *widget) {
+        title = widget->windowTitle();
+        widget->close();
+    });
+    QTest::mouseClick(stage.dialog->helpButton(), Qt::LeftButton);
+    QCOMPARE(title, "help");
+    QVERIFY(!stage.dialog->findChild<QDialog *>("userGuide"));
 }
 
 QTEST_MAIN(tst_RyToolBarKit_features)

@@ -138,12 +138,14 @@ QStringList TranslatedDialog::texts() const
     return texts;
 }
 
-QStringList TranslatedDialog::cutOff() const
+QStringList TranslatedDialog::cutOff(const QDialog *dialog)
 {
     QStringList found;
-    appendCutOff<QLabel>(found, &dialog);
-    appendCutOff<QAbstractButton>(found, &dialog);
-    appendCutOff(found, tabs->tabBar());
+    appendCutOff<QLabel>(found, dialog);
+    appendCutOff<QAbstractButton>(found, dialog);
+    const QTabWidget *const tabs = dialog->findChild<QTabWidget *>();
+    if (tabs->tabBar()->isVisible())
+        appendCutOff(found, tabs->tabBar());
     const QWidget *const page = tabs->currentWidget();
     const auto views = page->findChildren<QAbstractItemView *>();
     for (const QAbstractItemView *view : views)

@@ -27,8 +27,9 @@ public:
     // Every text of the library in the dialog with both its tabs, shown at the moment or not.
     QStringList texts() const;
 
-    // What does not fit into its place in the dialog as it is shown, with how much it needs.
-    QStringList cutOff() const;
+    // What does not fit into its place in a dialog as it is shown, with how much it needs.
+    static QStringList cutOff(const QDialog *dialog);
+    QStringList cutOff() const { return cutOff(&dialog); }
 
     RyCustomizedDialog dialog;
     const EditorViews editor;

@@ -11,6 +11,7 @@
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QMenu>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -20,7 +21,7 @@ namespace {
 const QStringList signs{"->", "1", "<-"};
 const QMap<QString, QStringList> sharedWords{
     {"fr", {"Actions", "Options"}},
-    {"pl", {"< S E P A R A T O R >"}},
+    {"pl", {"< S E P A R A T O R >", "Separator"}},
 };
 
 // Letters that a text of the language must not have: those of another alphabet look alike.
@@ -102,7 +103,17 @@ void customizeWithKit()
     openMenu(withoutTitle);
     kit.customizeAction()->trigger();
     const QScopedPointer<RyCustomizedDialog> dialog(window.findChild<RyCustomizedDialog *>());
-    EditorViews(dialog.data()).toolBarList->setCurrentRow(0);
+    const EditorViews views(dialog.data());
+    views.toolBarList->setCurrentRow(0);
+    // What is announced.
+    for (QToolButton *button : {views.rightButton, views.upButton, views.leftButton}) {
+        QCoreApplication::processEvents();
+        button->click();
+    }
+    QCoreApplication::processEvents();
+    views.newButton->click(); // opens the line for the name
+    QCoreApplication::processEvents();
+    dialog->helpButton()->click();
 }
 
 } // namespace

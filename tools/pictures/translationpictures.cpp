@@ -2,21 +2,25 @@
 
 // usage: translationpictures FOLDER
 //
-// Writes a picture for each language: the dialog's two tabs and the box of its Help button, each
-// with its title above it, in the direction of the language.
+// Writes a picture for each language: the dialog's two tabs and the box of its Help button, the
+// dialog of the kit and its help, each with its title above it, in the direction of the language.
 
 #include "host.h"
 #include "installedlanguage.h"
 #include "rycustomizeddialog.h"
+#include "rytoolbarkit.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLocale>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
+#include <QToolBar>
 
 #include <cstdio>
 
@@ -61,6 +65,25 @@ QList<View> viewsOfDialog()
     return views;
 }
 
+QList<View> viewsOfKit()
+{
+    QMainWindow window;
+    QMenu *const menu = window.menuBar()->addMenu("&Edit");
+    for (const char *text : {"Cu&t", "&Copy", "&Paste"})
+        menu->addAction(text)->setObjectName(text);
+    QToolBar *const toolBar = window.addToolBar("Edit");
+    toolBar->setObjectName("edit");
+    toolBar->addActions(menu->actions());
+    RyToolBarKit kit(&window, false);
+    kit.setSettings(nullptr, QString());
+    kit.customizeAction()->trigger();
+    RyCustomizedDialog *const dialog = window.findChild<RyCustomizedDialog *>();
+    QList<View> views{viewOf(dialog)};
+    dialog->helpButton()->click();
+    views << viewOf(dialog->findChild<QDialog *>("userGuide"));
+    return views;
+}
+
 QImage sheetOf(const QList<View> &views)
 {
     const int caption = 24;
@@ -85,7 +108,7 @@ bool takePicture(const QString &language, const QDir &folder)
     const InstalledLanguage installed(language, InstalledLanguage::LibraryAndQt);
     QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
     const QString file = folder.filePath(language + ".png");
-    const bool done = installed.isLoaded() && sheetOf(viewsOfDialog()).save(file);
+    const bool done = installed.isLoaded() && sheetOf(viewsOfDialog() + viewsOfKit()).save(file);
     std::printf("%s: %s\n", qPrintable(file), done ? "written" : "FAILED");
     return done;
 }
