@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>شريط الأدوات هذا فارغ. انقر إجراءً نقرًا مزدوجًا لإضافته.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>خصّص أشرطة الأدوات</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 و%2 ينقلان الإجراء الحاليّ، و%3 يزيله</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>شريط الأدوات هذا فارغ. انقر إجراءً نقرًا مزدوجًا لإضافته.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>خصّص أشرطة الأدوات</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>فاصل</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>يأتي مع البرنامج ولا يمكن إعادة تسميته ولا إزالته</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>اسم شريط الأدوات</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>أزل من شريط الأدوات</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>فاصل</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>يأتي مع البرنامج ولا يمكن إعادة تسميته ولا إزالته</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>اسم شريط الأدوات</translation>
     </message>
 </context>
 <context>

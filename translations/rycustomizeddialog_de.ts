@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Diese Werkzeugleiste ist leer. Doppelklicken Sie auf eine Aktion, um sie hinzuzufügen.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Werkzeugleisten anpassen</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 und %2 verschieben die aktuelle Aktion, %3 entfernt sie</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Diese Werkzeugleiste ist leer. Doppelklicken Sie auf eine Aktion, um sie hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Werkzeugleisten anpassen</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Trennlinie</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Gehört zum Programm und kann weder umbenannt noch entfernt werden</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Name der Werkzeugleiste</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Aus der Werkzeugleiste entfernen</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>Trennlinie</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>Gehört zum Programm und kann weder umbenannt noch entfernt werden</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>Name der Werkzeugleiste</translation>
     </message>
 </context>
 <context>

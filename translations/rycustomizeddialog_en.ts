@@ -215,13 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -233,6 +226,17 @@
     </message>
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -304,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -363,21 +382,6 @@
     </message>
     <message>
         <source>Remove from toolbar</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Esta barra de herramientas está vacía. Haga doble clic en una acción para añadirla.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Personalizar las barras de herramientas</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 y %2 mueven la acción actual, %3 la quita</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Esta barra de herramientas está vacía. Haga doble clic en una acción para añadirla.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizar las barras de herramientas</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Separador</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Viene con el programa y no se puede cambiar de nombre ni quitar</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Nombre de la barra de herramientas</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Quitar de la barra de herramientas</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>Separador</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>Viene con el programa y no se puede cambiar de nombre ni quitar</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>Nombre de la barra de herramientas</translation>
     </message>
 </context>
 <context>

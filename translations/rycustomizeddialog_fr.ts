@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Cette barre d&apos;outils est vide. Double-cliquez sur une action pour l&apos;ajouter.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Personnaliser les barres d&apos;outils</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 et %2 déplacent l&apos;action actuelle, %3 la retire</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Cette barre d&apos;outils est vide. Double-cliquez sur une action pour l&apos;ajouter.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personnaliser les barres d&apos;outils</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Séparateur</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Fait partie du programme et ne peut être ni renommée ni retirée</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Nom de la barre d&apos;outils</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Retirer de la barre d&apos;outils</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>Séparateur</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>Fait partie du programme et ne peut être ni renommée ni retirée</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>Nom de la barre d&apos;outils</translation>
     </message>
 </context>
 <context>

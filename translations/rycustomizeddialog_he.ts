@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>סרגל הכלים הזה ריק. לחץ פעמיים על פעולה כדי להוסיף אותה.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>התאם אישית את סרגלי הכלים</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 ו-%2 מזיזים את הפעולה הנוכחית, %3 מסיר אותה</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>סרגל הכלים הזה ריק. לחץ פעמיים על פעולה כדי להוסיף אותה.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>התאם אישית את סרגלי הכלים</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>מפריד</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>מגיע עם התוכנית ואי אפשר לשנות את שמו או להסיר אותו</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>שם סרגל הכלים</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>הסר מסרגל הכלים</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>מפריד</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>מגיע עם התוכנית ואי אפשר לשנות את שמו או להסיר אותו</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>שם סרגל הכלים</translation>
     </message>
 </context>
 <context>

@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Questa barra degli strumenti è vuota. Fai doppio clic su un&apos;azione per aggiungerla.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Personalizza le barre degli strumenti</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 e %2 spostano l&apos;azione attuale, %3 la rimuove</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Questa barra degli strumenti è vuota. Fai doppio clic su un&apos;azione per aggiungerla.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizza le barre degli strumenti</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Separatore</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Fa parte del programma e non può essere né rinominata né rimossa</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Nome della barra degli strumenti</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Rimuovi dalla barra degli strumenti</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>Separatore</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>Fa parte del programma e non può essere né rinominata né rimossa</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>Nome della barra degli strumenti</translation>
     </message>
 </context>
 <context>

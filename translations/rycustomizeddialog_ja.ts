@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>このツールバーは空です。アクションをダブルクリックすると追加されます。</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>ツールバーをカスタマイズ</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 と %2 で現在のアクションを移動、%3 で削除します</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>このツールバーは空です。アクションをダブルクリックすると追加されます。</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>ツールバーをカスタマイズ</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>区切り</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>プログラムに付属のもので、名前の変更も削除もできません</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>ツールバーの名前</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>ツールバーから削除</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>区切り</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>プログラムに付属のもので、名前の変更も削除もできません</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>ツールバーの名前</translation>
     </message>
 </context>
 <context>

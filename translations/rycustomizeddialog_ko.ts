@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>이 도구 모음은 비어 있습니다. 동작을 두 번 클릭하면 추가됩니다.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>도구 모음 사용자 정의</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 키와 %2 키로 현재 동작을 이동하고, %3 키로 제거합니다</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>이 도구 모음은 비어 있습니다. 동작을 두 번 클릭하면 추가됩니다.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>도구 모음 사용자 정의</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>구분선</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>프로그램에 포함된 것으로 이름을 바꾸거나 제거할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>도구 모음의 이름</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>도구 모음에서 제거</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>구분선</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>프로그램에 포함된 것으로 이름을 바꾸거나 제거할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>도구 모음의 이름</translation>
     </message>
 </context>
 <context>

@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Ten pasek narzędzi jest pusty. Kliknij działanie dwukrotnie, aby je dodać.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Dostosuj paski narzędzi</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 i %2 przenoszą bieżące działanie, %3 je usuwa</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Ten pasek narzędzi jest pusty. Kliknij działanie dwukrotnie, aby je dodać.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Dostosuj paski narzędzi</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Separator</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Należy do programu; nie można zmienić jego nazwy ani go usunąć</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Nazwa paska narzędzi</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Usuń z paska narzędzi</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>Separator</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>Należy do programu; nie można zmienić jego nazwy ani go usunąć</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>Nazwa paska narzędzi</translation>
     </message>
 </context>
 <context>

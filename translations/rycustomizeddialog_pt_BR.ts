@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Esta barra de ferramentas está vazia. Clique duas vezes em uma ação para adicioná-la.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Personalizar as barras de ferramentas</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 e %2 movem a ação atual, %3 a remove</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Esta barra de ferramentas está vazia. Clique duas vezes em uma ação para adicioná-la.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizar as barras de ferramentas</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Separador</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Faz parte do programa e não pode ser renomeada nem removida</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Nome da barra de ferramentas</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Remover da barra de ferramentas</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>Separador</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>Faz parte do programa e não pode ser renomeada nem removida</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>Nome da barra de ferramentas</translation>
     </message>
 </context>
 <context>

@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Эта панель инструментов пуста. Дважды щёлкните действие, чтобы добавить его.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Настроить панели инструментов</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 и %2 перемещают текущее действие, %3 убирает его</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Эта панель инструментов пуста. Дважды щёлкните действие, чтобы добавить его.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Настроить панели инструментов</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Разделитель</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Входит в программу, её нельзя ни переименовать, ни удалить</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Название панели инструментов</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Убрать с панели инструментов</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>Разделитель</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>Входит в программу, её нельзя ни переименовать, ни удалить</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>Название панели инструментов</translation>
     </message>
 </context>
 <context>

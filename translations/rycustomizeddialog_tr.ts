@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Bu araç çubuğu boş. Eklemek için bir eyleme çift tıklayın.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Araç Çubuklarını Özelleştir</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 ve %2 geçerli eylemi taşır, %3 kaldırır</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Bu araç çubuğu boş. Eklemek için bir eyleme çift tıklayın.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Araç Çubuklarını Özelleştir</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Ayırıcı</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Programla birlikte gelir; yeniden adlandırılamaz ve kaldırılamaz</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Araç çubuğunun adı</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Araç çubuğundan kaldır</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>Ayırıcı</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>Programla birlikte gelir; yeniden adlandırılamaz ve kaldırılamaz</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>Araç çubuğunun adı</translation>
     </message>
 </context>
 <context>

@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Ця панель інструментів порожня. Двічі клацніть дію, щоб додати її.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Налаштувати панелі інструментів</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 і %2 пересувають поточну дію, %3 прибирає її</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Ця панель інструментів порожня. Двічі клацніть дію, щоб додати її.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Налаштувати панелі інструментів</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>Роздільник</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>Належить до програми, її не можна ні перейменувати, ні видалити</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>Назва панелі інструментів</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>Прибрати з панелі інструментів</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>Роздільник</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>Належить до програми, її не можна ні перейменувати, ні видалити</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>Назва панелі інструментів</translation>
     </message>
 </context>
 <context>

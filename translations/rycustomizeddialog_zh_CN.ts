@@ -215,14 +215,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>此工具栏为空。双击操作即可添加。</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>自定义工具栏</translation>
     <name>DialogKeys</name>
     <message>
         <source>%1 adds the current action to the toolbar</source>
@@ -235,6 +227,17 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 和 %2 移动当前操作，%3 将其移除</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>此工具栏为空。双击操作即可添加。</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>自定义工具栏</translation>
     </message>
 </context>
 <context>
@@ -305,6 +308,21 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Separator</source>
+        <translation>分隔符</translation>
+    </message>
+    <message>
+        <source>Comes with the program and can be neither renamed nor removed</source>
+        <translation>随程序提供，不能重命名，也不能移除</translation>
+    </message>
+    <message>
+        <source>Name of the toolbar</source>
+        <translation>工具栏的名称</translation>
+    </message>
+</context>
+<context>
     <name>ToolBarMenu</name>
     <message>
         <source>Toolbars</source>
@@ -365,21 +383,6 @@
     <message>
         <source>Remove from toolbar</source>
         <translation>从工具栏移除</translation>
-    </message>
-</context>
-<context>
-    <name>SpokenNames</name>
-    <message>
-        <source>Separator</source>
-        <translation>分隔符</translation>
-    </message>
-    <message>
-        <source>Comes with the program and can be neither renamed nor removed</source>
-        <translation>随程序提供，不能重命名，也不能移除</translation>
-    </message>
-    <message>
-        <source>Name of the toolbar</source>
-        <translation>工具栏的名称</translation>
     </message>
 </context>
 <context>
