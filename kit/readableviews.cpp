@@ -12,6 +12,7 @@
 #include <QHash>
 #include <QLabel>
 #include <QListWidget>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -112,6 +113,8 @@ void ReadableViews::hideRibbonTab()
 {
     m_parts.tabs->removeTab(m_parts.tabs->indexOf(m_parts.dialog->findChild<RyCRibbonWidget *>()));
     m_parts.tabs->setTabBarAutoHide(true);
+    // Qt would pass the focus to the hidden bar, and Tab would go no further.
+    m_parts.tabs->tabBar()->setFocusPolicy(Qt::NoFocus);
 }
 
 // The editor knows the items by their addresses, so they may move, but not go.
