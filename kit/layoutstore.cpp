@@ -59,6 +59,17 @@ void LayoutStore::write(const QByteArray &value)
     m_settings->setValue(copyKey(), QString::fromUtf8(value));
 }
 
+QStringList LayoutStore::dialogSizes() const
+{
+    return isSet() ? m_settings->value(sizesKey()).toStringList() : QStringList();
+}
+
+void LayoutStore::setDialogSizes(const QStringList &sizes)
+{
+    if (isSet())
+        m_settings->setValue(sizesKey(), sizes);
+}
+
 void LayoutStore::sync()
 {
     if (isSet())

@@ -7,7 +7,7 @@
 #include <QPointer>
 #include <QScopedPointer>
 #include <QSettings>
-#include <QString>
+#include <QStringList>
 
 /*!
  * \brief The stored value of a layout, and its second copy.
@@ -49,6 +49,12 @@ public:
     void write(const QByteArray &value);
 
     /*!
+     * \brief Returns the sizes of the dialog, which are no part of the layout.
+     */
+    QStringList dialogSizes() const;
+    void setDialogSizes(const QStringList &sizes);
+
+    /*!
      * \brief Has the settings write now what was stored.
      */
     void sync();
@@ -56,6 +62,7 @@ public:
 private:
     QByteArray read(const QString &key) const;
     QString copyKey() const { return m_key + QLatin1String(".format1"); }
+    QString sizesKey() const { return m_key + QLatin1String(".dialog"); }
 
     QScopedPointer<QSettings> m_own;
     QPointer<QSettings> m_settings;

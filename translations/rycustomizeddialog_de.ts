@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>Änderungen an den Werkzeugleisten anwenden?</translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>
@@ -186,6 +193,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>Werkzeugleisten anpassen</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Alle Werkzeugleisten sind so, wie die Anwendung sie angelegt hat.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Standardwerte der Werkzeugleisten wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: Werkzeugleiste löschen</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: %2 hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: %2 entfernen</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: Reihenfolge wiederherstellen</translation>
     </message>
 </context>
 <context>

@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>
@@ -185,6 +192,33 @@
     </message>
     <message>
         <source>Customize Toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>Appliquer vos modifications aux barres d&apos;outils ?</translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>
@@ -186,6 +193,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>Personnaliser les barres d&apos;outils</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Toutes les barres d&apos;outils sont telles que l&apos;application les a créées.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Rétablir les barres d&apos;outils par défaut ?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1 : supprimer la barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1 : ajouter %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1 : retirer %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1 : rétablir l&apos;ordre</translation>
     </message>
 </context>
 <context>

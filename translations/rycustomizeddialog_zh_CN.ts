@@ -178,6 +178,13 @@
     </message>
 </context>
 <context>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>要应用对工具栏的更改吗？</translation>
+    </message>
+</context>
+<context>
     <name>ReadableViews</name>
     <message>
         <source>This toolbar is empty. Double-click an action to add it.</source>
@@ -186,6 +193,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>自定义工具栏</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>所有工具栏均为应用程序的初始状态。</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>要将工具栏恢复为默认设置吗？</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1：删除工具栏</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1：添加 %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1：移除 %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1：恢复顺序</translation>
     </message>
 </context>
 <context>

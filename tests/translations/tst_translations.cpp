@@ -4,10 +4,14 @@
 #include "recordingtranslator.h"
 #include "rytoolbarkit.h"
 #include "testcase.h"
+#include "texts.h"
 #include "translateddialog.h"
 #include "translationfile.h"
 
 #include <QDir>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -64,19 +68,36 @@ QString described(const TranslationFile::Message &message)
     return QString("%1: %2 = %3").arg(message.context, message.source, message.translation);
 }
 
+void pressRestoreDefaults(const RyCustomizedDialog *dialog)
+{
+    dialog->RestoreDefaultButton()->click();
+    delete dialog->findChild<QMessageBox *>();
+}
+
 // A user of the kit comes to all of its texts.
 void customizeWithKit()
 {
     QMainWindow window;
     QToolBar *const withoutTitle = window.addToolBar(QString());
     withoutTitle->addWidget(new QWidget);
+    window.menuBar()->addMenu("?2")->addAction("?3");
     RyToolBarKit kit(&window, false);
     kit.setSettings(nullptr, QString());
     kit.setRequired(withoutTitle->addAction("?1"));
     kit.restoreNow();
     kit.customizeAction()->trigger();
     const QScopedPointer<RyCustomizedDialog> dialog(window.findChild<RyCustomizedDialog *>());
-    EditorViews(dialog.data()).toolBarList->setCurrentRow(0);
+    pressRestoreDefaults(dialog.data());
+    // In another order, then with another action, and last with a new toolbar.
+    const EditorViews views(dialog.data());
+    views.click(views.downButton);
+    pressRestoreDefaults(dialog.data());
+    views.click(views.leftButton);
+    views.actionTree->setCurrentItem(itemNamed(views.actionTree, "?3"));
+    views.click(views.rightButton);
+    views.click(views.newButton);
+    pressRestoreDefaults(dialog.data());
+    QTest::keyClick(dialog.data(), Qt::Key_Escape);
 }
 
 } // namespace
