@@ -131,7 +131,6 @@ ActionSearch::ActionSearch(const DialogParts &parts)
     m_keyTimer.setInterval(KeyDelay);
     connect(&m_keyTimer, SIGNAL(timeout()), this, SLOT(makeKeys()));
     setTabOrder(m_parts.renameButton, this);
-    setFocus();
     connect(this, SIGNAL(textChanged(QString)), this, SLOT(find(QString)));
     connect(m_parts.actionTree->model(), SIGNAL(modelReset()), this, SLOT(forget()));
 }

@@ -7,6 +7,8 @@
 #include "actionsearch.h"
 #include "changeannouncer.h"
 #include "dialogkeys.h"
+#include "dialogpanes.h"
+#include "editprotection.h"
 #include "itemfocus.h"
 #include "readableviews.h"
 #include "spokennames.h"
@@ -16,27 +18,36 @@
 #include <RyToolBarManager>
 
 #include <QListWidget>
+#include <QPushButton>
 #include <QTreeWidget>
 
-DialogDressing::DialogDressing(RyCustomizedDialog *dialog, RyToolBarManager *manager,
-                               const QStringList &categories, RyToolBarKit::Features features)
+DialogDressing::DialogDressing(RyCustomizedDialog *dialog, const Context &context)
     : QObject(dialog)
     , m_parts(dialog)
-    , m_manager(manager)
+    , m_manager(context.manager)
     , m_readableViews(nullptr)
     , m_actionSearch(nullptr)
+    , m_editProtection(nullptr)
     , m_isFilled(false)
 {
-    if (features & RyToolBarKit::ReadableLists)
-        m_readableViews = new ReadableViews(m_parts, categories);
-    if (features & RyToolBarKit::SearchActions)
+    if (context.features & RyToolBarKit::ReadableLists)
+        m_readableViews = new ReadableViews(m_parts, context.categories);
+    if (context.features & RyToolBarKit::SearchActions)
         m_actionSearch = new ActionSearch(m_parts);
-    if (features & RyToolBarKit::DragActions)
+    if (context.features & RyToolBarKit::DragActions)
         new ActionDrag(m_parts, this);
-    if (features & RyToolBarKit::UserGuide)
+    if (context.features & RyToolBarKit::ProtectEdits)
+        protectEdits(context);
+    else
+        connect(dialog->RestoreDefaultButton(), SIGNAL(clicked()), this,
+                SIGNAL(defaultsRestored()));
+    // What is moved to another parent loses the focus.
+    if (m_actionSearch)
+        m_actionSearch->setFocus();
+    if (context.features & RyToolBarKit::UserGuide)
         new UserGuide(dialog);
     // Last, for the letters and the order of all controls.
-    if (features & RyToolBarKit::DialogKeys) {
+    if (context.features & RyToolBarKit::DialogKeys) {
         new SpokenNames(m_parts);
         new ItemFocus(m_parts);
         new ChangeAnnouncer(m_parts);
@@ -45,6 +56,16 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, RyToolBarManager *man
     // The last thing that the editor does when it fills its views.
     connect(m_parts.toolBarList->model(), SIGNAL(layoutChanged()), this, SLOT(dressRows()));
     connect(m_parts.actionTree->model(), SIGNAL(modelReset()), this, SLOT(forgetRows()));
+}
+
+void DialogDressing::protectEdits(const Context &context)
+{
+    m_editProtection = new EditProtection(m_parts);
+    const RestoreQuestion *const question =
+        new RestoreQuestion(m_parts, context.manager, context.defaults);
+    connect(question, SIGNAL(confirmed()), this, SIGNAL(defaultsRestored()));
+    connect(question, SIGNAL(changed()), m_editProtection, SLOT(markEdited()));
+    new DialogPanes(m_parts, context.store, context.features & RyToolBarKit::StoreChanges);
 }
 
 // The editor also sorts its toolbars later, when one is renamed.
@@ -58,6 +79,8 @@ void DialogDressing::dressRows()
         m_readableViews->arrange(&rows, m_manager);
     if (m_actionSearch)
         m_actionSearch->setRows(rows, m_manager);
+    if (m_editProtection)
+        m_editProtection->startAgain();
 }
 
 // The editor empties its views when they are hidden.

@@ -4,6 +4,7 @@
 #define DIALOGDRESSING_H
 
 #include "dialogparts.h"
+#include "restorequestion.h"
 #include "rytoolbarkit.h"
 
 #include <QObject>
@@ -11,6 +12,8 @@
 #include <QStringList>
 
 class ActionSearch;
+class EditProtection;
+class LayoutStore;
 class ReadableViews;
 class RyToolBarManager;
 
@@ -22,22 +25,37 @@ class DialogDressing : public QObject
     Q_OBJECT
 
 public:
+    struct Context
+    {
+        RyToolBarManager *manager;
+        // Those of the menus, in the order of the menus.
+        QStringList categories;
+        RestoreQuestion::Defaults defaults;
+        LayoutStore *store;
+        RyToolBarKit::Features features;
+    };
+
+    DialogDressing(RyCustomizedDialog *dialog, const Context &context);
+
+Q_SIGNALS:
     /*!
-     * \param categories those of the menus, in the order of the menus.
+     * \brief Restore Defaults was pressed, and confirmed if the user is asked.
      */
-    DialogDressing(RyCustomizedDialog *dialog, RyToolBarManager *manager,
-                   const QStringList &categories, RyToolBarKit::Features features);
+    void defaultsRestored();
 
 private Q_SLOTS:
     void dressRows();
     void forgetRows();
 
 private:
+    void protectEdits(const Context &context);
+
     const DialogParts m_parts;
     const QPointer<RyToolBarManager> m_manager;
     // Each is null without its feature.
     ReadableViews *m_readableViews;
     ActionSearch *m_actionSearch;
+    EditProtection *m_editProtection;
     bool m_isFilled;
 };
 

@@ -70,6 +70,17 @@ void LayoutStore::writeSteps(const QByteArray &steps)
         m_settings->setValue(stepsKey(), QString::fromUtf8(steps));
 }
 
+QStringList LayoutStore::dialogSizes() const
+{
+    return isSet() ? m_settings->value(sizesKey()).toStringList() : QStringList();
+}
+
+void LayoutStore::setDialogSizes(const QStringList &sizes)
+{
+    if (isSet())
+        m_settings->setValue(sizesKey(), sizes);
+}
+
 void LayoutStore::sync()
 {
     if (isSet())

@@ -7,7 +7,7 @@
 #include <QPointer>
 #include <QScopedPointer>
 #include <QSettings>
-#include <QString>
+#include <QStringList>
 
 /*!
  * \brief The stored value of a layout, and its second copy.
@@ -61,6 +61,12 @@ public:
     void writeSteps(const QByteArray &steps);
 
     /*!
+     * \brief Returns the sizes of the dialog, which are no part of the layout.
+     */
+    QStringList dialogSizes() const;
+    void setDialogSizes(const QStringList &sizes);
+
+    /*!
      * \brief Has the settings write now what was stored.
      */
     void sync();
@@ -69,6 +75,7 @@ private:
     QByteArray read(const QString &key) const;
     QString copyKey() const { return m_key + QLatin1String(".format1"); }
     QString stepsKey() const { return m_key + QLatin1String(".steps"); }
+    QString sizesKey() const { return m_key + QLatin1String(".dialog"); }
 
     QScopedPointer<QSettings> m_own;
     QPointer<QSettings> m_settings;

@@ -94,7 +94,7 @@ class RyToolBarManager;
  * that is damaged or from a newer version is refused with layoutRefused(); the second copy or else
  * the default is used, and the value stays until the user changes something. Instead of a layout,
  * the value may be bytes of RyToolBarManager::saveState() or QMainWindow::saveState() that the
- * program stored before.
+ * program stored before. The size of the dialog is kept below the key with ".dialog" after it.
  *
  * \par Steps
  * Each OK, Apply or restored layout, and each time that toolbars were moved, shown or hidden, is a

@@ -179,6 +179,7 @@ private:
     void adoptCreatedToolBars();
     void takeOffStrangeWidgets();
     void completeReset();
+    QHash<const QToolBar *, QList<QAction *>> defaultContents() const;
     void tellOthers();
 
     RyToolBarKit *m_kit;

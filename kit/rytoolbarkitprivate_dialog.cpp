@@ -34,14 +34,15 @@ void RyToolBarKitPrivate::customize()
     m_isReset = false;
     // After the dialog's own connection, when the toolbars have changed.
     connect(dialog->applyButton(), SIGNAL(clicked()), this, SLOT(applied()));
-    connect(dialog->RestoreDefaultButton(), SIGNAL(clicked()), this, SLOT(resetClicked()));
     connect(dialog, SIGNAL(finished(int)), this, SLOT(dialogFinished(int)));
     // The other page has widgets with the same names.
     const QWidget *const page = dialog->findChild<RyCToolBarWidget *>();
     m_rowsInDialog = page->findChild<QListWidget *>(QStringLiteral("currentToolBarList"));
     connect(m_rowsInDialog->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), this,
             SLOT(markRequired(QModelIndex, int, int)));
-    new DialogDressing(dialog, manager, m_menus->categories(), features);
+    const DialogDressing *const dressing = new DialogDressing(
+        dialog, {manager, m_menus->categories(), defaultContents(), &store, features});
+    connect(dressing, SIGNAL(defaultsRestored()), this, SLOT(resetClicked()));
     Q_EMIT m_kit->aboutToCustomize(dialog);
     dialog->show();
 }
@@ -191,6 +192,23 @@ void RyToolBarKitPrivate::completeReset()
         place(it.key());
     }
     takeLooksBack();
+}
+
+// What each default toolbar has after Restore Defaults and OK.
+QHash<const QToolBar *, QList<QAction *>> RyToolBarKitPrivate::defaultContents() const
+{
+    QHash<const QToolBar *, QList<QAction *>> contents;
+    const auto toolBars = manager->defaultToolBars();
+    for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it) {
+        QList<QAction *> &actions = contents[it.key()];
+        const QStringList names = m_defaults.value(it.key());
+        for (const QString &name : names) {
+            QAction *const action = static_cast<QAction *>(m_actionNames.object(name));
+            if (name.isNull() || action)
+                actions.append(action);
+        }
+    }
+    return contents;
 }
 
 void RyToolBarKitPrivate::tellOthers()

@@ -227,6 +227,10 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 و%2 ينقلان الإجراء الحاليّ، و%3 يزيله</translation>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>هل تريد تطبيق تغييراتك على أشرطة الأدوات؟</translation>
     </message>
 </context>
 <context>
@@ -238,6 +242,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>خصّص أشرطة الأدوات</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>كل أشرطة الأدوات كما أنشأها التطبيق.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>هل تريد إعادة أشرطة الأدوات إلى وضعها الافتراضيّ؟</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: حذف شريط الأدوات</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: إضافة %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: إزالة %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: استعادة الترتيب</translation>
     </message>
 </context>
 <context>

@@ -227,6 +227,10 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 und %2 verschieben die aktuelle Aktion, %3 entfernt sie</translation>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>Änderungen an den Werkzeugleisten anwenden?</translation>
     </message>
 </context>
 <context>
@@ -238,6 +242,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>Werkzeugleisten anpassen</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Alle Werkzeugleisten sind so, wie die Anwendung sie angelegt hat.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Standardwerte der Werkzeugleisten wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: Werkzeugleiste löschen</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: %2 hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: %2 entfernen</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: Reihenfolge wiederherstellen</translation>
     </message>
 </context>
 <context>

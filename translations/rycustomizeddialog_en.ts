@@ -226,6 +226,9 @@
     </message>
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -237,6 +240,33 @@
     </message>
     <message>
         <source>Customize Toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -227,6 +227,10 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 と %2 で現在のアクションを移動、%3 で削除します</translation>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>ツールバーへの変更を適用しますか？</translation>
     </message>
 </context>
 <context>
@@ -238,6 +242,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>ツールバーをカスタマイズ</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>すべてのツールバーは初期状態のままです。</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>ツールバーを既定の状態に戻しますか？</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1：ツールバーを削除</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1：%2 を追加</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1：%2 を削除</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1：並び順を元に戻す</translation>
     </message>
 </context>
 <context>

@@ -227,6 +227,10 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 i %2 przenoszą bieżące działanie, %3 je usuwa</translation>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>Zastosować zmiany w paskach narzędzi?</translation>
     </message>
 </context>
 <context>
@@ -238,6 +242,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>Dostosuj paski narzędzi</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Wszystkie paski narzędzi są takie, jak utworzył je program.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Przywrócić domyślne paski narzędzi?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: usunąć pasek narzędzi</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: dodać %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: usunąć %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: przywrócić kolejność</translation>
     </message>
 </context>
 <context>

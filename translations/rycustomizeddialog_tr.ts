@@ -227,6 +227,10 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 ve %2 geçerli eylemi taşır, %3 kaldırır</translation>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>Araç çubuklarındaki değişiklikler uygulansın mı?</translation>
     </message>
 </context>
 <context>
@@ -238,6 +242,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>Araç Çubuklarını Özelleştir</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Tüm araç çubukları uygulamanın oluşturduğu gibi.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Araç çubukları varsayılana döndürülsün mü?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: araç çubuğu silinir</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: %2 eklenir</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: %2 kaldırılır</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: sıra geri getirilir</translation>
     </message>
 </context>
 <context>

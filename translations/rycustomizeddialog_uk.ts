@@ -227,6 +227,10 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 і %2 пересувають поточну дію, %3 прибирає її</translation>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>Застосувати зміни панелей інструментів?</translation>
     </message>
 </context>
 <context>
@@ -238,6 +242,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>Налаштувати панелі інструментів</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Усі панелі інструментів такі, якими їх створила програма.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Повернути панелі інструментів до початкового вигляду?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: видалити панель інструментів</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: додати %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: прибрати %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: повернути порядок</translation>
     </message>
 </context>
 <context>

@@ -227,6 +227,10 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 和 %2 移动当前操作，%3 将其移除</translation>
+    <name>EditProtection</name>
+    <message>
+        <source>Apply your changes to the toolbars?</source>
+        <translation>要应用对工具栏的更改吗？</translation>
     </message>
 </context>
 <context>
@@ -238,6 +242,33 @@
     <message>
         <source>Customize Toolbars</source>
         <translation>自定义工具栏</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>所有工具栏均为应用程序的初始状态。</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>要将工具栏恢复为默认设置吗？</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1：删除工具栏</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1：添加 %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1：移除 %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1：恢复顺序</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLayout>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QtTest>
 
@@ -205,6 +206,10 @@ void KitProgram::restoreDefaults()
 {
     RyCustomizedDialog *const dialog = openDialog();
     QTest::mouseClick(dialog->RestoreDefaultButton(), Qt::LeftButton);
+    if (QMessageBox *const question = dialog->findChild<QMessageBox *>())
+        QTest::mouseClick(question->defaultButton() ? question->defaultButton()
+                                                    : question->button(QMessageBox::Ok),
+                          Qt::LeftButton);
     QTest::mouseClick(dialog->okButton(), Qt::LeftButton);
     letTheKitFollow();
 }

@@ -11,7 +11,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QSplitter>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -40,6 +42,7 @@ private Q_SLOTS:
     void withoutReadableListsTheDialogShowsWhatTheLibraryDoes();
     void withoutDialogKeysTheDialogHasThoseOfThePlainOne();
     void withoutUserGuideHelpIsThatOfThePlainDialog();
+    void withoutProtectEditsNothingIsAskedOrKept();
 };
 
 namespace {
@@ -273,6 +276,31 @@ void tst_RyToolBarKit_features::withoutUserGuideHelpIsThatOfThePlainDialog()
     QTest::mouseClick(stage.dialog->helpButton(), Qt::LeftButton);
     QCOMPARE(title, "help");
     QVERIFY(!stage.dialog->findChild<QDialog *>("userGuide"));
+}
+
+void tst_RyToolBarKit_features::withoutProtectEditsNothingIsAskedOrKept()
+{
+    KitProgram program;
+    startWithout(&program, RyToolBarKit::ProtectEdits);
+    program.edit("file", "open");
+    RyCustomizedDialog *const dialog = program.openDialog();
+    const EditorViews views(dialog);
+    for (int i = 0; i < 2; ++i) {
+        views.click(views.newButton);
+        views.typeName("");
+    }
+    QCOMPARE(rowsOf(views.toolBarList), QStringList({"", "", "Edit", "File"}));
+    views.toolBarList->setCurrentItem(nullptr);
+    QVERIFY(views.removeButton->isEnabled() && views.renameButton->isEnabled());
+    QTest::mouseClick(dialog->RestoreDefaultButton(), Qt::LeftButton);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    QVERIFY(!dialog->isVisible());
+    QVERIFY(!dialog->findChild<QMessageBox *>());
+    QVERIFY(!dialog->findChild<QSplitter *>());
+    QVERIFY(!program.settings->contains("toolBars.dialog"));
+    program.restoreDefaults();
+    QCOMPARE(program.content("file"), QString("new open save"));
+    QVERIFY(program.kit()->isDefault());
 }
 
 QTEST_MAIN(tst_RyToolBarKit_features)

@@ -4,6 +4,7 @@
 #include "recordingtranslator.h"
 #include "rytoolbarkit.h"
 #include "testcase.h"
+#include "texts.h"
 #include "translateddialog.h"
 #include "translationfile.h"
 
@@ -11,6 +12,8 @@
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QtTest>
@@ -90,12 +93,19 @@ void openMenu(QToolBar *toolBar)
     QApplication::activePopupWidget()->close();
 }
 
+void pressRestoreDefaults(const RyCustomizedDialog *dialog)
+{
+    dialog->RestoreDefaultButton()->click();
+    delete dialog->findChild<QMessageBox *>();
+}
+
 // A user of the kit comes to all of its texts.
 void customizeWithKit()
 {
     WindowWithMenu window;
     QToolBar *const withoutTitle = window.addToolBar(QString());
     withoutTitle->addWidget(new QWidget);
+    window.menuBar()->addMenu("?2")->addAction("?3");
     RyToolBarKit kit(&window, false);
     kit.setSettings(nullptr, QString());
     kit.setRequired(withoutTitle->addAction("?1"));
@@ -113,7 +123,17 @@ void customizeWithKit()
     QCoreApplication::processEvents();
     views.newButton->click(); // opens the line for the name
     QCoreApplication::processEvents();
+    pressRestoreDefaults(dialog.data());
+    // In another order, then with another action, and last with a new toolbar.
+    views.click(views.downButton);
+    pressRestoreDefaults(dialog.data());
+    views.click(views.leftButton);
+    views.actionTree->setCurrentItem(itemNamed(views.actionTree, "?3"));
+    views.click(views.rightButton);
+    views.click(views.newButton);
+    pressRestoreDefaults(dialog.data());
     dialog->helpButton()->click();
+    QTest::keyClick(dialog.data(), Qt::Key_Escape);
 }
 
 } // namespace
