@@ -158,10 +158,8 @@ bool ToolBarMenu::showForFloating(QToolBar *toolBar, QContextMenuEvent *event)
 void ToolBarMenu::extendShown()
 {
     QMenu *const menu = qobject_cast<QMenu *>(sender());
-    if (!m_isWaiting || !menu->testAttribute(Qt::WA_DeleteOnClose))
-        return;
-    stopWaiting();
-    extend(menu);
+    if (m_isWaiting && menu->testAttribute(Qt::WA_DeleteOnClose))
+        extend(menu);
 }
 
 void ToolBarMenu::extend(QMenu *menu)

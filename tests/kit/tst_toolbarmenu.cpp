@@ -356,6 +356,11 @@ void tst_ToolBarMenu::aFloatingToolBarHasIt()
     }
     toolBar->setContextMenuPolicy(Qt::PreventContextMenu);
     QCOMPARE(textsFor(program, "file", "open"), QStringList());
+    int requests = 0;
+    connect(toolBar, &QWidget::customContextMenuRequested, [&] { ++requests; });
+    toolBar->setContextMenuPolicy(Qt::CustomContextMenu);
+    QCOMPARE(textsFor(program, "file", "open"), QStringList());
+    QCOMPARE(requests, 1);
     toolBar->setContextMenuPolicy(Qt::DefaultContextMenu);
     toolBar->toggleViewAction()->setVisible(false);
     program.toolBar("edit")->toggleViewAction()->setVisible(false);
