@@ -443,10 +443,13 @@ void tst_ToolBarMenu::theSubmenuHasTheToolBarsThatTheProgramCannotKnow()
         menu->addAction(window->findChild<QToolBar *>("edit")->toggleViewAction());
         return menu;
     });
-    program.create("Mine", "paste");
+    for (const char *title : {"B", "A"})
+        program.create(title, "paste");
+    program.window()->resize(800, 300);
     const OpenedMenu menu(program.toolBar("file"), program.action("open"));
     QCOMPARE(menu.texts(), QStringList({"[x] Edit", "|", "Toolbars"}));
-    QCOMPARE(OpenedMenu::texts(menu.submenu("Toolbars")), QStringList("[x] Mine") + ForBoth);
+    QCOMPARE(OpenedMenu::texts(menu.submenu("Toolbars")),
+             QStringList({"[x] B", "[x] A"}) + ForBoth);
 }
 
 void tst_ToolBarMenu::theSubmenuHasNotWhatTheMenuHas()
