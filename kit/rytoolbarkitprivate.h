@@ -63,7 +63,7 @@ public:
     bool hasMenu(const QToolBar *toolBar) const;
     void followNow();
     void giveTitles();
-    KitToolBar recordOf(QToolBar *toolBar);
+    KitToolBar recordOf(const QToolBar *toolBar) const;
     void setLook(QToolBar *toolBar, const KitLook &look);
     bool isLocked() const { return m_layout.locked; }
     bool isAnyMovable() const;
@@ -71,7 +71,7 @@ public:
     bool canRemove(QToolBar *toolBar, int index) const;
     void removeEntry(QToolBar *toolBar, int index);
     bool isRequired(const QAction *action) const;
-    bool canReset(QToolBar *toolBar);
+    bool canReset(const QToolBar *toolBar) const;
     void resetToolBar(QToolBar *toolBar);
 
     RyToolBarKit::Features features;

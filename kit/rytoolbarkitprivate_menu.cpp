@@ -19,7 +19,7 @@ void RyToolBarKitPrivate::followNow()
     collect();
 }
 
-KitToolBar RyToolBarKitPrivate::recordOf(QToolBar *toolBar)
+KitToolBar RyToolBarKitPrivate::recordOf(const QToolBar *toolBar) const
 {
     KitToolBar record = m_layout.toolBars.value(m_toolBarNames.nameOf(toolBar));
     record.look = m_looks->shown(toolBar, record.look);
@@ -106,7 +106,7 @@ bool RyToolBarKitPrivate::isRequired(const QAction *action) const
     return m_required.contains(const_cast<QAction *>(action));
 }
 
-bool RyToolBarKitPrivate::canReset(QToolBar *toolBar)
+bool RyToolBarKitPrivate::canReset(const QToolBar *toolBar) const
 {
     const KitToolBar record = recordOf(toolBar);
     return !m_dialog && !record.custom && (record.customized || !record.look.isDefault());

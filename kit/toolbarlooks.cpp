@@ -186,8 +186,6 @@ void ToolBarLooks::movableChanged(bool movable)
     if (m_isLocking || !movable)
         return;
     const auto state = m_states.find(sender());
-    if (state == m_states.end() || !state->isLocked)
-        return;
-    state->isLocked = false;
-    Q_EMIT unlockedByProgram();
+    if (state != m_states.end() && state->isLocked)
+        Q_EMIT unlockedByProgram();
 }

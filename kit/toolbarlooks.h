@@ -67,7 +67,8 @@ public:
 
 Q_SIGNALS:
     /*!
-     * \brief Emitted when the program has made a locked toolbar movable.
+     * \brief Emitted when the program has made a locked toolbar movable, for the receiver to take
+     *        the lock back.
      */
     void unlockedByProgram();
 

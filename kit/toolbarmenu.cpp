@@ -3,6 +3,7 @@
 #include "toolbarmenu.h"
 
 #include "rytoolbarkitprivate.h"
+#include "toolbarplaces.h"
 
 #include <QActionGroup>
 #include <QCoreApplication>
@@ -135,11 +136,12 @@ void ToolBarMenu::note(QToolBar *toolBar, const QPoint &position)
 // The program comes first. Its event filters see the event twice if they let it pass.
 bool ToolBarMenu::showForFloating(QToolBar *toolBar, QContextMenuEvent *event)
 {
+    const QPointer<QToolBar> passedTo(toolBar);
     event->accept();
     m_isPassing = true;
     event->setAccepted(QCoreApplication::sendEvent(toolBar, event) && event->isAccepted());
     m_isPassing = false;
-    if (event->isAccepted() || !isAllowed(toolBar))
+    if (event->isAccepted() || !passedTo || !isAllowed(toolBar))
         return true;
     note(toolBar, event->pos());
     QMenu *const menu = m_window->createPopupMenu();
@@ -158,10 +160,8 @@ bool ToolBarMenu::showForFloating(QToolBar *toolBar, QContextMenuEvent *event)
 void ToolBarMenu::extendShown()
 {
     QMenu *const menu = qobject_cast<QMenu *>(sender());
-    if (!m_isWaiting || !menu->testAttribute(Qt::WA_DeleteOnClose))
-        return;
-    stopWaiting();
-    extend(menu);
+    if (m_isWaiting && menu->testAttribute(Qt::WA_DeleteOnClose))
+        extend(menu);
 }
 
 void ToolBarMenu::extend(QMenu *menu)
@@ -186,9 +186,9 @@ void ToolBarMenu::extend(QMenu *menu)
 void ToolBarMenu::addToolBars(QMenu *menu, const QMenu *shown) const
 {
     const auto inMenu = shown->actions();
-    const auto toolBars = m_kit->manager->toolBars();
-    for (QToolBar *toolBar : toolBars) {
-        if (!m_kit->manager->isDefaultToolBar(toolBar)
+    const auto toolBars = ToolBarPlaces::toolBarsIn(m_window);
+    for (const QToolBar *toolBar : toolBars) {
+        if (m_kit->hasMenu(toolBar) && m_kit->recordOf(toolBar).custom
             && !inMenu.contains(toolBar->toggleViewAction()))
             menu->addAction(toolBar->toggleViewAction());
     }

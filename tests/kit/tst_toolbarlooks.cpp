@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aChoiceCanBeTakenBack();
     void otherToolBarsFollowTheWindow();
     void aToolBarFollowsTheWindowAgain();
+    void aChoiceHoldsEvenIfTheWindowHasTheSame();
     void aToolBarGetsBackWhatTheProgramHadSet();
     void whatTheProgramSetsLaterWins();
     void whatTheProgramSetsLaterIsTakenBackTo();
@@ -256,6 +257,19 @@ void tst_ToolBarLooks::aToolBarFollowsTheWindowAgain()
     QCOMPARE(styleOf(program, "file"), Qt::ToolButtonTextOnly);
 }
 
+void tst_ToolBarLooks::aChoiceHoldsEvenIfTheWindowHasTheSame()
+{
+    KitProgram program;
+    program.start();
+    choose(program, "file", "Text only");
+    choose(program, "file", "Reset this toolbar");
+    choose(program, "file", "Icons only");
+    QCOMPARE(program.window()->toolButtonStyle(), Qt::ToolButtonIconOnly);
+    program.window()->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    QCOMPARE(styleOf(program, "file"), Qt::ToolButtonIconOnly);
+    QCOMPARE(styleOf(program, "edit"), Qt::ToolButtonTextOnly);
+}
+
 void tst_ToolBarLooks::aToolBarGetsBackWhatTheProgramHadSet()
 {
     KitProgram program;
@@ -300,6 +314,8 @@ void tst_ToolBarLooks::whatTheProgramSetsLaterIsTakenBackTo()
 {
     KitProgram program;
     program.start();
+    button(program, "file", "new")->setIconSize(QSize(64, 64));
+    button(program, "file", "new")->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     choose(program, "file", "Large (32)");
     choose(program, "file", "Text only");
     program.toolBar("file")->setIconSize(QSize(40, 40));
@@ -309,6 +325,8 @@ void tst_ToolBarLooks::whatTheProgramSetsLaterIsTakenBackTo()
     choose(program, "file", "Reset this toolbar");
     QCOMPARE(sizeOf(program, "file"), 40);
     QCOMPARE(styleOf(program, "file"), Qt::ToolButtonTextUnderIcon);
+    QCOMPARE(button(program, "file", "new")->iconSize(), QSize(40, 40));
+    QCOMPARE(button(program, "file", "new")->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
 }
 
 void tst_ToolBarLooks::aProgramThatStartsDifferentlyWins_data()

@@ -356,6 +356,11 @@ void tst_ToolBarMenu::aFloatingToolBarHasIt()
     }
     toolBar->setContextMenuPolicy(Qt::PreventContextMenu);
     QCOMPARE(textsFor(program, "file", "open"), QStringList());
+    int requests = 0;
+    connect(toolBar, &QWidget::customContextMenuRequested, [&] { ++requests; });
+    toolBar->setContextMenuPolicy(Qt::CustomContextMenu);
+    QCOMPARE(textsFor(program, "file", "open"), QStringList());
+    QCOMPARE(requests, 1);
     toolBar->setContextMenuPolicy(Qt::DefaultContextMenu);
     toolBar->toggleViewAction()->setVisible(false);
     program.toolBar("edit")->toggleViewAction()->setVisible(false);
@@ -438,10 +443,13 @@ void tst_ToolBarMenu::theSubmenuHasTheToolBarsThatTheProgramCannotKnow()
         menu->addAction(window->findChild<QToolBar *>("edit")->toggleViewAction());
         return menu;
     });
-    program.create("Mine", "paste");
+    for (const char *title : {"B", "A"})
+        program.create(title, "paste");
+    program.window()->resize(800, 300);
     const OpenedMenu menu(program.toolBar("file"), program.action("open"));
     QCOMPARE(menu.texts(), QStringList({"[x] Edit", "|", "Toolbars"}));
-    QCOMPARE(OpenedMenu::texts(menu.submenu("Toolbars")), QStringList("[x] Mine") + ForBoth);
+    QCOMPARE(OpenedMenu::texts(menu.submenu("Toolbars")),
+             QStringList({"[x] B", "[x] A"}) + ForBoth);
 }
 
 void tst_ToolBarMenu::theSubmenuHasNotWhatTheMenuHas()
