@@ -66,6 +66,7 @@ RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window,
     , customizeAction(new QAction(RyToolBarKit::tr("Customize Toolbars…"), kit))
     , undoAction(new QAction(RyToolBarKit::tr("Undo Toolbar Change"), kit))
     , redoAction(new QAction(RyToolBarKit::tr("Redo Toolbar Change"), kit))
+    , areProfilesShown(false)
     , m_kit(kit)
     , m_window(window)
     , m_printProblems(printProblems)

@@ -65,6 +65,7 @@ public:
     QAction *customizeAction;
     QAction *undoAction;
     QAction *redoAction;
+    bool areProfilesShown;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -3,6 +3,7 @@
 #include "rytoolbarkitprivate.h"
 
 #include "dialogdressing.h"
+#include "profilechooser.h"
 #include "toolbarplaces.h"
 
 #include <RyCToolBarWidget>
@@ -41,6 +42,8 @@ void RyToolBarKitPrivate::customize()
     connect(m_rowsInDialog->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), this,
             SLOT(markRequired(QModelIndex, int, int)));
     new DialogDressing(dialog, features);
+    if (areProfilesShown)
+        new ProfileChooser(dialog, m_kit, profiles().nameOf(saveLayout()));
     Q_EMIT m_kit->aboutToCustomize(dialog);
     dialog->show();
 }
