@@ -151,7 +151,7 @@ void RyToolBarKitPrivate::startAgain()
     m_customToolBars.clear();
     for (const QPointer<QToolBar> &toolBar : customToolBars)
         delete toolBar.data();
-    m_history.record(m_layout); // what collect() cannot do without a manager
+    recordSteps();
     setToDefaults();
     createManager();
     restore(KitLayout(m_layout));
