@@ -77,6 +77,11 @@ bool RyToolBarKit::restoreLayout(const QByteArray &layout)
     return d->restoreLayout(layout);
 }
 
+void RyToolBarKit::setProfilesShown(bool shown)
+{
+    d->areProfilesShown = shown;
+}
+
 QStringList RyToolBarKit::profiles()
 {
     return d->profiles().names();

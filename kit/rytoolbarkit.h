@@ -235,6 +235,12 @@ public:
     bool restoreLayout(const QByteArray &layout);
 
     /*!
+     * \brief Sets whether the dialog has a line with which the user chooses, saves and removes
+     *        profiles, and imports and exports layouts. By default it has none.
+     */
+    void setProfilesShown(bool shown);
+
+    /*!
      * \brief Returns the names of the layouts that the user has saved, as a user would sort them.
      *
      * They are stored below the key with ".profiles" appended. Unless setSettings() was called,

@@ -68,6 +68,7 @@ RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window,
     , customizeAction(new QAction(RyToolBarKit::tr("Customize Toolbars…"), kit))
     , undoAction(new QAction(RyToolBarKit::tr("Undo Toolbar Change"), kit))
     , redoAction(new QAction(RyToolBarKit::tr("Redo Toolbar Change"), kit))
+    , areProfilesShown(false)
     , m_kit(kit)
     , m_window(window)
     , m_printProblems(printProblems)
@@ -157,7 +158,7 @@ void RyToolBarKitPrivate::startAgain()
     m_customToolBars.clear();
     for (const QPointer<QToolBar> &toolBar : customToolBars)
         delete toolBar.data();
-    m_history.record(m_layout); // what collect() cannot do without a manager
+    recordSteps();
     setToDefaults();
     createManager();
     restore(KitLayout(m_layout));

@@ -82,6 +82,7 @@ public:
     QAction *customizeAction;
     QAction *undoAction;
     QAction *redoAction;
+    bool areProfilesShown;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -4,6 +4,7 @@
 
 #include "dialogdressing.h"
 #include "menuactions.h"
+#include "profilechooser.h"
 #include "toolbarplaces.h"
 
 #include <RyCToolBarWidget>
@@ -43,6 +44,8 @@ void RyToolBarKitPrivate::customize()
     const DialogDressing *const dressing = new DialogDressing(
         dialog, {manager, m_menus->categories(), defaultContents(), &store, features});
     connect(dressing, SIGNAL(defaultsRestored()), this, SLOT(resetClicked()));
+    if (areProfilesShown)
+        new ProfileChooser(dialog, m_kit, profiles().nameOf(saveLayout()));
     Q_EMIT m_kit->aboutToCustomize(dialog);
     dialog->show();
 }

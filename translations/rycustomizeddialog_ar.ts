@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: استعادة الترتيب</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>الملف الشخصي:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>احفظ باسم…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>أزل</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>استورد…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>صدّر…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>هل تريد الانتقال إلى الملف الشخصي «%1»؟</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>ستفقد تغييراتك في مربّع الحوار هذا.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>لا يمكن استخدام التخطيط.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>حفظ الملف الشخصي</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>هل تريد استبدال الملف الشخصي «%1»؟</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>هل تريد إزالة الملف الشخصي «%1»؟</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>استيراد تخطيط</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>تصدير التخطيط</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>التّخطيطات</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>لا يوجد في هذا البرنامج: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>هل تريد استيراد هذا التخطيط؟</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>لا يمكن كتابة الملف.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>اسم الملف الشخصي:</translation>
     </message>
 </context>
 <context>

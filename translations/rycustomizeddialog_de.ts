@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: Reihenfolge wiederherstellen</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Speichern unter…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>Zum Profil „%1“ wechseln?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>Ihre Änderungen in diesem Dialog gehen verloren.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>Die Anordnung ist nicht verwendbar.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>Profil speichern</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>Profil „%1“ ersetzen?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>Profil „%1“ entfernen?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>Anordnung importieren</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Anordnung exportieren</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Anordnungen</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>Dieses Programm hat nicht: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>Diese Anordnung importieren?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Die Datei kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>Name des Profils:</translation>
     </message>
 </context>
 <context>

@@ -267,6 +267,77 @@
     </message>
     <message>
         <source>%1: restore the order</source>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: restaurar el orden</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>Perfil:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>¿Cambiar al perfil «%1»?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>Se perderán los cambios hechos en este diálogo.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>No se puede usar la disposición.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>Guardar el perfil</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>¿Reemplazar el perfil «%1»?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>¿Eliminar el perfil «%1»?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>Importar una disposición</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Exportar la disposición</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Disposiciones</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>Este programa no tiene: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>¿Importar esta disposición?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>No se puede escribir el archivo.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>Nombre del perfil:</translation>
     </message>
 </context>
 <context>

@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1 : rétablir l&apos;ordre</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>Profil :</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>Passer au profil « %1 » ?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>Vos modifications dans cette boîte de dialogue seront perdues.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>La disposition n&apos;est pas utilisable.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>Enregistrer le profil</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>Remplacer le profil « %1 » ?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>Supprimer le profil « %1 » ?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>Importer une disposition</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Exporter la disposition</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Dispositions</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>Ce programme n&apos;a pas : %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>Importer cette disposition ?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Impossible d&apos;écrire le fichier.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>Nom du profil :</translation>
     </message>
 </context>
 <context>

@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: שחזור הסדר</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>פרופיל:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>שמור בשם…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>הסר</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>ייבא…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>ייצא…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>לעבור לפרופיל „%1”?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>השינויים שלך בתיבת הדו־שיח הזאת יאבדו.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>אי אפשר להשתמש בפריסה.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>שמירת פרופיל</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>להחליף את הפרופיל „%1”?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>להסיר את הפרופיל „%1”?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>ייבוא פריסה</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>ייצוא הפריסה</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>פריסות</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>אין בתוכנית הזאת: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>לייבא את הפריסה הזאת?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>אי אפשר לכתוב את הקובץ.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>שם הפרופיל:</translation>
     </message>
 </context>
 <context>

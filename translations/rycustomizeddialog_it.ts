@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: ripristinare l&apos;ordine</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>Profilo:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Salva con nome…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importa…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Esporta…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>Passare al profilo “%1”?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>Le modifiche fatte in questa finestra andranno perse.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>La disposizione non è utilizzabile.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>Salva il profilo</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>Sostituire il profilo “%1”?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>Rimuovere il profilo “%1”?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>Importa una disposizione</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Esporta la disposizione</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Disposizioni</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>Questo programma non ha: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>Importare questa disposizione?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Impossibile scrivere il file.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>Nome del profilo:</translation>
     </message>
 </context>
 <context>

@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1：並び順を元に戻す</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>プロファイル:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>名前を付けて保存…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>インポート…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>エクスポート…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>プロファイル「%1」に切り替えますか?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>このダイアログでの変更は失われます。</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>このレイアウトは使用できません。</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>プロファイルを保存</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>プロファイル「%1」を置き換えますか?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>プロファイル「%1」を削除しますか?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>レイアウトをインポート</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>レイアウトをエクスポート</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>レイアウト</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>このプログラムにないもの: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>このレイアウトをインポートしますか?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>ファイルに書き込めません。</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>プロファイルの名前:</translation>
     </message>
 </context>
 <context>

@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: 순서 되돌리기</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>프로필:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>다른 이름으로 저장…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>가져오기…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>내보내기…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>프로필 “%1”(으)로 전환하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>이 대화 상자에서 변경한 내용은 사라집니다.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>이 레이아웃은 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>프로필 저장</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>프로필 “%1”을(를) 바꾸시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>프로필 “%1”을(를) 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>레이아웃 가져오기</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>레이아웃 내보내기</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>레이아웃</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>이 프로그램에 없는 항목: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>이 레이아웃을 가져오시겠습니까?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>파일을 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>프로필 이름:</translation>
     </message>
 </context>
 <context>

@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: przywrócić kolejność</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Zapisz jako…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importuj…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Eksportuj…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>Przełączyć na profil „%1”?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>Zmiany w tym oknie zostaną utracone.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>Nie można użyć tego układu.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>Zapisywanie profilu</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>Zastąpić profil „%1”?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>Usunąć profil „%1”?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>Importowanie układu</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Eksportowanie układu</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Układy</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>Ten program nie ma: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>Zaimportować ten układ?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Nie można zapisać pliku.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>Nazwa profilu:</translation>
     </message>
 </context>
 <context>

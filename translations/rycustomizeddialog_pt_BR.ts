@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: restaurar a ordem</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>Perfil:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Salvar como…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>Mudar para o perfil “%1”?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>As suas alterações nesta caixa de diálogo serão perdidas.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>A disposição não pode ser usada.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>Salvar o perfil</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>Substituir o perfil “%1”?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>Remover o perfil “%1”?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>Importar uma disposição</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Exportar a disposição</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Disposições</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>Este programa não tem: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>Importar esta disposição?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Não é possível gravar o arquivo.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>Nome do perfil:</translation>
     </message>
 </context>
 <context>

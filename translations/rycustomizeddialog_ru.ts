@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: вернуть порядок</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>Профиль:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Сохранить как…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Импорт…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>Перейти на профиль «%1»?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>Ваши изменения в этом окне будут потеряны.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>Это расположение использовать нельзя.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>Сохранение профиля</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>Заменить профиль «%1»?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>Удалить профиль «%1»?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>Импорт расположения</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Экспорт расположения</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Расположения</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>В этой программе нет: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>Импортировать это расположение?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Не удаётся записать файл.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>Имя профиля:</translation>
     </message>
 </context>
 <context>

@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: sıra geri getirilir</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Farklı Kaydet…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>İçe Aktar…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Dışa Aktar…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>“%1” profiline geçilsin mi?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>Bu penceredeki değişiklikleriniz kaybolur.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>Düzen kullanılamıyor.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>Profili Kaydet</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>“%1” profili değiştirilsin mi?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>“%1” profili kaldırılsın mı?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>Düzeni İçe Aktar</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Düzeni Dışa Aktar</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Düzenler</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>Bu programda bulunmayanlar: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>Bu düzen içe aktarılsın mı?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Dosya yazılamıyor.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>Profilin adı:</translation>
     </message>
 </context>
 <context>

@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1: повернути порядок</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>Профіль:</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Зберегти як…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Видалити</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Імпорт…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Експорт…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>Перейти на профіль «%1»?</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>Ваші зміни в цьому вікні буде втрачено.</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>Це розташування не можна використати.</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>Збереження профілю</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>Замінити профіль «%1»?</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>Видалити профіль «%1»?</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>Імпорт розташування</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Експорт розташування</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Розташування</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>У цій програмі немає: %1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>Імпортувати це розташування?</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Не вдається записати файл.</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>Назва профілю:</translation>
     </message>
 </context>
 <context>

@@ -269,6 +269,78 @@
     <message>
         <source>%1: restore the order</source>
         <translation>%1：恢复顺序</translation>
+    <name>ProfileChooser</name>
+    <message>
+        <source>Profile:</source>
+        <translation>配置：</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>另存为…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>导入…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Switch to the profile “%1”?</source>
+        <translation>要切换到配置“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Your changes in this dialog are lost.</source>
+        <translation>您在此对话框中的更改将丢失。</translation>
+    </message>
+    <message>
+        <source>The layout cannot be used.</source>
+        <translation>无法使用此布局。</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <translation>保存配置</translation>
+    </message>
+    <message>
+        <source>Replace the profile “%1”?</source>
+        <translation>要替换配置“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Remove the profile “%1”?</source>
+        <translation>要移除配置“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Import Layout</source>
+        <translation>导入布局</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>导出布局</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>This program does not have: %1</source>
+        <translation>此程序没有：%1</translation>
+    </message>
+    <message>
+        <source>Import this layout?</source>
+        <translation>要导入此布局吗？</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>无法写入文件。</translation>
+    </message>
+    <message>
+        <source>Name of the profile:</source>
+        <translation>配置名称：</translation>
     </message>
 </context>
 <context>

@@ -56,11 +56,12 @@ ComparedWindow::ComparedWindow(const QString &settings, const QString &key)
         program.settings.reset(new QSettings(settings, QSettings::IniFormat));
 }
 
-void ComparedWindow::start(const KitModel::Release &release, const KitModel::Layout &stored)
+void ComparedWindow::start(const KitModel::Release &release, const KitModel::Layout &stored,
+                           const KitModel::Steps &steps)
 {
     m_release = release;
     program.start([this](QMainWindow *window) { build(window); });
-    model.start(release, stored);
+    model.start(release, stored, steps);
 }
 
 void ComparedWindow::end()
@@ -85,7 +86,8 @@ void ComparedWindow::build(QMainWindow *window)
     const QStringList toolBars = m_release.toolBars.keys();
     for (const QString &name : toolBars)
         addToolBar(window, name);
-    program.kit()->setRequired(window->findChild<QAction *>(m_release.required));
+    m_required = window->findChild<QAction *>(m_release.required);
+    program.kit()->setRequired(m_required);
 }
 
 void ComparedWindow::addMenu(QMainWindow *window)
@@ -167,6 +169,7 @@ void ComparedWindow::exchange(const QString &name)
             replace(program.toolBar(it.key()), former, now);
     }
     letTheKitFollow();
+    setFormerName(name, now); // for layouts that are saved and older
 }
 
 // A program that hides its toolbars for a while does not change the layout.
@@ -254,6 +257,14 @@ void ComparedWindow::reset(const QString &toolBar)
         model.reset(toolBar);
 }
 
+bool ComparedWindow::switchToProfile(const QString &name, const KitModel::Layout &profile)
+{
+    if (!program.kit()->switchToProfile(name))
+        return false;
+    model.restore(profile, m_required && m_required == program.action(m_required->objectName()));
+    return true;
+}
+
 QString ComparedWindow::difference()
 {
     const int count = program.window()->findChildren<QToolBar *>().size();
@@ -266,6 +277,11 @@ QString ComparedWindow::difference()
         if (toolBar->isMovable() == model.isLocked())
             return "the lock of " + toolBar->objectName() + " is wrong";
     }
+    if (program.kit()->undoAction()->isEnabled() == model.steps().undo.isEmpty()
+        || program.kit()->redoAction()->isEnabled() == model.steps().redo.isEmpty())
+        return QString("expected %1 and %2 steps")
+            .arg(model.steps().undo.size())
+            .arg(model.steps().redo.size());
     if (program.kit()->isDefault() && !model.isDefault())
         return "it is not the default";
     saved = program.kit()->saveLayout();

@@ -6,6 +6,8 @@
 #include "kitmodel.h"
 #include "kitwindow.h"
 
+#include <QPointer>
+
 /*
  * A window of a program beside the model of what it shows. What its program and its user do is done
  * to both.
@@ -20,7 +22,8 @@ public:
     ComparedWindow(const QString &settings, const QString &key);
 
     bool isOpen() const { return program.window(); }
-    void start(const KitModel::Release &release, const KitModel::Layout &stored);
+    void start(const KitModel::Release &release, const KitModel::Layout &stored,
+               const KitModel::Steps &steps);
     void end();
 
     // What the program does while it runs.
@@ -34,6 +37,8 @@ public:
     QString create(RyToolBarManager *manager, const QString &title, const QStringList &content);
     void remove(RyToolBarManager *manager, const QString &toolBar);
     void hideOrShow(const QString &toolBar);
+    // Returns false if there is no such profile.
+    bool switchToProfile(const QString &name, const KitModel::Layout &profile);
     // In the menu of a toolbar
     void chooseIconSize(const QString &toolBar, int size);
     void chooseTextPosition(const QString &toolBar, const QString &position);
@@ -67,6 +72,8 @@ private:
     bool hasFormerActions() const;
 
     KitModel::Release m_release;
+    // What the window had when it was started.
+    QPointer<QAction> m_required;
     // Owns the actions that others have taken the place of.
     QObject m_formerActions;
 };

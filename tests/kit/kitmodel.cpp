@@ -5,6 +5,7 @@
 namespace {
 
 const QString Separator = "|";
+const int MostSteps = 20;
 
 // The place for a name of the model among the entries.
 int placeOf(const QString &name, const QStringList &entries, const QStringList &model)
@@ -59,15 +60,35 @@ QMap<QString, QStringList> defaultsOf(const KitModel::Release &release)
 
 } // namespace
 
-void KitModel::start(const Release &release, const Layout &stored)
+bool operator==(const KitModel::ToolBar &a, const KitModel::ToolBar &b)
+{
+    return a.title == b.title && a.custom == b.custom && a.customized == b.customized
+        && a.entries == b.entries && a.known == b.known && a.hidden == b.hidden
+        && a.iconSize == b.iconSize && a.textPosition == b.textPosition;
+}
+
+void KitModel::start(const Release &release, const Layout &stored, const Steps &steps)
 {
     m_release = release;
     m_defaults = defaultsOf(release);
-    takeOver(stored);
+    takeOver(stored, steps);
     bringBackRequired();
 }
 
-void KitModel::takeOver(const Layout &layout)
+void KitModel::takeOver(const Layout &layout, const Steps &steps)
+{
+    m_steps = steps;
+    show(layout);
+}
+
+void KitModel::restore(const Layout &layout, bool isRequiredThere)
+{
+    show(layout);
+    if (isRequiredThere)
+        bringBackRequired();
+}
+
+void KitModel::show(const Layout &layout)
 {
     m_layout = layout;
     followFormerNames();
@@ -122,6 +143,12 @@ void KitModel::renameToolBar(const QString &before, const QString &now)
     const ToolBar record = m_layout.take(before);
     if (!record.isDefault())
         m_layout[now] = record;
+    for (QList<Step> *steps : {&m_steps.undo, &m_steps.redo}) {
+        for (Step &step : *steps) {
+            if (step.toolBars.contains(before))
+                step.toolBars[now] = step.toolBars.take(before);
+        }
+    }
 }
 
 // It keeps the place that it has by its present name.
@@ -236,6 +263,45 @@ void KitModel::chooseTextPosition(const QString &toolBar, const QString &positio
 void KitModel::lock(bool locked)
 {
     m_layout.locked = locked;
+}
+
+void KitModel::beginStep(const QStringList &places)
+{
+    m_base = m_layout;
+    m_basePlaces = places;
+}
+
+void KitModel::record(const QStringList &places)
+{
+    Step step;
+    const QStringList names = m_base.keys() + m_layout.keys();
+    for (const QString &name : names) {
+        if (!(m_base.value(name) == m_layout.value(name)))
+            step.toolBars[name] = m_base.value(name);
+    }
+    if (places != m_basePlaces)
+        step.places = m_basePlaces;
+    beginStep(places);
+    if (step.toolBars.isEmpty() && step.places.isEmpty())
+        return;
+    m_steps.undo << step;
+    m_steps.undo = m_steps.undo.mid(qMax(0, int(m_steps.undo.size()) - MostSteps));
+    m_steps.redo.clear();
+}
+
+void KitModel::exchange(QList<Step> *from, QList<Step> *to, const QStringList &places)
+{
+    const Step step = from->takeLast();
+    Step back;
+    Layout layout = m_layout;
+    for (auto it = step.toolBars.cbegin(); it != step.toolBars.cend(); ++it) {
+        back.toolBars[it.key()] = layout.value(it.key());
+        layout[it.key()] = it.value();
+    }
+    if (!step.places.isEmpty())
+        back.places = places;
+    *to << back;
+    show(layout);
 }
 
 QStringList KitModel::content(const QString &toolBar) const

@@ -35,6 +35,19 @@ public:
         bool locked = false;
     };
 
+    // What the user can undo: the toolbars that a step changed, as they were.
+    struct Step
+    {
+        Layout toolBars;
+        // Where all toolbars were, or empty if they were not moved.
+        QStringList places;
+    };
+    struct Steps
+    {
+        QList<Step> undo;
+        QList<Step> redo;
+    };
+
     // What a release or a set of plugins has.
     struct Release
     {
@@ -47,11 +60,13 @@ public:
     };
 
     // The program starts with what is stored.
-    void start(const Release &release, const Layout &stored);
+    void start(const Release &release, const Layout &stored, const Steps &steps);
     // The program has other actions or toolbars from now on.
     void change(const Release &release);
     // Another window has a layout that this one follows.
-    void takeOver(const Layout &layout);
+    void takeOver(const Layout &layout, const Steps &steps);
+    // The user takes a layout that was saved. The required action returns if it is still there.
+    void restore(const Layout &layout, bool isRequiredThere);
 
     void edit(const QString &toolBar, const QStringList &content);
     void create(const QString &toolBar, const QString &title, const QStringList &content);
@@ -62,6 +77,13 @@ public:
     void chooseTextPosition(const QString &toolBar, const QString &position);
     void lock(bool locked);
     void reset(const QString &toolBar);
+
+    // What the user has done since the last step is a step.
+    void record(const QStringList &places);
+    // The next step begins now.
+    void beginStep(const QStringList &places);
+    void undo(const QStringList &places) { exchange(&m_steps.undo, &m_steps.redo, places); }
+    void redo(const QStringList &places) { exchange(&m_steps.redo, &m_steps.undo, places); }
 
     // What is on the toolbar now.
     QStringList content(const QString &toolBar) const;
@@ -83,8 +105,11 @@ public:
     bool isDefault() const;
     const Release &release() const { return m_release; }
     const Layout &layout() const { return m_layout; }
+    const Steps &steps() const { return m_steps; }
 
 private:
+    void exchange(QList<Step> *from, QList<Step> *to, const QStringList &places);
+    void show(const Layout &layout);
     QStringList entries(const QString &toolBar) const;
     void set(const QString &toolBar, const QStringList &entries);
     void followFormerNames();
@@ -97,6 +122,12 @@ private:
     // The default contents of this run, with the names of what has gone since.
     QMap<QString, QStringList> m_defaults;
     Layout m_layout;
+    Steps m_steps;
+    // What the next step begins with.
+    Layout m_base;
+    QStringList m_basePlaces;
 };
+
+bool operator==(const KitModel::ToolBar &a, const KitModel::ToolBar &b);
 
 #endif // KITMODEL_H

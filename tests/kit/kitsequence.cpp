@@ -2,6 +2,8 @@
 
 #include "kitsequence.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QPushButton>
 #include <QRegularExpression>
 
@@ -43,6 +45,12 @@ bool KitSequence::run(int steps)
                                     &KitSequence::useMenu,
                                     &KitSequence::useMenu,
                                     &KitSequence::useMenu,
+                                    &KitSequence::undoOrRedo,
+                                    &KitSequence::undoOrRedo,
+                                    &KitSequence::undoOrRedo,
+                                    &KitSequence::undoOrRedo,
+                                    &KitSequence::saveProfile,
+                                    &KitSequence::switchToProfile,
                                     &KitSequence::hideForAWhile,
                                     &KitSequence::restart,
                                     &KitSequence::startOtherRelease,
@@ -130,9 +138,13 @@ void KitSequence::choose()
 
 void KitSequence::begin(const KitModel::Release &release)
 {
+    const QString key = m_main.program.key;
+    if (m_isChanged || m_release.toolBars != release.toolBars)
+        ++m_changes;
     m_release = release;
     m_isChanged = false;
-    m_main.start(release, m_stored.value(m_main.program.key));
+    m_main.start(release, m_stored.value(key), m_storedSteps.value(key));
+    m_main.model.beginStep(placesOf(&m_main));
     m_window = &m_main;
     m_log << "start " + m_main.text();
 }
@@ -143,10 +155,47 @@ void KitSequence::end()
     for (ComparedWindow *window : m_windows) {
         if (!window->isOpen())
             continue;
-        window->storeNow();
-        keepTrackOfStored();
+        record(window);
         window->end();
         keepTrackOfStored();
+    }
+}
+
+// Closing the window, or a while without a move, makes a step of what was done.
+void KitSequence::record(ComparedWindow *window)
+{
+    window->storeNow();
+    window->model.record(placesOf(window));
+    keepTrackOfStored();
+    keepTrackOfSteps(window);
+}
+
+// What is stored now are the steps of the window that stores them.
+void KitSequence::keepTrackOfSteps(const ComparedWindow *window)
+{
+    const QString key = window->program.key;
+    const QString stored = window->program.settings->value(key + ".steps").toString();
+    if (stored != m_storedStepsText.value(key))
+        m_storedSteps[key] = window->model.steps();
+    m_storedStepsText[key] = stored;
+}
+
+// The layout also has the places of toolbars that are not there.
+QStringList KitSequence::placesOf(const ComparedWindow *window) const
+{
+    const QJsonDocument saved = QJsonDocument::fromJson(window->program.kit()->saveLayout());
+    const QJsonObject places = saved.object().value("layout").toObject().value("places").toObject();
+    return QStringList(QString::number(m_changes)) + window->program.places()
+        + QStringList(QJsonDocument(places).toJson(QJsonDocument::Compact));
+}
+
+// The places are not those from before, but that is no step.
+void KitSequence::beginPlaces()
+{
+    ++m_changes;
+    for (ComparedWindow *window : m_windows) {
+        if (window->isOpen())
+            window->model.beginStep(placesOf(window));
     }
 }
 
@@ -213,15 +262,24 @@ void KitSequence::restoreDefaults()
     m_window->model.restoreDefaults();
 }
 
-// The other windows with the same key follow.
 void KitSequence::applied()
 {
-    for (ComparedWindow *window : m_windows) {
-        if (window != m_window && window->isOpen() && window->program.key == m_window->program.key)
-            window->model.takeOver(m_window->model.layout());
-    }
     m_log << "pressed OK in window " + QString::number(m_windows.indexOf(m_window));
+    m_window->model.record(placesOf(m_window));
+    share();
+}
+
+// The other windows with the same key follow.
+void KitSequence::share()
+{
+    for (ComparedWindow *window : m_windows) {
+        if (window == m_window || !window->isOpen() || window->program.key != m_window->program.key)
+            continue;
+        window->model.takeOver(m_window->model.layout(), m_window->model.steps());
+        window->model.beginStep(placesOf(window));
+    }
     keepTrackOfStored();
+    keepTrackOfSteps(m_window);
     const QString stored = m_window->program.stored();
     if (!stored.isEmpty() && !m_isDamaged
         && stored.toUtf8() != m_window->program.kit()->saveLayout())
@@ -235,6 +293,7 @@ void KitSequence::hideOrShow()
         return;
     m_log << "hide or show " + toolBar;
     m_window->hideOrShow(toolBar);
+    record(m_window);
 }
 
 void KitSequence::hideForAWhile()
@@ -258,6 +317,54 @@ void KitSequence::move()
     if (m_random.bounded(2) == 0)
         m_window->program.window()->addToolBarBreak(area);
     m_window->program.window()->addToolBar(area, m_window->program.toolBar(toolBar));
+    record(m_window);
+}
+
+void KitSequence::undoOrRedo()
+{
+    const bool isUndo = m_random.bounded(3) != 0;
+    const KitModel::Steps steps = m_window->model.steps();
+    const QList<KitModel::Step> possible = isUndo ? steps.undo : steps.redo;
+    if (possible.isEmpty())
+        return;
+    m_log << (isUndo ? "undo in window " : "redo in window ")
+            + QString::number(m_windows.indexOf(m_window));
+    RyToolBarKit *const kit = m_window->program.kit();
+    const QStringList places = placesOf(m_window);
+    (isUndo ? kit->undoAction() : kit->redoAction())->trigger();
+    if (isUndo)
+        m_window->model.undo(places);
+    else
+        m_window->model.redo(places);
+    letTheKitFollow();
+    m_window->model.beginStep(placesOf(m_window));
+    share();
+    const QStringList expected = possible.last().places;
+    if (expected.value(0) == places.first() && expected != placesOf(m_window))
+        m_problem = "places: " + expected.join("; ") + " became " + placesOf(m_window).join("; ");
+}
+
+void KitSequence::saveProfile()
+{
+    const QString name = QString::number(m_random.bounded(3));
+    m_log << "save profile " + name;
+    if (!m_window->program.kit()->saveProfile(name))
+        m_problem = "it was not saved";
+    m_profiles[m_window->program.key][name] = m_window->model.layout();
+}
+
+void KitSequence::switchToProfile()
+{
+    const auto profiles = m_profiles.value(m_window->program.key);
+    const QString name = pick(profiles.keys());
+    if (profiles.isEmpty())
+        return;
+    m_log << "switch to profile " + name;
+    if (!m_window->switchToProfile(name, profiles.value(name)))
+        m_problem = "it was refused";
+    letTheKitFollow();
+    m_window->model.record(placesOf(m_window));
+    share();
 }
 
 // The other windows do not follow.
@@ -281,6 +388,7 @@ void KitSequence::useMenu()
         m_window->removeEntry(toolBar, index);
     else
         m_window->reset(toolBar);
+    record(m_window);
 }
 
 // Toolbars are in the same places again, and a start without any change changes nothing.
@@ -354,6 +462,7 @@ void KitSequence::change(const KitModel::Release &release)
         if (window->isOpen())
             window->change(release);
     }
+    beginPlaces();
 }
 
 void KitSequence::loseOrRegain()
@@ -438,12 +547,13 @@ void KitSequence::openOrCloseOther()
     m_log << "open or close window " + QString::number(m_windows.indexOf(window));
     m_isChanged = true;
     if (window->isOpen()) {
-        window->storeNow();
-        keepTrackOfStored();
+        record(window);
         window->end();
     } else {
-        window->start(m_release, m_stored.value(window->program.key));
+        const QString key = window->program.key;
+        window->start(m_release, m_stored.value(key), m_storedSteps.value(key));
     }
+    beginPlaces();
 }
 
 bool KitSequence::agree()

@@ -30,6 +30,9 @@ private:
     void hideOrShow();
     void move();
     void useMenu();
+    void undoOrRedo();
+    void saveProfile();
+    void switchToProfile();
 
     // What a program does
     void hideForAWhile();
@@ -57,8 +60,13 @@ private:
     void comparePlaces(const QStringList &places);
     void change(const KitModel::Release &release);
     void choose();
+    void record(ComparedWindow *window);
     void applied();
+    void share();
     void keepTrackOfStored();
+    void keepTrackOfSteps(const ComparedWindow *window);
+    QStringList placesOf(const ComparedWindow *window) const;
+    void beginPlaces();
     bool agree();
 
     QRandomGenerator m_random;
@@ -77,6 +85,11 @@ private:
     // What is in the settings for each key, as text and as a layout.
     QMap<QString, QString> m_storedText;
     QMap<QString, KitModel::Layout> m_stored;
+    // The steps in the settings for each key, in the same two ways.
+    QMap<QString, QString> m_storedStepsText;
+    QMap<QString, KitModel::Steps> m_storedSteps;
+    // The profiles for each key.
+    QMap<QString, QMap<QString, KitModel::Layout>> m_profiles;
     QStringList m_log;
     QString m_problem;
     // Whether the value of the main window is refused.
@@ -87,6 +100,8 @@ private:
     bool m_isChanged = false;
     // Where the toolbars are if not.
     QStringList m_places;
+    // Places are compared only with those since the program changed last.
+    int m_changes = 0;
 };
 
 #endif // KITSEQUENCE_H

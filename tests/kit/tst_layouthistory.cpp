@@ -53,6 +53,7 @@ private Q_SLOTS:
     void withoutASettingStepsAreKeptInMemory();
 
     void stepsAreReadAsTheyWereWritten();
+    void textThatIsNotUnicodeDoesNotBreakTheSteps();
     void everyShorterTextHasNoSteps();
     void everyChangedByteIsNoticed();
     void stepsOfANewerFormatAreLeftOut();
@@ -712,6 +713,20 @@ void tst_LayoutHistory::stepsAreReadAsTheyWereWritten()
     read.undo(&layout);
     QVERIFY(layout.places.isEmpty());
     QVERIFY(layout.toolBars.isEmpty() || !layout.toolBars.contains("mine"));
+}
+
+void tst_LayoutHistory::textThatIsNotUnicodeDoesNotBreakTheSteps()
+{
+    const QString half(QChar(0xd800));
+    LayoutHistory history;
+    history.record(layoutOf("one"));
+    KitLayout layout = layoutOf(half);
+    layout.toolBars[half].visibility = KitToolBar::Hidden;
+    layout.places.lines["top"] = {{half}};
+    history.record(layout);
+    history.record(layoutOf("two"));
+    const QString stored = QString::fromUtf8(history.toJson());
+    QCOMPARE(undone(LayoutHistory::fromJson(stored.toUtf8())).size(), 3);
 }
 
 void tst_LayoutHistory::everyShorterTextHasNoSteps()

@@ -9,13 +9,18 @@
 #include "translationfile.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -99,15 +104,74 @@ void pressRestoreDefaults(const RyCustomizedDialog *dialog)
     delete dialog->findChild<QMessageBox *>();
 }
 
+void answer(const QDialog *dialog, QMessageBox::StandardButton button)
+{
+    QMessageBox *const box = dialog->findChild<QMessageBox *>();
+    QVERIFY(box);
+    box->button(button)->click();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void takeFile(const QDialog *dialog, const QString &button, const QString &file)
+{
+    dialog->findChild<QPushButton *>(button)->click();
+    QFileDialog *const files = dialog->findChild<QFileDialog *>();
+    QVERIFY(files);
+    Q_EMIT files->fileSelected(file);
+    files->reject();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+// A layout with a toolbar that other windows do not have.
+void exportOther(const QString &file)
+{
+    QMainWindow window;
+    QToolBar *const toolBar = window.addToolBar("Other");
+    toolBar->setObjectName("other");
+    RyToolBarKit kit(&window, false);
+    kit.setSettings(nullptr, QString());
+    kit.restoreNow();
+    kit.manager()->setToolBar(toolBar, {nullptr});
+    QVERIFY(kit.exportLayout(file));
+}
+
+// Comes to all questions and messages of the profiles.
+void useProfiles(QDialog *dialog, const QString &folder)
+{
+    for (int i = 0; i < 2; ++i) {
+        dialog->findChild<QPushButton *>("saveProfileButton")->click();
+        QInputDialog *const input = dialog->findChild<QInputDialog *>();
+        input->setTextValue("1");
+        input->accept();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    answer(dialog, QMessageBox::No);
+    dialog->findChild<QPushButton *>("removeProfileButton")->click();
+    answer(dialog, QMessageBox::No);
+    exportOther(folder + "/other");
+    takeFile(dialog, "importLayoutButton", folder + "/other");
+    answer(dialog, QMessageBox::No);
+    takeFile(dialog, "importLayoutButton", folder + "/none");
+    answer(dialog, QMessageBox::Ok);
+    takeFile(dialog, "exportLayoutButton", folder);
+    answer(dialog, QMessageBox::Ok);
+    EditorViews(dialog).newButton->click();
+    Q_EMIT dialog->findChild<QComboBox *>("profileBox")->activated(0);
+    answer(dialog, QMessageBox::No);
+}
+
 // A user of the kit comes to all of its texts.
 void customizeWithKit()
 {
+    QTemporaryDir folder;
+    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
     WindowWithMenu window;
     QToolBar *const withoutTitle = window.addToolBar(QString());
     withoutTitle->addWidget(new QWidget);
     window.menuBar()->addMenu("?2")->addAction("?3");
     RyToolBarKit kit(&window, false);
-    kit.setSettings(nullptr, QString());
+    kit.setSettings(&settings, "toolBars");
+    kit.setProfilesShown(true);
     kit.setRequired(withoutTitle->addAction("?1"));
     window.show();
     openMenu(withoutTitle);
@@ -132,6 +196,7 @@ void customizeWithKit()
     views.click(views.rightButton);
     views.click(views.newButton);
     pressRestoreDefaults(dialog.data());
+    useProfiles(dialog.data(), folder.path());
     dialog->helpButton()->click();
     QTest::keyClick(dialog.data(), Qt::Key_Escape);
 }
