@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 و%2 ينقلان الإجراء الحاليّ، و%3 يزيله</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>شريط الأدوات هذا فارغ. انقر إجراءً نقرًا مزدوجًا لإضافته.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>خصّص أشرطة الأدوات</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>كل أشرطة الأدوات كما أنشأها التطبيق.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>هل تريد إعادة أشرطة الأدوات إلى وضعها الافتراضيّ؟</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: حذف شريط الأدوات</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: إضافة %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: إزالة %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: استعادة الترتيب</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>اسم الملف الشخصي:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>شريط الأدوات هذا فارغ. انقر إجراءً نقرًا مزدوجًا لإضافته.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>خصّص أشرطة الأدوات</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>كل أشرطة الأدوات كما أنشأها التطبيق.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>هل تريد إعادة أشرطة الأدوات إلى وضعها الافتراضيّ؟</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: حذف شريط الأدوات</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: إضافة %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: إزالة %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: استعادة الترتيب</translation>
     </message>
 </context>
 <context>

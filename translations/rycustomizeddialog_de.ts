@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 und %2 verschieben die aktuelle Aktion, %3 entfernt sie</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Diese Werkzeugleiste ist leer. Doppelklicken Sie auf eine Aktion, um sie hinzuzufügen.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Werkzeugleisten anpassen</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>Alle Werkzeugleisten sind so, wie die Anwendung sie angelegt hat.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>Standardwerte der Werkzeugleisten wiederherstellen?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: Werkzeugleiste löschen</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: %2 hinzufügen</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: %2 entfernen</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: Reihenfolge wiederherstellen</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>Name des Profils:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Diese Werkzeugleiste ist leer. Doppelklicken Sie auf eine Aktion, um sie hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Werkzeugleisten anpassen</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Alle Werkzeugleisten sind so, wie die Anwendung sie angelegt hat.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Standardwerte der Werkzeugleisten wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: Werkzeugleiste löschen</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: %2 hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: %2 entfernen</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: Reihenfolge wiederherstellen</translation>
     </message>
 </context>
 <context>

@@ -226,6 +226,10 @@
     </message>
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -233,40 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -338,6 +308,44 @@
     </message>
     <message>
         <source>Name of the profile:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

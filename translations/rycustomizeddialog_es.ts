@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 y %2 mueven la acción actual, %3 la quita</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Esta barra de herramientas está vacía. Haga doble clic en una acción para añadirla.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Personalizar las barras de herramientas</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>Todas las barras de herramientas están como las creó la aplicación.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>¿Restaurar las barras de herramientas predeterminadas?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: eliminar la barra de herramientas</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: añadir %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: quitar %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: restaurar el orden</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>Nombre del perfil:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Esta barra de herramientas está vacía. Haga doble clic en una acción para añadirla.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizar las barras de herramientas</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Todas las barras de herramientas están como las creó la aplicación.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>¿Restaurar las barras de herramientas predeterminadas?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: eliminar la barra de herramientas</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: añadir %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: quitar %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: restaurar el orden</translation>
     </message>
 </context>
 <context>

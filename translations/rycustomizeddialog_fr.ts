@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 et %2 déplacent l&apos;action actuelle, %3 la retire</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Cette barre d&apos;outils est vide. Double-cliquez sur une action pour l&apos;ajouter.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Personnaliser les barres d&apos;outils</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>Toutes les barres d&apos;outils sont telles que l&apos;application les a créées.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>Rétablir les barres d&apos;outils par défaut ?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1 : supprimer la barre d&apos;outils</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1 : ajouter %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1 : retirer %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1 : rétablir l&apos;ordre</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>Nom du profil :</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Cette barre d&apos;outils est vide. Double-cliquez sur une action pour l&apos;ajouter.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personnaliser les barres d&apos;outils</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Toutes les barres d&apos;outils sont telles que l&apos;application les a créées.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Rétablir les barres d&apos;outils par défaut ?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1 : supprimer la barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1 : ajouter %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1 : retirer %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1 : rétablir l&apos;ordre</translation>
     </message>
 </context>
 <context>

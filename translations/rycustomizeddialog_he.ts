@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 ו-%2 מזיזים את הפעולה הנוכחית, %3 מסיר אותה</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>סרגל הכלים הזה ריק. לחץ פעמיים על פעולה כדי להוסיף אותה.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>התאם אישית את סרגלי הכלים</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>כל סרגלי הכלים הם כפי שהיישום יצר אותם.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>לשחזר את סרגלי הכלים לברירת המחדל?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: מחיקת סרגל הכלים</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: הוספת %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: הסרת %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: שחזור הסדר</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>שם הפרופיל:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>סרגל הכלים הזה ריק. לחץ פעמיים על פעולה כדי להוסיף אותה.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>התאם אישית את סרגלי הכלים</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>כל סרגלי הכלים הם כפי שהיישום יצר אותם.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>לשחזר את סרגלי הכלים לברירת המחדל?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: מחיקת סרגל הכלים</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: הוספת %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: הסרת %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: שחזור הסדר</translation>
     </message>
 </context>
 <context>

@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 e %2 spostano l&apos;azione attuale, %3 la rimuove</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Questa barra degli strumenti è vuota. Fai doppio clic su un&apos;azione per aggiungerla.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Personalizza le barre degli strumenti</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>Tutte le barre degli strumenti sono come le ha create l&apos;applicazione.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>Ripristinare le barre degli strumenti predefinite?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: eliminare la barra degli strumenti</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: aggiungere %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: rimuovere %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: ripristinare l&apos;ordine</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>Nome del profilo:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Questa barra degli strumenti è vuota. Fai doppio clic su un&apos;azione per aggiungerla.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizza le barre degli strumenti</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Tutte le barre degli strumenti sono come le ha create l&apos;applicazione.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Ripristinare le barre degli strumenti predefinite?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: eliminare la barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: aggiungere %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: rimuovere %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: ripristinare l&apos;ordine</translation>
     </message>
 </context>
 <context>

@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 と %2 で現在のアクションを移動、%3 で削除します</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>このツールバーは空です。アクションをダブルクリックすると追加されます。</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>ツールバーをカスタマイズ</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>すべてのツールバーは初期状態のままです。</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>ツールバーを既定の状態に戻しますか？</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1：ツールバーを削除</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1：%2 を追加</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1：%2 を削除</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1：並び順を元に戻す</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>プロファイルの名前:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>このツールバーは空です。アクションをダブルクリックすると追加されます。</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>ツールバーをカスタマイズ</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>すべてのツールバーは初期状態のままです。</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>ツールバーを既定の状態に戻しますか？</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1：ツールバーを削除</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1：%2 を追加</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1：%2 を削除</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1：並び順を元に戻す</translation>
     </message>
 </context>
 <context>

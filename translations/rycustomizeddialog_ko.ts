@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 키와 %2 키로 현재 동작을 이동하고, %3 키로 제거합니다</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>이 도구 모음은 비어 있습니다. 동작을 두 번 클릭하면 추가됩니다.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>도구 모음 사용자 정의</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>모든 도구 모음이 처음 상태 그대로입니다.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>도구 모음을 기본값으로 되돌릴까요?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: 도구 모음 삭제</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: %2 추가</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: %2 제거</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: 순서 되돌리기</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>프로필 이름:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>이 도구 모음은 비어 있습니다. 동작을 두 번 클릭하면 추가됩니다.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>도구 모음 사용자 정의</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>모든 도구 모음이 처음 상태 그대로입니다.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>도구 모음을 기본값으로 되돌릴까요?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: 도구 모음 삭제</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: %2 추가</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: %2 제거</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: 순서 되돌리기</translation>
     </message>
 </context>
 <context>

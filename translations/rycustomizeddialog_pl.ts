@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 i %2 przenoszą bieżące działanie, %3 je usuwa</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Ten pasek narzędzi jest pusty. Kliknij działanie dwukrotnie, aby je dodać.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Dostosuj paski narzędzi</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>Wszystkie paski narzędzi są takie, jak utworzył je program.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>Przywrócić domyślne paski narzędzi?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: usunąć pasek narzędzi</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: dodać %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: usunąć %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: przywrócić kolejność</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>Nazwa profilu:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Ten pasek narzędzi jest pusty. Kliknij działanie dwukrotnie, aby je dodać.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Dostosuj paski narzędzi</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Wszystkie paski narzędzi są takie, jak utworzył je program.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Przywrócić domyślne paski narzędzi?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: usunąć pasek narzędzi</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: dodać %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: usunąć %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: przywrócić kolejność</translation>
     </message>
 </context>
 <context>

@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 e %2 movem a ação atual, %3 a remove</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Esta barra de ferramentas está vazia. Clique duas vezes em uma ação para adicioná-la.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Personalizar as barras de ferramentas</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>Todas as barras de ferramentas estão como o aplicativo as criou.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>Restaurar as barras de ferramentas padrão?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: excluir a barra de ferramentas</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: adicionar %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: remover %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: restaurar a ordem</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>Nome do perfil:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Esta barra de ferramentas está vazia. Clique duas vezes em uma ação para adicioná-la.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Personalizar as barras de ferramentas</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Todas as barras de ferramentas estão como o aplicativo as criou.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Restaurar as barras de ferramentas padrão?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: excluir a barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: adicionar %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: remover %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: restaurar a ordem</translation>
     </message>
 </context>
 <context>

@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 и %2 перемещают текущее действие, %3 убирает его</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Эта панель инструментов пуста. Дважды щёлкните действие, чтобы добавить его.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Настроить панели инструментов</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>Все панели инструментов такие, какими их создало приложение.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>Вернуть панели инструментов к исходному виду?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: удалить панель инструментов</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: добавить %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: убрать %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: вернуть порядок</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>Имя профиля:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Эта панель инструментов пуста. Дважды щёлкните действие, чтобы добавить его.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Настроить панели инструментов</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Все панели инструментов такие, какими их создало приложение.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Вернуть панели инструментов к исходному виду?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: удалить панель инструментов</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: добавить %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: убрать %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: вернуть порядок</translation>
     </message>
 </context>
 <context>

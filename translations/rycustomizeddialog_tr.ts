@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 ve %2 geçerli eylemi taşır, %3 kaldırır</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Bu araç çubuğu boş. Eklemek için bir eyleme çift tıklayın.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Araç Çubuklarını Özelleştir</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>Tüm araç çubukları uygulamanın oluşturduğu gibi.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>Araç çubukları varsayılana döndürülsün mü?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: araç çubuğu silinir</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: %2 eklenir</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: %2 kaldırılır</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: sıra geri getirilir</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>Profilin adı:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Bu araç çubuğu boş. Eklemek için bir eyleme çift tıklayın.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Araç Çubuklarını Özelleştir</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Tüm araç çubukları uygulamanın oluşturduğu gibi.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Araç çubukları varsayılana döndürülsün mü?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: araç çubuğu silinir</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: %2 eklenir</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: %2 kaldırılır</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: sıra geri getirilir</translation>
     </message>
 </context>
 <context>

@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 і %2 пересувають поточну дію, %3 прибирає її</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>Ця панель інструментів порожня. Двічі клацніть дію, щоб додати її.</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>Налаштувати панелі інструментів</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>Усі панелі інструментів такі, якими їх створила програма.</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>Повернути панелі інструментів до початкового вигляду?</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1: видалити панель інструментів</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1: додати %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1: прибрати %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1: повернути порядок</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>Назва профілю:</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>Ця панель інструментів порожня. Двічі клацніть дію, щоб додати її.</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>Налаштувати панелі інструментів</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>Усі панелі інструментів такі, якими їх створила програма.</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>Повернути панелі інструментів до початкового вигляду?</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1: видалити панель інструментів</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1: додати %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1: прибрати %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1: повернути порядок</translation>
     </message>
 </context>
 <context>

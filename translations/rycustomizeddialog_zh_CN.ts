@@ -227,6 +227,9 @@
     <message>
         <source>%1 and %2 move the current action, %3 removes it</source>
         <translation>%1 和 %2 移动当前操作，%3 将其移除</translation>
+    </message>
+</context>
+<context>
     <name>EditProtection</name>
     <message>
         <source>Apply your changes to the toolbars?</source>
@@ -234,41 +237,6 @@
     </message>
 </context>
 <context>
-    <name>ReadableViews</name>
-    <message>
-        <source>This toolbar is empty. Double-click an action to add it.</source>
-        <translation>此工具栏为空。双击操作即可添加。</translation>
-    </message>
-    <message>
-        <source>Customize Toolbars</source>
-        <translation>自定义工具栏</translation>
-    </message>
-</context>
-<context>
-    <name>RestoreQuestion</name>
-    <message>
-        <source>All toolbars are as the application made them.</source>
-        <translation>所有工具栏均为应用程序的初始状态。</translation>
-    </message>
-    <message>
-        <source>Restore the toolbars to their defaults?</source>
-        <translation>要将工具栏恢复为默认设置吗？</translation>
-    </message>
-    <message>
-        <source>%1: delete the toolbar</source>
-        <translation>%1：删除工具栏</translation>
-    </message>
-    <message>
-        <source>%1: add %2</source>
-        <translation>%1：添加 %2</translation>
-    </message>
-    <message>
-        <source>%1: remove %2</source>
-        <translation>%1：移除 %2</translation>
-    </message>
-    <message>
-        <source>%1: restore the order</source>
-        <translation>%1：恢复顺序</translation>
     <name>ProfileChooser</name>
     <message>
         <source>Profile:</source>
@@ -341,6 +309,44 @@
     <message>
         <source>Name of the profile:</source>
         <translation>配置名称：</translation>
+    </message>
+</context>
+<context>
+    <name>ReadableViews</name>
+    <message>
+        <source>This toolbar is empty. Double-click an action to add it.</source>
+        <translation>此工具栏为空。双击操作即可添加。</translation>
+    </message>
+    <message>
+        <source>Customize Toolbars</source>
+        <translation>自定义工具栏</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreQuestion</name>
+    <message>
+        <source>All toolbars are as the application made them.</source>
+        <translation>所有工具栏均为应用程序的初始状态。</translation>
+    </message>
+    <message>
+        <source>Restore the toolbars to their defaults?</source>
+        <translation>要将工具栏恢复为默认设置吗？</translation>
+    </message>
+    <message>
+        <source>%1: delete the toolbar</source>
+        <translation>%1：删除工具栏</translation>
+    </message>
+    <message>
+        <source>%1: add %2</source>
+        <translation>%1：添加 %2</translation>
+    </message>
+    <message>
+        <source>%1: remove %2</source>
+        <translation>%1：移除 %2</translation>
+    </message>
+    <message>
+        <source>%1: restore the order</source>
+        <translation>%1：恢复顺序</translation>
     </message>
 </context>
 <context>
