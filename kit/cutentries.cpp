@@ -69,7 +69,7 @@ void CutEntries::insert(int gap)
 {
     QListWidgetItem *const target = m_parts.toolBarList->currentItem();
     QListWidgetItem *const source = m_parts.toolBarList->item(m_toolBar.row());
-    if (m_rows.isEmpty() || !source || !m_commands->canReachToolBars())
+    if (m_rows.isEmpty() || !source)
         return;
     m_parts.toolBarList->setCurrentItem(source);
     const bool isUnchanged = texts() == m_texts;
@@ -78,12 +78,12 @@ void CutEntries::insert(int gap)
     for (int row : m_rows)
         entries.append(m_parts.entryList->item(row));
     m_rows.clear();
-    if (!isUnchanged)
-        m_parts.toolBarList->setCurrentItem(target);
-    else if (source == target)
+    if (isUnchanged && source == target)
         m_commands->move(entries, gap);
-    else
+    else if (isUnchanged && m_commands->canReachToolBars())
         m_commands->moveTo(target, entries, gap);
+    else
+        m_parts.toolBarList->setCurrentItem(target);
 }
 
 // In italics, as long as the rows are not made again.

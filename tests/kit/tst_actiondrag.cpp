@@ -35,6 +35,7 @@ private Q_SLOTS:
     void droppingEntriesOntoTheActionsRemovesThem();
     void placesWithoutATargetRefuse_data();
     void placesWithoutATargetRefuse();
+    void withoutACurrentToolBarThereAreNoPlaces();
     void severalAreDraggedInTheOrderShown();
     void aRowThatIsNotSelectedIsDraggedAlone();
     void rowsThatAreFilteredOutAreNotDragged();
@@ -119,9 +120,10 @@ struct Stage : EditedHost
         const auto actions = Qt::CopyAction | Qt::MoveAction;
         QDragEnterEvent enter(place, actions, carried, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(view(which)->viewport(), &enter);
+        hasEntered = enter.isAccepted();
         QDragMoveEvent move(place, actions, carried, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(view(which)->viewport(), &move);
-        return move.isAccepted() && enter.isAccepted();
+        return move.isAccepted() && hasEntered;
     }
 
     bool drop(View which, const QPoint &place, const QMimeData *payload = nullptr)
@@ -156,6 +158,7 @@ struct Stage : EditedHost
     ActionDrag *const drag;
     const QPointer<DropIndicator> indicator;
     std::unique_ptr<QMimeData> data;
+    bool hasEntered = false;
 };
 
 const QString separator = "< S E P A R A T O R >";
@@ -287,6 +290,16 @@ void tst_ActionDrag::placesWithoutATargetRefuse()
     QVERIFY(stage.carryTo(View::ToolBars, stage.placeOf("Go")));
 }
 
+void tst_ActionDrag::withoutACurrentToolBarThereAreNoPlaces()
+{
+    Stage stage;
+    stage.editor.toolBarList->setCurrentRow(-1);
+    stage.pickActions({"Find"});
+    QVERIFY(!stage.carryTo(View::Entries, QPoint(20, 20)));
+    QVERIFY(stage.carryAndDrop(View::ToolBars, stage.placeOf("Mine")));
+    QCOMPARE(stage.applied("Mine"), QString("find"));
+}
+
 void tst_ActionDrag::severalAreDraggedInTheOrderShown()
 {
     Stage stage;
@@ -352,6 +365,7 @@ void tst_ActionDrag::strangeDragsAreRefused()
     for (const View view : {View::Tree, View::ToolBars, View::Entries}) {
         const QPoint place = view == View::ToolBars ? stage.placeOf("Go") : QPoint(20, 20);
         QVERIFY(!stage.carryTo(view, place, &strange));
+        QVERIFY(!stage.hasEntered);
         QVERIFY(!stage.indicator->isVisible());
         // Even if the window system sends one after a refusal.
         if (isDragging)
@@ -371,10 +385,13 @@ void tst_ActionDrag::aDropIsTakenOnce()
     QVERIFY(!other.carryTo(View::Tree, QPoint(20, 20), stage.data.get()));
     QVERIFY(stage.carryAndDrop(View::Tree, QPoint(20, 20)));
     QVERIFY(!stage.carryAndDrop(View::Tree, QPoint(20, 20)));
+    stage.pickActions({"Find"});
+    QVERIFY(stage.carryAndDrop(View::Entries, stage.gap(0)));
+    QVERIFY(!stage.carryAndDrop(View::Entries, stage.gap(3)));
     const std::unique_ptr<QMimeData> former = std::move(stage.data);
     stage.pickEntries({0});
     QVERIFY(!stage.carryTo(View::Tree, QPoint(20, 20), former.get()));
-    QCOMPARE(stage.applied("Edit"), QString("cut | paste undo |"));
+    QCOMPARE(stage.applied("Edit"), QString("find cut | paste undo |"));
     QVERIFY(other.isUnchanged());
 }
 

@@ -176,6 +176,13 @@ void tst_CutEntries::insertingTwiceDoesNothing()
     stage.press(stage.list, Qt::Key_V);
     stage.press(stage.list, Qt::Key_V);
     QCOMPARE(stage.applied("File"), QString("open | save"));
+    // Also where the first time changes nothing.
+    stage.cut({0});
+    stage.list->setCurrentRow(0);
+    stage.press(stage.list, Qt::Key_V);
+    stage.list->setCurrentRow(2);
+    stage.press(stage.list, Qt::Key_V);
+    QCOMPARE(stage.applied("File"), QString("open | save"));
 }
 
 void tst_CutEntries::theCurrentEntryIsCutWithoutASelection()
@@ -236,7 +243,12 @@ void tst_CutEntries::aToolBarThatHasGoneGetsNothing()
     stage.cut({0});
     stage.makeCurrent("Mine");
     stage.press(stage.editor.toolBarList, Qt::Key_V);
+    QCOMPARE(currentOf(stage.editor.toolBarList), QString("Mine"));
     QCOMPARE(stage.applied("Edit"), QString("cut copy | paste undo |"));
+    stage.makeCurrent("Edit");
+    stage.cut({0});
+    stage.press(stage.editor.toolBarList, Qt::Key_V);
+    QCOMPARE(stage.applied("Edit"), QString("copy | paste undo | cut"));
 }
 
 void tst_CutEntries::keysEditTextWhileAToolBarIsNamed()

@@ -402,8 +402,9 @@ void tst_EditorCommands::aToolBarThatTheHostDeletesGetsNothing()
 
 void tst_EditorCommands::aToolBarThatIsAppliedLaterIsNoneThatHasGone()
 {
-    EditedHost host;
+    EditedHost host(false);
     EditorCommands commands(host.parts);
+    host.show();
     host.makeCurrent("Mine");
     host.editor.click(host.editor.removeButton);
     host.editor.click(host.editor.newButton);
