@@ -170,10 +170,8 @@ void ToolBarLooks::setLocked(QToolBar *toolBar, bool locked)
     const auto state = m_states.find(toolBar);
     if (state == m_states.end() || locked == state->isLocked || (locked && !toolBar->isMovable()))
         return;
-    state->isLocked = locked;
-    m_isLocking = true;
+    state->isLocked = locked; // before Qt reports the change
     toolBar->setMovable(!locked);
-    m_isLocking = false;
 }
 
 bool ToolBarLooks::isMovable(const QToolBar *toolBar) const
@@ -183,9 +181,6 @@ bool ToolBarLooks::isMovable(const QToolBar *toolBar) const
 
 void ToolBarLooks::movableChanged(bool movable)
 {
-    if (m_isLocking || !movable)
-        return;
-    const auto state = m_states.find(sender());
-    if (state != m_states.end() && state->isLocked)
+    if (movable && m_states.value(sender()).isLocked)
         Q_EMIT unlockedByProgram();
 }

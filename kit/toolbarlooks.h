@@ -105,7 +105,6 @@ private:
 
     QMainWindow *m_window;
     QHash<const QObject *, State> m_states;
-    bool m_isLocking = false;
 };
 
 #endif // TOOLBARLOOKS_H

@@ -136,12 +136,11 @@ void ToolBarMenu::note(QToolBar *toolBar, const QPoint &position)
 // The program comes first. Its event filters see the event twice if they let it pass.
 bool ToolBarMenu::showForFloating(QToolBar *toolBar, QContextMenuEvent *event)
 {
-    const QPointer<QToolBar> passedTo(toolBar);
     event->accept();
     m_isPassing = true;
     event->setAccepted(QCoreApplication::sendEvent(toolBar, event) && event->isAccepted());
     m_isPassing = false;
-    if (event->isAccepted() || !passedTo || !isAllowed(toolBar))
+    if (event->isAccepted() || !isAllowed(toolBar))
         return true;
     note(toolBar, event->pos());
     QMenu *const menu = m_window->createPopupMenu();

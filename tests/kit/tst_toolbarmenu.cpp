@@ -301,6 +301,7 @@ void tst_ToolBarMenu::aToolBarIsReset()
     QVERIFY(chooseInMenu(program.toolBar("edit"), nullptr, "Reset this toolbar"));
     QCOMPARE(program.content("edit"), QString("cut | copy"));
     QVERIFY(program.kit()->isDefault());
+    QTRY_VERIFY(!program.stored().contains("entries"));
     program.start();
     QCOMPARE(program.content("edit"), QString("cut | copy"));
 }
