@@ -77,12 +77,11 @@ QString withFreeMnemonic(const QString &text, const QSet<QString> &taken)
         if (isOnKeyboards(text.at(i)) && !taken.contains(QKeySequence::mnemonic(marked).toString()))
             return marked;
     }
-    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    for (char letter = 'A';; ++letter) {
         const QString marked = text + QStringLiteral(" (&%1)").arg(QLatin1Char(letter));
-        if (!taken.contains(QKeySequence::mnemonic(marked).toString()))
+        if (letter == 'Z' || !taken.contains(QKeySequence::mnemonic(marked).toString()))
             return marked;
     }
-    return text;
 }
 
 } // namespace
@@ -94,9 +93,13 @@ DialogKeys::DialogKeys(const DialogParts &parts)
     describe();
     addShortcuts();
     addHelpKey();
-    giveMnemonic(parts.actionCaption, parts.actionTree);
-    giveMnemonic(parts.toolBarCaption, parts.toolBarList);
-    giveMnemonic(parts.entryCaption, parts.entryList);
+    // First, because only captions with a list take letters.
+    parts.actionCaption->setBuddy(parts.actionTree);
+    parts.toolBarCaption->setBuddy(parts.toolBarList);
+    parts.entryCaption->setBuddy(parts.entryList);
+    giveMnemonic(parts.actionCaption);
+    giveMnemonic(parts.toolBarCaption);
+    giveMnemonic(parts.entryCaption);
     orderTabs();
 }
 
@@ -158,11 +161,10 @@ void DialogKeys::describe()
         tr("%1 and %2 move the current action, %3 removes it").arg(upKey, downKey, deleteKey));
 }
 
-void DialogKeys::giveMnemonic(QLabel *caption, QWidget *view)
+void DialogKeys::giveMnemonic(QLabel *caption)
 {
     if (QKeySequence::mnemonic(caption->text()).isEmpty())
         caption->setText(withFreeMnemonic(caption->text(), mnemonicsIn(m_parts.dialog)));
-    caption->setBuddy(view);
 }
 
 // As one works. Qt has the dialog's buttons before the page. A button that is disabled passes the

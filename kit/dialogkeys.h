@@ -28,7 +28,7 @@ private:
     void addShortcut(QWidget *view, const QKeySequence &key, QToolButton *button);
     void addHelpKey();
     void describe();
-    void giveMnemonic(QLabel *caption, QWidget *view);
+    void giveMnemonic(QLabel *caption);
     void orderTabs();
 
     const DialogParts m_parts;

@@ -4,6 +4,7 @@
 #include "testcase.h"
 #include "texts.h"
 
+#include <QAbstractEventDispatcher>
 #include <QAccessible>
 #include <QPushButton>
 #include <QTabWidget>
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void closingAnnouncesNothing();
     void severalChangesAtOnceAreNot();
     void theNotificationIsNotSeen();
+    void afterAChangeNothingGoesOn();
 };
 
 namespace {
@@ -247,6 +249,15 @@ void tst_ChangeAnnouncer::theNotificationIsNotSeen()
     notification->show();
     QCOMPARE(stage.dialog->grab().toImage(), before);
     QCOMPARE(notification->focusPolicy(), Qt::NoFocus);
+}
+
+void tst_ChangeAnnouncer::afterAChangeNothingGoesOn()
+{
+    KitDialog stage;
+    stage.choose("Mine", 1);
+    stage.views.click(stage.views.leftButton);
+    QAbstractEventDispatcher *const dispatcher = QAbstractEventDispatcher::instance();
+    QTRY_VERIFY(!dispatcher->processEvents(QEventLoop::AllEvents));
 }
 
 QTEST_MAIN(tst_ChangeAnnouncer)

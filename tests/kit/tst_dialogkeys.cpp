@@ -34,6 +34,7 @@ private Q_SLOTS:
     void toolTipsShowTheKeys();
     void captionsLeadToTheirLists_data();
     void captionsLeadToTheirLists();
+    void takenLettersAreLeftAlone_data();
     void takenLettersAreLeftAlone();
     void aCaptionWithoutAFreeLetterGetsOne_data();
     void aCaptionWithoutAFreeLetterGetsOne();
@@ -74,7 +75,8 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char *context, const char *source, const char *, int) const override
     {
-        return QString(context) == "CToolBarPage" ? m_texts.value(source) : QString();
+        const bool ofRibbon = QString(context).contains("Ribbon");
+        return ofRibbon ? QString() : m_texts.value(source);
     }
 
 private:
@@ -226,21 +228,21 @@ void tst_DialogKeys::captionsLeadToTheirLists()
     QCOMPARE(QApplication::focusWidget(), list);
 }
 
+void tst_DialogKeys::takenLettersAreLeftAlone_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::newRow("by a button") << "Rename";
+    QTest::newRow("by another caption") << "Toolbars";
+    QTest::newRow("by a tab") << "ToolBar";
+}
+
 void tst_DialogKeys::takenLettersAreLeftAlone()
 {
-    KitDialog stage;
-    RyCustomizedDialog *dialog = stage.dialog;
-    dialog->close();
-    letTheKitFollow();
-    // As some platforms have it.
-    const Captions captions({{"Rename", "&Actions"}});
-    dialog = stage.program.openDialog();
-    const auto captionOf = [dialog](const char *name) {
-        return EditorViews(dialog).page->findChild<QLabel *>(name)->text();
-    };
-    QCOMPARE(captionOf("label"), "A&ctions");
-    QCOMPARE(captionOf("label_2"), "&Toolbars");
-    QCOMPARE(captionOf("label_6"), "C&urrent Toolbar Actions");
+    QFETCH(QString, source);
+    const Captions captions({{source, "&Actions of all"}});
+    const KitDialog stage(RyToolBarKit::ReadableLists);
+    QCOMPARE(stage.views.page->findChild<QLabel *>("label")->text(), "A&ctions");
+    QCOMPARE(stage.views.page->findChild<QLabel *>("label_6")->text(), "C&urrent Toolbar Actions");
 }
 
 void tst_DialogKeys::aCaptionWithoutAFreeLetterGetsOne_data()

@@ -7,7 +7,11 @@ from waiting import NotSo, expect, settled, wait_for
 
 CUSTOMIZE = "Customize Toolbars"
 SEPARATOR = "|"
-SEPARATOR_ENTRY = "< S E P A R A T O R >"
+SEPARATOR_ENTRY = "Separator"
+# What screen readers say for the text of a button in the dialog.
+SPOKEN = {"New": "Add new toolbar", "Rename": "Rename toolbar", "Up": "Move action up",
+          "Down": "Move action down", "<-": "Remove action from toolbar",
+          "->": "Add action to toolbar"}
 THICKEST_SEPARATOR = 12
 HANDLE_MIDDLE = 5
 
@@ -155,7 +159,7 @@ class ToolBarDialog:
     # --- Where things are ---
 
     def _enabled_button(self, name):
-        button = self.window.find("push button", name)
+        button = self.window.find("push button", SPOKEN.get(name, name))
         wait_for(f"the button {name} is disabled", lambda: button.has("enabled", "sensitive"))
         return button
 
