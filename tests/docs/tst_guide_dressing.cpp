@@ -86,12 +86,16 @@ void customizeDressed(RyToolBarManager *manager, QMainWindow *window,
 void dressKit(RyToolBarKit *kit, const std::function<void()> &showHelp)
 {
     //! [kit]
-    QObject::connect(kit, &RyToolBarKit::aboutToCustomize, kit, [=](RyCustomizedDialog *dialog) {
-        hideRibbonTab(dialog);
-        useOwnHelp(dialog, showHelp);
-        hideMnemonics(dialog);
-    });
+    QObject::connect(kit, &RyToolBarKit::aboutToCustomize, kit,
+                     [=](RyCustomizedDialog *dialog) { useOwnHelp(dialog, showHelp); });
     //! [kit]
+}
+
+void dressLess(RyToolBarKit *kit)
+{
+    //! [less]
+    kit->setFeatures(kit->features() & ~(RyToolBarKit::DragActions | RyToolBarKit::UserGuide));
+    //! [less]
 }
 
 struct EditHost : Host
@@ -123,6 +127,7 @@ private Q_SLOTS:
     void mnemonicsAreHidden();
     void theTextsOfActionsStay();
     void toolBarsCanStillBeRenamed();
+    void featuresCanBeLeftOut();
     void allTogether_data();
     void allTogether();
 };
@@ -241,6 +246,15 @@ void tst_guide_dressing::toolBarsCanStillBeRenamed()
     QCOMPARE(rowsOf(editor.toolBarList), words("Edit R&D"));
 }
 
+void tst_guide_dressing::featuresCanBeLeftOut()
+{
+    EditHost host;
+    RyToolBarKit kit(&host.window, false);
+    dressLess(&kit);
+    QCOMPARE(RyToolBarKit::AllFeatures - int(kit.features()),
+             int(RyToolBarKit::DragActions | RyToolBarKit::UserGuide));
+}
+
 void tst_guide_dressing::allTogether_data()
 {
     QTest::addColumn<bool>("hasKit");
@@ -258,7 +272,9 @@ void tst_guide_dressing::allTogether()
     const NextModal modal([&helps](QWidget *shown) {
         const EditorViews editor(shown);
         QVERIFY(!shown->findChild<QTabBar *>()->isVisible());
-        QVERIFY(dynamic_cast<PlainTextDelegate *>(editor.toolBarList->itemDelegate()));
+        const auto delegate =
+            qobject_cast<QStyledItemDelegate *>(editor.toolBarList->itemDelegate());
+        QCOMPARE(delegate->displayText(QStringLiteral("&Open"), QLocale()), QStringLiteral("Open"));
         QTest::mouseClick(static_cast<RyCustomizedDialog *>(shown)->helpButton(), Qt::LeftButton);
         QCOMPARE(helps, 1);
         QTest::mouseClick(static_cast<RyCustomizedDialog *>(shown)->okButton(), Qt::LeftButton);

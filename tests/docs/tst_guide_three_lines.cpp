@@ -107,23 +107,6 @@ void changeDialog(RyToolBarKit *kit)
     //! [dialog]
 }
 
-//! [files]
-bool exportLayout(RyToolBarKit *kit, const QString &fileName)
-{
-    QSaveFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(kit->saveLayout()) > 0 && file.commit();
-}
-
-bool importLayout(RyToolBarKit *kit, const QString &fileName)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray layout = file.read(1000000);
-    return !layout.isEmpty() && kit->restoreLayout(layout); // an empty one means the default
-}
-//! [files]
-
 void keepElsewhere(RyToolBarKit *kit, const QByteArray &kept, QByteArray *keeper)
 {
     //! [storage]
@@ -175,7 +158,6 @@ private Q_SLOTS:
     void resetBringsTheDefaultsBack();
     void refusalsAreShown();
     void theDialogCanBeChanged();
-    void filesAreExportedAndImported();
     void aLayoutCanBeKeptElsewhere();
     void oldBytesAreTakenOver();
 
@@ -281,22 +263,6 @@ void tst_guide_three_lines::theDialogCanBeChanged()
     window.attached->customizeAction()->trigger();
     RyCustomizedDialog *const dialog = window.findChild<RyCustomizedDialog *>();
     QCOMPARE(dialog->windowTitle(), QStringLiteral("Customize Toolbars"));
-}
-
-void tst_guide_three_lines::filesAreExportedAndImported()
-{
-    Window window;
-    window.show();
-    const QString file = m_folder->filePath(QStringLiteral("default"));
-    QVERIFY(exportLayout(window.attached, file));
-    removeFirst(&window);
-    const QString empty = m_folder->filePath(QStringLiteral("empty"));
-    QVERIFY(QFile(empty).open(QIODevice::WriteOnly));
-    for (const QString &wrong : {empty, m_folder->path(), file + QStringLiteral("s")})
-        QVERIFY(!importLayout(window.attached, wrong));
-    QCOMPARE(standingOn(window.bar), words("copy paste"));
-    QVERIFY(importLayout(window.attached, file));
-    QCOMPARE(standingOn(window.bar), words("cut copy paste"));
 }
 
 void tst_guide_three_lines::aLayoutCanBeKeptElsewhere()
