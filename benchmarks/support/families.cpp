@@ -6,6 +6,7 @@
 #include "attach.h"
 #include "createtoolbar.h"
 #include "entry.h"
+#include "find.h"
 #include "layout.h"
 #include "opendialog.h"
 #include "removeaction.h"
@@ -100,6 +101,7 @@ const QList<Family> &families()
         family<AttachKit, RegisterByHand>("kit-attach", {200, 4, 20, 0}),
         family<StoreMove, StoreMoveByHand>("kit-store", toolBarsOfFifty(4)),
         family<RestoreLayout, RestoreByHand>("kit-restore", toolBarsOfFifty(4)),
+        family<FindAction, FindActionBare>("kit-find", dialogOf(500)),
     };
     return all;
 }
@@ -235,6 +237,11 @@ QList<Row> rows()
          Row::Ratio,
          1.50,
          {toolBarsOfFifty(100)}},
+        {"kit-find",
+         text("Kit: a keystroke that finds among 5,000 actions, until painted"),
+         Row::Milliseconds,
+         8.0,
+         {dialogOf(5000)}},
         {"openDialog", text("10,000 actions: open the dialog"), Row::Figure, 0, {dialogOf(10000)}},
         {"saveState",
          text("10,000 actions on 200 toolbars: saveState"),
