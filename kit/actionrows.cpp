@@ -9,24 +9,38 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
-// The editor sorts rows by their texts, and those of the same text stay as they were registered.
+using TextOf = std::pair<QString, QAction *>;
+
+bool isBefore(const TextOf &a, const TextOf &b)
+{
+    return a.first < b.first;
+}
+
+// Rows of the same text are in the order in which their actions were registered, wherever Qt has
+// sorted them.
 QVector<ActionRows::Row> rowsOf(const QTreeWidgetItem *category, const QList<QAction *> &actions)
 {
-    using TextOf = std::pair<QString, QAction *>;
-    QVector<TextOf> texts;
-    texts.reserve(actions.size());
+    std::vector<TextOf> texts;
+    texts.reserve(std::size_t(actions.size()));
     for (QAction *action : actions)
-        texts.append({action->text(), action});
-    std::stable_sort(texts.begin(), texts.end(),
-                     [](const TextOf &a, const TextOf &b) { return a.first < b.first; });
+        texts.push_back({action->text(), action});
+    std::stable_sort(texts.begin(), texts.end(), isBefore);
     QVector<ActionRows::Row> rows;
-    rows.reserve(texts.size());
-    for (int i = 0; i < qMin(int(texts.size()), category->childCount()); ++i) {
-        if (category->child(i)->text(0) == texts.at(i).first)
-            rows.append({category->child(i), texts.at(i).second});
+    rows.reserve(category->childCount());
+    for (int i = 0; i < category->childCount(); ++i) {
+        QTreeWidgetItem *const item = category->child(i);
+        const QString text = item->text(0);
+        auto found = std::lower_bound(texts.begin(), texts.end(), TextOf(text, nullptr), isBefore);
+        while (found != texts.end() && !found->second)
+            ++found; // it has a row already
+        if (found != texts.end() && found->first == text) {
+            rows.append({item, found->second});
+            found->second = nullptr;
+        }
     }
     return rows;
 }

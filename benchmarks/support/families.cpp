@@ -6,6 +6,7 @@
 #include "attach.h"
 #include "createtoolbar.h"
 #include "entry.h"
+#include "find.h"
 #include "kitdialog.h"
 #include "layout.h"
 #include "opendialog.h"
@@ -102,6 +103,7 @@ const QList<Family> &families()
         family<StoreMove, StoreMoveByHand>("kit-store", toolBarsOfFifty(4)),
         family<RestoreLayout, RestoreByHand>("kit-restore", toolBarsOfFifty(4)),
         family<OpenDressed, OpenPlain>("kit-dialog", dialogOf(500)),
+        family<FindAction, FindActionBare>("kit-find", dialogOf(500)),
     };
     return all;
 }
@@ -251,6 +253,10 @@ QList<Row> rows()
          text("Kit: open the dialog, 5,000 actions"),
          Row::Ratio,
          1.35,
+        {"kit-find",
+         text("Kit: a keystroke that finds among 5,000 actions, until painted"),
+         Row::Milliseconds,
+         8.0,
          {dialogOf(5000)}},
         {"openDialog", text("10,000 actions: open the dialog"), Row::Figure, 0, {dialogOf(10000)}},
         {"saveState",

@@ -10,12 +10,10 @@
 #include <RyCustomizedDialog>
 #include <RyToolBarManager>
 
-#include <QFile>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QToolBar>
