@@ -34,8 +34,6 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, const Context &contex
         m_readableViews = new ReadableViews(m_parts, context.categories);
     if (context.features & RyToolBarKit::SearchActions)
         m_actionSearch = new ActionSearch(m_parts);
-    if (context.features & RyToolBarKit::DragActions)
-        new ActionDrag(m_parts, this);
     if (context.features & RyToolBarKit::ProtectEdits)
         protectEdits(context);
     else
@@ -53,6 +51,9 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, const Context &contex
         new ChangeAnnouncer(m_parts);
         new DialogKeys(m_parts);
     }
+    // After those, which describe the views: it adds a sentence.
+    if (context.features & RyToolBarKit::DragActions)
+        new ActionDrag(m_parts, this);
     // The last thing that the editor does when it fills its views.
     connect(m_parts.toolBarList->model(), SIGNAL(layoutChanged()), this, SLOT(dressRows()));
     connect(m_parts.actionTree->model(), SIGNAL(modelReset()), this, SLOT(forgetRows()));

@@ -253,6 +253,7 @@ QList<Row> rows()
          text("Kit: open the dialog, 5,000 actions"),
          Row::Ratio,
          1.35,
+         {dialogOf(5000)}},
         {"kit-find",
          text("Kit: a keystroke that finds among 5,000 actions, until painted"),
          Row::Milliseconds,

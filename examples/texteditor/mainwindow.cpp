@@ -93,7 +93,8 @@ void MainWindow::createMenus()
     QMenu *const settings = createMenu(tr("&Settings"), {});
     createToolBarsMenu(settings);
     settings->addSeparator();
-    addKitActionsTo(settings);
+    settings->addActions({m_kit->customizeAction(), m_kit->undoAction(), m_kit->redoAction(),
+                          m_actions.action("tools_reset_toolbars")});
     createMenu(tr("&Help"), {"help_tour", "|", "help_about"});
 }
 
@@ -108,12 +109,6 @@ void MainWindow::createToolBarsMenu(QMenu *parent)
             menu->addAction(toolBar->toggleViewAction());
     });
     m_kit->setExcluded(menu);
-}
-
-void MainWindow::addKitActionsTo(QMenu *menu)
-{
-    menu->addAction(m_kit->customizeAction());
-    menu->addAction(m_actions.action("tools_reset_toolbars"));
 }
 
 void MainWindow::createToolBars()
@@ -210,16 +205,6 @@ void MainWindow::notify(const QString &text)
     m_statusLine->setNotice(text);
     if (!text.isEmpty())
         m_actions.action("view_status_bar")->setChecked(true);
-}
-
-QMenu *MainWindow::createPopupMenu()
-{
-    QMenu *menu = QMainWindow::createPopupMenu();
-    if (!menu)
-        menu = new QMenu(this);
-    menu->addSeparator();
-    addKitActionsTo(menu);
-    return menu;
 }
 
 bool MainWindow::openFile(const QString &path)

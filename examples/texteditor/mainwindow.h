@@ -33,9 +33,6 @@ public:
     //! Opens a document; reports errors to the user.
     bool openFile(const QString &path);
 
-    //! A menu with all toolbars and "Customize Toolbars"; Qt calls it on a right click.
-    QMenu *createPopupMenu() override;
-
 protected:
     void closeEvent(QCloseEvent *event) override;
 
@@ -49,7 +46,6 @@ private:
                             std::initializer_list<const char *> actions);
     QMenu *createMenu(const QString &title, std::initializer_list<const char *> actions);
     void addActionsTo(QWidget *widget, std::initializer_list<const char *> actions);
-    void addKitActionsTo(QMenu *menu);
     QString settingsProblem() const;
     void notify(const QString &text);
     void showPath(const QString &path);

@@ -29,9 +29,7 @@ private Q_SLOTS:
     void everyMenuTitleHasAMnemonicOfItsOwn();
     void theDefaultToolBarsHaveTheirContent();
     void theDialogOffersEveryAction();
-    void theContextMenuKeepsTheTogglesOfTheToolBars();
     void theToolBarsMenuShowsAndHidesToolBars();
-    void theContextMenuWorksWithoutToolBars();
 
 private:
     QTemporaryDir m_folder;
@@ -201,24 +199,14 @@ void tst_TextEditorActions::theDialogOffersEveryAction()
             categories << item;
     }
     QCOMPARE(categories,
-             QStringList({"< S E P A R A T O R >", "Edit", "File", "Format", "Help", "Settings",
-                          "Tools", "View"}));
-    QSet<QString> expected{"Customize Toolbars…"};
+             QStringList({"< S E P A R A T O R >", "File", "Edit", "View", "Format", "Tools",
+                          "Settings", "Help"}));
+    QSet<QString> expected{"Customize Toolbars…", "Undo Toolbar Change", "Redo Toolbar Change"};
     QObject owner;
     const auto actions = ActionCatalog(&owner).all();
     for (const QAction *action : actions)
         expected.insert(action->text());
     QCOMPARE(texts, expected);
-}
-
-void tst_TextEditorActions::theContextMenuKeepsTheTogglesOfTheToolBars()
-{
-    EditorSession session(settingsFile());
-    const QScopedPointer<QMenu> menu(session.window.createPopupMenu());
-    QCOMPARE(textsOf(menu.data()),
-             QStringList({"File", "Edit", "Format", "|", "Customize Toolbars…", "Reset Toolbars"}));
-    QVERIFY(menu->actions().contains(session.action("customizeToolBars")));
-    QVERIFY(menu->actions().contains(session.action("tools_reset_toolbars")));
 }
 
 void tst_TextEditorActions::theToolBarsMenuShowsAndHidesToolBars()
@@ -240,17 +228,6 @@ void tst_TextEditorActions::theToolBarsMenuShowsAndHidesToolBars()
     QVERIFY(!session.toolBar("Edit")->isVisible());
     menu->actions().at(1)->trigger();
     QVERIFY(session.toolBar("Edit")->isVisible());
-}
-
-void tst_TextEditorActions::theContextMenuWorksWithoutToolBars()
-{
-    EditorSession session(settingsFile());
-    const auto toolBars = session.window.findChildren<QToolBar *>();
-    for (QToolBar *toolBar : toolBars)
-        session.window.removeToolBar(toolBar);
-    qDeleteAll(toolBars);
-    const QScopedPointer<QMenu> menu(session.window.createPopupMenu());
-    QVERIFY(textsOf(menu.data()).contains("Customize Toolbars…"));
 }
 
 QTEST_MAIN(tst_TextEditorActions)

@@ -56,7 +56,7 @@ class TextEditor(Application):
     def go_up_to(self, menu, name):
         """Highlights an entry of an open menu, coming from its end."""
         for entry in menu.children_from_last():
-            if entry.role != "separator":
+            if entry.role != "separator" and entry.has("sensitive"):
                 self._desktop.press("Up")
             if plain(entry.name) == name:
                 break
@@ -97,9 +97,8 @@ class ToolBarDialog:
     def __init__(self, desktop, application):
         self._desktop = desktop
         self._application = application
-        self.window = application.window("dialog", "Options")
-        expect("the pages", lambda: [tab.name for tab in self.window.showing("page tab")],
-               ["ToolBar", "Ribbon"])
+        self.window = application.window("dialog", "Customize Toolbars")
+        expect("pages to choose from", lambda: len(self.window.showing("page tab")), 0)
 
     # --- What it shows ---
 
@@ -114,6 +113,10 @@ class ToolBarDialog:
 
     def current_entry(self):
         return self._current_in(self._content_list())
+
+    def current_action(self):
+        tree, = self.window.showing("tree")
+        return self._current_in(tree, "table cell")
 
     def edited_name(self):
         """The text of the in-place editor in the list of toolbars, if it has the keyboard."""
@@ -132,6 +135,22 @@ class ToolBarDialog:
         self.press(button)
         expect("open dialogs", lambda: len(self._application.windows("dialog")), 0)
 
+    def search(self, words):
+        line, = self.window.showing("text")
+        self._desktop.click(line.rect.center)
+        self._desktop.type(words)
+        expect("the text of the search line", lambda: line.text, words)
+
+    def clear_search(self):
+        self._desktop.press("Escape")
+        expect("the text of the search line", lambda: self.window.showing("text")[0].text, "")
+
+    def answer(self, button):
+        """Answers a question of the dialog."""
+        question = wait_for("nothing is asked", lambda: self._application.windows("alert"))[0]
+        self._desktop.click(question.find("push button", button).rect.center)
+        wait_for("the question stays open", lambda: not self._application.windows("alert"))
+
     def select_tool_bar(self, title):
         self._desktop.click(self._row(self._tool_bar_list(), title).rect.center)
         expect("the selected toolbar", self.current_tool_bar, title)
@@ -148,6 +167,17 @@ class ToolBarDialog:
 
     def double_click_action(self, *path):
         self._desktop.double_click(self._action(*path).rect.center)
+
+    def drag_action(self, *path):
+        """Drags an action behind the entries of the toolbar."""
+        content = self._content_list().rect
+        below = Point(content.center.x, content.y + content.height - 8)
+        self._desktop.drag(self._action(*path).rect.center, below)
+
+    def drag_entry_behind(self, name, other):
+        row = self._row(self._content_list(), other).rect
+        self._desktop.drag(self._row(self._content_list(), name).rect.center,
+                           Point(row.center.x, row.y + row.height - 2))
 
     def select_entry(self, name):
         self._desktop.click(self._row(self._content_list(), name).rect.center)
@@ -208,8 +238,8 @@ class ToolBarDialog:
             wait_for("the list does not scroll", lambda: row.rect != before)
 
     @staticmethod
-    def _current_in(view):
-        current = [shown_name(row) for row in rows_of(view) if row.has("selected")]
+    def _current_in(view, role="list item"):
+        current = [shown_name(row) for row in rows_of(view, role) if row.has("selected")]
         return current[0] if len(current) == 1 else None
 
 

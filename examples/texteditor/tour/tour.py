@@ -14,6 +14,8 @@ from texteditor import (CUSTOMIZE, SEPARATOR, TextEditor, entries_of, is_upright
                         place_in_menu)
 from waiting import NotSo, expect, settled, wait_for
 
+UNDO = "Undo Toolbar Change"
+REDO = "Redo Toolbar Change"
 NAME = "My Tools"
 NEW_NAME = "Writing"
 CONTENT = ["Bold", SEPARATOR, "Find", "Save"]
@@ -53,6 +55,10 @@ class Tour:
 
     def open_dialog(self):
         self.dialog = self.editor.open_dialog_from(self.editor.open_menu("Settings"))
+
+    def choose_in_settings(self, name):
+        menu = self.editor.open_menu("Settings")
+        self.desktop.click(place_in_menu(menu, name))
 
     def expect_tool_bars(self, wanted):
         def other_than_wanted():
@@ -117,10 +123,17 @@ def toolbar_named(tour):
     return f'The new toolbar is called "{NAME}", is selected and is empty'
 
 
-def action_double_clicked(tour):
-    tour.dialog.double_click_action("File", "Save")
+def action_found(tour):
+    tour.dialog.search("save")
+    expect("the current action", tour.dialog.current_action, "Save")
+    return 'Typing "save" into the search line finds Save'
+
+
+def action_added_by_return(tour):
+    tour.desktop.press("Return")
     tour.expect_content("Save")
-    return f'A double click on Save adds it: {listed(tour.dialog.content())}'
+    tour.dialog.clear_search()
+    return f'Return adds it, and Escape clears the line: {listed(tour.dialog.content())}'
 
 
 def action_added_by_button(tour):
@@ -130,10 +143,10 @@ def action_added_by_button(tour):
     return f'The button -> adds the selected Find: {listed(tour.dialog.content())}'
 
 
-def another_action_double_clicked(tour):
-    tour.dialog.double_click_action("Format", "Bold")
+def action_dragged(tour):
+    tour.dialog.drag_action("Format", "Bold")
     tour.expect_content("Save", "Find", "Bold")
-    return f"A double click on Bold adds it: {listed(tour.dialog.content())}"
+    return f"Dragging Bold to the toolbar adds it: {listed(tour.dialog.content())}"
 
 
 def separator_added(tour):
@@ -142,11 +155,10 @@ def separator_added(tour):
     return f"A double click on the separator entry adds one: {listed(tour.dialog.content())}"
 
 
-def entry_moved_down(tour):
-    tour.dialog.select_entry("Save")
-    tour.dialog.press("Down")
+def entry_dragged(tour):
+    tour.dialog.drag_entry_behind("Save", "Find")
     tour.expect_content("Find", "Save", "Bold", SEPARATOR)
-    return f"Down moves Save behind Find: {listed(tour.dialog.content())}"
+    return f"Save is dragged behind Find: {listed(tour.dialog.content())}"
 
 
 def entries_moved_up(tour):
@@ -283,6 +295,7 @@ def default_toolbar_changed(tour):
 
 def defaults_in_dialog(tour):
     tour.dialog.press("Restore Defaults")
+    tour.dialog.answer("Restore Defaults")
     expect("the toolbars in the dialog", tour.dialog.tool_bars, sorted(tour.shipped))
     tour.expect_content(*tour.shipped[DEFAULT_TOOL_BAR])
     wait_for("the window has lost its toolbar", lambda: NEW_NAME in tour.editor.tool_bars())
@@ -293,6 +306,16 @@ def defaults_in_window(tour):
     tour.dialog.close_with("OK")
     tour.expect_tool_bars(tour.shipped)
     return f"After OK every toolbar is as shipped: {listed(tour.shipped)}"
+
+
+def defaults_undone(tour):
+    changed = {**tour.shipped, NEW_NAME: CONTENT,
+               DEFAULT_TOOL_BAR: tour.shipped[DEFAULT_TOOL_BAR][1:]}
+    tour.choose_in_settings(UNDO)
+    tour.expect_tool_bars(changed)
+    tour.choose_in_settings(REDO)
+    tour.expect_tool_bars(tour.shipped)
+    return f'"{UNDO}" brings "{NEW_NAME}" back, and "{REDO}" the defaults'
 
 
 def defaults_back(tour):
@@ -313,11 +336,12 @@ STORY = [
     dialog_opened,
     new_toolbar,
     toolbar_named,
-    action_double_clicked,
+    action_found,
+    action_added_by_return,
     action_added_by_button,
-    another_action_double_clicked,
+    action_dragged,
     separator_added,
-    entry_moved_down,
+    entry_dragged,
     entries_moved_up,
     toolbar_in_window,
     toolbar_moved,
@@ -336,6 +360,7 @@ STORY = [
     default_toolbar_changed,
     defaults_in_dialog,
     defaults_in_window,
+    defaults_undone,
     defaults_back,
     nothing_to_complain_about,
 ]
