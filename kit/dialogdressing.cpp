@@ -2,6 +2,7 @@
 
 #include "dialogdressing.h"
 
+#include "actiondrag.h"
 #include "plaintextdelegate.h"
 
 #include <RyCustomizedDialog>
@@ -15,6 +16,8 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, RyToolBarKit::Feature
 {
     if (features & RyToolBarKit::ReadableLists)
         showPlainTexts();
+    if (features & RyToolBarKit::DragActions)
+        new ActionDrag(m_parts, this);
 }
 
 // One for each view: a delegate reports the end of an edit to all its views.

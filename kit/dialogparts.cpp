@@ -39,3 +39,12 @@ DialogParts::DialogParts(RyCustomizedDialog *customizedDialog)
     , rightButton(part<QToolButton>(page, "rightButton"))
 {
 }
+
+void DialogParts::explain(QWidget *view, const QString &sentence)
+{
+    const auto joined = [&sentence](const QString &text) {
+        return text.isEmpty() ? sentence : text + QLatin1Char(' ') + sentence;
+    };
+    view->setToolTip(joined(view->toolTip()));
+    view->setAccessibleDescription(joined(view->accessibleDescription()));
+}

@@ -5,6 +5,7 @@
 
 class QLabel;
 class QListWidget;
+class QString;
 class QTabWidget;
 class QToolButton;
 class QTreeWidget;
@@ -20,6 +21,9 @@ class RyCustomizedDialog;
 struct DialogParts
 {
     explicit DialogParts(RyCustomizedDialog *dialog);
+
+    // Adds a sentence to the tool tip of a view and to what a screen reader says of it.
+    static void explain(QWidget *view, const QString &sentence);
 
     RyCustomizedDialog *dialog;
     QTabWidget *tabs;

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>ActionDrag</name>
+    <message>
+        <source>Drag actions to a place in the toolbar, or onto another toolbar.</source>
+        <translation>اسحب الإجراءات إلى موضع في شريط الأدوات، أو إلى شريط أدوات آخر.</translation>
+    </message>
+    <message>
+        <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation>اسحب الإجراءات لنقلها، وأيضًا إلى شريط أدوات آخر. اسحبها لتعود إلى كل الإجراءات لإزالتها.</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>خيارات</translation>
+    </message>
+</context>
+<context>
+    <name>CutEntries</name>
+    <message>
+        <source>%1 cuts the selected actions. %2 inserts them after the current one, also in another toolbar.</source>
+        <translation>يقص %1 الإجراءات المحدّدة. يدرجها %2 بعد الإجراء الحاليّ، وأيضًا في شريط أدوات آخر.</translation>
+    </message>
+    <message>
+        <source>%1 adds the actions that were cut.</source>
+        <translation>يضيف %1 الإجراءات المقصوصة.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ActionDrag</name>
+    <message>
+        <source>Drag actions to a place in the toolbar, or onto another toolbar.</source>
+        <translation>Ziehen Sie Aktionen an eine Stelle der Werkzeugleiste oder auf eine andere Werkzeugleiste.</translation>
+    </message>
+    <message>
+        <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation>Ziehen Sie Aktionen, um sie zu verschieben, auch auf eine andere Werkzeugleiste. Ziehen Sie sie zurück zu allen Aktionen, um sie zu entfernen.</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>CutEntries</name>
+    <message>
+        <source>%1 cuts the selected actions. %2 inserts them after the current one, also in another toolbar.</source>
+        <translation>%1 schneidet die ausgewählten Aktionen aus. %2 fügt sie nach der aktuellen ein, auch in einer anderen Werkzeugleiste.</translation>
+    </message>
+    <message>
+        <source>%1 adds the actions that were cut.</source>
+        <translation>%1 fügt die ausgeschnittenen Aktionen hinzu.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>ActionDrag</name>
+    <message>
+        <source>Drag actions to a place in the toolbar, or onto another toolbar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -163,6 +174,17 @@
     <name>CustomizedDialog</name>
     <message>
         <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CutEntries</name>
+    <message>
+        <source>%1 cuts the selected actions. %2 inserts them after the current one, also in another toolbar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 adds the actions that were cut.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>ActionDrag</name>
+    <message>
+        <source>Drag actions to a place in the toolbar, or onto another toolbar.</source>
+        <translation>Arrastre acciones a un lugar de la barra de herramientas o a otra barra de herramientas.</translation>
+    </message>
+    <message>
+        <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation>Arrastre acciones para moverlas, también a otra barra de herramientas. Arrástrelas de vuelta a todas las acciones para quitarlas.</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Opciones</translation>
+    </message>
+</context>
+<context>
+    <name>CutEntries</name>
+    <message>
+        <source>%1 cuts the selected actions. %2 inserts them after the current one, also in another toolbar.</source>
+        <translation>%1 corta las acciones seleccionadas. %2 las inserta después de la actual, también en otra barra de herramientas.</translation>
+    </message>
+    <message>
+        <source>%1 adds the actions that were cut.</source>
+        <translation>%1 añade las acciones cortadas.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ActionDrag</name>
+    <message>
+        <source>Drag actions to a place in the toolbar, or onto another toolbar.</source>
+        <translation>Faites glisser des actions à un endroit de la barre d&apos;outils, ou sur une autre barre d&apos;outils.</translation>
+    </message>
+    <message>
+        <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation>Faites glisser des actions pour les déplacer, y compris sur une autre barre d&apos;outils. Faites-les glisser vers toutes les actions pour les retirer.</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Options</translation>
+    </message>
+</context>
+<context>
+    <name>CutEntries</name>
+    <message>
+        <source>%1 cuts the selected actions. %2 inserts them after the current one, also in another toolbar.</source>
+        <translation>%1 coupe les actions sélectionnées. %2 les insère après l&apos;action actuelle, y compris dans une autre barre d&apos;outils.</translation>
+    </message>
+    <message>
+        <source>%1 adds the actions that were cut.</source>
+        <translation>%1 ajoute les actions coupées.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="he" sourcelanguage="en">
 <context>
+    <name>ActionDrag</name>
+    <message>
+        <source>Drag actions to a place in the toolbar, or onto another toolbar.</source>
+        <translation>גרור פעולות למקום בסרגל הכלים, או אל סרגל כלים אחר.</translation>
+    </message>
+    <message>
+        <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation>גרור פעולות כדי להזיז אותן, גם אל סרגל כלים אחר. גרור אותן בחזרה אל כל הפעולות כדי להסיר אותן.</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>אפשרויות</translation>
+    </message>
+</context>
+<context>
+    <name>CutEntries</name>
+    <message>
+        <source>%1 cuts the selected actions. %2 inserts them after the current one, also in another toolbar.</source>
+        <translation>%1 גוזר את הפעולות שנבחרו. %2 מוסיף אותן אחרי הפעולה הנוכחית, גם בסרגל כלים אחר.</translation>
+    </message>
+    <message>
+        <source>%1 adds the actions that were cut.</source>
+        <translation>%1 מוסיף את הפעולות שנגזרו.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>ActionDrag</name>
+    <message>
+        <source>Drag actions to a place in the toolbar, or onto another toolbar.</source>
+        <translation>Trascina le azioni in un punto della barra degli strumenti o su un&apos;altra barra degli strumenti.</translation>
+    </message>
+    <message>
+        <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation>Trascina le azioni per spostarle, anche su un&apos;altra barra degli strumenti. Trascinale di nuovo su tutte le azioni per rimuoverle.</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Opzioni</translation>
+    </message>
+</context>
+<context>
+    <name>CutEntries</name>
+    <message>
+        <source>%1 cuts the selected actions. %2 inserts them after the current one, also in another toolbar.</source>
+        <translation>%1 taglia le azioni selezionate. %2 le inserisce dopo quella attuale, anche in un&apos;altra barra degli strumenti.</translation>
+    </message>
+    <message>
+        <source>%1 adds the actions that were cut.</source>
+        <translation>%1 aggiunge le azioni tagliate.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>ActionDrag</name>
+    <message>
+        <source>Drag actions to a place in the toolbar, or onto another toolbar.</source>
+        <translation>동작을 도구 모음의 원하는 위치나 다른 도구 모음으로 끌어다 놓으세요.</translation>
+    </message>
+    <message>
+        <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation>동작을 끌어서 이동하세요. 다른 도구 모음으로도 옮길 수 있습니다. 전체 동작 목록으로 다시 끌면 제거됩니다.</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>옵션</translation>
+    </message>
+</context>
+<context>
+    <name>CutEntries</name>
+    <message>
+        <source>%1 cuts the selected actions. %2 inserts them after the current one, also in another toolbar.</source>
+        <translation>%1 키는 선택한 동작을 잘라냅니다. %2 키는 현재 동작 뒤에 삽입하며, 다른 도구 모음에도 삽입할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 adds the actions that were cut.</source>
+        <translation>%1 키는 잘라낸 동작을 추가합니다.</translation>
     </message>
 </context>
 <context>

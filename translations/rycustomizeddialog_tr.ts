@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>ActionDrag</name>
+    <message>
+        <source>Drag actions to a place in the toolbar, or onto another toolbar.</source>
+        <translation>Eylemleri araç çubuğunda bir yere veya başka bir araç çubuğuna sürükleyin.</translation>
+    </message>
+    <message>
+        <source>Drag actions to move them, also onto another toolbar. Drag them back to all actions to remove them.</source>
+        <translation>Eylemleri taşımak için sürükleyin; başka bir araç çubuğuna da taşıyabilirsiniz. Kaldırmak için tüm eylemlere geri sürükleyin.</translation>
+    </message>
+</context>
+<context>
     <name>CRibbonPage</name>
     <message>
         <source>Display</source>
@@ -164,6 +175,17 @@
     <message>
         <source>Options</source>
         <translation>Seçenekler</translation>
+    </message>
+</context>
+<context>
+    <name>CutEntries</name>
+    <message>
+        <source>%1 cuts the selected actions. %2 inserts them after the current one, also in another toolbar.</source>
+        <translation>%1 seçili eylemleri keser. %2 bunları geçerli eylemin arkasına ekler, başka bir araç çubuğunda da.</translation>
+    </message>
+    <message>
+        <source>%1 adds the actions that were cut.</source>
+        <translation>%1 kesilen eylemleri ekler.</translation>
     </message>
 </context>
 <context>

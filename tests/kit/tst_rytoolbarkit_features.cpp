@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "editorviews.h"
 #include "kitwindow.h"
 #include "testcase.h"
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void withoutFollowOthersWindowsStayAsTheyAre_data();
     void withoutFollowOthersWindowsStayAsTheyAre();
     void withoutStoreChangesTheValueIsOnlyRead();
+    void withoutDragActionsTheDialogTakesNoDrags();
 };
 
 namespace {
@@ -157,6 +159,21 @@ void tst_RyToolBarKit_features::withoutStoreChangesTheValueIsOnlyRead()
     QCOMPARE(program.layoutChanges, 2);
     program.end();
     QCOMPARE(program.stored(), stored);
+}
+
+void tst_RyToolBarKit_features::withoutDragActionsTheDialogTakesNoDrags()
+{
+    KitProgram program;
+    for (const bool hasDrags : {true, false}) {
+        if (hasDrags)
+            program.start();
+        else
+            startWithout(&program, RyToolBarKit::DragActions);
+        const EditorViews editor(program.openDialog());
+        QCOMPARE(editor.currentToolBarList->viewport()->acceptDrops(), hasDrags);
+        QCOMPARE(editor.actionTree->selectionMode() == QAbstractItemView::ExtendedSelection,
+                 hasDrags);
+    }
 }
 
 QTEST_MAIN(tst_RyToolBarKit_features)
