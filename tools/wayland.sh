@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Runs the tour of the text editor with Qt 6 in a Wayland session. Takes pictures only of failures, in
-# build/wayland.
+# Runs the tour of the text editor, and the drags of the kit's dialog, with Qt 6 in a Wayland session. Takes
+# pictures only of failures of the tour, in build/wayland.
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 . tools/steps.sh
@@ -11,6 +11,7 @@ start_log build/wayland.log
 build=build/release-qt6
 step 'Packages' tools/install-packages.sh test qt6 wayland
 step 'Configure' cmake --preset release-qt6 -DRYCUSTOMIZEDDIALOG_BUILD_TRANSLATIONS=ON
-step 'Build' cmake --build "$build" --target texteditor --parallel "$(nproc)"
+step 'Build' cmake --build "$build" --target texteditor waylanddrags --parallel "$(nproc)"
 step 'Tour' tools/wayland/run.sh "$build" build/wayland
-finish 'every step of the tour passed in a Wayland session'
+step 'Drags' tools/wayland/drags.sh "$build" build/wayland
+finish 'every step of the tour and every drag passed in a Wayland session'
