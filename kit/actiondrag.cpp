@@ -157,7 +157,7 @@ QMimeData *ActionDrag::begin(QAbstractItemView *source, const QModelIndex &press
         rows = source == m_parts.entryList ? m_selected.entryRows() : m_selected.actionRows();
     for (const QModelIndex &row : rows)
         m_rows.append(row);
-    m_token = QUuid::createUuid().toByteArray();
+    m_token = QUuid::createUuid().toRfc4122();
     QMimeData *const data = new QMimeData;
     data->setData(mimeType(), m_token);
     return data;

@@ -164,8 +164,7 @@ protected:
         QMimeData *const payload = new QMimeData;
         payload->setText("Cut");
         payload->setUrls({QUrl("file:///Cut")});
-        payload->setData("application/x-rytoolbarkit-drag",
-                         "{8dc1a1b0-3a43-4f7d-9f7a-0d7a8a0f6c11}");
+        payload->setData("application/x-rytoolbarkit-drag", "0123456789abcdef");
         payload->setData("application/x-qabstractitemmodeldatalist", "x");
         QDrag *const drag = new QDrag(this);
         drag->setMimeData(payload);
