@@ -83,10 +83,10 @@ bool RyToolBarKitPrivate::canRemove(QToolBar *toolBar, int index) const
         return false;
     const auto entries = manager->actions(toolBar);
     const auto onWidget = toolBar->actions();
-    if (index < 0 || index >= entries.size() || onWidget.size() != entries.size())
+    const QAction *const action = onWidget.value(index);
+    if (!action || onWidget.size() != entries.size())
         return false;
-    return entries.at(index) ? entries.at(index) == onWidget.at(index)
-                             : onWidget.at(index)->isSeparator();
+    return entries.at(index) ? entries.at(index) == action : action->isSeparator();
 }
 
 void RyToolBarKitPrivate::removeEntry(QToolBar *toolBar, int index)
