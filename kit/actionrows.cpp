@@ -15,7 +15,7 @@ namespace {
 
 using TextOf = std::pair<QString, QAction *>;
 
-bool isBefore(const TextOf &a, const TextOf &b)
+bool hasSmallerText(const TextOf &a, const TextOf &b)
 {
     return a.first < b.first;
 }
@@ -28,13 +28,14 @@ QVector<ActionRows::Row> rowsOf(const QTreeWidgetItem *category, const QList<QAc
     texts.reserve(std::size_t(actions.size()));
     for (QAction *action : actions)
         texts.push_back({action->text(), action});
-    std::stable_sort(texts.begin(), texts.end(), isBefore);
+    std::stable_sort(texts.begin(), texts.end(), hasSmallerText);
     QVector<ActionRows::Row> rows;
     rows.reserve(category->childCount());
     for (int i = 0; i < category->childCount(); ++i) {
         QTreeWidgetItem *const item = category->child(i);
         const QString text = item->text(0);
-        auto found = std::lower_bound(texts.begin(), texts.end(), TextOf(text, nullptr), isBefore);
+        auto found =
+            std::lower_bound(texts.begin(), texts.end(), TextOf(text, nullptr), hasSmallerText);
         while (found != texts.end() && !found->second)
             ++found; // it has a row already
         if (found != texts.end() && found->first == text) {

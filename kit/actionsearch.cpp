@@ -76,7 +76,7 @@ QString keyOfText(const QString &text)
     return ActionSearch::folded(text).simplified();
 }
 
-QString shown(const QTreeWidgetItem *item)
+QString visibleText(const QTreeWidgetItem *item)
 {
     return PlainTextDelegate::plainText(item->text(0));
 }
@@ -169,11 +169,11 @@ void ActionSearch::makeKeys()
         {m_rows.separator, keyOfSeparator(m_rows.separator->text(0)), false});
     const auto categories = m_rows.categories;
     for (const ActionRows::Category &category : categories) {
-        Category made{category.item, keyOfText(shown(category.item)), {}, false, false};
+        Category made{category.item, keyOfText(visibleText(category.item)), {}, false, false};
         made.rows.reserve(category.rows.size());
         for (const ActionRows::Row &row : category.rows) {
             const QAction *const action = actions.contains(row.action) ? row.action : nullptr;
-            made.rows.append({row.item, keyOf(action, shown(row.item)), false});
+            made.rows.append({row.item, keyOf(action, visibleText(row.item)), false});
         }
         m_categories.append(made);
     }

@@ -123,7 +123,6 @@ void tst_EditProtection_Window::escapeAsksAndEscapeStays()
     stage.user.clickKey(Qt::Key_Escape, [&] { return stage.hasBox("unsavedEditsQuestion"); });
     stage.waitForBox("unsavedEditsQuestion");
     stage.user.clickKey(Qt::Key_Escape, [&] { return !stage.hasBox("unsavedEditsQuestion"); });
-    stage.user.waitForWindow(stage.dialog);
     QCOMPARE(stage.user.run(), QString());
     QVERIFY(stage.dialog->isVisible());
     QCOMPARE(rowsOf(stage.views.toolBarList), words("Edit File Mine"));
