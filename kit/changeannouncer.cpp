@@ -48,7 +48,6 @@ ChangeAnnouncer::ChangeAnnouncer(const DialogParts &parts)
         new QAccessibleWidget(m_notification, QAccessible::Notification));
     m_notification->setObjectName(QStringLiteral("changeNotification"));
     m_notification->resize(1, 1);
-    m_notification->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_notification->hide();
 
     m_timer.setSingleShot(true);

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void anAddedActionIsAnnounced_data();
     void anAddedActionIsAnnounced();
     void anActionThatIsThereAlreadyIsMoved();
+    void theFirstActionOfAToolBarIsAnnounced();
     void aRemovedEntryIsAnnounced();
     void aMovedEntryIsAnnouncedWithItsPlace_data();
     void aMovedEntryIsAnnouncedWithItsPlace();
@@ -115,6 +116,21 @@ void tst_ChangeAnnouncer::anActionThatIsThereAlreadyIsMoved()
     stage.views.click(stage.views.rightButton);
     QCOMPARE(stage.entries(), words("| Copy Cut"));
     QCOMPARE(announced.take(), QStringList("Moved: Cut, 3 of 3"));
+}
+
+void tst_ChangeAnnouncer::theFirstActionOfAToolBarIsAnnounced()
+{
+    KitDialog stage;
+    stage.dialog->close();
+    letTheKitFollow();
+    stage.program.create("Empty", QString());
+    RyCustomizedDialog *const dialog = stage.program.openDialog();
+    const EditorViews views(dialog);
+    Announced announced(dialog);
+    views.toolBarList->setCurrentItem(itemNamed(views.toolBarList, "Empty"));
+    QCOMPARE(announced.take(), QStringList());
+    views.click(views.rightButton);
+    QCOMPARE(announced.take(), QStringList("Added: Separator"));
 }
 
 void tst_ChangeAnnouncer::aRemovedEntryIsAnnounced()
@@ -249,6 +265,7 @@ void tst_ChangeAnnouncer::theNotificationIsNotSeen()
     notification->show();
     QCOMPARE(stage.dialog->grab().toImage(), before);
     QCOMPARE(notification->focusPolicy(), Qt::NoFocus);
+    QCOMPARE(notification->size(), QSize(1, 1));
 }
 
 void tst_ChangeAnnouncer::afterAChangeNothingGoesOn()

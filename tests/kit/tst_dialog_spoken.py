@@ -95,9 +95,15 @@ class Session:
 
     def focus(self):
         """Where the focus has come to. In a list it is always on an item."""
-        return wait_for('nothing else has the focus', lambda: self._heard.focused,
-                        lambda found: found and found != self._last
-                        and found.get_role_name() not in LISTS)
+        def settled():
+            found = self._heard.focused
+            # The program answers once it has sent all events of what it does.
+            if not found or found == self._last or found.get_role_name() in LISTS:
+                return None
+            deliver_events()
+            return found if found == self._heard.focused else None
+
+        return wait_for('nothing else has the focus', settled)
 
     def hear_focus(self):
         found = self.focus()
