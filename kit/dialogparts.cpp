@@ -4,6 +4,7 @@
 
 #include <RyCustomizedDialog>
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QTabWidget>
@@ -38,6 +39,11 @@ DialogParts::DialogParts(RyCustomizedDialog *customizedDialog)
     , leftButton(part<QToolButton>(page, "leftButton"))
     , rightButton(part<QToolButton>(page, "rightButton"))
 {
+}
+
+QString DialogParts::separatorText()
+{
+    return QCoreApplication::translate("RyCToolBarWidget", "< S E P A R A T O R >");
 }
 
 void DialogParts::explain(QWidget *view, const QString &sentence)

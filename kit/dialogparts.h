@@ -24,6 +24,8 @@ struct DialogParts
 
     //! Returns true while the parts are deleted with the dialog. Models then still emit signals.
     bool areDeleted() const;
+    // What rows of separators show.
+    static QString separatorText();
     // Adds a sentence to the tool tip of a view and to what a screen reader says of it.
     static void explain(QWidget *view, const QString &sentence);
 

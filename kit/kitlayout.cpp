@@ -16,12 +16,6 @@ const int MostEntries = 1000;
 const int SmallestIcon = 8;
 const int LargestIcon = 128;
 
-// Of a layout as compact JSON.
-QByteArray checksum(const QByteArray &layout)
-{
-    return QCryptographicHash::hash(layout, QCryptographicHash::Sha1).toHex();
-}
-
 QJsonArray arrayOf(const QStringList &names)
 {
     QJsonArray array;
@@ -231,7 +225,7 @@ QString refusal(const QJsonObject &value)
         return QStringLiteral("the layout is from a newer version");
     const QByteArray compact = QJsonDocument(layout).toJson(QJsonDocument::Compact);
     if (value.value(QStringLiteral("checksum")).toString()
-        != QString::fromLatin1(checksum(compact)))
+        != QString::fromLatin1(KitLayout::checksum(compact)))
         return QStringLiteral("the layout is damaged: its checksum is wrong");
     if (isTooLarge(layout))
         return QStringLiteral("the layout has too many toolbars or entries");
@@ -284,6 +278,11 @@ QByteArray KitLayout::layoutJson() const
     if (locked)
         all.insert("locked", memberOf(QStringLiteral("locked"), true));
     return joined(all);
+}
+
+QByteArray KitLayout::checksum(const QByteArray &json)
+{
+    return QCryptographicHash::hash(json, QCryptographicHash::Sha1).toHex();
 }
 
 QByteArray KitLayout::toJson() const

@@ -99,6 +99,11 @@ public:
      */
     static KitLayout fromJson(const QByteArray &json, QString *reason);
 
+    /*!
+     * \brief Returns what shows whether compact JSON is damaged.
+     */
+    static QByteArray checksum(const QByteArray &json);
+
     // By name.
     QMap<QString, KitToolBar> toolBars;
     // Empty if the toolbars are where the program has them.

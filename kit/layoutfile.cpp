@@ -12,7 +12,7 @@ namespace {
 
 const int LargestFile = 1000000; // bytes
 const int MostCustomToolBars = 100;
-const int MostEntries = 5000;
+const int MostEntriesOfFile = 5000;
 const int LongestTitle = 200;
 
 // Why a layout is not for a window, or an empty string.
@@ -29,7 +29,7 @@ QString refusal(const KitLayout &layout)
         if (!it.key().startsWith(QLatin1String("_Custom_Toolbar_")))
             return QStringLiteral("the layout has a custom toolbar with a name of another kind");
     }
-    if (customToolBars > MostCustomToolBars || entries > MostEntries)
+    if (customToolBars > MostCustomToolBars || entries > MostEntriesOfFile)
         return QStringLiteral("the layout has too many toolbars or entries");
     return QString();
 }

@@ -2,21 +2,15 @@
 
 #include "layouthistory.h"
 
-#include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 
 namespace {
 
-const int Format = 1;
+const int StepsFormat = 1;
 const int MostSteps = 20;
 const int LargestText = 1000000;
 const int TextAroundSteps = 1000;
-
-QByteArray checksum(const QByteArray &steps)
-{
-    return QCryptographicHash::hash(steps, QCryptographicHash::Sha1).toHex();
-}
 
 QByteArray compact(const QJsonObject &object)
 {
@@ -125,8 +119,8 @@ QByteArray LayoutHistory::toJson()
     const QByteArray redo = joined(&m_redo, &rest);
     const QByteArray steps = "{\"redo\":[" + redo + "],\"undo\":[" + undo + "]}";
     m_isChanged = false;
-    return "{\"checksum\":\"" + checksum(steps) + "\",\"format\":" + QByteArray::number(Format)
-        + ",\"steps\":" + steps + '}';
+    return "{\"checksum\":\"" + KitLayout::checksum(steps)
+        + "\",\"format\":" + QByteArray::number(StepsFormat) + ",\"steps\":" + steps + '}';
 }
 
 // The last ones that are not larger than the rest.
@@ -163,9 +157,9 @@ LayoutHistory LayoutHistory::fromJson(const QByteArray &json)
         return history;
     const QJsonObject value = QJsonDocument::fromJson(json).object();
     const QJsonObject steps = value.value(QStringLiteral("steps")).toObject();
-    if (value.value(QStringLiteral("format")).toDouble() != Format
+    if (value.value(QStringLiteral("format")).toDouble() != StepsFormat
         || value.value(QStringLiteral("checksum")).toString()
-            != QString::fromLatin1(checksum(compact(steps))))
+            != QString::fromLatin1(KitLayout::checksum(compact(steps))))
         return history;
     history.m_undo = read(steps.value(QStringLiteral("undo")).toArray());
     history.m_redo = read(steps.value(QStringLiteral("redo")).toArray());

@@ -7,7 +7,6 @@
 #include <RyCustomizedDialog>
 #include <RyToolBarManager>
 
-#include <QCoreApplication>
 #include <QListWidget>
 #include <QLocale>
 #include <QMessageBox>
@@ -16,12 +15,7 @@
 namespace {
 
 const int MostLines = 12;
-const int MostNames = 6;
-
-QString separatorText()
-{
-    return QCoreApplication::translate("RyCToolBarWidget", "< S E P A R A T O R >");
-}
+const int MostActions = 6;
 
 } // namespace
 
@@ -126,11 +120,11 @@ QString RestoreQuestion::names(const Entries &entries)
 {
     QStringList names;
     for (const Entry &entry : entries) {
-        if (entry.text != separatorText())
+        if (entry.text != DialogParts::separatorText())
             names.append(PlainTextDelegate::plainText(entry.text));
     }
-    const bool areAll = names.size() <= MostNames;
-    const QString list = QLocale().createSeparatedList(names.mid(0, areAll ? -1 : MostNames - 1));
+    const bool areAll = names.size() <= MostActions;
+    const QString list = QLocale().createSeparatedList(names.mid(0, areAll ? -1 : MostActions - 1));
     return areAll ? list : list + QStringLiteral(" …");
 }
 
@@ -149,7 +143,7 @@ QHash<QString, QList<RestoreQuestion::Entries>> RestoreQuestion::defaultEntries(
         const QList<QAction *> wanted = m_defaults.value(toolBar);
         for (const QAction *action : wanted) {
             if (!action)
-                entries.append({separatorText(), 0});
+                entries.append({DialogParts::separatorText(), 0});
             else if (actions.contains(const_cast<QAction *>(action)))
                 entries.append({action->text(), action->icon().cacheKey()});
         }

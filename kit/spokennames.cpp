@@ -7,22 +7,12 @@
 #include <RyCustomizedDialog>
 
 #include <QChildEvent>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QTreeWidget>
-
-namespace {
-
-QString separatorText()
-{
-    return QCoreApplication::translate("RyCToolBarWidget", "< S E P A R A T O R >");
-}
-
-} // namespace
 
 SpokenNames::SpokenNames(const DialogParts &parts)
     : QObject(parts.dialog)
@@ -67,7 +57,7 @@ void SpokenNames::describeTree()
 {
     for (int i = 0; i < m_parts.actionTree->topLevelItemCount(); ++i) {
         QTreeWidgetItem *const item = m_parts.actionTree->topLevelItem(i);
-        if (item->text(0) == separatorText())
+        if (item->text(0) == DialogParts::separatorText())
             item->setData(0, Qt::AccessibleTextRole, tr("Separator"));
     }
 }
@@ -76,7 +66,7 @@ void SpokenNames::describeEntries()
 {
     for (int row = 0; row < m_parts.entryList->count(); ++row) {
         QListWidgetItem *const item = m_parts.entryList->item(row);
-        if (item->text() == separatorText())
+        if (item->text() == DialogParts::separatorText())
             item->setData(Qt::AccessibleTextRole, tr("Separator"));
         else if (item->text().contains(QLatin1Char('&')))
             item->setData(Qt::AccessibleTextRole, PlainTextDelegate::plainText(item->text()));
