@@ -180,6 +180,9 @@ void tst_ActionSearch::theBestMatchBecomesCurrent_data()
         << "b all copy";
     QTest::newRow("each word counts") << QStringList({"a b|copy", "xcopy a"}) << "a copy"
                                       << "xcopy a";
+    QTest::newRow("each word counts, in another order")
+        << QStringList({"a b|copy", "xcopy b a"}) << "copy a"
+        << "xcopy b a";
     QTest::newRow("after a sign") << QStringList({"acopy", "b-copy"}) << "copy"
                                   << "b-copy";
 }

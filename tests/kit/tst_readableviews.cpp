@@ -302,29 +302,29 @@ void tst_ReadableViews::shortcutsAreAtTheEndOfTheRow()
 void tst_ReadableViews::aNarrowRowHasNoShortcut()
 {
     const Opened opened([](QMainWindow *window) {
-        window->menuBar()->addMenu("Menu")->addAction("With")->setShortcut(QKeySequence("Ctrl+W"));
+        QMenu *const menu = window->menuBar()->addMenu("Menu");
+        menu->addAction("Row");
+        menu->addAction("Row")->setShortcut(QKeySequence("Ctrl+W"));
+        menu->addAction("Row " + QString(50, 'W'))->setShortcut(QKeySequence("Ctrl+W"));
     });
-    QTreeWidget *const tree = opened.views->actionTree;
-    QTreeWidgetItem *const item = opened.item("With");
-    tree->expandAll();
-    const QRect row = tree->visualItemRect(item);
-    const auto picture = [&](int width) {
-        QImage image(row.size(), QImage::Format_RGB32);
+    const QTreeWidget *const tree = opened.views->actionTree;
+    const auto picture = [&](int row, int width) {
+        QImage image(width, 20, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
         QStyleOptionViewItem option;
         option.initFrom(tree);
         option.widget = tree;
-        option.rect = QRect(0, 0, width, row.height());
-        tree->itemDelegate()->paint(&painter, option,
-                                    tree->model()->index(0, 0, tree->model()->index(1, 0)));
-        return inkBetween(image, 0, image.width());
+        option.rect = image.rect();
+        const QModelIndex menu = tree->model()->index(1, 0);
+        tree->itemDelegate()->paint(&painter, option, tree->model()->index(row, 0, menu));
+        return image;
     };
-
-    const int wide = picture(row.width());
-    const int narrow = picture(60);
-    QVERIFY(narrow > 0);
-    QVERIFY2(wide > narrow * 3 / 2, qPrintable(QString("%1 %2").arg(wide).arg(narrow)));
+    QCOMPARE(picture(1, 60), picture(0, 60));
+    QVERIFY(picture(1, 200) != picture(0, 200));
+    // The text makes room.
+    const QRect end(140, 0, 60, 20);
+    QCOMPARE(picture(2, 200).copy(end), picture(1, 200).copy(end));
 }
 
 void tst_ReadableViews::rowsAreExplained_data()
