@@ -128,7 +128,8 @@ class Session:
         self._heard.notifications.clear()
         self._desktop.press(*keys)
         wait_for('nothing is announced', lambda: self._heard.notifications)
-        # The focus is reported before.
+        # The focus is reported before, perhaps where it was.
+        self._last = None
         self.hear_focus()
         self.say(f'Notification: {self._heard.notifications[-1]}')
 
@@ -168,6 +169,9 @@ def story(session):
     session.press('Right', 'Down')
     session.press('alt+t')
     session.press('Down')
+    session.press('Tab')
+    session.change('space')
+    session.press('shift+Tab')
     session.press('F2')
     session.type('Tools')
     session.press('Return')
