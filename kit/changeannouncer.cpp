@@ -2,7 +2,7 @@
 
 #include "changeannouncer.h"
 
-#include "plaintextdelegate.h"
+#include "spokennames.h"
 
 #include <RyCustomizedDialog>
 
@@ -15,11 +15,8 @@ namespace {
 QStringList spokenRows(const QListWidget *list)
 {
     QStringList rows;
-    for (int row = 0; row < list->count(); ++row) {
-        const QString spoken = list->item(row)->data(Qt::AccessibleTextRole).toString();
-        rows.append(spoken.isEmpty() ? PlainTextDelegate::plainText(list->item(row)->text())
-                                     : spoken);
-    }
+    for (int row = 0; row < list->count(); ++row)
+        rows.append(SpokenNames::spoken(list->item(row)->text()));
     return rows;
 }
 

@@ -49,7 +49,10 @@ QString DialogParts::separatorText()
 void DialogParts::explain(QWidget *view, const QString &sentence)
 {
     const auto joined = [&sentence](const QString &text) {
-        return text.isEmpty() ? sentence : text + QLatin1Char(' ') + sentence;
+        if (text.isEmpty())
+            return sentence;
+        const bool hasEnd = text.at(text.size() - 1).isPunct();
+        return text + QLatin1String(hasEnd ? " " : ". ") + sentence;
     };
     view->setToolTip(joined(view->toolTip()));
     view->setAccessibleDescription(joined(view->accessibleDescription()));

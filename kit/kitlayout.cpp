@@ -128,29 +128,44 @@ KitToolBar toolBarOf(const QJsonObject &object)
     return toolBar;
 }
 
-// The members of a JSON object as text, by their keys in UTF-8. Qt sorts the keys of an object that
-// it has read like this, but those of one that was built by UTF-16.
-using Members = QMap<QByteArray, QByteArray>;
+// The members of a JSON object as text, by their keys.
+using Members = QMap<QString, QByteArray>;
 
-QByteArray memberOf(const QString &key, const QJsonValue &value)
+// As they are when they have been read again: text that is not Unicode may differ then.
+Members memberOf(const QString &key, const QJsonValue &value)
 {
     const QByteArray built =
         QJsonDocument(QJsonObject{{key, value}}).toJson(QJsonDocument::Compact);
-    const QByteArray read = QJsonDocument::fromJson(built).toJson(QJsonDocument::Compact);
-    return read.mid(1, read.size() - 2);
+    const QJsonDocument read = QJsonDocument::fromJson(built);
+    const QByteArray text = read.toJson(QJsonDocument::Compact);
+    return {{read.object().keys().constFirst(), text.mid(1, text.size() - 2)}};
+}
+
+void add(const Members &member, Members *members)
+{
+    members->insert(member.firstKey(), member.first());
 }
 
 Members membersOf(const QJsonObject &object)
 {
     Members members;
     for (auto it = object.constBegin(); it != object.constEnd(); ++it)
-        members.insert(it.key().toUtf8(), memberOf(it.key(), it.value()));
+        add(memberOf(it.key(), it.value()), &members);
     return members;
 }
 
+// In the order of an object that was read, for which Qt sorts some keys differently.
 QByteArray joined(const Members &members)
 {
-    return '{' + QList<QByteArray>(members.values()).join(',') + '}';
+    QJsonObject keys;
+    for (auto it = members.cbegin(); it != members.cend(); ++it)
+        keys.insert(it.key(), QJsonValue());
+    const QByteArray built = QJsonDocument(keys).toJson(QJsonDocument::Compact);
+    const QStringList sorted = QJsonDocument::fromJson(built).object().keys();
+    QList<QByteArray> texts;
+    for (const QString &key : sorted)
+        texts.append(members.value(key));
+    return '{' + texts.join(',') + '}';
 }
 
 QStringList areaNames()
@@ -269,14 +284,14 @@ QByteArray KitLayout::layoutJson() const
         if (!(written.toolBar == it.value()))
             written = {it.value(), memberOf(it.key(), objectOf(it.value()))};
         if (!it->isDefault() || !it->others.isEmpty())
-            members.insert(it.key().toUtf8(), written.member);
+            add(written.member, &members);
     }
     Members all = membersOf(m_layoutOthers);
-    all.insert("toolBars", "\"toolBars\":" + joined(members));
+    all.insert(QStringLiteral("toolBars"), "\"toolBars\":" + joined(members));
     if (!places.isEmpty())
-        all.insert("places", memberOf(QStringLiteral("places"), objectOf(places)));
+        add(memberOf(QStringLiteral("places"), objectOf(places)), &all);
     if (locked)
-        all.insert("locked", memberOf(QStringLiteral("locked"), true));
+        add(memberOf(QStringLiteral("locked"), true), &all);
     return joined(all);
 }
 
@@ -292,7 +307,7 @@ QByteArray KitLayout::toJson() const
     others.insert(QStringLiteral("checksum"), QString::fromLatin1(checksum(layout)));
     others.insert(QStringLiteral("format"), Format);
     Members all = membersOf(others);
-    all.insert("layout", "\"layout\":" + layout);
+    all.insert(QStringLiteral("layout"), "\"layout\":" + layout);
     return joined(all);
 }
 

@@ -118,7 +118,7 @@ private:
     struct Written
     {
         KitToolBar toolBar;
-        QByteArray member;
+        QMap<QString, QByteArray> member;
     };
     // What layoutJson() has made of the toolbars, of which few change in between.
     mutable QHash<QString, Written> m_written;

@@ -32,6 +32,12 @@ SpokenNames::SpokenNames(const DialogParts &parts)
     m_parts.toolBarList->viewport()->installEventFilter(this);
 }
 
+QString SpokenNames::spoken(const QString &text)
+{
+    return text == DialogParts::separatorText() ? tr("Separator")
+                                                : PlainTextDelegate::plainText(text);
+}
+
 void SpokenNames::nameWidgets()
 {
     // Qt takes the name of a view only from here, not even from a caption whose buddy it is.
@@ -58,7 +64,7 @@ void SpokenNames::describeTree()
     for (int i = 0; i < m_parts.actionTree->topLevelItemCount(); ++i) {
         QTreeWidgetItem *const item = m_parts.actionTree->topLevelItem(i);
         if (item->text(0) == DialogParts::separatorText())
-            item->setData(0, Qt::AccessibleTextRole, tr("Separator"));
+            item->setData(0, Qt::AccessibleTextRole, spoken(item->text(0)));
     }
 }
 
@@ -66,10 +72,9 @@ void SpokenNames::describeEntries()
 {
     for (int row = 0; row < m_parts.entryList->count(); ++row) {
         QListWidgetItem *const item = m_parts.entryList->item(row);
-        if (item->text() == DialogParts::separatorText())
-            item->setData(Qt::AccessibleTextRole, tr("Separator"));
-        else if (item->text().contains(QLatin1Char('&')))
-            item->setData(Qt::AccessibleTextRole, PlainTextDelegate::plainText(item->text()));
+        const QString text = spoken(item->text());
+        if (text != item->text())
+            item->setData(Qt::AccessibleTextRole, text);
     }
 }
 

@@ -22,6 +22,9 @@ class SpokenNames : public QObject
 public:
     explicit SpokenNames(const DialogParts &parts);
 
+    //! Returns what is said for a row with this text.
+    static QString spoken(const QString &text);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

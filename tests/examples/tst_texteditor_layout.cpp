@@ -73,6 +73,7 @@ void damageLayout(QSettings *settings, const QVariant &value)
 {
     QStringList keys = settings->allKeys().filter("layout/");
     QCOMPARE(keys.removeAll("layout/toolBars.dialog"), 1); // the size of the dialog
+    QCOMPARE(keys.removeAll("layout/toolBars.steps"), 1);
     QCOMPARE(keys.size(), 2);
     for (const QString &key : keys)
         settings->setValue(key, value);

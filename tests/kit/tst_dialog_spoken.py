@@ -27,7 +27,8 @@ from waiting import NotSo, deliver_events, wait_for  # noqa: E402
 
 LISTS = ('tree', 'list')
 # What every user of a screen reader knows, and what only containers have.
-SILENT_ROLES = ('filler', 'layered pane', 'panel', 'scroll bar', 'table column header')
+SILENT_ROLES = ('filler', 'layered pane', 'panel', 'scroll bar', 'split pane', 'table column header',
+                'unknown')
 
 
 class Heard:

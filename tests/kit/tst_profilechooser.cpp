@@ -293,6 +293,7 @@ void tst_ProfileChooser::editsOfAPageThatWasLeftAreForgotten()
 {
     KitProgram program;
     startWithProfiles(&program);
+    program.kit()->setFeatures(program.kit()->features() & ~RyToolBarKit::ReadableLists);
     const Session session(&program);
     QTabWidget *const tabs = session.dialog->findChild<QTabWidget *>();
     session.edit();

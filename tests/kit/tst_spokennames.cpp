@@ -75,7 +75,7 @@ void tst_SpokenNames::viewsAndButtonsHaveNames()
 {
     QFETCH(QString, name);
     QFETCH(QString, description);
-    const KitDialog stage;
+    const KitDialog stage(RyToolBarKit::DragActions);
     QWidget *const part = stage.views.page->findChild<QWidget *>(QTest::currentDataTag());
     QVERIFY(part);
     QCOMPARE(spoken(part, QAccessible::Name), name);

@@ -160,6 +160,34 @@ void useProfiles(QDialog *dialog, const QString &folder)
     answer(dialog, QMessageBox::No);
 }
 
+void announceChanges(RyCustomizedDialog *dialog)
+{
+    const EditorViews views(dialog);
+    views.toolBarList->setCurrentRow(0);
+    for (QToolButton *button : {views.rightButton, views.upButton, views.leftButton}) {
+        QCoreApplication::processEvents();
+        button->click();
+    }
+    QCoreApplication::processEvents();
+    views.newButton->click(); // opens the line for the name
+    QCoreApplication::processEvents();
+}
+
+// As shipped, in another order, then with another action, and last with a new toolbar.
+void askAboutDefaults(RyCustomizedDialog *dialog)
+{
+    const EditorViews views(dialog);
+    views.toolBarList->setCurrentRow(0);
+    pressRestoreDefaults(dialog);
+    views.click(views.downButton);
+    pressRestoreDefaults(dialog);
+    views.click(views.leftButton);
+    views.actionTree->setCurrentItem(itemNamed(views.actionTree, "?3"));
+    views.click(views.rightButton);
+    views.click(views.newButton);
+    pressRestoreDefaults(dialog);
+}
+
 // A user of the kit comes to all of its texts.
 void customizeWithKit()
 {
@@ -175,30 +203,16 @@ void customizeWithKit()
     kit.setRequired(withoutTitle->addAction("?1"));
     window.show();
     openMenu(withoutTitle);
+    for (const auto &use : {announceChanges, askAboutDefaults}) {
+        kit.customizeAction()->trigger();
+        const QScopedPointer<RyCustomizedDialog> dialog(window.findChild<RyCustomizedDialog *>());
+        use(dialog.data());
+        QTest::keyClick(dialog.data(), Qt::Key_Escape);
+    }
     kit.customizeAction()->trigger();
     const QScopedPointer<RyCustomizedDialog> dialog(window.findChild<RyCustomizedDialog *>());
-    const EditorViews views(dialog.data());
-    views.toolBarList->setCurrentRow(0);
-    // What is announced.
-    for (QToolButton *button : {views.rightButton, views.upButton, views.leftButton}) {
-        QCoreApplication::processEvents();
-        button->click();
-    }
-    QCoreApplication::processEvents();
-    views.newButton->click(); // opens the line for the name
-    QCoreApplication::processEvents();
-    pressRestoreDefaults(dialog.data());
-    // In another order, then with another action, and last with a new toolbar.
-    views.click(views.downButton);
-    pressRestoreDefaults(dialog.data());
-    views.click(views.leftButton);
-    views.actionTree->setCurrentItem(itemNamed(views.actionTree, "?3"));
-    views.click(views.rightButton);
-    views.click(views.newButton);
-    pressRestoreDefaults(dialog.data());
     useProfiles(dialog.data(), folder.path());
     dialog->helpButton()->click();
-    QTest::keyClick(dialog.data(), Qt::Key_Escape);
 }
 
 } // namespace
