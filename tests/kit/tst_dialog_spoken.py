@@ -165,6 +165,7 @@ def walk(session):
 
 def story(session):
     """What a user does: each command by its key."""
+    session.press('Down')
     session.change('Insert')
     session.press('Down')
     session.press('Right', 'Down')
