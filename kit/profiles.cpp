@@ -25,7 +25,7 @@ QString decoded(const QString &key)
 bool comesBefore(const QString &a, const QString &b)
 {
     const int order = QString::localeAwareCompare(a, b);
-    return order != 0 ? order < 0 : a < b;
+    return order < 0 || (order == 0 && a < b);
 }
 
 } // namespace

@@ -180,12 +180,17 @@ void KitSequence::keepTrackOfSteps(const ComparedWindow *window)
     m_storedStepsText[key] = stored;
 }
 
-// The layout also has the places of toolbars that are not there.
+// Another window of the program may have its toolbars elsewhere. The layout also has the places of
+// toolbars that are not there.
 QStringList KitSequence::placesOf(const ComparedWindow *window) const
 {
+    int index = 0;
+    while (m_windows.at(index) != window)
+        ++index;
+    const QString since = QString("%1 in window %2").arg(m_changes).arg(index);
     const QJsonDocument saved = QJsonDocument::fromJson(window->program.kit()->saveLayout());
     const QJsonObject places = saved.object().value("layout").toObject().value("places").toObject();
-    return QStringList(QString::number(m_changes)) + window->program.places()
+    return QStringList(since) + window->program.places()
         + QStringList(QJsonDocument(places).toJson(QJsonDocument::Compact));
 }
 

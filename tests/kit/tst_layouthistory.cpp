@@ -38,6 +38,7 @@ private Q_SLOTS:
     void aToolBarThatIsNotLoadedKeepsItsLayout();
     void aToolBarOfTheStepThatIsNotLoadedIsUndone();
     void aToolBarWithANewNameIsFollowed();
+    void whatAnotherReleaseHasByDefaultIsUndoneForTheOthers();
     void aDeletedToolBarChangesNothing();
     void aRequiredActionMayBeUndone();
     void windowsWithTheSameKeyHaveTheSameSteps();
@@ -471,6 +472,25 @@ void tst_LayoutHistory::aToolBarWithANewNameIsFollowed()
     QCOMPARE(program.content("document"), QString("save"));
     redo(program);
     QCOMPARE(program.content("document"), QString("open"));
+}
+
+// The layout is the default in that release already, but not what is stored.
+void tst_LayoutHistory::whatAnotherReleaseHasByDefaultIsUndoneForTheOthers()
+{
+    KitProgram program;
+    program.start();
+    program.edit("file", "save");
+    program.start([](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        QToolBar *const file = window->findChild<QToolBar *>("file");
+        for (const char *name : {"new", "open"})
+            file->removeAction(window->findChild<QAction *>(name));
+    });
+    QVERIFY(program.kit()->isDefault());
+    undo(program);
+    QCOMPARE(program.stored().toUtf8(), program.kit()->saveLayout());
+    program.start();
+    QCOMPARE(program.content("file"), QString("new open save"));
 }
 
 void tst_LayoutHistory::aDeletedToolBarChangesNothing()

@@ -106,6 +106,9 @@ public:
         button("saveProfileButton")->click();
         QInputDialog *const input = dialog->findChild<QInputDialog *>();
         QVERIFY(input);
+        QCOMPARE(input->windowTitle(), QString("Save Profile"));
+        QCOMPARE(input->labelText(), QString("Name of the profile:"));
+        QCOMPARE(input->textValue(), box->currentText());
         input->setTextValue(name);
         input->accept();
         letTheKitFollow();
