@@ -33,7 +33,8 @@ build() {
 
 build_quietly() {
     cmake --preset "release$suffix" -B "$build-$1" -DCMAKE_CXX_COMPILER="$1" -DCMAKE_CXX_FLAGS=-g \
-        -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES=OFF &&
+        -DRYCUSTOMIZEDDIALOG_BUILD_TESTS=OFF -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES=OFF \
+        -DCMAKE_UNITY_BUILD=ON &&
         cmake --build "$build-$1" --parallel "$cores"
 }
 
