@@ -30,7 +30,7 @@ class tst_ActionDrag_Window : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void fromTheActionsToAPlace();
+    void noDragAndDrop();
     void withinTheEntries_data();
     void withinTheEntries();
     void entriesOntoTheActionsAreRemoved();
@@ -260,7 +260,7 @@ protected:
 
 } // namespace
 
-void tst_ActionDrag_Window::fromTheActionsToAPlace()
+void tst_ActionDrag_Window::noDragAndDrop()
 {
     Stage stage;
     QVERIFY(stage.isReady());

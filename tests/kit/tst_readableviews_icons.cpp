@@ -18,8 +18,8 @@ class tst_ReadableViews_Icons : public TestCase
 
 private Q_SLOTS:
     void theScreenHasThisFactor();
-    void iconsAreSharp_data();
-    void iconsAreSharp();
+    void blurredIcons_data();
+    void blurredIcons();
 };
 
 namespace {
@@ -45,14 +45,14 @@ void tst_ReadableViews_Icons::theScreenHasThisFactor()
     QCOMPARE(qApp->devicePixelRatio(), qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
 }
 
-void tst_ReadableViews_Icons::iconsAreSharp_data()
+void tst_ReadableViews_Icons::blurredIcons_data()
 {
     QTest::addColumn<bool>("inTree");
     QTest::newRow("action tree") << true;
     QTest::newRow("current toolbar") << false;
 }
 
-void tst_ReadableViews_Icons::iconsAreSharp()
+void tst_ReadableViews_Icons::blurredIcons()
 {
     QFETCH(bool, inTree);
     KitProgram program;

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: MIT
 
-#include "editorviews.h"
-#include "kitwindow.h"
+#include "openeddialog.h"
 #include "testcase.h"
+#include "texts.h"
 
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QtTest>
 
 /*
  * What people complain about most in programs with customizable toolbars. Each has a test with its
- * name, as a user meets it.
+ * name, as a user meets it. Three are elsewhere: noDragAndDrop() in tst_actiondrag_window,
+ * blurredIcons() in tst_readableviews_icons, and drags on Wayland in tools/wayland/drags.sh.
  */
 class tst_RyToolBarKit_complaints : public TestCase
 {
@@ -31,6 +35,10 @@ private Q_SLOTS:
     void thingsTwice();
     void namelessToolBars();
     void actionsWithoutIcons();
+    void noSearch();
+    void notUsableWithoutAMouse();
+    void resetThatSurprises();
+    void rawMnemonicsAndOddOrder();
 };
 
 namespace {
@@ -311,6 +319,87 @@ void tst_RyToolBarKit_complaints::actionsWithoutIcons()
     const QSize withText = button->sizeHint();
     button->defaultAction()->setText(QString());
     QVERIFY2(withText.width() > button->sizeHint().width(), "it shows its text");
+}
+
+void tst_RyToolBarKit_complaints::noSearch()
+{
+    OpenedDialog opened([](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        window->findChild<QAction *>("copy")->setText("Kopi&éren");
+    });
+    opened.views->toolBarList->setCurrentItem(itemNamed(opened.views->toolBarList, "File"));
+    QLineEdit *const line = opened.dialog->findChild<QLineEdit *>("actionSearch");
+    QTest::keyClicks(line, "KOPIER");
+    QTest::keyClick(line, Qt::Key_Return);
+    QVERIFY(opened.dialog->isVisible());
+    QTest::mouseClick(opened.dialog->okButton(), Qt::LeftButton);
+    QCOMPARE(opened.program.content("file"), QString("new copy open save"));
+}
+
+void tst_RyToolBarKit_complaints::notUsableWithoutAMouse()
+{
+    const OpenedDialog opened;
+    const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    };
+    QTest::keyClicks(QApplication::focusWidget(), "paste");
+    opened.views->toolBarList->setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Insert);
+    QTest::keyClicks(QApplication::focusWidget(), "Mine");
+    press(Qt::Key_Return);
+    opened.views->actionTree->setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Insert);
+    opened.views->currentToolBarList->setFocus(Qt::TabFocusReason);
+    QCOMPARE(opened.views->currentRows(), QStringList("Paste"));
+    press(Qt::Key_X, Qt::ControlModifier);
+    opened.views->toolBarList->setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Home);
+    press(Qt::Key_V, Qt::ControlModifier);
+    QVERIFY(opened.views->currentRows().contains("Paste"));
+    QTest::keyClick(opened.dialog, Qt::Key_Return);
+    QVERIFY(opened.program.content("edit").contains("paste"));
+    QVERIFY(withTitle(opened.program, "Mine"));
+}
+
+void tst_RyToolBarKit_complaints::resetThatSurprises()
+{
+    OpenedDialog opened;
+    opened.dialog->reject();
+    opened.program.edit("edit", "paste");
+    opened.program.create("Mine", "open");
+    const QStringList contents = opened.program.contents();
+    opened.open();
+    QTest::mouseClick(opened.dialog->RestoreDefaultButton(), Qt::LeftButton);
+    const QString text = opened.box("restoreDefaultsQuestion")->informativeText();
+    for (const char *said : {"Edit: add Cut", "Edit: remove Paste", "Mine: delete"})
+        QVERIFY2(text.contains(said), qPrintable(text));
+    opened.answer("restoreDefaultsQuestion", QMessageBox::Cancel);
+    QTest::mouseClick(opened.dialog->okButton(), Qt::LeftButton);
+    QCOMPARE(opened.program.contents(), contents);
+    opened.program.restoreDefaults();
+    opened.program.kit()->undoAction()->trigger();
+    QCOMPARE(opened.program.contents(), contents);
+}
+
+void tst_RyToolBarKit_complaints::rawMnemonicsAndOddOrder()
+{
+    const OpenedDialog opened([](QMainWindow *window) {
+        for (const char *title : {"&Zoom", "&File"}) {
+            QMenu *const menu = window->menuBar()->addMenu(title);
+            for (const char *text : {"Save &As", "&New", "e&xport"})
+                menu->addAction(text);
+        }
+        window->addToolBar("Bar");
+    });
+    QStringList shown;
+    const auto *const delegate =
+        qobject_cast<QStyledItemDelegate *>(opened.views->actionTree->itemDelegate());
+    const QStringList items = itemsOf(opened.views->actionTree);
+    for (const QString &item : items)
+        shown << delegate->displayText(item, QLocale());
+    QCOMPARE(shown.mid(1),
+             QStringList({"Zoom", "  export", "  New", "  Save As", "File", "  export", "  New",
+                          "  Save As"}));
 }
 
 QTEST_MAIN(tst_RyToolBarKit_complaints)
