@@ -75,7 +75,7 @@ compare_description() {
     local file=$contract/$1 now=$build-now.abi
     abi_description "${@:2}" >"$now" || return
     if [ "$update" = --update ]; then
-        cp "$now" "$file"
+        sed "s|path='$PWD/|path='|" "$now" >"$file"
     fi
     abidiff --no-show-locs "$file" "$now"
 }
