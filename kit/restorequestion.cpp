@@ -27,9 +27,9 @@ RestoreQuestion::RestoreQuestion(const DialogParts &parts, const RyToolBarManage
     , m_defaults(defaults)
 {
     QPushButton *const button = m_parts.dialog->RestoreDefaultButton();
-    disconnect(button, SIGNAL(clicked()), m_parts.dialog, SLOT(slotRestorDefault()));
+    button->disconnect(m_parts.dialog);
     connect(button, SIGNAL(clicked()), this, SLOT(ask()));
-    connect(this, SIGNAL(confirmed()), m_parts.dialog, SLOT(slotRestorDefault()));
+    connect(this, SIGNAL(confirmed()), m_parts.page, SLOT(defaultClicked()));
 }
 
 void RestoreQuestion::ask()
