@@ -37,7 +37,7 @@ QByteArray managerState(int defaults, int customs, int entries)
     return writer.bytes();
 }
 
-// Only the part that a kit reads.
+// Only what a kit reads of them.
 QByteArray windowState(int lines, int toolBars)
 {
     StateWriter writer = StateWriter::ofVersion(0);
