@@ -84,30 +84,23 @@ bool ActionDrag::eventFilter(QObject *watched, QEvent *event)
 // The views themselves take no drops, and would select rows while the pointer is moved.
 bool ActionDrag::viewportEvent(QAbstractItemView *view, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
+    const QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonPress)
         press(view, static_cast<QMouseEvent *>(event));
-        return false;
-    case QEvent::MouseButtonRelease:
+    else if (type == QEvent::MouseButtonRelease)
         m_pressed = QModelIndex();
-        return false;
-    case QEvent::MouseMove:
+    else if (type == QEvent::MouseMove)
         return move(view, static_cast<QMouseEvent *>(event));
-    case QEvent::DragEnter:
+    else if (type == QEvent::DragEnter)
         enter(static_cast<QDropEvent *>(event));
-        return true;
-    case QEvent::DragMove:
+    else if (type == QEvent::DragMove)
         dragTo(view, static_cast<QDropEvent *>(event));
-        return true;
-    case QEvent::DragLeave:
+    else if (type == QEvent::DragLeave)
         leave();
-        return true;
-    case QEvent::Drop:
+    else if (type == QEvent::Drop)
         drop(view, static_cast<QDropEvent *>(event));
-        return true;
-    default:
-        return false;
-    }
+    return type == QEvent::DragEnter || type == QEvent::DragMove || type == QEvent::DragLeave
+        || type == QEvent::Drop;
 }
 
 void ActionDrag::press(QAbstractItemView *view, const QMouseEvent *event)
@@ -152,9 +145,10 @@ QMimeData *ActionDrag::begin(QAbstractItemView *source, const QModelIndex &press
 {
     m_source = source;
     m_rows.clear();
-    QModelIndexList rows{pressed};
-    if (source->selectionModel()->isSelected(pressed))
-        rows = source == m_parts.entryList ? m_selected.entryRows() : m_selected.actionRows();
+    const QModelIndexList selected =
+        source == m_parts.entryList ? m_selected.entryRows() : m_selected.actionRows();
+    const QModelIndexList rows =
+        source->selectionModel()->isSelected(pressed) ? selected : QModelIndexList{pressed};
     for (const QModelIndex &row : rows)
         m_rows.append(row);
     m_token = QUuid::createUuid().toRfc4122();

@@ -48,7 +48,8 @@ void CutEntries::cut()
     QModelIndexList rows = m_selected->entryRows();
     if (rows.isEmpty() && m_parts.entryList->currentItem())
         rows.append(m_parts.entryList->currentIndex());
-    for (const QModelIndex &row : rows)
+    const QModelIndexList cut = rows;
+    for (const QModelIndex &row : cut)
         m_rows.append(row.row());
     m_toolBar = m_parts.toolBarList->currentIndex();
     m_texts = texts();
@@ -75,7 +76,8 @@ void CutEntries::insert(int gap)
     const bool isUnchanged = texts() == m_texts;
     mark(false);
     QList<QListWidgetItem *> entries;
-    for (int row : m_rows)
+    const QList<int> rows = m_rows;
+    for (int row : rows)
         entries.append(m_parts.entryList->item(row));
     m_rows.clear();
     if (isUnchanged && source == target)
@@ -93,7 +95,8 @@ void CutEntries::mark(bool isCut)
         return;
     QFont font = m_parts.entryList->font();
     font.setItalic(true);
-    for (int row : m_rows)
+    const QList<int> rows = m_rows;
+    for (int row : rows)
         m_parts.entryList->item(row)->setData(Qt::FontRole, isCut ? QVariant(font) : QVariant());
 }
 

@@ -17,6 +17,10 @@
 
 namespace {
 
+// As numbers: Qt 5 and Qt 6 have other types for a key with Alt.
+const int MoveUp = int(Qt::ALT) | int(Qt::Key_Up);
+const int MoveDown = int(Qt::ALT) | int(Qt::Key_Down);
+
 QString shown(const QKeySequence &key)
 {
     return key.toString(QKeySequence::NativeText);
@@ -108,8 +112,8 @@ void DialogKeys::addShortcuts()
     addShortcut(m_parts.actionTree, Qt::Key_Insert, m_parts.rightButton);
     addShortcut(m_parts.toolBarList, Qt::Key_Insert, m_parts.newButton);
     addShortcut(m_parts.toolBarList, Qt::Key_Delete, m_parts.removeButton);
-    addShortcut(m_parts.entryList, Qt::ALT | Qt::Key_Up, m_parts.upButton);
-    addShortcut(m_parts.entryList, Qt::ALT | Qt::Key_Down, m_parts.downButton);
+    addShortcut(m_parts.entryList, MoveUp, m_parts.upButton);
+    addShortcut(m_parts.entryList, MoveDown, m_parts.downButton);
     addShortcut(m_parts.entryList, Qt::Key_Delete, m_parts.leftButton);
     // The list already handles this key.
     m_parts.renameButton->setToolTip(
@@ -143,8 +147,8 @@ void DialogKeys::describe()
     const QString insertKey = spoken(Qt::Key_Insert);
     const QString deleteKey = spoken(Qt::Key_Delete);
     const QString renameKey = spoken(Qt::Key_F2);
-    const QString upKey = spoken(Qt::ALT | Qt::Key_Up);
-    const QString downKey = spoken(Qt::ALT | Qt::Key_Down);
+    const QString upKey = spoken(MoveUp);
+    const QString downKey = spoken(MoveDown);
     m_parts.rightButton->setAccessibleDescription(insertKey);
     m_parts.newButton->setAccessibleDescription(insertKey);
     m_parts.removeButton->setAccessibleDescription(deleteKey);

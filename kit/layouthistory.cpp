@@ -157,7 +157,7 @@ LayoutHistory LayoutHistory::fromJson(const QByteArray &json)
         return history;
     const QJsonObject value = QJsonDocument::fromJson(json).object();
     const QJsonObject steps = value.value(QStringLiteral("steps")).toObject();
-    if (value.value(QStringLiteral("format")).toDouble() != StepsFormat
+    if (value.value(QStringLiteral("format")).toInt() != StepsFormat
         || value.value(QStringLiteral("checksum")).toString()
             != QString::fromLatin1(KitLayout::checksum(compact(steps))))
         return history;

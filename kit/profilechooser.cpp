@@ -29,7 +29,8 @@ const int LongestName = 60;
 QString listed(const QStringList &names)
 {
     QStringList texts;
-    for (const QString &name : names.mid(0, MostNames))
+    const QStringList first = names.mid(0, MostNames);
+    for (const QString &name : first)
         texts.append(name.size() > LongestName ? name.left(LongestName) + QChar(0x2026) : name);
     if (names.size() > MostNames)
         texts.append(QString(QChar(0x2026)));

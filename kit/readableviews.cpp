@@ -127,7 +127,8 @@ void ReadableViews::arrange(ActionRows *rows, const RyToolBarManager *manager)
         arrange(&category, order);
     arrangeCategories(&rows->categories, order);
     QList<QTreeWidgetItem *> items{rows->separator};
-    for (const ActionRows::Category &category : rows->categories)
+    const QVector<ActionRows::Category> categories = rows->categories;
+    for (const ActionRows::Category &category : categories)
         items.append(category.item);
     tree->addTopLevelItems(items);
     tree->setCurrentItem(rows->separator);
@@ -140,8 +141,9 @@ void ReadableViews::arrange(ActionRows::Category *category, const QCollator &ord
         return;
     category->item->takeChildren();
     QList<QTreeWidgetItem *> items;
-    items.reserve(category->rows.size());
-    for (const ActionRows::Row &row : category->rows)
+    const QVector<ActionRows::Row> rows = category->rows;
+    items.reserve(rows.size());
+    for (const ActionRows::Row &row : rows)
         items.append(row.item);
     category->item->addChildren(items);
 }
@@ -151,7 +153,8 @@ void ReadableViews::arrangeCategories(QVector<ActionRows::Category> *categories,
                                       const QCollator &order) const
 {
     QHash<const QTreeWidgetItem *, int> ranks;
-    for (const ActionRows::Category &category : *categories)
+    const QVector<ActionRows::Category> unordered = *categories;
+    for (const ActionRows::Category &category : unordered)
         ranks.insert(category.item, m_ranks.value(category.item->text(0), m_ranks.size()));
     const auto isBefore = [&](const ActionRows::Category &a, const ActionRows::Category &b) {
         const int rankOfA = ranks.value(a.item);

@@ -87,6 +87,9 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+public Q_SLOTS:
+    void takeTitlesBack();
+
 private Q_SLOTS:
     void customize();
     void update();
@@ -103,7 +106,6 @@ private Q_SLOTS:
     void excludedDestroyed(QObject *object);
     void visibilityChosen(bool shown);
     void unlock();
-    void takeTitlesBack();
 
 private:
     // Finding

@@ -68,17 +68,17 @@ QStringList RyToolBarKitPrivate::unknownNames(const QString &file)
     QString reason;
     const KitLayout layout = LayoutFile(file).read(&reason);
     QSet<QString> actions;
-    QSet<QString> toolBars = ToolBarPlaces::toolBarsOf(layout.places);
-    for (auto it = layout.toolBars.cbegin(); it != layout.toolBars.cend(); ++it) {
-        actions += namesIn(it->entries);
-        toolBars.insert(it.key());
-    }
+    for (const KitToolBar &toolBar : layout.toolBars)
+        actions += namesIn(toolBar.entries);
+    const QStringList actionNames = actions.values();
+    const QStringList toolBarNames =
+        layout.toolBars.keys() + ToolBarPlaces::toolBarsOf(layout.places).values();
     QStringList unknown;
-    for (const QString &name : toolBars) {
+    for (const QString &name : toolBarNames) {
         if (!layout.toolBars.value(name).custom && !isKnown(name, m_toolBarNames))
             unknown.append(name);
     }
-    for (const QString &name : actions) {
+    for (const QString &name : actionNames) {
         if (!isKnown(name, m_actionNames))
             unknown.append(name);
     }

@@ -98,14 +98,16 @@ void SpokenNames::speakPlainly(QTreeWidgetItem *action)
         action->setData(0, Qt::AccessibleTextRole, PlainTextDelegate::plainText(action->text(0)));
 }
 
-// The line in which a toolbar is named.
 bool SpokenNames::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ChildPolished) {
-        QLineEdit *const line =
-            qobject_cast<QLineEdit *>(static_cast<QChildEvent *>(event)->child());
-        if (line)
-            line->setAccessibleName(tr("Name of the toolbar"));
-    }
+    if (event->type() == QEvent::ChildPolished)
+        nameEditor(static_cast<QChildEvent *>(event)->child());
     return QObject::eventFilter(watched, event);
+}
+
+// The line in which a toolbar is named.
+void SpokenNames::nameEditor(QObject *child)
+{
+    if (QLineEdit *const line = qobject_cast<QLineEdit *>(child))
+        line->setAccessibleName(tr("Name of the toolbar"));
 }

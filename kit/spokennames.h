@@ -37,6 +37,7 @@ private:
     void describeTree();
     void describeEntries();
     void describeToolBars();
+    static void nameEditor(QObject *child);
 
     const DialogParts m_parts;
     // Waits for all rows: there is one signal for each.

@@ -113,7 +113,8 @@ void ToolBarLooks::takeIconSizeBack(QToolBar *toolBar, State *state) const
 {
     if (state->iconSize.isValid() && toolBar->iconSize() == state->iconSize) {
         toolBar->setIconSize(state->iconSizeBefore);
-        for (const auto &own : state->ownIconSizes) {
+        const auto sizes = state->ownIconSizes;
+        for (const auto &own : sizes) {
             if (own.first)
                 own.first->setIconSize(own.second);
         }
@@ -145,7 +146,8 @@ void ToolBarLooks::takeStyleBack(QToolBar *toolBar, State *state) const
             state->styleOfWindow = m_window->toolButtonStyle();
         toolBar->setToolButtonStyle(Qt::ToolButtonStyle(
             state->styleBefore < 0 ? state->styleOfWindow : state->styleBefore));
-        for (const auto &own : state->ownStyles) {
+        const auto styles = state->ownStyles;
+        for (const auto &own : styles) {
             if (own.first)
                 own.first->setToolButtonStyle(own.second);
         }

@@ -342,7 +342,8 @@ void tst_ToolBarMenu::theDialogIsOpened()
     program.start();
     QVERIFY(chooseInMenu(program.toolBar("edit"), nullptr, "Customize Toolbars…"));
     QPointer<RyCustomizedDialog> dialog = program.window()->findChild<RyCustomizedDialog *>();
-    QVERIFY(dialog && dialog->isVisible());
+    QVERIFY(dialog);
+    QVERIFY(dialog->isVisible());
     dialog->reject();
     letTheKitFollow();
     QVERIFY(!dialog);
