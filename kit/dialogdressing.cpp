@@ -6,6 +6,7 @@
 #include "actionrows.h"
 #include "actionsearch.h"
 #include "changeannouncer.h"
+#include "dialogedits.h"
 #include "dialogkeys.h"
 #include "dialogpanes.h"
 #include "editprotection.h"
@@ -25,9 +26,9 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, const Context &contex
     : QObject(dialog)
     , m_parts(dialog)
     , m_manager(context.manager)
+    , m_edits(new DialogEdits(m_parts))
     , m_readableViews(nullptr)
     , m_actionSearch(nullptr)
-    , m_editProtection(nullptr)
     , m_isFilled(false)
 {
     if (context.features & RyToolBarKit::ReadableLists)
@@ -37,8 +38,7 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, const Context &contex
     if (context.features & RyToolBarKit::ProtectEdits)
         protectEdits(context);
     else
-        connect(dialog->RestoreDefaultButton(), SIGNAL(clicked()), this,
-                SIGNAL(defaultsRestored()));
+        followRestoreDefaults();
     // What is moved to another parent loses the focus.
     if (m_actionSearch)
         m_actionSearch->setFocus();
@@ -61,12 +61,20 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, const Context &contex
 
 void DialogDressing::protectEdits(const Context &context)
 {
-    m_editProtection = new EditProtection(m_parts);
+    new EditProtection(m_parts, m_edits);
     const RestoreQuestion *const question =
         new RestoreQuestion(m_parts, context.manager, context.defaults);
     connect(question, SIGNAL(confirmed()), this, SIGNAL(defaultsRestored()));
-    connect(question, SIGNAL(changed()), m_editProtection, SLOT(markEdited()));
+    connect(question, SIGNAL(changed()), m_edits, SLOT(add()));
     new DialogPanes(m_parts, context.store, context.features & RyToolBarKit::StoreChanges);
+}
+
+// Nobody is asked.
+void DialogDressing::followRestoreDefaults()
+{
+    const QPushButton *const button = m_parts.dialog->RestoreDefaultButton();
+    connect(button, SIGNAL(clicked()), this, SIGNAL(defaultsRestored()));
+    connect(button, SIGNAL(clicked()), m_edits, SLOT(add()));
 }
 
 // The editor also sorts its toolbars later, when one is renamed.
@@ -80,8 +88,6 @@ void DialogDressing::dressRows()
         m_readableViews->arrange(&rows, m_manager);
     if (m_actionSearch)
         m_actionSearch->setRows(rows, m_manager);
-    if (m_editProtection)
-        m_editProtection->startAgain();
 }
 
 // The editor empties its views when they are hidden.

@@ -12,7 +12,7 @@
 #include <QStringList>
 
 class ActionSearch;
-class EditProtection;
+class DialogEdits;
 class LayoutStore;
 class ReadableViews;
 class RyToolBarManager;
@@ -37,6 +37,8 @@ public:
 
     DialogDressing(RyCustomizedDialog *dialog, const Context &context);
 
+    const DialogEdits *edits() const { return m_edits; }
+
 Q_SIGNALS:
     /*!
      * \brief Restore Defaults was pressed, and confirmed if the user is asked.
@@ -49,13 +51,14 @@ private Q_SLOTS:
 
 private:
     void protectEdits(const Context &context);
+    void followRestoreDefaults();
 
     const DialogParts m_parts;
     const QPointer<RyToolBarManager> m_manager;
+    DialogEdits *m_edits;
     // Each is null without its feature.
     ReadableViews *m_readableViews;
     ActionSearch *m_actionSearch;
-    EditProtection *m_editProtection;
     bool m_isFilled;
 };
 

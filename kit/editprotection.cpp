@@ -2,6 +2,7 @@
 
 #include "editprotection.h"
 
+#include "dialogedits.h"
 #include "plaintextdelegate.h"
 
 #include <RyCustomizedDialog>
@@ -14,7 +15,6 @@
 #include <QPushButton>
 #include <QSet>
 #include <QToolButton>
-#include <QTreeWidget>
 
 namespace {
 
@@ -25,23 +25,15 @@ QString shownName(const QListWidgetItem *row)
 
 } // namespace
 
-EditProtection::EditProtection(const DialogParts &parts)
+EditProtection::EditProtection(const DialogParts &parts, const DialogEdits *edits)
     : QObject(parts.page)
     , m_parts(parts)
-    , m_isEdited(false)
+    , m_edits(edits)
 {
     // Before the buttons are clicked, also by their keys, which leave the focus where it is.
     connect(parts.dialog->okButton(), SIGNAL(pressed()), this, SLOT(takeName()));
     connect(parts.dialog->applyButton(), SIGNAL(pressed()), this, SLOT(takeName()));
-    connect(parts.dialog->applyButton(), SIGNAL(clicked()), this, SLOT(markApplied()));
-    for (QToolButton *button : {parts.newButton, parts.removeButton, parts.upButton,
-                                parts.downButton, parts.leftButton, parts.rightButton})
-        connect(button, SIGNAL(clicked()), this, SLOT(markEdited()));
     connect(parts.newButton, SIGNAL(clicked()), this, SLOT(nameNewToolBar()));
-    connect(parts.actionTree, SIGNAL(itemDoubleClicked(QTreeWidgetItem *, int)), this,
-            SLOT(markDoubleClick()));
-    connect(parts.entryList, SIGNAL(itemDoubleClicked(QListWidgetItem *)), this,
-            SLOT(markEdited()));
     connect(parts.toolBarList, SIGNAL(itemChanged(QListWidgetItem *)), this,
             SLOT(checkName(QListWidgetItem *)));
     connect(parts.toolBarList, SIGNAL(currentRowChanged(int)), this, SLOT(updateButtons()));
@@ -50,28 +42,7 @@ EditProtection::EditProtection(const DialogParts &parts)
     parts.removeButton->installEventFilter(this);
     parts.renameButton->installEventFilter(this);
     parts.dialog->installEventFilter(this);
-}
-
-void EditProtection::startAgain()
-{
-    m_isEdited = false;
     updateButtons();
-}
-
-void EditProtection::markEdited()
-{
-    m_isEdited = true;
-}
-
-void EditProtection::markApplied()
-{
-    m_isEdited = false;
-}
-
-// On a category it only expands that.
-void EditProtection::markDoubleClick()
-{
-    m_isEdited = m_isEdited || m_parts.rightButton->isEnabled();
 }
 
 // Takes the name that is being typed, as when the user goes to another widget.
@@ -106,7 +77,6 @@ void EditProtection::checkName(QListWidgetItem *row)
 {
     if (!m_parts.toolBarList->itemWidget(row))
         return;
-    markEdited();
     const QString name = uniqueName(row);
     if (name != row->text())
         row->setText(name);
@@ -161,7 +131,7 @@ bool EditProtection::eventFilter(QObject *watched, QEvent *event)
 bool EditProtection::isKept()
 {
     takeName();
-    if (!m_isEdited)
+    if (!m_edits->any())
         return false;
     QMessageBox *const question = new QMessageBox(
         QMessageBox::Question, m_parts.dialog->windowTitle(),

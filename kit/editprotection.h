@@ -7,6 +7,7 @@
 
 #include <QObject>
 
+class DialogEdits;
 class QListWidgetItem;
 
 /*!
@@ -17,18 +18,7 @@ class EditProtection : public QObject
     Q_OBJECT
 
 public:
-    explicit EditProtection(const DialogParts &parts);
-
-    /*!
-     * \brief Says that the dialog shows what the manager has. It is called for each fill.
-     */
-    void startAgain();
-
-public Q_SLOTS:
-    /*!
-     * \brief Says that there is something to lose.
-     */
-    void markEdited();
+    EditProtection(const DialogParts &parts, const DialogEdits *edits);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -37,8 +27,6 @@ private Q_SLOTS:
     void takeName();
     void nameNewToolBar();
     void checkName(QListWidgetItem *row);
-    void markDoubleClick();
-    void markApplied();
     void updateButtons();
     void leave(int answer);
 
@@ -47,7 +35,7 @@ private:
     bool isKept();
 
     const DialogParts m_parts;
-    bool m_isEdited;
+    const DialogEdits *m_edits;
 };
 
 #endif // EDITPROTECTION_H

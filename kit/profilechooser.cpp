@@ -2,6 +2,7 @@
 
 #include "profilechooser.h"
 
+#include "dialogedits.h"
 #include "rytoolbarkit.h"
 
 #include <RyCustomizedDialog>
@@ -39,13 +40,13 @@ QString listed(const QStringList &names)
 
 } // namespace
 
-ProfileChooser::ProfileChooser(RyCustomizedDialog *dialog, RyToolBarKit *kit,
-                               const QString &current)
+ProfileChooser::ProfileChooser(RyCustomizedDialog *dialog, const DialogEdits *edits,
+                               RyToolBarKit *kit, const QString &current)
     : QWidget(dialog)
     , m_parts(dialog)
+    , m_edits(edits)
     , m_kit(kit)
     , m_box(new QComboBox(this))
-    , m_isEdited(false)
 {
     setObjectName(QStringLiteral("profileChooser"));
     m_box->setObjectName(QStringLiteral("profileBox"));
@@ -64,7 +65,8 @@ ProfileChooser::ProfileChooser(RyCustomizedDialog *dialog, RyToolBarKit *kit,
     createButton("exportLayoutButton", tr("Export…"), SLOT(exportClicked()));
     connect(m_box, SIGNAL(activated(int)), this, SLOT(choose(int)));
     connect(kit, SIGNAL(destroyed()), this, SLOT(deleteLater()));
-    watchEdits();
+    // After the dialog's own connection.
+    connect(dialog->applyButton(), SIGNAL(clicked()), this, SLOT(applied()));
     static_cast<QBoxLayout *>(dialog->layout())->insertWidget(0, this);
     showProfile(current);
 }
@@ -80,65 +82,24 @@ QAbstractButton *ProfileChooser::createButton(const char *name, const QString &t
     return button;
 }
 
-void ProfileChooser::watchEdits()
-{
-    for (const QAbstractButton *button :
-         {static_cast<QAbstractButton *>(m_parts.leftButton),
-          static_cast<QAbstractButton *>(m_parts.rightButton),
-          static_cast<QAbstractButton *>(m_parts.upButton),
-          static_cast<QAbstractButton *>(m_parts.downButton),
-          static_cast<QAbstractButton *>(m_parts.dialog->RestoreDefaultButton())})
-        connect(button, SIGNAL(clicked()), this, SLOT(rememberEdit()));
-    connect(m_parts.actionTree, SIGNAL(itemDoubleClicked(QTreeWidgetItem *, int)), this,
-            SLOT(rememberEdit()));
-    connect(m_parts.entryList, SIGNAL(itemDoubleClicked(QListWidgetItem *)), this,
-            SLOT(rememberEdit()));
-    m_parts.page->installEventFilter(this);
-    // After the dialog's own connection.
-    connect(m_parts.dialog->applyButton(), SIGNAL(clicked()), this, SLOT(applied()));
-}
-
 bool ProfileChooser::eventFilter(QObject *watched, QEvent *event)
 {
-    // The page forgets its edits.
-    if (watched == m_parts.page && event->type() == QEvent::Hide && !event->spontaneous())
-        m_isEdited = false;
     // A wheel that turns above the box would switch from one profile to the next.
     return (watched == m_box && event->type() == QEvent::Wheel)
         || QWidget::eventFilter(watched, event);
 }
 
-void ProfileChooser::rememberEdit()
+// Returns false if the dialog was deleted with it.
+bool ProfileChooser::applyEdits()
 {
-    m_isEdited = true;
-}
-
-// Toolbars that were created, removed or renamed show in their list.
-bool ProfileChooser::hasEdits() const
-{
-    if (!m_parts.page->isVisible())
-        return false;
-    QStringList shown;
-    for (int row = 0; row < m_parts.toolBarList->count(); ++row)
-        shown.append(m_parts.toolBarList->item(row)->text());
-    QStringList titles;
-    const auto toolBars = m_kit->manager() ? m_kit->manager()->toolBars() : QList<QToolBar *>();
-    for (const QToolBar *toolBar : toolBars)
-        titles.append(toolBar->windowTitle());
-    shown.sort();
-    titles.sort();
-    return m_isEdited || shown != titles;
-}
-
-void ProfileChooser::applyEdits()
-{
-    if (hasEdits())
+    const QPointer<ProfileChooser> chooser(this);
+    if (m_edits->any())
         m_parts.dialog->applyButton()->click();
+    return !chooser.isNull();
 }
 
 void ProfileChooser::applied()
 {
-    m_isEdited = false;
     if (m_kit->saveLayout() != m_value)
         showProfile(QString());
 }
@@ -161,7 +122,7 @@ void ProfileChooser::choose(int index)
 {
     const QString name = m_box->itemText(index);
     const auto switchTo = [this, name] { replaced(m_kit->switchToProfile(name), name); };
-    if (!hasEdits()) {
+    if (!m_edits->any()) {
         switchTo();
         return;
     }
@@ -194,9 +155,7 @@ void ProfileChooser::save(const QString &text)
     if (name.isEmpty())
         return;
     const auto saveNow = [this, name] {
-        const QPointer<ProfileChooser> chooser(this);
-        applyEdits();
-        if (chooser && m_kit->saveProfile(name))
+        if (applyEdits() && m_kit->saveProfile(name))
             showProfile(name);
     };
     if (m_kit->profiles().contains(name))
@@ -244,7 +203,7 @@ void ProfileChooser::importFrom(const QString &file)
     QStringList details;
     if (!unknown.isEmpty())
         details.append(tr("This program does not have: %1").arg(listed(unknown)));
-    if (hasEdits())
+    if (m_edits->any())
         details.append(tr("Your changes in this dialog are lost."));
     if (details.isEmpty())
         importNow();
@@ -254,9 +213,7 @@ void ProfileChooser::importFrom(const QString &file)
 
 void ProfileChooser::exportTo(const QString &file)
 {
-    const QPointer<ProfileChooser> chooser(this);
-    applyEdits();
-    if (chooser && !m_kit->exportLayout(file))
+    if (applyEdits() && !m_kit->exportLayout(file))
         report(tr("The file cannot be written."));
 }
 

@@ -10,6 +10,7 @@
 
 #include <functional>
 
+class DialogEdits;
 class QAbstractButton;
 class QComboBox;
 class QFileDialog;
@@ -33,7 +34,8 @@ public:
      * \param kit the one that has opened the dialog.
      * \param current the profile that the window has, or an empty string.
      */
-    ProfileChooser(RyCustomizedDialog *dialog, RyToolBarKit *kit, const QString &current);
+    ProfileChooser(RyCustomizedDialog *dialog, const DialogEdits *edits, RyToolBarKit *kit,
+                   const QString &current);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -47,14 +49,11 @@ private Q_SLOTS:
     void importFrom(const QString &file);
     void exportClicked();
     void exportTo(const QString &file);
-    void rememberEdit();
     void applied();
 
 private:
     QAbstractButton *createButton(const char *name, const QString &text, const char *slot);
-    void watchEdits();
-    bool hasEdits() const;
-    void applyEdits();
+    bool applyEdits();
     void showProfile(const QString &current);
     void replaced(bool isReplaced, const QString &current);
     void ask(const QString &text, const QString &details, const std::function<void()> &yes);
@@ -62,12 +61,11 @@ private:
     void chooseFile(QFileDialog *dialog, const char *slot);
 
     const DialogParts m_parts;
+    const DialogEdits *m_edits;
     RyToolBarKit *m_kit;
     QComboBox *m_box;
     QAbstractButton *m_saveButton;
     QAbstractButton *m_removeButton;
-    // Whether the content of a toolbar was edited since it was last applied.
-    bool m_isEdited;
     // The current profile, and the layout that it led to.
     QString m_current;
     QByteArray m_value;

@@ -45,7 +45,7 @@ void RyToolBarKitPrivate::customize()
         dialog, {manager, m_menus->categories(), defaultContents(), &store, features});
     connect(dressing, SIGNAL(defaultsRestored()), this, SLOT(resetClicked()));
     if (areProfilesShown)
-        new ProfileChooser(dialog, m_kit, profiles().nameOf(saveLayout()));
+        new ProfileChooser(dialog, dressing->edits(), m_kit, profiles().nameOf(saveLayout()));
     Q_EMIT m_kit->aboutToCustomize(dialog);
     dialog->show();
 }

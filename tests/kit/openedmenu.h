@@ -21,7 +21,7 @@ public:
     OpenedMenu(const OpenedMenu &) = delete;
     OpenedMenu &operator=(const OpenedMenu &) = delete;
 
-    QMenu *menu() const { return m_menu; }
+    QMenu *menu() const { return m_menu.data(); }
     // The texts of a menu, such as "[x] Small" for a checked entry, "(Reset)" for a disabled one
     // and "|" for a separator.
     QStringList texts() const { return m_menu ? texts(m_menu) : QStringList(); }

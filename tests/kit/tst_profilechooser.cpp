@@ -35,6 +35,7 @@ private Q_SLOTS:
     void choosingSwitches();
     void choosingAsksBeforeEditsAreLost_data();
     void choosingAsksBeforeEditsAreLost();
+    void restoringWithoutAQuestionIsAnEdit();
     void afterApplyNothingIsAsked();
     void editsOfAPageThatWasLeftAreForgotten();
     void theWheelDoesNotSwitch();
@@ -253,9 +254,12 @@ void tst_ProfileChooser::choosingAsksBeforeEditsAreLost_data()
         Q_EMIT e->actionTree->itemDoubleClicked(e->actionTree->topLevelItem(0), 0);
     });
     QTest::newRow("restore defaults") << Edit([](EditorViews *e) {
-        qobject_cast<RyCustomizedDialog *>(e->actionTree->window())
-            ->RestoreDefaultButton()
-            ->click();
+        RyCustomizedDialog *const dialog =
+            qobject_cast<RyCustomizedDialog *>(e->actionTree->window());
+        dialog->RestoreDefaultButton()->click();
+        QMessageBox *const question = dialog->findChild<QMessageBox *>("restoreDefaultsQuestion");
+        QVERIFY(question);
+        question->button(QMessageBox::RestoreDefaults)->click();
     });
 }
 
@@ -278,6 +282,17 @@ void tst_ProfileChooser::choosingAsksBeforeEditsAreLost()
     QCOMPARE(session.box->currentText(), QString("Default"));
     session.choose("Short");
     QCOMPARE(program.content("edit"), QString("paste"));
+}
+
+void tst_ProfileChooser::restoringWithoutAQuestionIsAnEdit()
+{
+    KitProgram program;
+    startWithProfiles(&program);
+    program.kit()->setFeatures(program.kit()->features() & ~RyToolBarKit::ProtectEdits);
+    const Session session(&program);
+    session.dialog->RestoreDefaultButton()->click();
+    session.choose("Default");
+    QCOMPARE(session.answer(QMessageBox::No), "Switch to the profile “Default”?/" + Lost);
 }
 
 void tst_ProfileChooser::afterApplyNothingIsAsked()
