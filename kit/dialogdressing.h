@@ -30,7 +30,7 @@ public:
         RyToolBarManager *manager;
         // Those of the menus, in the order of the menus.
         QStringList categories;
-        RestoreQuestion::Defaults defaults;
+        std::function<RestoreQuestion::Defaults()> defaults;
         LayoutStore *store;
         RyToolBarKit::Features features;
     };

@@ -20,7 +20,7 @@ const int MostActions = 6;
 } // namespace
 
 RestoreQuestion::RestoreQuestion(const DialogParts &parts, const RyToolBarManager *manager,
-                                 const Defaults &defaults)
+                                 const std::function<Defaults()> &defaults)
     : QObject(parts.page)
     , m_parts(parts)
     , m_manager(manager)
@@ -72,25 +72,38 @@ void RestoreQuestion::answer(int button)
 // The editor shows the content of a toolbar only while that is current.
 QStringList RestoreQuestion::changes() const
 {
+    if (!m_manager)
+        return QStringList();
     QListWidget *const toolBars = m_parts.toolBarList;
     const int toolBar = toolBars->currentRow();
     const int entry = m_parts.entryList->currentRow();
-    const QHash<QString, QList<Entries>> defaults = defaultEntries();
+    const Defaults defaults = m_defaults();
+    const QHash<QString, Wanted> wanted = byTitle(defaults);
     QStringList lines;
     for (int row = 0; row < toolBars->count(); ++row) {
         toolBars->setCurrentRow(row);
-        const QString name = toolBars->item(row)->text();
-        const QString title = PlainTextDelegate::plainText(name);
-        const QList<Entries> candidates = defaults.value(name);
-        const Entries shown = shownEntries();
-        // Only toolbars of the user can be renamed.
-        if (toolBars->item(row)->flags().testFlag(Qt::ItemIsEditable))
-            lines.append(tr("%1: delete the toolbar").arg(title));
-        else if (!candidates.isEmpty() && !candidates.contains(shown))
-            lines.append(differences(title, shown, candidates.constFirst()));
+        const QListWidgetItem *const item = toolBars->item(row);
+        lines.append(changesOf(item, shownEntries(), wanted.value(item->text())));
     }
     toolBars->setCurrentRow(toolBar);
     m_parts.entryList->setCurrentRow(entry);
+    if (defaults.areLocked)
+        lines.append(tr("Unlock the toolbars"));
+    return lines;
+}
+
+QStringList RestoreQuestion::changesOf(const QListWidgetItem *row, const Entries &shown,
+                                       const Wanted &wanted)
+{
+    const QString title = PlainTextDelegate::plainText(row->text());
+    // Only toolbars of the user can be renamed.
+    if (row->flags().testFlag(Qt::ItemIsEditable))
+        return {tr("%1: delete the toolbar").arg(title)};
+    QStringList lines;
+    if (!wanted.contents.isEmpty() && !wanted.contents.contains(shown))
+        lines.append(differences(title, shown, wanted.contents.constFirst()));
+    if (wanted.hasLook)
+        lines.append(tr("%1: restore icon size and text position").arg(title));
     return lines;
 }
 
@@ -128,26 +141,20 @@ QString RestoreQuestion::names(const Entries &entries)
     return areAll ? list : list + QStringLiteral(" …");
 }
 
-// By the titles of the toolbars, because that is all that their rows show.
-QHash<QString, QList<RestoreQuestion::Entries>> RestoreQuestion::defaultEntries() const
+QHash<QString, RestoreQuestion::Wanted> RestoreQuestion::byTitle(const Defaults &defaults)
 {
-    QHash<QString, QList<Entries>> result;
-    if (!m_manager)
-        return result;
-    const QSet<QAction *> actions = m_manager->actions();
-    const auto toolBars = m_manager->toolBars();
-    for (QToolBar *toolBar : toolBars) {
-        if (!m_defaults.contains(toolBar))
-            continue;
+    QHash<QString, Wanted> result;
+    for (auto it = defaults.contents.cbegin(); it != defaults.contents.cend(); ++it) {
         Entries entries;
-        const QList<QAction *> wanted = m_defaults.value(toolBar);
-        for (const QAction *action : wanted) {
-            if (!action)
-                entries.append({DialogParts::separatorText(), 0});
-            else if (actions.contains(const_cast<QAction *>(action)))
+        for (const QAction *action : it.value()) {
+            if (action)
                 entries.append({action->text(), action->icon().cacheKey()});
+            else
+                entries.append({DialogParts::separatorText(), 0});
         }
-        result[toolBar->windowTitle()].append(entries);
+        Wanted &wanted = result[it.key()->windowTitle()];
+        wanted.contents.append(entries);
+        wanted.hasLook = wanted.hasLook || defaults.looks.contains(it.key());
     }
     return result;
 }

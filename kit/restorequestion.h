@@ -9,9 +9,13 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <QStringList>
 
+#include <functional>
+
 class QAction;
+class QListWidgetItem;
 class QToolBar;
 class RyToolBarManager;
 
@@ -23,14 +27,23 @@ class RestoreQuestion : public QObject
     Q_OBJECT
 
 public:
-    using Defaults = QHash<const QToolBar *, QList<QAction *>>;
+    /*!
+     * \brief What the defaults are, and what else they take back.
+     */
+    struct Defaults
+    {
+        // Of each default toolbar. Null is a separator.
+        QHash<const QToolBar *, QList<QAction *>> contents;
+        // The default toolbars whose icon size or text position the user has chosen.
+        QSet<const QToolBar *> looks;
+        bool areLocked;
+    };
 
     /*!
-     * \param defaults the default content of each default toolbar. Null is a separator. Actions
-     *        that the manager no longer has are left out.
+     * \param defaults is called for each question, as long as \a manager exists.
      */
     RestoreQuestion(const DialogParts &parts, const RyToolBarManager *manager,
-                    const Defaults &defaults);
+                    const std::function<Defaults()> &defaults);
 
 Q_SIGNALS:
     /*!
@@ -59,17 +72,25 @@ private:
         }
     };
     using Entries = QList<Entry>;
+    // What the default toolbars of one title are to be, because a title is all that a row shows.
+    struct Wanted
+    {
+        QList<Entries> contents;
+        bool hasLook = false;
+    };
 
     QStringList changes() const;
+    static QStringList changesOf(const QListWidgetItem *row, const Entries &shown,
+                                 const Wanted &wanted);
     static QStringList differences(const QString &title, const Entries &shown,
                                    const Entries &wanted);
-    QHash<QString, QList<Entries>> defaultEntries() const;
+    static QHash<QString, Wanted> byTitle(const Defaults &defaults);
     Entries shownEntries() const;
     static QString names(const Entries &entries);
 
     const DialogParts m_parts;
     const QPointer<const RyToolBarManager> m_manager;
-    const Defaults m_defaults;
+    const std::function<Defaults()> m_defaults;
 };
 
 #endif // RESTOREQUESTION_H

@@ -8,6 +8,7 @@
 #include "layouthistory.h"
 #include "layoutstore.h"
 #include "profiles.h"
+#include "restorequestion.h"
 #include "rytoolbarkit.h"
 #include "stablenames.h"
 
@@ -182,7 +183,7 @@ private:
     void adoptCreatedToolBars();
     void takeOffStrangeWidgets();
     void completeReset();
-    QHash<const QToolBar *, QList<QAction *>> defaultContents() const;
+    RestoreQuestion::Defaults defaults() const;
     void tellOthers();
 
     RyToolBarKit *m_kit;

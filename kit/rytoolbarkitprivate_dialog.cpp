@@ -42,7 +42,7 @@ void RyToolBarKitPrivate::customize()
     connect(m_rowsInDialog->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), this,
             SLOT(markRequired(QModelIndex, int, int)));
     const DialogDressing *const dressing = new DialogDressing(
-        dialog, {manager, m_menus->categories(), defaultContents(), &store, features});
+        dialog, {manager, m_menus->categories(), [this] { return defaults(); }, &store, features});
     connect(dressing, SIGNAL(defaultsRestored()), this, SLOT(resetClicked()));
     if (areProfilesShown)
         new ProfileChooser(dialog, dressing->edits(), m_kit, profiles().nameOf(saveLayout()));
@@ -197,21 +197,24 @@ void RyToolBarKitPrivate::completeReset()
     takeLooksBack();
 }
 
-// What each default toolbar has after Restore Defaults and OK.
-QHash<const QToolBar *, QList<QAction *>> RyToolBarKitPrivate::defaultContents() const
+// What Restore Defaults and OK make of the window.
+RestoreQuestion::Defaults RyToolBarKitPrivate::defaults() const
 {
-    QHash<const QToolBar *, QList<QAction *>> contents;
+    RestoreQuestion::Defaults result;
+    result.areLocked = (features & RyToolBarKit::ToolBarMenus) && m_layout.locked;
     const auto toolBars = manager->defaultToolBars();
     for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it) {
-        QList<QAction *> &actions = contents[it.key()];
+        QList<QAction *> &actions = result.contents[it.key()];
         const QStringList names = m_defaults.value(it.key());
         for (const QString &name : names) {
             QAction *const action = static_cast<QAction *>(m_actionNames.object(name));
             if (name.isNull() || action)
                 actions.append(action);
         }
+        if (!recordOf(it.key()).look.isDefault())
+            result.looks.insert(it.key());
     }
-    return contents;
+    return result;
 }
 
 void RyToolBarKitPrivate::tellOthers()

@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: استعادة الترتيب</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>إلغاء قفل أشرطة الأدوات</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: استعادة حجم الأيقونات وموضع النص</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: Reihenfolge wiederherstellen</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>Werkzeugleisten entsperren</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: Symbolgröße und Textposition wiederherstellen</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

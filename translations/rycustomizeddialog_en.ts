@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

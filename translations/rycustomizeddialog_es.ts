@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: restaurar el orden</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>Desbloquear las barras de herramientas</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: restaurar el tamaño de los iconos y la posición del texto</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1 : rétablir l&apos;ordre</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>Déverrouiller les barres d&apos;outils</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1 : rétablir la taille des icônes et la position du texte</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

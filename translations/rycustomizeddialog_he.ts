@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: שחזור הסדר</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>ביטול נעילת סרגלי הכלים</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: שחזור גודל הסמלים ומיקום הטקסט</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

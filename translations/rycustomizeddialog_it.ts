@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: ripristinare l&apos;ordine</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>Sbloccare le barre degli strumenti</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: ripristinare la dimensione delle icone e la posizione del testo</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1：並び順を元に戻す</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>ツールバーの固定を解除</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1：アイコンのサイズとテキストの位置を元に戻す</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: 순서 되돌리기</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>도구 모음 잠금 해제</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: 아이콘 크기와 텍스트 위치 되돌리기</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: przywrócić kolejność</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>Odblokować paski narzędzi</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: przywrócić rozmiar ikon i położenie tekstu</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

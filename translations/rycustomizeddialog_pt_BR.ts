@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: restaurar a ordem</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>Desbloquear as barras de ferramentas</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: restaurar o tamanho dos ícones e a posição do texto</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: вернуть порядок</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>Открепить панели инструментов</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: вернуть размер значков и положение текста</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: sıra geri getirilir</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>Araç çubuklarının kilidi açılır</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: simge boyutu ve metin konumu geri getirilir</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

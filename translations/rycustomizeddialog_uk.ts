@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1: повернути порядок</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>Відкріпити панелі інструментів</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1: повернути розмір значків і розташування тексту</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

@@ -348,6 +348,14 @@
         <source>%1: restore the order</source>
         <translation>%1：恢复顺序</translation>
     </message>
+    <message>
+        <source>Unlock the toolbars</source>
+        <translation>解锁工具栏</translation>
+    </message>
+    <message>
+        <source>%1: restore icon size and text position</source>
+        <translation>%1：恢复图标大小和文字位置</translation>
+    </message>
 </context>
 <context>
     <name>RyCRibbonPage</name>

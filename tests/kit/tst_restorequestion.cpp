@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "openeddialog.h"
+#include "openedmenu.h"
 #include "testcase.h"
 #include "texts.h"
 
@@ -23,6 +24,8 @@ private Q_SLOTS:
     void namesAreShownAsTheyAre();
     void toolBarsOfTheSameTitle();
     void longListsAreShortened();
+    void looksAndTheLockAreSaid();
+    void aLockThatDoesNotHoldIsNotSaid();
     void nothingToChangeIsSaid();
     void anotherActionThatLooksTheSameIsReplaced();
     void actionsThatCameLateBelongToTheDefaults();
@@ -161,6 +164,42 @@ void tst_RestoreQuestion::longListsAreShortened()
     const QStringList all = opened.box(question)->detailedText().split('\n');
     QCOMPARE(all.size(), 21);
     QCOMPARE(all.constLast(), "Mine 30: delete the toolbar");
+}
+
+void tst_RestoreQuestion::looksAndTheLockAreSaid()
+{
+    OpenedDialog opened;
+    opened.dialog->reject();
+    letTheKitFollow();
+    opened.program.edit("edit", "copy");
+    const QString mine = opened.program.create("Mine", "cut");
+    QVERIFY(chooseInMenu(opened.program.toolBar("edit"), nullptr, "Large (32)"));
+    QVERIFY(chooseInMenu(opened.program.toolBar("file"), nullptr, "Text only"));
+    QVERIFY(chooseInMenu(opened.program.toolBar(mine), nullptr, "Large (32)"));
+    QVERIFY(chooseInMenu(opened.program.toolBar("file"), nullptr, "Lock toolbars"));
+    opened.open();
+    press(opened);
+    QCOMPARE(linesOf(opened.box(question)),
+             QStringList({"Edit: add Cut", "Edit: restore icon size and text position",
+                          "File: restore icon size and text position", "Mine: delete the toolbar",
+                          "Unlock the toolbars"}));
+    opened.answer(question, QMessageBox::RestoreDefaults);
+    QTest::mouseClick(opened.dialog->okButton(), Qt::LeftButton);
+    QVERIFY(opened.program.kit()->isDefault());
+    letTheKitFollow();
+}
+
+void tst_RestoreQuestion::aLockThatDoesNotHoldIsNotSaid()
+{
+    OpenedDialog opened;
+    opened.dialog->reject();
+    letTheKitFollow();
+    QVERIFY(chooseInMenu(opened.program.toolBar("file"), nullptr, "Lock toolbars"));
+    opened.program.kit()->setFeatures(opened.program.kit()->features()
+                                      & ~RyToolBarKit::ToolBarMenus);
+    opened.open();
+    press(opened);
+    QVERIFY(opened.box(nothing));
 }
 
 void tst_RestoreQuestion::nothingToChangeIsSaid()
