@@ -23,6 +23,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace {
 
 // What a translation may share with its source: signs, and words that the languages share.
@@ -88,13 +90,29 @@ public:
     }
 };
 
-void openMenu(QToolBar *toolBar)
+QMenu *openMenu(QToolBar *toolBar)
 {
     QWidget *const button = toolBar->widgetForAction(toolBar->actions().constLast());
     const QPoint center = button->rect().center();
     QContextMenuEvent event(QContextMenuEvent::Mouse, center, button->mapToGlobal(center));
     QCoreApplication::sendEvent(button, &event);
-    QVERIFY(QApplication::activePopupWidget());
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+}
+
+// Large icons and a lock. The menu of the kit may be a submenu.
+void chooseLook(QToolBar *toolBar)
+{
+    QMenu *menu = openMenu(toolBar);
+    QVERIFY(menu);
+    if (menu->actions().constLast()->menu())
+        menu = menu->actions().constLast()->menu();
+    const auto isSubmenu = [](const QAction *entry) { return entry->menu() != nullptr; };
+    const auto entries = menu->actions();
+    const auto iconSize = std::find_if(entries.begin(), entries.end(), isSubmenu);
+    const auto lock = std::find_if_not(iconSize, entries.end(), isSubmenu);
+    QVERIFY(lock != entries.end());
+    (*iconSize)->menu()->actions().constLast()->trigger();
+    (*lock)->trigger();
     QApplication::activePopupWidget()->close();
 }
 
@@ -202,15 +220,16 @@ void customizeWithKit()
     kit.setProfilesShown(true);
     kit.setRequired(withoutTitle->addAction("?1"));
     window.show();
-    openMenu(withoutTitle);
     for (const auto &use : {announceChanges, askAboutDefaults}) {
         kit.customizeAction()->trigger();
         const QScopedPointer<RyCustomizedDialog> dialog(window.findChild<RyCustomizedDialog *>());
         use(dialog.data());
         QTest::keyClick(dialog.data(), Qt::Key_Escape);
     }
+    chooseLook(withoutTitle);
     kit.customizeAction()->trigger();
     const QScopedPointer<RyCustomizedDialog> dialog(window.findChild<RyCustomizedDialog *>());
+    pressRestoreDefaults(dialog.data());
     useProfiles(dialog.data(), folder.path());
     dialog->helpButton()->click();
 }
