@@ -137,7 +137,7 @@ void ActionDrag::drag(QAbstractItemView *source)
     drag->setHotSpot(BesidePointer);
     m_pressed = QModelIndex();
     drag->exec(source == m_parts.actionTree ? Qt::CopyAction : Qt::MoveAction);
-    if (guard)
+    if (!guard.isNull())
         end();
 }
 

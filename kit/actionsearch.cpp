@@ -14,6 +14,7 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -42,11 +43,8 @@ QChar withoutStroke(QChar letter)
 
 bool isAscii(const QString &text)
 {
-    for (const QChar letter : text) {
-        if (letter.unicode() > 0x7f)
-            return false;
-    }
-    return true;
+    return std::all_of(text.cbegin(), text.cend(),
+                       [](QChar letter) { return letter.unicode() <= 0x7f; });
 }
 
 // Where a match begins: with the field, with a word of it, or within a word.

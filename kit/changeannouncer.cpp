@@ -43,6 +43,7 @@ ChangeAnnouncer::ChangeAnnouncer(const DialogParts &parts)
     // First, because each event makes Qt create an interface for a widget that has none.
     QAccessible::registerAccessibleInterface(
         new QAccessibleWidget(m_notification, QAccessible::Notification));
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): Qt owns the interface
     m_notification->setObjectName(QStringLiteral("changeNotification"));
     m_notification->resize(1, 1);
     m_notification->hide();

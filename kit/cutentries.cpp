@@ -13,7 +13,8 @@ namespace {
 // Only in the view, because keys edit text while a toolbar is named.
 void addKey(const QKeySequence &key, QWidget *view, CutEntries *entries, const char *slot)
 {
-    QShortcut *const shortcut = new QShortcut(key, view, nullptr, nullptr, Qt::WidgetShortcut);
+    QShortcut *const shortcut = new QShortcut(key, view);
+    shortcut->setContext(Qt::WidgetShortcut);
     QObject::connect(shortcut, SIGNAL(activated()), entries, slot);
 }
 

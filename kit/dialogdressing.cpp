@@ -63,9 +63,9 @@ void DialogDressing::protectEdits(const Context &context)
 {
     new EditProtection(m_parts, m_edits);
     const RestoreQuestion *const question =
-        new RestoreQuestion(m_parts, context.manager, context.defaults);
+        new RestoreQuestion(m_parts, m_edits, context.manager, context.defaults);
     connect(question, SIGNAL(confirmed()), this, SIGNAL(defaultsRestored()));
-    connect(question, SIGNAL(changed()), m_edits, SLOT(add()));
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the page deletes the question
     new DialogPanes(m_parts, context.store, context.features & RyToolBarKit::StoreChanges);
 }
 

@@ -29,7 +29,7 @@ QString shown(const QKeySequence &key)
 // Where Qt has no other name of a key than its abbreviation, that is hard to understand.
 QString spoken(const QKeySequence &key)
 {
-    const QString name = shown(key);
+    QString name = shown(key);
     if (name == QLatin1String("Ins"))
         return QStringLiteral("Insert");
     if (name == QLatin1String("Del"))
@@ -77,12 +77,12 @@ bool isOnKeyboards(QChar letter)
 QString withFreeMnemonic(const QString &text, const QSet<QString> &taken)
 {
     for (int i = 0; i < text.size(); ++i) {
-        const QString marked = QString(text).insert(i, QLatin1Char('&'));
+        QString marked = QString(text).insert(i, QLatin1Char('&'));
         if (isOnKeyboards(text.at(i)) && !taken.contains(QKeySequence::mnemonic(marked).toString()))
             return marked;
     }
     for (char letter = 'A';; ++letter) {
-        const QString marked = text + QStringLiteral(" (&%1)").arg(QLatin1Char(letter));
+        QString marked = text + QStringLiteral(" (&%1)").arg(QLatin1Char(letter));
         if (letter == 'Z' || !taken.contains(QKeySequence::mnemonic(marked).toString()))
             return marked;
     }
@@ -136,6 +136,7 @@ void DialogKeys::addHelpKey()
     QPushButton *const button = m_parts.dialog->helpButton();
     const QKeySequence key(QKeySequence::HelpContents);
     QShortcut *const shortcut = new QShortcut(key, m_parts.dialog);
+    shortcut->setAutoRepeat(false);
     connect(shortcut, SIGNAL(activated()), button, SLOT(click()));
     button->setToolTip(withKey(button->text().remove(QLatin1Char('&')), shown(key)));
     button->setAccessibleDescription(shown(key));

@@ -13,6 +13,8 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 namespace {
 
 bool click(QToolButton *button)
@@ -293,12 +295,10 @@ bool EditorCommands::stepTo(int row)
 
 bool EditorCommands::removeAll(const QList<QListWidgetItem *> &entries)
 {
-    for (QListWidgetItem *entry : entries) {
+    return std::all_of(entries.cbegin(), entries.cend(), [this](QListWidgetItem *entry) {
         makeCurrent(m_parts.entryList, entry);
-        if (!click(m_parts.leftButton))
-            return false;
-    }
-    return true;
+        return click(m_parts.leftButton);
+    });
 }
 
 void EditorCommands::select(const QList<QListWidgetItem *> &placed)

@@ -8,6 +8,8 @@
 #include <QSaveFile>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace {
 
 const int LargestFile = 1000000; // bytes
@@ -37,11 +39,9 @@ QString refusal(const KitLayout &layout)
 bool isOnScreen(const QPoint &position)
 {
     const auto screens = QGuiApplication::screens();
-    for (const QScreen *screen : screens) {
-        if (screen->availableGeometry().contains(position))
-            return true;
-    }
-    return false;
+    return std::any_of(screens.cbegin(), screens.cend(), [&position](const QScreen *screen) {
+        return screen->availableGeometry().contains(position);
+    });
 }
 
 } // namespace

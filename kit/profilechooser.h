@@ -43,7 +43,7 @@ protected:
 private Q_SLOTS:
     void choose(int index);
     void saveClicked();
-    void save(const QString &name);
+    void save(const QString &text);
     void removeClicked();
     void importClicked();
     void importFrom(const QString &file);

@@ -37,7 +37,7 @@ public:
     /*!
      * \brief Returns the name of the first profile that is \a value, or an empty string.
      */
-    QString nameOf(const QByteArray &value) const;
+    QString nameOf(const QByteArray &wanted) const;
 
     /*!
      * \brief Saves or replaces a profile.

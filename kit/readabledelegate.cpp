@@ -111,10 +111,10 @@ QColor ReadableDelegate::readable(const QColor &color, const QColor &background)
 {
     const QColor black(Qt::black);
     const QColor white(Qt::white);
-    const QColor end = contrast(black, background) > contrast(white, background) ? black : white;
+    QColor end = contrast(black, background) > contrast(white, background) ? black : white;
     const int steps = 20;
     for (int step = 0; step < steps; ++step) {
-        const QColor candidate = step == 0 ? color : mixed(color, end, double(step) / steps);
+        QColor candidate = step == 0 ? color : mixed(color, end, double(step) / steps);
         if (contrast(candidate, background) >= EnoughContrast)
             return candidate;
     }

@@ -2,8 +2,10 @@
 
 #include "restorequestion.h"
 
+#include "dialogedits.h"
 #include "plaintextdelegate.h"
 
+#include <RyCToolBarWidget>
 #include <RyCustomizedDialog>
 #include <RyToolBarManager>
 
@@ -19,17 +21,20 @@ const int MostActions = 6;
 
 } // namespace
 
-RestoreQuestion::RestoreQuestion(const DialogParts &parts, const RyToolBarManager *manager,
+RestoreQuestion::RestoreQuestion(const DialogParts &parts, DialogEdits *edits,
+                                 const RyToolBarManager *manager,
                                  const std::function<Defaults()> &defaults)
     : QObject(parts.page)
     , m_parts(parts)
+    , m_edits(edits)
     , m_manager(manager)
     , m_defaults(defaults)
 {
     QPushButton *const button = m_parts.dialog->RestoreDefaultButton();
     button->disconnect(m_parts.dialog);
     connect(button, SIGNAL(clicked()), this, SLOT(ask()));
-    connect(this, SIGNAL(confirmed()), m_parts.page, SLOT(defaultClicked()));
+    connect(this, SIGNAL(confirmed()), qobject_cast<RyCToolBarWidget *>(m_parts.page),
+            SLOT(defaultClicked()));
 }
 
 void RestoreQuestion::ask()
@@ -66,7 +71,7 @@ void RestoreQuestion::answer(int button)
     if (button != QMessageBox::RestoreDefaults)
         return;
     Q_EMIT confirmed();
-    Q_EMIT changed();
+    m_edits->add();
 }
 
 // The editor shows the content of a toolbar only while that is current.

@@ -14,6 +14,7 @@
 
 #include <functional>
 
+class DialogEdits;
 class QAction;
 class QListWidgetItem;
 class QToolBar;
@@ -42,7 +43,7 @@ public:
     /*!
      * \param defaults is called for each question, as long as \a manager exists.
      */
-    RestoreQuestion(const DialogParts &parts, const RyToolBarManager *manager,
+    RestoreQuestion(const DialogParts &parts, DialogEdits *edits, const RyToolBarManager *manager,
                     const std::function<Defaults()> &defaults);
 
 Q_SIGNALS:
@@ -50,11 +51,6 @@ Q_SIGNALS:
      * \brief The user wants the defaults.
      */
     void confirmed();
-
-    /*!
-     * \brief The user wants them, and something changes.
-     */
-    void changed();
 
 private Q_SLOTS:
     void ask();
@@ -89,6 +85,7 @@ private:
     static QString names(const Entries &entries);
 
     const DialogParts m_parts;
+    DialogEdits *const m_edits;
     const QPointer<const RyToolBarManager> m_manager;
     const std::function<Defaults()> m_defaults;
 };

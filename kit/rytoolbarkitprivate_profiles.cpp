@@ -67,12 +67,14 @@ QStringList RyToolBarKitPrivate::unknownNames(const QString &file)
     restoreNow();
     QString reason;
     const KitLayout layout = LayoutFile(file).read(&reason);
+    QSet<QString> toolBars = ToolBarPlaces::toolBarsOf(layout.places);
     QSet<QString> actions;
-    for (const KitToolBar &toolBar : layout.toolBars)
-        actions += namesIn(toolBar.entries);
+    for (auto it = layout.toolBars.cbegin(); it != layout.toolBars.cend(); ++it) {
+        toolBars.insert(it.key());
+        actions += namesIn(it.value().entries);
+    }
+    const QStringList toolBarNames = toolBars.values();
     const QStringList actionNames = actions.values();
-    const QStringList toolBarNames =
-        layout.toolBars.keys() + ToolBarPlaces::toolBarsOf(layout.places).values();
     QStringList unknown;
     for (const QString &name : toolBarNames) {
         if (!layout.toolBars.value(name).custom && !isKnown(name, m_toolBarNames))

@@ -114,9 +114,9 @@ void ToolBarLooks::takeIconSizeBack(QToolBar *toolBar, State *state) const
     if (state->iconSize.isValid() && toolBar->iconSize() == state->iconSize) {
         toolBar->setIconSize(state->iconSizeBefore);
         const auto sizes = state->ownIconSizes;
-        for (const auto &own : sizes) {
-            if (own.first)
-                own.first->setIconSize(own.second);
+        for (const auto &size : sizes) {
+            if (size.button)
+                size.button->setIconSize(size.own);
         }
     }
     state->iconSize = QSize();
@@ -147,9 +147,9 @@ void ToolBarLooks::takeStyleBack(QToolBar *toolBar, State *state) const
         toolBar->setToolButtonStyle(Qt::ToolButtonStyle(
             state->styleBefore < 0 ? state->styleOfWindow : state->styleBefore));
         const auto styles = state->ownStyles;
-        for (const auto &own : styles) {
-            if (own.first)
-                own.first->setToolButtonStyle(own.second);
+        for (const auto &style : styles) {
+            if (style.button)
+                style.button->setToolButtonStyle(style.own);
         }
     }
     state->style = -1;

@@ -7,10 +7,10 @@
 
 #include <QHash>
 #include <QObject>
-#include <QPair>
 #include <QPointer>
 #include <QSize>
 #include <QToolButton>
+#include <QVector>
 
 class QMainWindow;
 class QToolBar;
@@ -77,7 +77,12 @@ private Q_SLOTS:
     void movableChanged(bool movable);
 
 private:
-    template <typename Value> using OfButtons = QList<QPair<QPointer<QToolButton>, Value>>;
+    template <typename Value> struct OfButton
+    {
+        QPointer<QToolButton> button;
+        Value own;
+    };
+    template <typename Value> using OfButtons = QVector<OfButton<Value>>;
 
     struct State
     {

@@ -53,10 +53,11 @@ void separate(QMenu *menu)
         menu->addSeparator();
 }
 
-QActionGroup *addChoices(QMenu *menu, const QList<QPair<QString, QVariant>> &choices,
-                         const QVariant &chosen)
+void addChoices(QMenu *menu, const QList<QPair<QString, QVariant>> &choices, const QVariant &chosen,
+                const QObject *receiver, const char *slot)
 {
     QActionGroup *const group = new QActionGroup(menu);
+    group->setExclusive(true);
     for (const auto &choice : choices) {
         QAction *const action = group->addAction(choice.first);
         action->setData(choice.second);
@@ -64,7 +65,7 @@ QActionGroup *addChoices(QMenu *menu, const QList<QPair<QString, QVariant>> &cho
         action->setChecked(choice.second == chosen);
         menu->addAction(action);
     }
-    return group;
+    QObject::connect(group, SIGNAL(triggered(QAction *)), receiver, slot);
 }
 
 } // namespace
@@ -182,66 +183,63 @@ void ToolBarMenu::extend(QMenu *menu)
 }
 
 // The program's own menu has those of its toolbars that the user may hide.
-void ToolBarMenu::addToolBars(QMenu *menu, const QMenu *shown) const
+void ToolBarMenu::addToolBars(QMenu *target, const QMenu *shown) const
 {
     const auto inMenu = shown->actions();
     const auto toolBars = ToolBarPlaces::toolBarsIn(m_window);
     for (const QToolBar *toolBar : toolBars) {
         if (m_kit->hasMenu(toolBar) && m_kit->recordOf(toolBar).custom
             && !inMenu.contains(toolBar->toggleViewAction()))
-            menu->addAction(toolBar->toggleViewAction());
+            target->addAction(toolBar->toggleViewAction());
     }
 }
 
-void ToolBarMenu::addAll(QMenu *menu, const QMenu *shown)
+void ToolBarMenu::addAll(QMenu *target, const QMenu *shown)
 {
     const KitLook look = m_kit->recordOf(m_toolBar).look;
-    separate(menu);
-    addIconSizes(menu->addMenu(tr("Icon size")), look);
-    addTextPositions(menu->addMenu(tr("Text position")), look);
+    separate(target);
+    addIconSizes(target->addMenu(tr("Icon size")), look);
+    addTextPositions(target->addMenu(tr("Text position")), look);
     if (m_kit->isAnyMovable()) {
-        QAction *const lock = menu->addAction(tr("Lock toolbars"));
+        QAction *const lock = target->addAction(tr("Lock toolbars"));
         lock->setCheckable(true);
         lock->setChecked(m_kit->isLocked());
         connect(lock, SIGNAL(triggered(bool)), this, SLOT(lockChosen(bool)));
     }
-    separate(menu);
+    separate(target);
     if (m_kit->canRemove(m_toolBar, m_index))
-        addRemove(menu);
+        addRemove(target);
     if (m_kit->manager->isDefaultToolBar(m_toolBar)) {
         QAction *const reset =
-            menu->addAction(tr("Reset this toolbar"), this, SLOT(resetToolBar()));
+            target->addAction(tr("Reset this toolbar"), this, SLOT(resetToolBar()));
         reset->setEnabled(m_kit->canReset(m_toolBar));
     }
     if (!shown->actions().contains(m_kit->customizeAction)) {
-        separate(menu);
-        menu->addAction(m_kit->customizeAction);
+        separate(target);
+        target->addAction(m_kit->customizeAction);
     }
 }
 
 void ToolBarMenu::addIconSizes(QMenu *menu, const KitLook &look)
 {
-    const QActionGroup *const group = addChoices(menu,
-                                                 {{tr("As the program has it"), 0},
-                                                  {tr("Small (%1)").arg(16), 16},
-                                                  {tr("Medium (%1)").arg(22), 22},
-                                                  {tr("Large (%1)").arg(32), 32},
-                                                  {tr("Very large (%1)").arg(48), 48}},
-                                                 look.iconSize);
-    connect(group, SIGNAL(triggered(QAction *)), this, SLOT(iconSizeChosen(QAction *)));
+    addChoices(menu,
+               {{tr("As the program has it"), 0},
+                {tr("Small (%1)").arg(16), 16},
+                {tr("Medium (%1)").arg(22), 22},
+                {tr("Large (%1)").arg(32), 32},
+                {tr("Very large (%1)").arg(48), 48}},
+               look.iconSize, this, SLOT(iconSizeChosen(QAction *)));
 }
 
 void ToolBarMenu::addTextPositions(QMenu *menu, const KitLook &look)
 {
-    const QActionGroup *const group =
-        addChoices(menu,
-                   {{tr("As the program has it"), QString()},
-                    {tr("Icons only"), QStringLiteral("icons")},
-                    {tr("Text only"), QStringLiteral("text")},
-                    {tr("Text beside icons"), QStringLiteral("beside")},
-                    {tr("Text under icons"), QStringLiteral("under")}},
-                   look.textPosition);
-    connect(group, SIGNAL(triggered(QAction *)), this, SLOT(textPositionChosen(QAction *)));
+    addChoices(menu,
+               {{tr("As the program has it"), QString()},
+                {tr("Icons only"), QStringLiteral("icons")},
+                {tr("Text only"), QStringLiteral("text")},
+                {tr("Text beside icons"), QStringLiteral("beside")},
+                {tr("Text under icons"), QStringLiteral("under")}},
+               look.textPosition, this, SLOT(textPositionChosen(QAction *)));
 }
 
 void ToolBarMenu::addRemove(QMenu *menu)

@@ -53,8 +53,8 @@ private:
     bool isAllowed(const QToolBar *toolBar) const;
     void note(QToolBar *toolBar, const QPoint &position);
     void extend(QMenu *menu);
-    void addToolBars(QMenu *menu, const QMenu *shown) const;
-    void addAll(QMenu *menu, const QMenu *shown);
+    void addToolBars(QMenu *target, const QMenu *shown) const;
+    void addAll(QMenu *target, const QMenu *shown);
     void addIconSizes(QMenu *menu, const KitLook &look);
     void addTextPositions(QMenu *menu, const KitLook &look);
     void addRemove(QMenu *menu);
