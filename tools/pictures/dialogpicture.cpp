@@ -97,7 +97,8 @@ int main(int argc, char *argv[])
     window.show();
     window.findChild<QAction *>(QStringLiteral("customizeToolBars"))->trigger();
     QWidget *const dialog = QApplication::activeModalWidget();
-    editToolBars(dialog);
+    // The focus stays where it belongs only while the dialog is active.
+    QTimer::singleShot(0, dialog, [=] { editToolBars(dialog); });
     // Some styles take a while to show that a button has become enabled.
     QTimer::singleShot(500, dialog, [=] {
         takePicture(dialog, arguments.at(4));
