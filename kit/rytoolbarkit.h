@@ -130,7 +130,7 @@ public:
         FollowOthers = 0x40, //!< Takes over what is applied in another window.
         StoreChanges = 0x80, //!< Writes to the settings. Otherwise the value is only read.
         SearchActions = 0x100, //!< Adds a line to the dialog that finds actions.
-        DragActions = 0x200, //!< Lets the user drag actions, entries and toolbars in the dialog.
+        DragActions = 0x200, //!< Lets the user drag actions and entries in the dialog.
         ReadableLists = 0x400, //!< Shows texts in the dialog as menus do, and explains rows.
         ProtectEdits = 0x800, //!< Asks before edits in the dialog are lost, and finishes names.
         KeepSteps = 0x1000, //!< Keeps the last layouts for undoAction() and redoAction().
