@@ -72,13 +72,9 @@ QString ActionDrag::mimeType()
 
 bool ActionDrag::eventFilter(QObject *watched, QEvent *event)
 {
-    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_parts.actionTree),
-                                    static_cast<QAbstractItemView *>(m_parts.toolBarList),
-                                    static_cast<QAbstractItemView *>(m_parts.entryList)}) {
-        if (view->viewport() == watched)
-            return viewportEvent(view, event);
-    }
-    return QObject::eventFilter(watched, event);
+    // Null while the view is being deleted.
+    QAbstractItemView *const view = qobject_cast<QAbstractItemView *>(watched->parent());
+    return view && viewportEvent(view, event);
 }
 
 // The views themselves take no drops, and would select rows while the pointer is moved.
@@ -109,7 +105,7 @@ void ActionDrag::press(QAbstractItemView *view, const QMouseEvent *event)
     if (event->button() != Qt::LeftButton || view == m_parts.toolBarList)
         return;
     const QModelIndex index = view->indexAt(event->pos());
-    // No categories.
+    // A category cannot be added.
     if (view == m_parts.actionTree && view->model()->hasChildren(index))
         return;
     m_pressed = index;
