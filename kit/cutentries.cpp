@@ -7,6 +7,8 @@
 
 #include <QListWidget>
 #include <QShortcut>
+#include <QToolButton>
+#include <QTreeWidget>
 
 namespace {
 
@@ -32,6 +34,13 @@ CutEntries::CutEntries(const DialogParts &parts, EditorCommands *commands,
     addKey(cutKey, m_parts.entryList, this, SLOT(cut()));
     addKey(insertKey, m_parts.entryList, this, SLOT(insertBehindCurrent()));
     addKey(insertKey, m_parts.toolBarList, this, SLOT(insertAtEnd()));
+    // What is edited in between is not what was cut.
+    for (const QToolButton *button :
+         {m_parts.upButton, m_parts.downButton, m_parts.leftButton, m_parts.rightButton})
+        connect(button, SIGNAL(clicked()), this, SLOT(forget()));
+    connect(m_parts.actionTree, SIGNAL(itemDoubleClicked(QTreeWidgetItem *, int)), this,
+            SLOT(forget()));
+    connect(m_parts.entryList, SIGNAL(itemDoubleClicked(QListWidgetItem *)), this, SLOT(forget()));
     const QString insertText = insertKey.toString(QKeySequence::NativeText);
     DialogParts::explain(
         m_parts.entryList,
@@ -55,6 +64,15 @@ void CutEntries::cut()
     m_toolBar = m_parts.toolBarList->currentIndex();
     m_texts = texts();
     mark(true);
+}
+
+void CutEntries::forget()
+{
+    if (m_parts.toolBarList->currentIndex() == m_toolBar) {
+        for (int row = 0; row < m_parts.entryList->count(); ++row)
+            m_parts.entryList->item(row)->setData(Qt::FontRole, QVariant());
+    }
+    m_rows.clear();
 }
 
 void CutEntries::insertBehindCurrent()
@@ -89,7 +107,7 @@ void CutEntries::insert(int gap)
         m_parts.toolBarList->setCurrentItem(target);
 }
 
-// In italics, as long as the rows are not made again.
+// In italics, until the rows are made again.
 void CutEntries::mark(bool isCut)
 {
     if (m_parts.toolBarList->currentIndex() != m_toolBar || texts() != m_texts)

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void cut();
     void insertBehindCurrent();
     void insertAtEnd();
+    void forget();
 
 private:
     void insert(int gap);

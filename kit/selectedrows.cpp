@@ -14,7 +14,7 @@
 
 namespace {
 
-// The view itself is about to select, too.
+// Then the view selects by itself.
 bool isChosenByUser(const QAbstractItemView *view)
 {
     return view->hasFocus()
@@ -128,8 +128,10 @@ void SelectedRows::prepareForActions()
     if (m_commands->areRunning())
         return;
     m_actions = actionsAt(actionRows());
-    if (!m_actions.isEmpty() && !m_actions.contains(m_parts.actionTree->currentItem()))
-        m_parts.actionTree->setCurrentItem(m_actions.first(), 0, QItemSelectionModel::NoUpdate);
+    QTreeWidgetItem *const current = m_parts.actionTree->currentItem();
+    // Not the separator, which is the first and would be added twice.
+    if (!m_actions.isEmpty() && (!m_actions.contains(current) || !current->parent()))
+        m_parts.actionTree->setCurrentItem(m_actions.last(), 0, QItemSelectionModel::NoUpdate);
 }
 
 void SelectedRows::moveOthersUp()

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void cutEntriesComeToTheEndOfAToolBar_data();
     void cutEntriesComeToTheEndOfAToolBar();
     void cuttingAloneChangesNothing();
+    void whatIsEditedMeanwhileIsNotCutAnyMore();
     void cutEntriesAreInItalics();
     void anotherCutReplacesTheFirst();
     void insertingTwiceDoesNothing();
@@ -144,6 +145,19 @@ void tst_CutEntries::cuttingAloneChangesNothing()
     QCOMPARE(stage.applied(), Stage::firstContents());
     stage.makeCurrent("File");
     QCOMPARE(stage.applied(), Stage::firstContents());
+}
+
+void tst_CutEntries::whatIsEditedMeanwhileIsNotCutAnyMore()
+{
+    const Stage stage;
+    stage.cut({0});
+    stage.list->setCurrentRow(0);
+    stage.editor.click(stage.editor.downButton);
+    QCOMPARE(stage.italicRows(), QStringList());
+    stage.makeCurrent("File");
+    stage.press(stage.list, Qt::Key_V);
+    QCOMPARE(stage.applied("Edit"), QString("copy cut | paste undo |"));
+    QCOMPARE(stage.applied("File"), QString("open save"));
 }
 
 void tst_CutEntries::cutEntriesAreInItalics()

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void buttonsActOnAllSelectedEntries();
     void theAddButtonAddsAllSelectedActions_data();
     void theAddButtonAddsAllSelectedActions();
+    void aSelectedSeparatorIsAddedOnce();
     void whatIsNotSelectedIsNotRemoved();
     void whatIsNotSelectedIsNotAdded();
     void aReleaseThatIsNoClickChangesNothing();
@@ -162,6 +163,15 @@ void tst_SelectedRows::theAddButtonAddsAllSelectedActions()
     stage.select(QStringList({"Open"}), "Open");
     stage.editor.click(stage.editor.rightButton);
     QCOMPARE(stage.applied("Edit"), QString("cut find home about open copy | paste undo |"));
+}
+
+void tst_SelectedRows::aSelectedSeparatorIsAddedOnce()
+{
+    const Stage stage;
+    stage.list->setCurrentRow(0);
+    stage.select(QStringList({"< S E P A R A T O R >", "Find"}), "< S E P A R A T O R >");
+    stage.editor.click(stage.editor.rightButton);
+    QCOMPARE(stage.applied("Edit"), QString("cut | find copy | paste undo |"));
 }
 
 // Control and a click leave the row current.
