@@ -54,7 +54,9 @@ void EditorCommands::rememberToolBars()
 {
     m_toolBars.clear();
     const QWidget *const window = m_parts.dialog->parentWidget();
-    const auto toolBars = window ? window->findChildren<QToolBar *>() : QList<QToolBar *>();
+    const auto toolBars = window
+        ? window->findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly)
+        : QList<QToolBar *>();
     for (QToolBar *toolBar : toolBars)
         m_toolBars.append(toolBar);
 }
@@ -118,14 +120,14 @@ void EditorCommands::moveTo(QListWidgetItem *toolBar, const QList<QListWidgetIte
                 rows.append(m_parts.entryList->row(entries.at(i)));
             }
         }
-        if (!show(toolBar))
+        if (actions.isEmpty() || !show(toolBar))
             return;
         const auto placed = placeAll(actions, gap < 0 ? m_parts.entryList->count() : gap);
         if (placed.isEmpty())
             return;
         const int first = m_parts.entryList->row(placed.first());
         const int last = m_parts.entryList->row(placed.last());
-        // The rows of the other toolbar are made again.
+        // Showing a toolbar makes its rows again, so the entries are found by row.
         if (!show(source))
             return;
         QList<QListWidgetItem *> former;

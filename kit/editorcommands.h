@@ -31,7 +31,7 @@ class EditorCommands : public QObject
 public:
     explicit EditorCommands(const DialogParts &parts);
 
-    // Whether what the views and buttons report comes from here.
+    // Whether commands are running. What views and buttons report then is not the user's doing.
     bool areRunning() const { return m_areRunning; }
 
     // Whether entries may come onto another toolbar than the current one. The row of one that the
