@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QListWidget>
+#include <QLocale>
 
 namespace {
 
@@ -20,16 +21,18 @@ QStringList spokenRows(const QListWidget *list)
     return rows;
 }
 
-// The one that is in the longer list only, or empty if the lists differ in more.
-QString missingFrom(const QStringList &shorter, QStringList longer)
+// What is in the longer list only, or empty if they differ in more.
+QString missingFrom(const QStringList &shorter, const QStringList &longer)
 {
-    if (longer.size() != shorter.size() + 1)
-        return QString();
-    int i = 0;
-    while (i < shorter.size() && shorter.at(i) == longer.at(i))
-        ++i;
-    const QString missing = longer.takeAt(i);
-    return longer == shorter ? missing : QString();
+    QStringList missing;
+    int found = 0;
+    for (const QString &text : longer) {
+        if (found < shorter.size() && shorter.at(found) == text)
+            ++found;
+        else
+            missing.append(text);
+    }
+    return found == shorter.size() ? QLocale().createSeparatedList(missing) : QString();
 }
 
 } // namespace
@@ -87,7 +90,8 @@ QString ChangeAnnouncer::entryChange(const QStringList &entries) const
     const int row = m_parts.entryList->currentRow();
     if (entries == m_entries || row < 0 || entries.size() != m_entries.size())
         return QString();
-    return tr("Moved: %1, %2 of %3").arg(entries.at(row)).arg(row + 1).arg(entries.size());
+    return tr("Moved: %1, %2 of %3")
+        .arg(entries.at(row), QString::number(row + 1), QString::number(entries.size()));
 }
 
 // Screen readers say a notification when it appears.

@@ -33,7 +33,8 @@ private Q_SLOTS:
     void aNewToolBarIsNot();
     void leavingThePageAnnouncesNothing();
     void closingAnnouncesNothing();
-    void severalChangesAtOnceAreNot();
+    void severalRemovedEntriesAreAnnouncedTogether();
+    void differentChangesAtOnceAreNot();
     void theNotificationIsNotSeen();
     void afterAChangeNothingGoesOn();
 };
@@ -243,17 +244,30 @@ void tst_ChangeAnnouncer::closingAnnouncesNothing()
     QCOMPARE(announced.take(), QStringList());
 }
 
-void tst_ChangeAnnouncer::severalChangesAtOnceAreNot()
+void tst_ChangeAnnouncer::severalRemovedEntriesAreAnnouncedTogether()
 {
     KitDialog stage;
     Announced announced(stage.dialog);
     stage.choose("Mine", 0);
     stage.views.leftButton->click();
     stage.views.leftButton->click();
-    QCOMPARE(announced.take(), QStringList());
+    QCOMPARE(announced.take(), QStringList("Removed: Cut, Separator"));
     // The last state is what the next change is compared with.
     stage.views.leftButton->click();
     QCOMPARE(announced.take(), QStringList("Removed: Copy"));
+}
+
+void tst_ChangeAnnouncer::differentChangesAtOnceAreNot()
+{
+    KitDialog stage;
+    Announced announced(stage.dialog);
+    stage.choose("Mine", 0);
+    stage.views.leftButton->click();
+    stage.views.leftButton->click();
+    stage.views.actionTree->setCurrentItem(itemNamed(stage.views.actionTree, "Paste"));
+    stage.views.rightButton->click();
+    QCOMPARE(stage.entries(), words("Copy Paste"));
+    QCOMPARE(announced.take(), QStringList());
 }
 
 void tst_ChangeAnnouncer::theNotificationIsNotSeen()
