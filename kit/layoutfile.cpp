@@ -2,6 +2,8 @@
 
 #include "layoutfile.h"
 
+#include "toolbarplaces.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -15,6 +17,7 @@ namespace {
 const int LargestFile = 1000000; // bytes
 const int MostCustomToolBars = 100;
 const int MostEntriesOfFile = 5000;
+const int MostPlacedToolBars = 1000;
 const int LongestTitle = 200;
 
 // Why a layout is not for a window, or an empty string.
@@ -31,7 +34,8 @@ QString refusal(const KitLayout &layout)
         if (!it.key().startsWith(QLatin1String("_Custom_Toolbar_")))
             return QStringLiteral("the layout has a custom toolbar with a name of another kind");
     }
-    if (customToolBars > MostCustomToolBars || entries > MostEntriesOfFile)
+    if (customToolBars > MostCustomToolBars || entries > MostEntriesOfFile
+        || ToolBarPlaces::toolBarsOf(layout.places).size() > MostPlacedToolBars)
         return QStringLiteral("the layout has too many toolbars or entries");
     return QString();
 }

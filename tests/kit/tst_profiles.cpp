@@ -74,6 +74,12 @@ void write(const QString &name, const QByteArray &content)
     QCOMPARE(file.write(content), qint64(content.size()));
 }
 
+void addPlaces(KitLayout *layout, int count)
+{
+    for (int i = 0; i < count; ++i)
+        layout->places.lines["top"].append(QStringList(QString::number(i)));
+}
+
 QByteArray valueOf(const std::function<void(KitLayout *)> &change)
 {
     KitLayout layout;
@@ -534,6 +540,8 @@ void tst_Profiles::strangeFilesAreRefused_data()
     }) << "the layout has too many toolbars or entries";
     QTest::newRow("5001 entries") << valueOf([](KitLayout *layout) { addEntries(layout, 5001); })
                                   << "the layout has too many toolbars or entries";
+    QTest::newRow("1001 places") << valueOf([](KitLayout *layout) { addPlaces(layout, 1001); })
+                                 << "the layout has too many toolbars or entries";
 }
 
 void tst_Profiles::strangeFilesAreRefused()
