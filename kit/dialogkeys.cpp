@@ -62,6 +62,7 @@ QSet<QString> mnemonicsIn(const QWidget *dialog)
     QSet<QString> mnemonics;
     for (const QString &text : texts)
         mnemonics.insert(QKeySequence::mnemonic(text).toString());
+    mnemonics.remove(QString()); // macOS has no mnemonics
     return mnemonics;
 }
 
@@ -128,6 +129,7 @@ void DialogKeys::addShortcut(QWidget *view, const QKeySequence &key, QToolButton
     shortcut->setContext(Qt::WidgetShortcut);
     connect(shortcut, SIGNAL(activated()), button, SLOT(click()));
     button->setToolTip(withKey(button->toolTip(), shown(key)));
+    button->setAccessibleDescription(spoken(key));
 }
 
 // Presses the button whatever the host has connected it to.
@@ -150,13 +152,7 @@ void DialogKeys::describe()
     const QString renameKey = spoken(Qt::Key_F2);
     const QString upKey = spoken(MoveUp);
     const QString downKey = spoken(MoveDown);
-    m_parts.rightButton->setAccessibleDescription(insertKey);
-    m_parts.newButton->setAccessibleDescription(insertKey);
-    m_parts.removeButton->setAccessibleDescription(deleteKey);
     m_parts.renameButton->setAccessibleDescription(renameKey);
-    m_parts.upButton->setAccessibleDescription(upKey);
-    m_parts.downButton->setAccessibleDescription(downKey);
-    m_parts.leftButton->setAccessibleDescription(deleteKey);
     m_parts.actionTree->setAccessibleDescription(
         tr("%1 adds the current action to the toolbar").arg(insertKey));
     m_parts.toolBarList->setAccessibleDescription(

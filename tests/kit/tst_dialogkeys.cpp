@@ -14,6 +14,10 @@
 #include <QTabWidget>
 #include <QtTest>
 
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT void qt_set_sequence_auto_mnemonic(bool enable);
+QT_END_NAMESPACE
+
 /*
  * The dialog of the kit without a mouse.
  */
@@ -38,6 +42,7 @@ private Q_SLOTS:
     void takenLettersAreLeftAlone();
     void aCaptionWithoutAFreeLetterGetsOne_data();
     void aCaptionWithoutAFreeLetterGetsOne();
+    void withoutMnemonicsCaptionsStayAsTheyAre();
     void aMnemonicOfTheTranslationStays();
     void noTwoControlsHaveTheSameKey();
     void theFocusBeginsWithTheActions();
@@ -279,6 +284,17 @@ void tst_DialogKeys::aCaptionWithoutAFreeLetterGetsOne()
     const Captions captions({{"Actions", text}, {"Rename", taken}});
     const KitDialog stage;
     QCOMPARE(stage.views.page->findChild<QLabel *>("label")->text(), caption);
+}
+
+// As on macOS.
+void tst_DialogKeys::withoutMnemonicsCaptionsStayAsTheyAre()
+{
+    qt_set_sequence_auto_mnemonic(false);
+    const KitDialog stage;
+    qt_set_sequence_auto_mnemonic(true);
+    const auto captions = stage.dialog->findChildren<QLabel *>();
+    for (const QLabel *caption : captions)
+        QVERIFY2(!caption->text().contains("("), qPrintable(caption->text()));
 }
 
 void tst_DialogKeys::aMnemonicOfTheTranslationStays()
