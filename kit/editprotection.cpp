@@ -96,9 +96,9 @@ QString EditProtection::uniqueName(const QListWidgetItem *row) const
     if (!others.contains(shown))
         return name;
     int number = 2;
-    while (others.contains(QStringLiteral("%1 %2").arg(shown).arg(number)))
+    while (others.contains(QStringLiteral("%1 %2").arg(shown, QString::number(number))))
         ++number;
-    return QStringLiteral("%1 %2").arg(name.trimmed()).arg(number);
+    return QStringLiteral("%1 %2").arg(name.trimmed(), QString::number(number));
 }
 
 // The editor leaves both enabled without a current toolbar.

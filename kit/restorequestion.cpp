@@ -19,6 +19,12 @@ namespace {
 const int MostLines = 12;
 const int MostActions = 6;
 
+// The program's cannot be renamed.
+bool isCustom(const QListWidgetItem *row)
+{
+    return row->flags().testFlag(Qt::ItemIsEditable);
+}
+
 } // namespace
 
 RestoreQuestion::RestoreQuestion(const DialogParts &parts, DialogEdits *edits,
@@ -74,42 +80,53 @@ void RestoreQuestion::answer(int button)
     m_edits->add();
 }
 
-// The editor shows the content of a toolbar only while that is current.
 QStringList RestoreQuestion::changes() const
 {
     if (!m_manager)
         return QStringList();
-    QListWidget *const toolBars = m_parts.toolBarList;
-    const int toolBar = toolBars->currentRow();
-    const int entry = m_parts.entryList->currentRow();
     const Defaults defaults = m_defaults();
-    const QHash<QString, Wanted> wanted = byTitle(defaults);
+    QHash<QString, Wanted> wanted = byTitle(defaults.toolBars);
+    const QHash<int, Entries> others = takeOthers(&wanted);
     QStringList lines;
-    for (int row = 0; row < toolBars->count(); ++row) {
-        toolBars->setCurrentRow(row);
-        const QListWidgetItem *const item = toolBars->item(row);
-        lines.append(changesOf(item, shownEntries(), wanted.value(item->text())));
+    for (int row = 0; row < m_parts.toolBarList->count(); ++row) {
+        const QListWidgetItem *const item = m_parts.toolBarList->item(row);
+        const QString title = PlainTextDelegate::plainText(item->text());
+        if (isCustom(item)) {
+            lines.append(tr("%1: delete the toolbar").arg(title));
+            continue;
+        }
+        Wanted &ofTitle = wanted[item->text()];
+        if (others.contains(row) && !ofTitle.contents.isEmpty())
+            lines.append(differences(title, others.value(row), ofTitle.contents.takeFirst()));
+        if (ofTitle.looks-- > 0)
+            lines.append(tr("%1: restore icon size and text position").arg(title));
     }
-    toolBars->setCurrentRow(toolBar);
-    m_parts.entryList->setCurrentRow(entry);
     if (defaults.areLocked)
         lines.append(tr("Unlock the toolbars"));
     return lines;
 }
 
-QStringList RestoreQuestion::changesOf(const QListWidgetItem *row, const Entries &shown,
-                                       const Wanted &wanted)
+// What the rows have that are not as a default toolbar of their title. The others are taken off.
+QHash<int, RestoreQuestion::Entries>
+RestoreQuestion::takeOthers(QHash<QString, Wanted> *wanted) const
 {
-    const QString title = PlainTextDelegate::plainText(row->text());
-    // Only toolbars of the user can be renamed.
-    if (row->flags().testFlag(Qt::ItemIsEditable))
-        return {tr("%1: delete the toolbar").arg(title)};
-    QStringList lines;
-    if (!wanted.contents.isEmpty() && !wanted.contents.contains(shown))
-        lines.append(differences(title, shown, wanted.contents.constFirst()));
-    if (wanted.hasLook)
-        lines.append(tr("%1: restore icon size and text position").arg(title));
-    return lines;
+    // The editor shows the content of a toolbar only while that is current.
+    QListWidget *const toolBars = m_parts.toolBarList;
+    const int toolBar = toolBars->currentRow();
+    const int entry = m_parts.entryList->currentRow();
+    QHash<int, Entries> others;
+    for (int row = 0; row < toolBars->count(); ++row) {
+        const QListWidgetItem *const item = toolBars->item(row);
+        if (isCustom(item))
+            continue;
+        toolBars->setCurrentRow(row);
+        const Entries shown = shownEntries();
+        if (!(*wanted)[item->text()].contents.removeOne(shown))
+            others.insert(row, shown);
+    }
+    toolBars->setCurrentRow(toolBar);
+    m_parts.entryList->setCurrentRow(entry);
+    return others;
 }
 
 QStringList RestoreQuestion::differences(const QString &title, const Entries &shown,
@@ -146,20 +163,20 @@ QString RestoreQuestion::names(const Entries &entries)
     return areAll ? list : list + QStringLiteral(" …");
 }
 
-QHash<QString, RestoreQuestion::Wanted> RestoreQuestion::byTitle(const Defaults &defaults)
+QHash<QString, RestoreQuestion::Wanted> RestoreQuestion::byTitle(const QList<Default> &defaults)
 {
     QHash<QString, Wanted> result;
-    for (auto it = defaults.contents.cbegin(); it != defaults.contents.cend(); ++it) {
+    for (const Default &toolBar : defaults) {
         Entries entries;
-        for (const QAction *action : it.value()) {
+        for (const QAction *action : toolBar.actions) {
             if (action)
                 entries.append({action->text(), action->icon().cacheKey()});
             else
                 entries.append({DialogParts::separatorText(), 0});
         }
-        Wanted &wanted = result[it.key()->windowTitle()];
+        Wanted &wanted = result[toolBar.title];
         wanted.contents.append(entries);
-        wanted.hasLook = wanted.hasLook || defaults.looks.contains(it.key());
+        wanted.looks += toolBar.hasLook;
     }
     return result;
 }

@@ -9,7 +9,6 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QSet>
 #include <QStringList>
 
 #include <functional>
@@ -17,7 +16,6 @@
 class DialogEdits;
 class QAction;
 class QListWidgetItem;
-class QToolBar;
 class RyToolBarManager;
 
 /*!
@@ -31,12 +29,17 @@ public:
     /*!
      * \brief What the defaults are, and what else they take back.
      */
+    struct Default
+    {
+        QString title;
+        // Null is a separator.
+        QList<QAction *> actions;
+        // Whether the user has chosen an icon size or a text position.
+        bool hasLook;
+    };
     struct Defaults
     {
-        // Of each default toolbar. Null is a separator.
-        QHash<const QToolBar *, QList<QAction *>> contents;
-        // The default toolbars whose icon size or text position the user has chosen.
-        QSet<const QToolBar *> looks;
+        QList<Default> toolBars;
         bool areLocked;
     };
 
@@ -72,15 +75,14 @@ private:
     struct Wanted
     {
         QList<Entries> contents;
-        bool hasLook = false;
+        int looks = 0;
     };
 
     QStringList changes() const;
-    static QStringList changesOf(const QListWidgetItem *row, const Entries &shown,
-                                 const Wanted &wanted);
+    QHash<int, Entries> takeOthers(QHash<QString, Wanted> *wanted) const;
     static QStringList differences(const QString &title, const Entries &shown,
                                    const Entries &wanted);
-    static QHash<QString, Wanted> byTitle(const Defaults &defaults);
+    static QHash<QString, Wanted> byTitle(const QList<Default> &defaults);
     Entries shownEntries() const;
     static QString names(const Entries &entries);
 

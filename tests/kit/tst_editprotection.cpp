@@ -140,6 +140,8 @@ void tst_EditProtection::typedNamesAreNumbered_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("named");
+    QTest::newRow("repeated, with the sign of an argument") << "Sales %1"
+                                                            << "Sales %1 2";
     QTest::newRow("another") << "Other"
                              << "Other";
     QTest::newRow("empty") << ""
@@ -165,7 +167,7 @@ void tst_EditProtection::typedNamesAreNumbered()
     QFETCH(QString, typed);
     QFETCH(QString, named);
     const OpenedDialog opened;
-    for (const char *name : {"Mine", "Yours", "Yours 2", "Last"})
+    for (const char *name : {"Mine", "Sales %1", "Yours", "Yours 2", "Last"})
         create(opened, name);
     rename(opened, "Last", typed);
     QCOMPARE(currentOf(opened.views->toolBarList), named);
