@@ -95,7 +95,7 @@ bool ToolBarMenu::eventFilter(QObject *watched, QEvent *event)
         return QObject::eventFilter(watched, event);
     QContextMenuEvent *const click = static_cast<QContextMenuEvent *>(event);
     QToolBar *const toolBar = qobject_cast<QToolBar *>(watched);
-    if (toolBar && toolBar->isWindow())
+    if (toolBar && toolBar->isWindow() && isAllowed(toolBar))
         return showForFloating(toolBar, click);
     if (watched == m_window)
         waitForMenu(toolBarAt(m_window, click->pos()), click->pos());

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void theDialogIsOpened();
     void contentIsTheDialogsWhileItIsOpen();
     void aFloatingToolBarHasIt();
+    void withoutItAFloatingToolBarSeesAClickOnce();
     void aWidgetWithAMenuOfItsOwnKeepsIt();
     void otherPlacesOfTheWindowKeepTheirMenu();
     void anExcludedToolBarHasTheMenuOfQt();
@@ -359,6 +360,20 @@ void tst_ToolBarMenu::contentIsTheDialogsWhileItIsOpen()
     QCOMPARE(textsFor(program, "file", "open"), OfQt + without(ForBoth, "Remove from toolbar"));
     dialog->reject();
     letTheKitFollow();
+}
+
+void tst_ToolBarMenu::withoutItAFloatingToolBarSeesAClickOnce()
+{
+    KitProgram program;
+    program.start();
+    program.kit()->setFeatures(program.kit()->features() & ~RyToolBarKit::ToolBarMenus);
+    QToolBar *const toolBar = program.toolBar("file");
+    toolBar->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    toolBar->show();
+    Counter counter;
+    toolBar->installEventFilter(&counter);
+    QCOMPARE(textsFor(program, "file", "open"), QStringList());
+    QCOMPARE(counter.events, 1);
 }
 
 void tst_ToolBarMenu::aFloatingToolBarHasIt()
