@@ -186,7 +186,7 @@ void ActionSearch::forget()
         clear();
 }
 
-// Rows of which the whole text is found together come before those that only have each word.
+// Rows with the whole phrase come before those that only have its words.
 int ActionSearch::score(const Category &category, const Row &row, const QStringList &words)
 {
     int worst = 0;

@@ -15,7 +15,7 @@
  * \brief The line that finds actions in the dialog's tree.
  *
  * It hides all rows that do not have each typed word in what they show, their shortcut, their tool
- * tip or their category, and makes the best one current.
+ * or status tip or their category, and makes the best one current.
  */
 class ActionSearch : public QLineEdit
 {
@@ -44,7 +44,7 @@ private:
     struct Row
     {
         QTreeWidgetItem *item;
-        // What is shown, the shortcut and the tool tip, folded, a line each.
+        // What is shown, the shortcut and the tips, folded, a line each.
         QString key;
         bool isHidden;
     };

@@ -88,6 +88,7 @@ void DialogDressing::dressRows()
         m_readableViews->arrange(&rows, m_manager);
     if (m_actionSearch)
         m_actionSearch->setRows(rows, m_manager);
+    Q_EMIT filled();
 }
 
 // The editor empties its views when they are hidden.

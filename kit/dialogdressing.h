@@ -45,6 +45,11 @@ Q_SIGNALS:
      */
     void defaultsRestored();
 
+    /*!
+     * \brief The dialog shows what the manager has.
+     */
+    void filled();
+
 private Q_SLOTS:
     void dressRows();
     void forgetRows();

@@ -64,7 +64,6 @@ ProfileChooser::ProfileChooser(RyCustomizedDialog *dialog, const DialogEdits *ed
     createButton("importLayoutButton", tr("Import…"), SLOT(importClicked()));
     createButton("exportLayoutButton", tr("Export…"), SLOT(exportClicked()));
     connect(m_box, SIGNAL(activated(int)), this, SLOT(choose(int)));
-    connect(kit, SIGNAL(destroyed()), this, SLOT(deleteLater()));
     // After the dialog's own connection.
     connect(dialog->applyButton(), SIGNAL(clicked()), this, SLOT(applied()));
     static_cast<QBoxLayout *>(dialog->layout())->insertWidget(0, this);
@@ -121,7 +120,9 @@ void ProfileChooser::showProfile(const QString &current)
 void ProfileChooser::choose(int index)
 {
     const QString name = m_box->itemText(index);
-    const auto switchTo = [this, name] { replaced(m_kit->switchToProfile(name), name); };
+    const auto switchTo = [this, name] {
+        replace([this, name] { return m_kit->switchToProfile(name); }, name);
+    };
     if (!m_edits->any()) {
         switchTo();
         return;
@@ -131,8 +132,12 @@ void ProfileChooser::choose(int index)
         switchTo);
 }
 
-void ProfileChooser::replaced(bool isReplaced, const QString &current)
+void ProfileChooser::replace(const std::function<bool()> &replacement, const QString &current)
 {
+    const QPointer<ProfileChooser> chooser(this);
+    const bool isReplaced = replacement();
+    if (chooser.isNull())
+        return;
     showProfile(isReplaced ? current : m_current);
     if (!isReplaced)
         report(tr("The layout cannot be used."));
@@ -198,7 +203,9 @@ void ProfileChooser::chooseFile(QFileDialog *dialog, const char *slot)
 
 void ProfileChooser::importFrom(const QString &file)
 {
-    const auto importNow = [this, file] { replaced(m_kit->importLayout(file), QString()); };
+    const auto importNow = [this, file] {
+        replace([this, file] { return m_kit->importLayout(file); }, QString());
+    };
     const QStringList unknown = m_kit->unknownNames(file);
     QStringList details;
     if (!unknown.isEmpty())

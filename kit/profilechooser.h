@@ -55,7 +55,7 @@ private:
     QAbstractButton *createButton(const char *name, const QString &text, const char *slot);
     bool applyEdits();
     void showProfile(const QString &current);
-    void replaced(bool isReplaced, const QString &current);
+    void replace(const std::function<bool()> &replacement, const QString &current);
     void ask(const QString &text, const QString &details, const std::function<void()> &yes);
     void report(const QString &text);
     void chooseFile(QFileDialog *dialog, const char *slot);

@@ -109,8 +109,11 @@ RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window,
 RyToolBarKitPrivate::~RyToolBarKitPrivate()
 {
     // A window that is being deleted is no main window any more.
-    if (qobject_cast<QMainWindow *>(m_kit->parent()))
+    if (qobject_cast<QMainWindow *>(m_kit->parent())) {
+        if (m_dialog)
+            m_dialog->reject();
         storeNow();
+    }
     giveUpManager();
 }
 
@@ -161,7 +164,9 @@ void RyToolBarKitPrivate::startAgain()
     recordSteps();
     setToDefaults();
     createManager();
+    const QByteArray stored = m_value;
     restore(KitLayout(m_layout));
+    m_value = stored; // what is not stored yet still has to be
     changedByProgram();
     if (dialogWasOpen)
         customize();

@@ -15,7 +15,6 @@
 #include <RyToolBarManager>
 
 #include <QDialog>
-#include <QPair>
 #include <QPointer>
 #include <QTimer>
 
@@ -100,7 +99,9 @@ private Q_SLOTS:
     void redo();
     void applied();
     void resetClicked();
+    void forgetReset();
     void dialogFinished(int result);
+    void dialogDeleted();
     void markRequired(const QModelIndex &parent, int first, int last);
     void actionDestroyed(QObject *object);
     void toolBarDestroyed(QObject *object);
@@ -109,6 +110,14 @@ private Q_SLOTS:
     void unlock();
 
 private:
+    struct Untitled
+    {
+        QPointer<QToolBar> toolBar;
+        // Of the action that shows it.
+        QString text;
+        QString title;
+    };
+
     // Finding
     bool findEverything();
     void createManager();
@@ -185,6 +194,7 @@ private:
     void completeReset();
     RestoreQuestion::Defaults defaults() const;
     void tellOthers();
+    QList<QPointer<RyToolBarKit>> kitsThatFollow() const;
 
     RyToolBarKit *m_kit;
     // Null if the host passed none. It owns the kit.
@@ -234,9 +244,8 @@ private:
     QListWidget *m_rowsInDialog;
     // Whether Restore Defaults was pressed since the dialog was opened or changes were applied.
     bool m_isReset;
-    // The toolbars without a title that have one while the dialog or a menu is open, and the texts
-    // of the actions that show them.
-    QList<QPair<QPointer<QToolBar>, QString>> m_untitled;
+    // The toolbars without a title that have one while the dialog or a menu is open.
+    QList<Untitled> m_untitled;
     // The names of the actions that the open dialog had when it was opened.
     QSet<QString> m_namesInDialog;
 };

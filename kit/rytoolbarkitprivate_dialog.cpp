@@ -32,10 +32,10 @@ void RyToolBarKitPrivate::customize()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::ApplicationModal);
     m_dialog = dialog;
-    m_isReset = false;
     // After the dialog's own connection, when the toolbars have changed.
     connect(dialog->applyButton(), SIGNAL(clicked()), this, SLOT(applied()));
     connect(dialog, SIGNAL(finished(int)), this, SLOT(dialogFinished(int)));
+    connect(dialog, SIGNAL(destroyed()), this, SLOT(dialogDeleted()));
     // The other page has widgets with the same names.
     const QWidget *const page = dialog->findChild<RyCToolBarWidget *>();
     m_rowsInDialog = page->findChild<QListWidget *>(QStringLiteral("currentToolBarList"));
@@ -44,10 +44,12 @@ void RyToolBarKitPrivate::customize()
     const DialogDressing *const dressing = new DialogDressing(
         dialog, {manager, m_menus->categories(), [this] { return defaults(); }, &store, features});
     connect(dressing, SIGNAL(defaultsRestored()), this, SLOT(resetClicked()));
+    connect(dressing, SIGNAL(filled()), this, SLOT(forgetReset()));
     if (areProfilesShown)
         new ProfileChooser(dialog, dressing->edits(), m_kit, profiles().nameOf(saveLayout()));
     Q_EMIT m_kit->aboutToCustomize(dialog);
-    dialog->show();
+    if (m_dialog)
+        m_dialog->show();
 }
 
 void RyToolBarKitPrivate::rememberNamesInDialog()
@@ -65,7 +67,6 @@ void RyToolBarKitPrivate::showLayoutInDialog()
     if (!page)
         return;
     rememberNamesInDialog();
-    m_isReset = false;
     if (page->isVisible()) {
         page->hide();
         page->show();
@@ -80,6 +81,15 @@ void RyToolBarKitPrivate::dialogFinished(int result)
     takeTitlesBack();
 }
 
+// A program may do that. One that was closed is no longer known.
+void RyToolBarKitPrivate::dialogDeleted()
+{
+    if (sender() != m_dialog)
+        return;
+    m_dialog = nullptr;
+    takeTitlesBack();
+}
+
 // The dialog and menus show toolbars by their titles.
 void RyToolBarKitPrivate::giveTitles()
 {
@@ -89,9 +99,9 @@ void RyToolBarKitPrivate::giveTitles()
         if (!manager->isDefaultToolBar(toolBar) || !toolBar->windowTitle().isEmpty())
             continue;
         const QString name = StableNames::inWords(toolBar->objectName());
-        m_untitled.append({toolBar, toolBar->toggleViewAction()->text()});
-        toolBar->setWindowTitle(name.isEmpty() ? RyToolBarKit::tr("Toolbar %1").arg(++number)
-                                               : name);
+        const QString title = name.isEmpty() ? RyToolBarKit::tr("Toolbar %1").arg(++number) : name;
+        m_untitled.append({toolBar, toolBar->toggleViewAction()->text(), title});
+        toolBar->setWindowTitle(title);
     }
 }
 
@@ -101,11 +111,11 @@ void RyToolBarKitPrivate::takeTitlesBack()
         return;
     const auto untitled = m_untitled;
     m_untitled.clear();
-    for (const auto &item : untitled) {
-        if (!item.first)
+    for (const Untitled &item : untitled) {
+        if (!item.toolBar || item.toolBar->windowTitle() != item.title)
             continue;
-        item.first->setWindowTitle(QString());
-        item.first->toggleViewAction()->setText(item.second);
+        item.toolBar->setWindowTitle(QString());
+        item.toolBar->toggleViewAction()->setText(item.text);
     }
 }
 
@@ -184,6 +194,12 @@ void RyToolBarKitPrivate::resetClicked()
     m_isReset = true;
 }
 
+// The page does not know of it any more either.
+void RyToolBarKitPrivate::forgetReset()
+{
+    m_isReset = false;
+}
+
 // The manager does not know the default actions that have come since it was made.
 void RyToolBarKitPrivate::completeReset()
 {
@@ -204,15 +220,15 @@ RestoreQuestion::Defaults RyToolBarKitPrivate::defaults() const
     result.areLocked = (features & RyToolBarKit::ToolBarMenus) && m_layout.locked;
     const auto toolBars = manager->defaultToolBars();
     for (auto it = toolBars.cbegin(); it != toolBars.cend(); ++it) {
-        QList<QAction *> &actions = result.contents[it.key()];
+        QList<QAction *> actions;
         const QStringList names = m_defaults.value(it.key());
         for (const QString &name : names) {
             QAction *const action = static_cast<QAction *>(m_actionNames.object(name));
             if (name.isNull() || action)
                 actions.append(action);
         }
-        if (!recordOf(it.key()).look.isDefault())
-            result.looks.insert(it.key());
+        result.toolBars.append(
+            {it.key()->windowTitle(), actions, !recordOf(it.key()).look.isDefault()});
     }
     return result;
 }
@@ -221,15 +237,27 @@ void RyToolBarKitPrivate::tellOthers()
 {
     if (!(features & RyToolBarKit::FollowOthers))
         return;
+    // All are found first: taking over may delete floating toolbars, which are windows too.
+    const auto kits = kitsThatFollow();
+    for (const QPointer<RyToolBarKit> &kit : kits) {
+        if (kit)
+            kit->d->takeOver(*this);
+    }
+}
+
+QList<QPointer<RyToolBarKit>> RyToolBarKitPrivate::kitsThatFollow() const
+{
+    QList<QPointer<RyToolBarKit>> following;
     const auto widgets = QApplication::topLevelWidgets();
     for (const QWidget *widget : widgets) {
         const auto kits = widget->findChildren<RyToolBarKit *>();
-        for (const RyToolBarKit *kit : kits) {
+        for (RyToolBarKit *kit : kits) {
             if (kit != m_kit && kit->d->store.isSameAs(store)
                 && (kit->d->features & RyToolBarKit::FollowOthers))
-                kit->d->takeOver(*this);
+                following.append(kit);
         }
     }
+    return following;
 }
 
 // Windows with the same layout have the same steps.

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void manyUnknownNamesAreCut();
     void aRefusedFileIsReported();
     void theKitMayBeDeleted();
+    void theDialogMayBeDeletedByASwitch();
     void theWindowMayBeDeletedWithAQuestionOpen();
 };
 
@@ -573,6 +574,18 @@ void tst_ProfileChooser::theKitMayBeDeleted()
     delete program.kit();
     letTheKitFollow();
     QVERIFY(!session.chooser);
+}
+
+void tst_ProfileChooser::theDialogMayBeDeletedByASwitch()
+{
+    KitProgram program;
+    startWithProfiles(&program);
+    const Session session(&program);
+    connect(program.kit(), &RyToolBarKit::layoutChanged, session.dialog.data(),
+            [&] { delete session.dialog.data(); });
+    session.choose("Default");
+    QVERIFY(!session.dialog);
+    QCOMPARE(program.content("edit"), QString("cut | copy"));
 }
 
 void tst_ProfileChooser::theWindowMayBeDeletedWithAQuestionOpen()
