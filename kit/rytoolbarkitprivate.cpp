@@ -78,6 +78,7 @@ RyToolBarKitPrivate::RyToolBarKitPrivate(RyToolBarKit *kit, QMainWindow *window,
     , m_actionNames(window)
     , m_toolBarNames(window)
     , m_isRestored(false)
+    , m_dialog(nullptr)
     , m_rowsInDialog(nullptr)
     , m_isReset(false)
 {

@@ -239,7 +239,8 @@ private:
     QSet<const QObject *> m_changedToolBars;
     QTimer m_updateTimer;
     QTimer m_storeTimer;
-    QPointer<QDialog> m_dialog;
+    // Null while none is open.
+    QDialog *m_dialog;
     // The rows of the toolbar that is current in the open dialog.
     QListWidget *m_rowsInDialog;
     // Whether Restore Defaults was pressed since the dialog was opened or changes were applied.

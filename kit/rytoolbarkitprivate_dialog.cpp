@@ -84,7 +84,7 @@ void RyToolBarKitPrivate::dialogFinished(int result)
 // A program may do that. One that was closed is no longer known.
 void RyToolBarKitPrivate::dialogDeleted()
 {
-    if (sender() != m_dialog.data())
+    if (sender() != m_dialog)
         return;
     m_dialog = nullptr;
     takeTitlesBack();
