@@ -47,6 +47,7 @@ void RyToolBarKitPrivate::customize()
     connect(dressing, SIGNAL(filled()), this, SLOT(forgetReset()));
     if (areProfilesShown)
         new ProfileChooser(dialog, dressing->edits(), m_kit, profiles().nameOf(saveLayout()));
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the dialog owns the dressing
     Q_EMIT m_kit->aboutToCustomize(dialog);
     if (m_dialog)
         m_dialog->show();
