@@ -17,6 +17,8 @@ start_log "build/analyze$suffix.log"
 
 cores=$(nproc)
 build=build/analyze$suffix
+# The libraries with several sources as one, where clang-tidy reads the headers of Qt less often.
+units=$build/units
 library=(dialog toolbarmanager toolbareditor ribbon kit)
 sample=tools/analyze/wrong.cpp
 others=OFF
@@ -41,10 +43,12 @@ findings() {
         grep -vE ': (Old Style Connect|FixIt failed, .* Too many overloads .*) \[' | sed "s|$PWD/||g" | sort -u | grep .
 }
 
-# Runs a command for many files, several at a time. Fails if the command fails or finds something.
+# Runs a command for many files, several at a time. Fails if the command fails or finds something, or
+# if there are no files.
 over() {
-    local said=$build/said.txt status=0
-    xargs -P "$cores" -I{} "$@" >"$said" 2>&1 || status=1
+    local files said=$build/said.txt status=0
+    files=$(grep .) || return
+    xargs -P "$cores" -I{} "$@" <<<"$files" >"$said" 2>&1 || status=1
     findings <"$said" || return
     [ "$status" -eq 0 ] || cat "$said"
     return "$status"
@@ -56,15 +60,25 @@ sources() {
 }
 
 configure() {
-    cmake --preset "clang$suffix" -B "$build" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON \
-        -DRYCUSTOMIZEDDIALOG_BUILD_TESTS="$others" -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES="$others"
+    configure_in "$build" "$others" OFF && configure_in "$units" OFF ON
+}
+
+# configure_in FOLDER ON|OFF ON|OFF: with examples and tests or not, file by file or several as one.
+configure_in() {
+    cmake --preset "clang$suffix" -B "$1" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON \
+        -DRYCUSTOMIZEDDIALOG_BUILD_TESTS="$2" -DRYCUSTOMIZEDDIALOG_BUILD_EXAMPLES="$2" \
+        -DCMAKE_UNITY_BUILD="$3"
+}
+
+generate() {
+    generate_in "$build" && generate_in "$units"
 }
 
 # Only runs moc and uic; compiles nothing.
-generate() {
+generate_in() {
     local targets
-    mapfile -t targets < <(ninja -C "$build" -t targets all | sed -n 's|^\([^/]*_autogen\): .*|\1|p')
-    ninja -C "$build" RyCustomizedDialogForms "${targets[@]}" | tail -n 1
+    mapfile -t targets < <(ninja -C "$1" -t targets all | sed -n 's|^\([^/]*_autogen\): .*|\1|p')
+    ninja -C "$1" RyCustomizedDialogForms "${targets[@]}" | tail -n 1
 }
 
 every_warning() {
@@ -79,6 +93,16 @@ every_warning() {
 
 tidy() {
     sources "$@" | over clang-tidy --quiet -p "$build" {}
+}
+
+tidy_units() {
+    find "$units" -path '*Resources.dir*' -prune -o -name 'unity_*.cxx' -print |
+        over clang-tidy --quiet -p "$units" --checks=-bugprone-suspicious-include,-clang-analyzer-* {}
+}
+
+# Clang's analyzer skips what another source includes, so it reads file by file.
+follow_paths() {
+    sources "${library[@]}" | over clang-tidy --quiet -p "$build" --checks=-*,clang-analyzer-* {}
 }
 
 clazy() {
@@ -127,7 +151,8 @@ try 'Mistakes are found' find_mistakes
 try 'Clang with every warning' every_warning
 try 'cppcheck' check_with_cppcheck
 try 'clazy' clazy "${library[@]}"
-try 'clang-tidy' tidy "${library[@]}"
+try 'clang-tidy' tidy_units
+try "Clang's analyzer" follow_paths
 if [ "$others" = ON ]; then
     try 'clazy over the examples and tests' clazy examples tests tools/pictures
     try 'clang-tidy over the examples and tests' tidy examples tests tools/pictures
