@@ -155,17 +155,26 @@ Members membersOf(const QJsonObject &object)
 }
 
 // In the order of an object that was read, for which Qt sorts some keys differently.
-QByteArray joined(const Members &members)
+QStringList sorted(const QStringList &keys)
 {
-    QJsonObject keys;
-    for (auto it = members.cbegin(); it != members.cend(); ++it)
-        keys.insert(it.key(), QJsonValue());
-    const QByteArray built = QJsonDocument(keys).toJson(QJsonDocument::Compact);
-    const QStringList sorted = QJsonDocument::fromJson(built).object().keys();
+    QJsonObject object;
+    for (const QString &key : keys)
+        object.insert(key, QJsonValue());
+    const QByteArray built = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    return QJsonDocument::fromJson(built).object().keys();
+}
+
+QByteArray joined(const Members &members, const QStringList &keys)
+{
     QList<QByteArray> texts;
-    for (const QString &key : sorted)
+    for (const QString &key : keys)
         texts.append(members.value(key));
     return '{' + texts.join(',') + '}';
+}
+
+QByteArray joined(const Members &members)
+{
+    return joined(members, sorted(members.keys()));
 }
 
 QStringList areaNames()
@@ -286,8 +295,13 @@ QByteArray KitLayout::layoutJson() const
         if (!it->isDefault() || !it->others.isEmpty())
             add(written.member, &members);
     }
+    const QStringList keys = members.keys();
+    if (keys != m_keys) {
+        m_keys = keys;
+        m_sortedKeys = sorted(m_keys);
+    }
     Members all = membersOf(m_layoutOthers);
-    all.insert(QStringLiteral("toolBars"), "\"toolBars\":" + joined(members));
+    all.insert(QStringLiteral("toolBars"), "\"toolBars\":" + joined(members, m_sortedKeys));
     if (!places.isEmpty())
         add(memberOf(QStringLiteral("places"), objectOf(places)), &all);
     if (locked)

@@ -122,6 +122,9 @@ private:
     };
     // What layoutJson() has made of the toolbars, of which few change in between.
     mutable QHash<QString, Written> m_written;
+    // The keys of the toolbars that it wrote last, and in which order.
+    mutable QStringList m_keys;
+    mutable QStringList m_sortedKeys;
     // Keys of a later version, in the value and in its layout.
     QJsonObject m_others;
     QJsonObject m_layoutOthers;

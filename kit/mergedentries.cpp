@@ -57,3 +57,25 @@ QSet<QString> namesIn(const QStringList &entries)
     }
     return names;
 }
+
+QStringList newNames(const QStringList &entries, const QStringList &known)
+{
+    QStringList added;
+    QSet<QString> all;
+    int sameOrder = 0; // both usually have the same names in the same order
+    for (const QString &name : entries) {
+        if (name.isNull())
+            continue;
+        if (sameOrder < known.size() && known.at(sameOrder) == name) {
+            ++sameOrder;
+            continue;
+        }
+        if (all.isEmpty())
+            all = namesIn(known);
+        if (all.contains(name))
+            continue;
+        all.insert(name);
+        added.append(name);
+    }
+    return added;
+}

@@ -25,4 +25,9 @@ QStringList mergedEntries(const QStringList &entries, const QStringList &model,
  */
 QSet<QString> namesIn(const QStringList &entries);
 
+/*!
+ * \brief Returns the names in \a entries that \a known lacks, each once and in their order.
+ */
+QStringList newNames(const QStringList &entries, const QStringList &known);
+
 #endif // MERGEDENTRIES_H

@@ -13,18 +13,6 @@
 
 namespace {
 
-QStringList withNew(QStringList names, const QStringList &others)
-{
-    QSet<QString> all = namesIn(names);
-    for (const QString &name : others) {
-        if (name.isNull() || all.contains(name))
-            continue;
-        all.insert(name);
-        names.append(name);
-    }
-    return names;
-}
-
 QStringList replaced(QStringList names, const QString &before, const QString &now)
 {
     if (names.contains(now))
@@ -173,7 +161,7 @@ KitLayout RyToolBarKitPrivate::converted(const FormerLayout &former) const
     // What the program had then is not known, so nothing counts as new.
     for (const QToolBar *toolBar : toolBars) {
         KitToolBar &record = layout.toolBars[m_toolBarNames.nameOf(toolBar)];
-        record.known = withNew(record.known, m_defaults.value(toolBar));
+        record.known += newNames(m_defaults.value(toolBar), record.known);
         const auto shown = former.shown.constFind(toolBar->objectName());
         const bool shownByProgram = m_shownByProgram.value(toolBar, true);
         if (shown == former.shown.constEnd() || shown.value() == shownByProgram)
@@ -321,7 +309,7 @@ QStringList RyToolBarKitPrivate::entriesOf(QToolBar *toolBar) const
         return defaults;
     QSet<QString> missing;
     if (features & RyToolBarKit::AddNewDefaults)
-        missing = namesIn(defaults) - namesIn(record.known);
+        missing = namesIn(newNames(defaults, record.known));
     return mergedEntries(record.entries, defaults, missing);
 }
 
@@ -436,7 +424,10 @@ void RyToolBarKitPrivate::collectToolBar(QToolBar *toolBar)
     record.title = record.custom ? toolBar->windowTitle() : QString();
     record.customized = record.custom || entries != defaults;
     record.entries = record.customized ? entries : QStringList();
-    record.known = record.customized ? withNew(record.known, defaults) : QStringList();
+    if (record.customized)
+        record.known += newNames(defaults, record.known);
+    else
+        record.known.clear();
 }
 
 // The names that the user cannot have removed, because they were not there to be removed.

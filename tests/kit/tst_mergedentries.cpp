@@ -14,6 +14,8 @@ private Q_SLOTS:
     void missingNamesReturnBesideTheirNeighbours_data();
     void missingNamesReturnBesideTheirNeighbours();
     void whatIsTakenOutReturnsToItsPlace();
+    void namesAreNewOnce_data();
+    void namesAreNewOnce();
 };
 
 namespace {
@@ -141,6 +143,45 @@ void tst_mergedentries::whatIsTakenOutReturnsToItsPlace()
         }
         QCOMPARE(text(mergedEntries(rest, model, missing)), text(model));
     }
+}
+
+void tst_mergedentries::namesAreNewOnce_data()
+{
+    QTest::addColumn<QString>("names");
+    QTest::addColumn<QString>("known");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("none is known") << "a b"
+                                   << ""
+                                   << "a b";
+    QTest::newRow("all are known") << "a b"
+                                   << "a b"
+                                   << "";
+    QTest::newRow("separators") << "| a | b |"
+                                << "a b"
+                                << "";
+    QTest::newRow("in another order") << "a b c"
+                                      << "c b a"
+                                      << "";
+    QTest::newRow("more are known") << "b"
+                                    << "a b c"
+                                    << "";
+    QTest::newRow("new at the start") << "x a b"
+                                      << "a b"
+                                      << "x";
+    QTest::newRow("new in between") << "a x b y"
+                                    << "a b"
+                                    << "x y";
+    QTest::newRow("twice") << "a x a x"
+                           << "a"
+                           << "x";
+}
+
+void tst_mergedentries::namesAreNewOnce()
+{
+    QFETCH(const QString, names);
+    QFETCH(const QString, known);
+    QFETCH(const QString, expected);
+    QCOMPARE(text(newNames(entries(names), entries(known))), expected);
 }
 
 QTEST_MAIN(tst_mergedentries)
