@@ -46,9 +46,7 @@ DialogDressing::DialogDressing(RyCustomizedDialog *dialog, const Context &contex
         new UserGuide(dialog);
     // Last, for the letters and the order of all controls.
     if (context.features & RyToolBarKit::DialogKeys) {
-        const SpokenNames *const names = new SpokenNames(m_parts);
-        // Before the views are painted, or what changes in them would be painted again.
-        connect(this, SIGNAL(filled()), names, SLOT(describeItems()));
+        new SpokenNames(m_parts, this);
         new ItemFocus(m_parts);
         new ChangeAnnouncer(m_parts);
         new DialogKeys(m_parts);

@@ -2,6 +2,7 @@
 
 #include "spokennames.h"
 
+#include "dialogdressing.h"
 #include "plaintextdelegate.h"
 
 #include <RyCustomizedDialog>
@@ -14,11 +15,13 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
-SpokenNames::SpokenNames(const DialogParts &parts)
+SpokenNames::SpokenNames(const DialogParts &parts, const DialogDressing *dressing)
     : QObject(parts.dialog)
     , m_parts(parts)
 {
     nameWidgets();
+    // Before the views are painted, or what changes in them would be painted again.
+    connect(dressing, SIGNAL(filled()), this, SLOT(describeItems()));
     m_timer.setSingleShot(true);
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(describeItems()));
     // The items are made each time the page is shown, and entries each time a toolbar is chosen.

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QTimer>
 
+class DialogDressing;
 class QTreeWidgetItem;
 
 /*!
@@ -20,7 +21,7 @@ class SpokenNames : public QObject
     Q_OBJECT
 
 public:
-    explicit SpokenNames(const DialogParts &parts);
+    SpokenNames(const DialogParts &parts, const DialogDressing *dressing);
 
     //! Returns what is said for a row with this text.
     static QString spoken(const QString &text);
