@@ -29,6 +29,7 @@ private Q_SLOTS:
     void theRestComesBackWhenTheLineIsCleared();
     void theCategoryOfTheCurrentActionStaysExpanded();
     void categoriesThatTheUserHasExpandedStayExpanded();
+    void theyStayExpandedAfterAFormerSearchToo();
     void returnAddsTheActionAndKeepsTheDialog_data();
     void returnAddsTheActionAndKeepsTheDialog();
     void downGoesToTheTree();
@@ -272,6 +273,21 @@ void tst_ActionSearch::categoriesThatTheUserHasExpandedStayExpanded()
     QTest::keyClicks(opened.line, "copy");
     opened.line->clear();
     QVERIFY(itemNamed(opened.views->actionTree, "File")->isExpanded());
+}
+
+void tst_ActionSearch::theyStayExpandedAfterAFormerSearchToo()
+{
+    const Opened opened;
+    QTreeWidgetItem *const file = itemNamed(opened.views->actionTree, "File");
+    QTest::keyClicks(opened.line, "o");
+    QVERIFY(file->isExpanded());
+    opened.line->setText("copy");
+    opened.line->clear();
+    QVERIFY(!file->isExpanded());
+    file->setExpanded(true);
+    QTest::keyClicks(opened.line, "copy");
+    opened.line->clear();
+    QVERIFY(file->isExpanded());
 }
 
 void tst_ActionSearch::returnAddsTheActionAndKeepsTheDialog_data()
