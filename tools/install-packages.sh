@@ -8,6 +8,7 @@
 
 set -eu
 
+[ $# -gt 0 ] || { echo 'usage: install-packages.sh SECTION...' >&2; exit 2; }
 list=${0%/*}/packages.txt
 wanted=
 for section; do
