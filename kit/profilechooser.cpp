@@ -105,16 +105,19 @@ void ProfileChooser::applied()
 
 void ProfileChooser::showProfile(const QString &current)
 {
-    m_current = current;
     m_value = m_kit->saveLayout();
     m_box->clear();
     m_box->addItems(m_kit->profiles());
-    const int index = current.isEmpty() ? -1 : m_box->findText(current);
-    const bool isStored = m_kit->features() & RyToolBarKit::StoreChanges;
-    m_box->setCurrentIndex(index);
+    m_box->setCurrentIndex(m_box->findText(current));
+    m_current = m_box->currentText();
     m_box->setEnabled(m_box->count() > 0);
-    m_saveButton->setEnabled(isStored);
-    m_removeButton->setEnabled(isStored && index >= 0);
+    m_saveButton->setEnabled(m_kit->features() & RyToolBarKit::StoreChanges);
+    m_removeButton->setEnabled(canRemove(m_current));
+}
+
+bool ProfileChooser::canRemove(const QString &name) const
+{
+    return (m_kit->features() & RyToolBarKit::StoreChanges) && m_box->findText(name) >= 0;
 }
 
 void ProfileChooser::choose(int index)
@@ -139,8 +142,14 @@ void ProfileChooser::replace(const std::function<bool()> &replacement, const QSt
     if (chooser.isNull())
         return;
     showProfile(isReplaced ? current : m_current);
-    if (!isReplaced)
-        report(tr("The layout cannot be used."));
+    if (isReplaced)
+        return;
+    // A damaged profile never becomes the current one, which the button removes.
+    const QString problem = tr("The layout cannot be used.");
+    if (canRemove(current))
+        askToRemove(current, problem);
+    else
+        report(problem);
 }
 
 void ProfileChooser::saveClicked()
@@ -171,10 +180,14 @@ void ProfileChooser::save(const QString &text)
 
 void ProfileChooser::removeClicked()
 {
-    const QString name = m_box->currentText();
-    ask(tr("Remove the profile “%1”?").arg(name), QString(), [this, name] {
+    askToRemove(m_current, QString());
+}
+
+void ProfileChooser::askToRemove(const QString &name, const QString &details)
+{
+    ask(tr("Remove the profile “%1”?").arg(name), details, [this, name] {
         m_kit->removeProfile(name);
-        showProfile(QString());
+        showProfile(m_current);
     });
 }
 

@@ -55,7 +55,9 @@ private:
     QAbstractButton *createButton(const char *name, const QString &text, const char *slot);
     bool applyEdits();
     void showProfile(const QString &current);
+    bool canRemove(const QString &name) const;
     void replace(const std::function<bool()> &replacement, const QString &current);
+    void askToRemove(const QString &name, const QString &details);
     void ask(const QString &text, const QString &details, const std::function<void()> &yes);
     void report(const QString &text);
     void chooseFile(QFileDialog *dialog, const char *slot);

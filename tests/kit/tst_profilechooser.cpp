@@ -39,7 +39,8 @@ private Q_SLOTS:
     void afterApplyNothingIsAsked();
     void editsOfAPageThatWasLeftAreForgotten();
     void theWheelDoesNotSwitch();
-    void aDamagedProfileIsReported();
+    void aDamagedProfileMayBeRemoved();
+    void aProfileThatHasGoneIsReported();
     void savingAppliesEdits();
     void savingWithoutEditsAppliesNothing();
     void savingAsksBeforeAnotherIsReplaced();
@@ -98,6 +99,8 @@ public:
         if (!message)
             return QString();
         const QString text = message->text() + '/' + message->informativeText();
+        if (!message->button(button))
+            return text + ", without that button";
         message->button(button)->click();
         letTheKitFollow();
         return text;
@@ -339,16 +342,35 @@ void tst_ProfileChooser::theWheelDoesNotSwitch()
     QCOMPARE(program.content("edit"), QString("paste"));
 }
 
-void tst_ProfileChooser::aDamagedProfileIsReported()
+void tst_ProfileChooser::aDamagedProfileMayBeRemoved()
 {
+    const QString question = "Remove the profile “bad”?/The layout cannot be used.";
     KitProgram program;
     startWithProfiles(&program);
     program.settings->setValue("toolBars.profiles/bad", "x");
     const Session session(&program);
     session.choose("bad");
-    QCOMPARE(session.answer(QMessageBox::Ok), QString("The layout cannot be used./"));
+    QCOMPARE(session.answer(QMessageBox::No), question);
+    QCOMPARE(program.kit()->profiles(), QStringList({"Default", "Short", "bad"}));
+    session.choose("bad");
+    QCOMPARE(session.answer(QMessageBox::Yes), question);
+    QCOMPARE(program.kit()->profiles(), QStringList({"Default", "Short"}));
+    QCOMPARE(session.box->count(), 2);
     QCOMPARE(session.box->currentText(), QString("Short"));
     QCOMPARE(program.content("edit"), QString("paste"));
+}
+
+// Another window has removed it.
+void tst_ProfileChooser::aProfileThatHasGoneIsReported()
+{
+    KitProgram program;
+    startWithProfiles(&program);
+    const Session session(&program);
+    program.kit()->removeProfile("Default");
+    session.choose("Default");
+    QCOMPARE(session.answer(QMessageBox::Ok), QString("The layout cannot be used./"));
+    QCOMPARE(session.box->count(), 1);
+    QCOMPARE(session.box->currentText(), QString("Short"));
 }
 
 void tst_ProfileChooser::savingAppliesEdits()
@@ -419,6 +441,9 @@ void tst_ProfileChooser::removingAsks()
     QCOMPARE(program.kit()->profiles(), QStringList("Default"));
     QCOMPARE(session.box->currentIndex(), -1);
     QCOMPARE(program.content("edit"), QString("paste"));
+    // Its name is not proposed for another one.
+    session.saveAs("New");
+    QCOMPARE(program.kit()->profiles(), QStringList({"Default", "New"}));
 }
 
 void tst_ProfileChooser::anAppliedChangeLeavesTheProfile()
@@ -438,11 +463,14 @@ void tst_ProfileChooser::withoutStoreChangesProfilesAreOnlyChosen()
     KitProgram program;
     startWithProfiles(&program);
     program.kit()->setFeatures(program.kit()->features() & ~RyToolBarKit::StoreChanges);
+    program.settings->setValue("toolBars.profiles/bad", "x");
     const Session session(&program);
     QVERIFY(!session.button("saveProfileButton")->isEnabled());
     QVERIFY(!session.button("removeProfileButton")->isEnabled());
     session.choose("Default");
     QCOMPARE(program.content("edit"), QString("cut | copy"));
+    session.choose("bad");
+    QCOMPARE(session.answer(QMessageBox::Ok), QString("The layout cannot be used./"));
 }
 
 void tst_ProfileChooser::exportingAppliesEdits()
