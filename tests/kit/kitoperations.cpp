@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "editsequence.h"
 #include "kitsequence.h"
 
 #include <QApplication>
@@ -8,10 +9,11 @@
 #include <QtDebug>
 
 /*
- * usage: kitoperations [--sequences N] [--steps N] [--first-seed N]
+ * usage: kitoperations [--edits] [--sequences N] [--steps N] [--first-seed N]
  *
- * Random sequences of what programs and users do with a kit, compared with a simple model after
- * every step. Prints the steps of the first sequence that differs, and fails.
+ * Random sequences of what programs and users do with a kit, or of a user's edits in the dialog,
+ * compared with a simple model after every step. Prints the steps of the first sequence that
+ * differs, and fails.
  */
 
 namespace {
@@ -35,6 +37,17 @@ void printOthers(QtMsgType type, const QMessageLogContext &context, const QStrin
         previousHandler(type, context, text);
 }
 
+template <class Sequence> bool passes(uint seed, int steps)
+{
+    Sequence sequence(seed);
+    if (sequence.run(steps))
+        return true;
+    qWarning("Seed %u:", seed);
+    for (const QString &line : sequence.log())
+        qWarning("  %s", qPrintable(line));
+    return false;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -44,19 +57,18 @@ int main(int argc, char *argv[])
     QApplication::setStyle(new StyleWithoutIcons);
     QApplication::setQuitOnLastWindowClosed(false);
     QCommandLineParser parser;
-    parser.addOptions(
-        {{"sequences", "", "N", "100"}, {"steps", "", "N", "40"}, {"first-seed", "", "N", "1"}});
+    parser.addOptions({{"edits", ""},
+                       {"sequences", "", "N", "100"},
+                       {"steps", "", "N", "40"},
+                       {"first-seed", "", "N", "1"}});
     parser.process(application);
     const uint first = parser.value("first-seed").toUInt();
     const uint count = parser.value("sequences").toUInt();
+    const int steps = parser.value("steps").toInt();
+    const auto passesOne = parser.isSet("edits") ? passes<EditSequence> : passes<KitSequence>;
     for (uint seed = first; seed < first + count; ++seed) {
-        KitSequence sequence(seed);
-        if (sequence.run(parser.value("steps").toInt()))
-            continue;
-        qWarning("Seed %u:", seed);
-        for (const QString &line : sequence.log())
-            qWarning("  %s", qPrintable(line));
-        return 1;
+        if (!passesOne(seed, steps))
+            return 1;
     }
     qInfo("%u sequences, no difference", count);
     return 0;
