@@ -21,6 +21,7 @@ import collections
 import concurrent.futures
 import filecmp
 import hashlib
+import json
 import os
 import queue
 import re
@@ -162,7 +163,7 @@ def header_mutants(path, lines):
             section = line
         listed = re.search("slots|SLOTS|SIGNALS", section)
         pair = (line, following)
-        if all(re.fullmatch(r"    [^/*].*;", l) for l in pair) and (
+        if all(re.fullmatch(r"    [^\s/*].*;", l) for l in pair) and (
                 listed or all("virtual" in l or "override" in l for l in pair)
                 or all(re.search(r"m_\w+;", l) for l in pair)):
             yield Mutant(path, number + 1, "order", f"{line}\n{following}", f"{following}\n{line}")
@@ -271,8 +272,9 @@ class Tree:
                  # The tests need no new link when the library changes.
                  "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", check=True)
         self.run("ninja", "-C", self.build, check=True)
-        listed = self.run("ctest", "-N", check=True).stdout
-        self.tests = [t for t in re.findall(r"Test +#\d+: (\S+)", listed)
+        listed = json.loads(self.run("ctest", "--show-only=json-v1", check=True).stdout)
+        self.commands = {t["name"]: t["command"] for t in listed["tests"]}
+        self.tests = [t for t in self.commands
                       if not t.startswith(("tst_package", "tst_sources")) and self.counts(t)]
         if not self.passes(self.tests):
             sys.exit("The tests fail before anything is broken:\n" + self.output)
@@ -284,8 +286,9 @@ class Tree:
             return self.folder(test) != "kit"
         if self.folder(test) == "kit":
             return True
-        programs = self.build.glob(f"tests/*/{test}")
-        return any(b"libRyToolBarKit.so" in program.read_bytes() for program in programs)
+        programs = [Path(argument) for argument in self.commands[test]]
+        return any(program.is_file() and b"libRyToolBarKit.so" in program.read_bytes()
+                   for program in programs)
 
     def run(self, *command, check=False):
         done = subprocess.run([str(c) for c in command], cwd=self.build if self.build.exists()
@@ -310,7 +313,8 @@ class Tree:
 
     def rounds(self, path):
         """The tests, the fastest and most likely to fail first."""
-        slow = [t for t in self.tests if re.search("_damage|_findings|_window|_titlebar|^operations", t)]
+        slow = [t for t in self.tests
+                if re.search("_damage|_findings|_window|_titlebar|_spoken|^operations", t)]
         own = [t for t in self.tests if t not in slow and path.parts[0] == self.folder(t)]
         rest = [t for t in self.tests if t not in slow and t not in own]
         # The manager does not use windows, and except for the kit nothing else uses saved bytes.
@@ -319,8 +323,9 @@ class Tree:
         return own, rest, [t for t in slow if re.search(worth, t)]
 
     def folder(self, test):
-        found = list(self.source.glob(f"tests/*/{test}.cpp"))
-        return found[0].parent.name if found else ""
+        """That of the program or script which it runs, and not of one that only starts others."""
+        found = re.search(r"/tests/(?!support/)(\w+)/", " ".join(self.commands[test]))
+        return found[1] if found else ""
 
     def verdict(self, mutant):
         target = self.source / mutant.path
