@@ -124,6 +124,11 @@ public:
         button(buttonName)->click();
         QFileDialog *const files = dialog->findChild<QFileDialog *>();
         QVERIFY(files);
+        const bool isExport = buttonName == "exportLayoutButton";
+        QCOMPARE(files->acceptMode(), isExport ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+        QCOMPARE(files->fileMode(), isExport ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+        QCOMPARE(files->defaultSuffix(), QString(isExport ? "json" : ""));
+        QCOMPARE(files->nameFilters(), QStringList("Layouts (*.json)"));
         Q_EMIT files->fileSelected(file);
         files->reject();
         letTheKitFollow();

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void toolBarsOfTheSameTitle_data();
     void toolBarsOfTheSameTitle();
     void longListsAreShortened();
+    void listsThatFitAreShownWhole();
     void looksAndTheLockAreSaid();
     void aLockThatDoesNotHoldIsNotSaid();
     void nothingToChangeIsSaid();
@@ -173,6 +174,21 @@ void tst_RestoreQuestion::longListsAreShortened()
     const QStringList all = opened.box(question)->detailedText().split('\n');
     QCOMPARE(all.size(), 21);
     QCOMPARE(all.constLast(), "Mine 30: delete the toolbar");
+}
+
+void tst_RestoreQuestion::listsThatFitAreShownWhole()
+{
+    OpenedDialog opened;
+    opened.dialog->reject();
+    letTheKitFollow();
+    for (int i = 11; i < 23; ++i)
+        opened.program.create(QString("Mine %1").arg(i), "");
+    opened.open();
+    press(opened);
+    const QStringList said = linesOf(opened.box(question));
+    QCOMPARE(said.size(), 12);
+    QCOMPARE(said.constLast(), "Mine 22: delete the toolbar");
+    QCOMPARE(opened.box(question)->detailedText(), QString());
 }
 
 void tst_RestoreQuestion::looksAndTheLockAreSaid()
