@@ -230,8 +230,9 @@ bool RyToolBarKitPrivate::findToolBars()
     }
     if (added.isEmpty())
         return false;
+    const auto ofProgram = toolBarNames(manager->defaultToolBars().keys());
     m_placesByProgram =
-        ToolBarPlaces::merged(m_placesByProgram, ToolBarPlaces::read(m_window, toolBarNames()));
+        ToolBarPlaces::merged(m_placesByProgram, ToolBarPlaces::read(m_window, ofProgram));
     if (m_isRestored) {
         placeAll();
         for (QToolBar *toolBar : toolBars)

@@ -169,7 +169,7 @@ private:
     QStringList entriesOf(QToolBar *toolBar) const;
     QStringList namesOf(const QList<QAction *> &actions) const;
     QSet<QString> absentNames(QToolBar *toolBar, const QStringList &names) const;
-    QHash<const QToolBar *, QString> toolBarNames() const;
+    QHash<const QToolBar *, QString> toolBarNames(const QList<QToolBar *> &toolBars) const;
 
     // The steps
     void readSteps();

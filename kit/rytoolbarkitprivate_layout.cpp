@@ -328,7 +328,7 @@ void RyToolBarKitPrivate::applyPlaces()
     const KitPlaces places = m_layout.places.isEmpty()
         ? m_placesByProgram
         : ToolBarPlaces::merged(m_layout.places, m_placesByProgram);
-    ToolBarPlaces::apply(m_window, toolBarNames(), places);
+    ToolBarPlaces::apply(m_window, toolBarNames(manager->toolBars()), places);
 }
 
 // The user's choice holds as long as the program starts with what it had then.
@@ -459,7 +459,7 @@ void RyToolBarKitPrivate::forgetRemovedToolBars()
 
 void RyToolBarKitPrivate::collectPlaces()
 {
-    const KitPlaces now = ToolBarPlaces::read(m_window, toolBarNames());
+    const KitPlaces now = ToolBarPlaces::read(m_window, toolBarNames(manager->toolBars()));
     const auto isGone = [this](const QString &name) { return !m_toolBarNames.object(name); };
     const bool isAllThere = without(m_layout.places, isGone) == m_layout.places;
     if (isAllThere && now == without(m_placesByProgram, isGone))
@@ -468,10 +468,10 @@ void RyToolBarKitPrivate::collectPlaces()
         m_layout.places = ToolBarPlaces::merged(now, m_layout.places);
 }
 
-QHash<const QToolBar *, QString> RyToolBarKitPrivate::toolBarNames() const
+QHash<const QToolBar *, QString>
+RyToolBarKitPrivate::toolBarNames(const QList<QToolBar *> &toolBars) const
 {
     QHash<const QToolBar *, QString> names;
-    const auto toolBars = manager->toolBars();
     for (const QToolBar *toolBar : toolBars)
         names.insert(toolBar, m_toolBarNames.nameOf(toolBar));
     return names;

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void aRefusedLayoutIsNoStep();
     void aRefusedLayoutBreaksNoStep();
     void onlyWhatTheStepChangedIsUndone();
+    void aRemovedToolBarLeavesNoPlace();
     void theDialogShowsWhatWasUndone();
     void withoutStoreChangesStepsAreOnlyRead();
     void withoutASettingStepsAreKeptInMemory();
@@ -661,6 +662,28 @@ void tst_LayoutHistory::onlyWhatTheStepChangedIsUndone()
     QCOMPARE(program.contents(), QStringList({"edit: paste", "file: new open save"}));
     redo(program);
     QCOMPARE(program.contents(), QStringList({"edit: paste", "file: open"}));
+}
+
+// Not even if the program has added a toolbar while the user's was there.
+void tst_LayoutHistory::aRemovedToolBarLeavesNoPlace()
+{
+    const auto addLate = [](QMainWindow *window) {
+        window->addToolBar("Late")->setObjectName("late");
+    };
+    KitProgram program;
+    program.start();
+    const QString name = program.create("Mine", "cut");
+    addLate(program.window());
+    letTheKitFollow();
+    program.remove(name);
+    program.start([&](QMainWindow *window) {
+        KitProgram::buildDefault(window);
+        addLate(window);
+    });
+    const QByteArray removed = program.kit()->saveLayout();
+    undo(program);
+    redo(program);
+    QCOMPARE(program.kit()->saveLayout(), removed);
 }
 
 void tst_LayoutHistory::theDialogShowsWhatWasUndone()
