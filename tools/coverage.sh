@@ -10,8 +10,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 start_log build/coverage.log
 
 cores=$(nproc)
-# Without branches that only an exception takes: the library throws and catches none.
-report=(gcovr --root . --exclude-throw-branches --exclude-unreachable-branches build/coverage)
+report=(gcovr --root . build/coverage)
 
 # check_share LIBRARY FOLDERS DETAILS
 check_share() {

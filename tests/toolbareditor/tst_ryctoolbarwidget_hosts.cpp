@@ -84,9 +84,10 @@ void *operator new(std::size_t size)
         memory.isFreed = false;
         return memory.kept;
     }
-    if (void *const block = std::malloc(size ? size : 1))
-        return block;
-    throw std::bad_alloc();
+    void *const block = std::malloc(size ? size : 1);
+    if (!block)
+        std::abort();
+    return block;
 }
 
 void *operator new(std::size_t size, const std::nothrow_t &) noexcept
