@@ -44,6 +44,11 @@ class TextEditor(Application):
         handle = self.handle_of(title)
         return self.popup_after(lambda: self._desktop.click(handle, Desktop.RIGHT))
 
+    def open_menu_of_button(self, title, name):
+        tool_bar = self.main_window.find("tool bar", title)
+        button, = [part for part in tool_bar.children() if plain(part.name) == name]
+        return self.popup_after(lambda: self._desktop.click(button.rect.center, Desktop.RIGHT))
+
     def open_dialog_from(self, menu):
         self._desktop.click(place_in_menu(menu, CUSTOMIZE))
         return ToolBarDialog(self._desktop, self)

@@ -16,6 +16,9 @@ from waiting import NotSo, expect, settled, wait_for
 
 UNDO = "Undo Toolbar Change"
 REDO = "Redo Toolbar Change"
+REMOVE = "Remove from toolbar"
+LOCK = "Lock toolbars"
+GUIDE = "Making the toolbars your own"
 NAME = "My Tools"
 NEW_NAME = "Writing"
 CONTENT = ["Bold", SEPARATOR, "Find", "Save"]
@@ -324,6 +327,60 @@ def defaults_back(tour):
     return "After a new start every toolbar is still as shipped"
 
 
+# --- What is around the dialog ---
+
+def toolbars_locked(tour):
+    handle = tour.editor.handle_of(DEFAULT_TOOL_BAR)
+    place = tour.editor.place_of(DEFAULT_TOOL_BAR)
+    tour.menu = tour.editor.open_context_menu(DEFAULT_TOOL_BAR)
+    tour.desktop.click(place_in_menu(tour.menu, LOCK))
+    wait_for("the menu stays open", tour.menu.is_gone)
+    tour.restart()
+    window = tour.editor.main_window.rect
+    tour.desktop.drag(handle, Point(window.x + 8, window.center.y))
+    expect("the place of a locked toolbar",
+           lambda: at(tour.editor.place_of(DEFAULT_TOOL_BAR)), at(place))
+    tour.expect_tool_bars(tour.shipped)
+    return f'After "{LOCK}" and a new start, "{DEFAULT_TOOL_BAR}" cannot be dragged'
+
+
+def leaving_asks(tour):
+    first, *rest = tour.shipped[DEFAULT_TOOL_BAR]
+    tour.open_dialog()
+    tour.dialog.select_tool_bar(DEFAULT_TOOL_BAR)
+    tour.dialog.select_entry(first)
+    tour.desktop.press("Delete")
+    tour.expect_content(*rest)
+    tour.desktop.press("Escape")
+    tour.dialog.answer("Cancel")
+    tour.expect_content(*rest)
+    return f"The Delete key removes {first}, Escape asks before that is lost, and Cancel stays"
+
+
+def guide_opened(tour):
+    tour.desktop.press("F1")
+    tour.editor.window("dialog", GUIDE)
+    return f'The F1 key opens "{GUIDE}"'
+
+
+def guide_closed(tour):
+    tour.desktop.press("Escape")
+    expect("open dialogs", lambda: len(tour.editor.windows("dialog")), 1)
+    tour.dialog.close_with("Cancel")
+    tour.expect_tool_bars(tour.shipped)
+    return "Escape closes the guide, and Cancel the dialog, and nothing has changed"
+
+
+def button_removed_by_menu(tour):
+    first, *rest = tour.shipped[DEFAULT_TOOL_BAR]
+    tour.menu = tour.editor.open_menu_of_button(DEFAULT_TOOL_BAR, first)
+    tour.desktop.click(place_in_menu(tour.menu, REMOVE))
+    tour.expect_tool_bars({**tour.shipped, DEFAULT_TOOL_BAR: rest})
+    tour.choose_in_settings(UNDO)
+    tour.expect_tool_bars(tour.shipped)
+    return f'A right click on {first} and "{REMOVE}" take it off, and "{UNDO}" brings it back'
+
+
 def nothing_to_complain_about(tour):
     tour.quit_editor()
     expect("what the text editor wrote", tour.warnings, [])
@@ -362,6 +419,11 @@ STORY = [
     defaults_in_window,
     defaults_undone,
     defaults_back,
+    toolbars_locked,
+    leaving_asks,
+    guide_opened,
+    guide_closed,
+    button_removed_by_menu,
     nothing_to_complain_about,
 ]
 
