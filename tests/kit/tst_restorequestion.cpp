@@ -62,6 +62,17 @@ void press(const OpenedDialog &opened)
     QTest::mouseClick(opened.dialog->RestoreDefaultButton(), Qt::LeftButton);
 }
 
+// Makes toolbars from "Mine 11" on, and presses Restore Defaults.
+void pressWithToolBars(OpenedDialog *opened, int count)
+{
+    opened->dialog->reject();
+    letTheKitFollow();
+    for (int i = 0; i < count; ++i)
+        opened->program.create(QString("Mine %1").arg(11 + i), "");
+    opened->open();
+    press(*opened);
+}
+
 QStringList linesOf(const QMessageBox *box)
 {
     return box ? box->informativeText().split('\n') : QStringList("there is no question");
@@ -153,25 +164,19 @@ void tst_RestoreQuestion::toolBarsOfTheSameTitle()
 
 void tst_RestoreQuestion::longListsAreShortened()
 {
-    OpenedDialog opened([](QMainWindow *window) {
+    const QScopedPointer<OpenedDialog> opened(edited("bar", "", [](QMainWindow *window) {
         QToolBar *const toolBar = window->addToolBar("Bar");
         toolBar->setObjectName("bar");
         for (const char *name : {"a", "b", "c", "d", "e", "f", "g"})
             addAction(toolBar, name);
-    });
-    opened.dialog->reject();
-    letTheKitFollow();
-    opened.program.edit("bar", "");
-    for (int i = 11; i < 31; ++i)
-        opened.program.create(QString("Mine %1").arg(i), "");
-    opened.open();
-    press(opened);
-    const QStringList said = linesOf(opened.box(question));
+    }));
+    pressWithToolBars(opened.data(), 20);
+    const QStringList said = linesOf(opened->box(question));
     QCOMPARE(said.size(), 12);
     QCOMPARE(said.constFirst(), "Bar: add A, B, C, D, E …");
     QCOMPARE(said.at(10), "Mine 20: delete the toolbar");
     QCOMPARE(said.constLast(), "…");
-    const QStringList all = opened.box(question)->detailedText().split('\n');
+    const QStringList all = opened->box(question)->detailedText().split('\n');
     QCOMPARE(all.size(), 21);
     QCOMPARE(all.constLast(), "Mine 30: delete the toolbar");
 }
@@ -179,12 +184,7 @@ void tst_RestoreQuestion::longListsAreShortened()
 void tst_RestoreQuestion::listsThatFitAreShownWhole()
 {
     OpenedDialog opened;
-    opened.dialog->reject();
-    letTheKitFollow();
-    for (int i = 11; i < 23; ++i)
-        opened.program.create(QString("Mine %1").arg(i), "");
-    opened.open();
-    press(opened);
+    pressWithToolBars(&opened, 12);
     const QStringList said = linesOf(opened.box(question));
     QCOMPARE(said.size(), 12);
     QCOMPARE(said.constLast(), "Mine 22: delete the toolbar");
