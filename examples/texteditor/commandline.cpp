@@ -6,12 +6,14 @@ CommandLine::CommandLine()
     : m_settings(QStringLiteral("settings"), tr("Keep all settings in <file>."),
                  QStringLiteral("file"))
     , m_resetLayout(QStringLiteral("reset-layout"), tr("Forget the stored layout of the toolbars."))
+    , m_profiles(QStringLiteral("profiles"), tr("Let the user keep several layouts by name."))
 {
     m_parser.setApplicationDescription(tr("A text editor whose toolbars the user can customize."));
     m_parser.addHelpOption();
     m_parser.addVersionOption();
     m_parser.addOption(m_settings);
     m_parser.addOption(m_resetLayout);
+    m_parser.addOption(m_profiles);
     m_parser.addPositionalArgument(QStringLiteral("file"), tr("The document to open."),
                                    QStringLiteral("[file]"));
 }
@@ -36,6 +38,11 @@ QString CommandLine::settingsFile() const
 bool CommandLine::resetLayout() const
 {
     return m_parser.isSet(m_resetLayout);
+}
+
+bool CommandLine::profiles() const
+{
+    return m_parser.isSet(m_profiles);
 }
 
 QString CommandLine::document() const

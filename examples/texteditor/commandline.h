@@ -30,6 +30,9 @@ public:
     //! Whether to forget the stored toolbar layout.
     bool resetLayout() const;
 
+    //! Whether the dialog lets the user choose a profile.
+    bool profiles() const;
+
     //! The document to open, or an empty string.
     QString document() const;
 
@@ -37,6 +40,7 @@ private:
     QCommandLineParser m_parser;
     const QCommandLineOption m_settings;
     const QCommandLineOption m_resetLayout;
+    const QCommandLineOption m_profiles;
 };
 
 #endif // COMMANDLINE_H

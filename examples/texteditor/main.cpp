@@ -41,6 +41,8 @@ int main(int argc, char *argv[])
     if (commandLine.resetLayout())
         MainWindow::forgetLayout(settings.get());
     MainWindow window(settings.get());
+    if (commandLine.profiles())
+        window.showProfiles();
     window.show();
     if (!commandLine.document().isEmpty())
         window.openFile(commandLine.document());

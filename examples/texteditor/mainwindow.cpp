@@ -176,6 +176,11 @@ void MainWindow::setUpKit()
         notify(settingsProblem());
 }
 
+void MainWindow::showProfiles()
+{
+    m_kit->setProfilesShown(true);
+}
+
 QString MainWindow::settingsProblem() const
 {
     if (m_settings->status() == QSettings::AccessError || !m_settings->isWritable())

@@ -30,6 +30,9 @@ public:
     //! Forgets the toolbars that \a settings have; call it before the window is constructed.
     static void forgetLayout(QSettings *settings);
 
+    //! Lets the user keep several layouts of the toolbars by name.
+    void showProfiles();
+
     //! Opens a document; reports errors to the user.
     bool openFile(const QString &path);
 

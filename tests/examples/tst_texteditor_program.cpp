@@ -75,6 +75,8 @@ void tst_TextEditorProgram::argumentsAreRead_data()
     QTest::newRow("none") << QStringList() << true << QString() << false << QString();
     QTest::newRow("document") << QStringList{a} << true << QString() << false << a;
     QTest::newRow("all") << QStringList{settings, ini, reset, a} << true << ini << true << a;
+    QTest::newRow("profiles") << QStringList{"--profiles"} << true << QString() << false
+                              << QString();
     QTest::newRow("document first") << QStringList{a, reset} << true << QString() << true << a;
     QTest::newRow("settings with equals sign")
         << QStringList{settings + "=s.ini"} << true << ini << false << QString();
@@ -96,6 +98,7 @@ void tst_TextEditorProgram::argumentsAreRead()
     QCOMPARE(commandLine.parse(QStringList{"texteditor"} + arguments), isRight);
     QCOMPARE(commandLine.settingsFile(), settings);
     QCOMPARE(commandLine.resetLayout(), reset);
+    QCOMPARE(commandLine.profiles(), arguments.contains("--profiles"));
     QCOMPARE(commandLine.document(), document);
 }
 
@@ -104,7 +107,8 @@ void tst_TextEditorProgram::helpAndVersionAreWritten_data()
     QTest::addColumn<QString>("argument");
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("help") << "--help"
-                          << QStringList{"--settings <file>", "--reset-layout", "[file]"};
+                          << QStringList{"--settings <file>", "--reset-layout", "--profiles",
+                                         "[file]"};
     QTest::newRow("version") << "--version" << QStringList{"Text Editor 1.0.0"};
 }
 

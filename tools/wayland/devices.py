@@ -16,7 +16,8 @@ KEYMAP = b"""xkb_keymap {
 
 # Numbers of the Linux kernel.
 BUTTONS = {1: 0x110, 3: 0x111}
-KEYS = {"Escape": 1, "Return": 28, "ctrl": 29, "shift": 42, "space": 57, "F1": 59, "Up": 103, "Delete": 111}
+KEYS = {"Escape": 1, "Return": 28, "ctrl": 29, "shift": 42, "space": 57, "F1": 59, "Up": 103,
+        "Down": 108, "Delete": 111}
 for first, row in (16, "qwertyuiop"), (30, "asdfghjkl"), (44, "zxcvbnm"):
     KEYS.update({letter: number for number, letter in enumerate(row, start=first)})
 MODIFIERS = {"shift": 1, "ctrl": 4}

@@ -19,8 +19,8 @@ HANDLE_MIDDLE = 5
 class TextEditor(Application):
     """One run of the text editor."""
 
-    def __init__(self, desktop, program, settings, document, log):
-        super().__init__([program, "--settings", settings, document], log)
+    def __init__(self, desktop, command, log):
+        super().__init__(command, log)
         self._desktop = desktop
 
     @property
@@ -155,6 +155,18 @@ class ToolBarDialog:
         question = wait_for("nothing is asked", lambda: self._application.windows("alert"))[0]
         self._desktop.click(question.find("push button", button).rect.center)
         wait_for("the question stays open", lambda: not self._application.windows("alert"))
+
+    def save_profile(self, name):
+        self.press("Save As")
+        self._application.window("dialog", "Save Profile")
+        self._desktop.type(name)
+        self._desktop.press("Return")
+        expect("open dialogs", lambda: len(self._application.windows("dialog")), 1)
+
+    def choose_first_profile(self):
+        box, = self.window.showing("combo box")
+        self._desktop.click(box.rect.center)
+        self._desktop.press("Down", "Return")
 
     def select_tool_bar(self, title):
         self._desktop.click(self._row(self._tool_bar_list(), title).rect.center)

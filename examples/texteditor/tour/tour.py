@@ -19,6 +19,7 @@ REDO = "Redo Toolbar Change"
 REMOVE = "Remove from toolbar"
 LOCK = "Lock toolbars"
 GUIDE = "Making the toolbars your own"
+PROFILE = "plain"
 NAME = "My Tools"
 NEW_NAME = "Writing"
 CONTENT = ["Bold", SEPARATOR, "Find", "Save"]
@@ -47,9 +48,9 @@ class Tour:
     def output_file(self, name):
         return os.path.join(self._output, name)
 
-    def start_editor(self):
-        self.editor = TextEditor(self.desktop, self._program, self._settings,
-                                 self._document, self.log)
+    def start_editor(self, *options):
+        command = [self._program, "--settings", self._settings, *options, self._document]
+        self.editor = TextEditor(self.desktop, command, self.log)
         self.editor.wait_for_window()
 
     def quit_editor(self):
@@ -82,9 +83,9 @@ class Tour:
     def expect_entry(self, name):
         wait_for(f"the menu does not offer {name}", lambda: place_in_menu(self.menu, name))
 
-    def restart(self):
+    def restart(self, *options):
         self.quit_editor()
-        self.start_editor()
+        self.start_editor(*options)
 
 
 # --- A toolbar of one's own ---
@@ -381,6 +382,27 @@ def button_removed_by_menu(tour):
     return f'A right click on {first} and "{REMOVE}" take it off, and "{UNDO}" brings it back'
 
 
+def profile_saved(tour):
+    tour.restart("--profiles")
+    tour.open_dialog()
+    tour.dialog.save_profile(PROFILE)
+    tour.dialog.select_tool_bar(DEFAULT_TOOL_BAR)
+    first, *rest = tour.shipped[DEFAULT_TOOL_BAR]
+    tour.dialog.double_click_entry(first)
+    tour.expect_content(*rest)
+    tour.dialog.press("Apply")
+    tour.expect_tool_bars({**tour.shipped, DEFAULT_TOOL_BAR: rest})
+    return f'The toolbars are saved as "{PROFILE}", then {first} is taken off'
+
+
+def profile_chosen(tour):
+    tour.dialog.choose_first_profile()
+    tour.expect_tool_bars(tour.shipped)
+    tour.dialog.close_with("OK")
+    tour.expect_tool_bars(tour.shipped)
+    return f'Choosing "{PROFILE}" makes every toolbar as shipped'
+
+
 def nothing_to_complain_about(tour):
     tour.quit_editor()
     expect("what the text editor wrote", tour.warnings, [])
@@ -424,6 +446,8 @@ STORY = [
     guide_opened,
     guide_closed,
     button_removed_by_menu,
+    profile_saved,
+    profile_chosen,
     nothing_to_complain_about,
 ]
 
