@@ -163,10 +163,11 @@ class ToolBarDialog:
         self._desktop.press("Return")
         expect("open dialogs", lambda: len(self._application.windows("dialog")), 1)
 
-    def choose_first_profile(self):
+    def choose_profile(self, name):
         box, = self.window.showing("combo box")
         self._desktop.click(box.rect.center)
-        self._desktop.press("Down", "Return")
+        self._desktop.click(box.find("list item", name).rect.center)
+        wait_for("the list of profiles stays open", lambda: not box.has("expanded"))
 
     def select_tool_bar(self, title):
         self._desktop.click(self._row(self._tool_bar_list(), title).rect.center)

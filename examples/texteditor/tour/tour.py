@@ -396,7 +396,7 @@ def profile_saved(tour):
 
 
 def profile_chosen(tour):
-    tour.dialog.choose_first_profile()
+    tour.dialog.choose_profile(PROFILE)
     tour.expect_tool_bars(tour.shipped)
     tour.dialog.close_with("OK")
     tour.expect_tool_bars(tour.shipped)
