@@ -9,6 +9,8 @@ from devices import Devices
 
 # As in sway.conf.
 SCREEN = Point(1280, 860)
+# Long enough to show the pressed button: Qt 6.4.2 can crash if it closes a window that it has just painted.
+CLICK = 0.05
 
 
 class WaylandDesktop(Desktop):
@@ -34,6 +36,7 @@ class WaylandDesktop(Desktop):
             return
         for _ in range(times):
             self._devices.hold(button)
+            time.sleep(CLICK)
             self._devices.release(button)
 
     def hold_button(self, button):
